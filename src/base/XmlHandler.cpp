@@ -1,0 +1,225 @@
+#include "base/XmlHandler.h"
+
+#include "base/Diagnostics.h"
+#include "base/Numbers.h"
+#include "base/XmlText.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QSaveFile>
+#include <QtCore/QXmlStreamReader>
+
+namespace TARN {
+
+namespace {
+
+constexpr qint64 LargestFile = 16 << 20;
+constexpr int DeepestNesting = 256;
+
+enum class ReadResult
+{
+    Ok,
+    NotOpened,
+    NotParsed
+};
+
+/// Parses once without building a tree: deep nesting is met before it can overflow the stack of
+/// the tree's recursive destructor.
+bool isSafeXml(const QByteArray& content, QString& reason)
+{
+    QXmlStreamReader reader(content);
+    reader.setNamespaceProcessing(false);
+    int depth = 0;
+    while (!reader.atEnd() && depth <= DeepestNesting) {
+        const auto token = reader.readNext();
+        depth +=
+            (token == QXmlStreamReader::StartElement) - (token == QXmlStreamReader::EndElement);
+    }
+    if (reader.hasError()) {
+        reason = QString("line %1: %2").arg(reader.lineNumber()).arg(reader.errorString());
+    } else if (depth > DeepestNesting) {
+        reason = QString("line %1: nested too deeply").arg(reader.lineNumber());
+    }
+    return reason.isEmpty();
+}
+
+ReadResult readDocument(QDomDocument& document, const QString& name, QString& reason)
+{
+    document = QDomDocument();
+    QFile file(name);
+    // A pipe would block for ever; only regular files hold our documents.
+    if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return ReadResult::NotOpened;
+    }
+    const QByteArray content = file.read(LargestFile + 1);
+    if (content.size() > LargestFile) {
+        reason = "larger than 16 MiB";
+        return ReadResult::NotParsed;
+    }
+    if (!isSafeXml(content, reason)) {
+        return ReadResult::NotParsed;
+    }
+    if (!document.setContent(content, false, &reason)) {
+        document = QDomDocument();
+        return ReadResult::NotParsed;
+    }
+    return ReadResult::Ok;
+}
+
+const QDomAttr attributeOf(const QDomNamedNodeMap& map, const QString& name)
+{
+    return map.namedItem(name).toAttr();
+}
+
+/// The toolkit also takes "0b" for binary numbers, which no writer of these files means.
+bool isBinary(const QString& text)
+{
+    QStringView digits = QStringView(text).trimmed();
+    if (digits.startsWith(u'-') || digits.startsWith(u'+')) {
+        digits = digits.mid(1);
+    }
+    return digits.startsWith(u"0b", Qt::CaseInsensitive);
+}
+
+} // namespace
+
+QDomElement XmlHandler::xmlCreateElement(QDomDocument& document, QDomNode& parent,
+                                         const QString& name)
+{
+    QDomElement element = document.createElement(name);
+    parent.appendChild(element);
+    return element;
+}
+
+QDomText XmlHandler::xmlCreateTextElement(QDomDocument& document, QDomElement& parent,
+                                          const QString& text)
+{
+    QDomText node = document.createTextNode(text);
+    parent.appendChild(node);
+    return node;
+}
+
+QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& element,
+                                        const QString& name, const QString& value)
+{
+    QDomAttr attribute = document.createAttribute(name);
+    attribute.setValue(value);
+    element.setAttributeNode(attribute);
+    return attribute;
+}
+
+QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& element,
+                                        const QString& name, const std::string& value)
+{
+    return xmlCreateAttribute(document, element, name, QString::fromStdString(value));
+}
+
+QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& element,
+                                        const QString& name, int value)
+{
+    return xmlCreateAttribute(document, element, name, QString::number(value));
+}
+
+QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& element,
+                                        const QString& name, long value)
+{
+    return xmlCreateAttribute(document, element, name, QString::number(value));
+}
+
+QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& element,
+                                        const QString& name, unsigned long value)
+{
+    return xmlCreateAttribute(document, element, name, static_cast<long>(value));
+}
+
+QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& element,
+                                        const QString& name, double value)
+{
+    return xmlCreateAttribute(document, element, name, fixedText(value, 12));
+}
+
+void XmlHandler::xmlCreateParameter(QDomElement& element, const QString& name,
+                                    const std::string& value)
+{
+    element.setAttribute(name, QString::fromStdString(value));
+}
+
+QString XmlHandler::xmlGetStringAttribute(const QDomNamedNodeMap& map, const QString& name,
+                                          const QString& def)
+{
+    const QDomAttr attribute = attributeOf(map, name);
+    return attribute.isNull() ? def : attribute.value();
+}
+
+std::string XmlHandler::xmlGetStdStringAttribute(const QDomNamedNodeMap& map, const QString& name,
+                                                 const std::string& def)
+{
+    const QDomAttr attribute = attributeOf(map, name);
+    return attribute.isNull() ? def : attribute.value().toStdString();
+}
+
+int XmlHandler::xmlGetIntAttribute(const QDomNamedNodeMap& map, const QString& name, int def)
+{
+    const QString text = attributeOf(map, name).value();
+    if (text.isEmpty()) {
+        return def;
+    }
+    return isBinary(text) ? 0 : text.toInt(nullptr, 0);
+}
+
+double XmlHandler::xmlGetDoubleAttribute(const QDomNamedNodeMap& map, const QString& name,
+                                         double def)
+{
+    const QString text = attributeOf(map, name).value();
+    return text.isEmpty() ? def : text.toDouble();
+}
+
+bool XmlHandler::xmlGetBoolAttribute(const QDomNamedNodeMap& map, const QString& name, bool def)
+{
+    const QDomAttr attribute = attributeOf(map, name);
+    if (attribute.isNull()) {
+        return def;
+    }
+    return attribute.value() == "true" || attribute.value() == "1";
+}
+
+bool XmlHandler::xmlReadFile(QDomDocument& document, const QString& file)
+{
+    QString reason;
+    switch (readDocument(document, file, reason)) {
+    case ReadResult::Ok:
+        return true;
+    case ReadResult::NotOpened:
+        diagnose("could not open file <%s>\n", qUtf8Printable(file));
+        return false;
+    case ReadResult::NotParsed:
+        diagnose("could not set content <%s>\n", qUtf8Printable(file));
+        diagnose("    %s\n", qUtf8Printable(reason));
+        return false;
+    }
+    return false;
+}
+
+bool XmlHandler::xmlReadFile(QDomDocument& document, const QString& folder, const QString& file)
+{
+    QString reason;
+    return readDocument(document, folder + "/" + file, reason) == ReadResult::Ok;
+}
+
+bool XmlHandler::xmlWriteFile(const QDomDocument& document, const QString& file)
+{
+    QSaveFile out(file);
+    if (!out.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    out.write(xmlText(document).toUtf8());
+    return out.commit();
+}
+
+bool XmlHandler::xmlWriteFile(const QDomDocument& document, const QString& folder,
+                              const QString& file)
+{
+    return xmlWriteFile(document, folder + "/" + file);
+}
+
+} // namespace TARN

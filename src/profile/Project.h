@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <set>
+#include <string>
+
+namespace TARN {
+
+/// The user's selection of parameters, by name, as a project file keeps it.
+class Project
+{
+public:
+    static Project* instance();
+
+    /// Selects nothing.
+    void clear();
+
+    /// Marks exactly those parameters of the profile as selected whose names the project holds.
+    void setProfileData();
+
+    /// Takes the file's names and marks the profile. False, with an empty project and the
+    /// profile's marks as they were, when the file can't be read.
+    bool readProject(const std::string& file);
+
+    /// Writes the names of the parameters now selected, in profile order. False when the file
+    /// could not be written; the old one is then still there.
+    bool saveProject(const std::string& file);
+
+private:
+    std::set<std::string> mParameters;
+};
+
+} // namespace TARN

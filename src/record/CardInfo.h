@@ -1,0 +1,22 @@
+#pragma once
+
+#include "record/RecordInfo.h"
+
+#include <QtCore/QString>
+
+#include <map>
+
+namespace TARN {
+
+/// The recordings of a card folder.
+struct CardInfo
+{
+    QString path;                          ///< the folder
+    std::map<QString, RecordInfo> records; ///< by full path
+};
+
+/// Lists the recordings of a folder (files ending in ".CAN" or ".can", not of its sub-folders)
+/// with what their headers say. Empty when the folder can't be opened.
+CardInfo readCard(const QString& folder);
+
+} // namespace TARN

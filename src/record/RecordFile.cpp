@@ -1,0 +1,71 @@
+#include "record/RecordFile.h"
+
+#include "base/ByteOrder.h"
+#include "record/RecordEntry.h"
+
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+
+namespace TARN {
+
+namespace {
+constexpr qint64 SamplesPerRead = (1 << 20) / RecordSampleSize;
+}
+
+bool RecordFile::open(const QString& path)
+{
+    mFile.close();
+    mFile.setFileName(path);
+    mNext = 0;
+    mHeader.fill(0);
+    // Opening a pipe would wait for a writer for ever.
+    if (!QFileInfo(path).isFile() || !mFile.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        return false;
+    }
+    mSamples = sampleCountOf(mFile.size());
+    mHeaderSize = readFully(mHeader.data(), mHeader.size());
+    return true;
+}
+
+std::span<const unsigned char> RecordFile::nextSamples()
+{
+    const qint64 wanted = std::min(mSamples - mNext, SamplesPerRead);
+    if (wanted < 1) {
+        return {};
+    }
+    mBuffer.resize(static_cast<std::size_t>(SamplesPerRead * RecordSampleSize));
+    const auto got = readFully(mBuffer.data(), static_cast<std::size_t>(wanted * RecordSampleSize));
+    const qint64 whole = static_cast<qint64>(got) / RecordSampleSize;
+    // After a short read there is nothing more to come, whatever the size had promised.
+    mNext = whole == wanted ? mNext + whole : mSamples;
+    return {mBuffer.data(), static_cast<std::size_t>(whole * RecordSampleSize)};
+}
+
+double RecordFile::sampleTime(qint64 index, bool swapped)
+{
+    unsigned char words[8];
+    constexpr qint64 TimeInSample = 20;
+    if (!mFile.seek(RecordHeaderSize + index * RecordSampleSize + TimeInSample) ||
+        readFully(words, sizeof words) != sizeof words) {
+        return 0.0;
+    }
+    const auto load = swapped ? loadBig<std::uint32_t> : loadLittle<std::uint32_t>;
+    return RecordEntry::secondsOf(load(words), load(words + 4));
+}
+
+std::size_t RecordFile::readFully(unsigned char* to, std::size_t bytes)
+{
+    std::size_t done = 0;
+    while (done < bytes) {
+        const qint64 got =
+            mFile.read(reinterpret_cast<char*>(to + done), static_cast<qint64>(bytes - done));
+        if (got <= 0) {
+            break;
+        }
+        done += static_cast<std::size_t>(got);
+    }
+    return done;
+}
+
+} // namespace TARN

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "record/RecordHeader.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QString>
+
+#include <span>
+#include <vector>
+
+namespace TARN {
+
+/// One recording file, read in order in pieces of about a megabyte. The file is never mapped: a
+/// card that is pulled out would then end the process instead of the reading.
+class RecordFile
+{
+public:
+    /// False when \p path is not a regular file that can be read. The header is read here.
+    bool open(const QString& path);
+
+    /// Samples by the file's size; below 1 when it is not longer than a header.
+    qint64 samples() const { return mSamples; }
+
+    /// Header bytes, fewer than 128 in a shorter file. Valid while the object lives.
+    std::span<const unsigned char> header() const { return {mHeader.data(), mHeaderSize}; }
+    /// The same padded with zeros.
+    const RecordHeaderBytes& headerBytes() const { return mHeader; }
+
+    /// The next whole samples (a multiple of 28 bytes), empty after the last one or where
+    /// reading fails. Valid until the next call.
+    std::span<const unsigned char> nextSamples();
+
+    /// Seconds of sample \p index (from 0); 0 when it can't be read. Moves the read position.
+    double sampleTime(qint64 index, bool swapped);
+
+private:
+    std::size_t readFully(unsigned char* to, std::size_t bytes);
+
+    QFile mFile;
+    RecordHeaderBytes mHeader{};
+    std::size_t mHeaderSize = 0;
+    std::vector<unsigned char> mBuffer;
+    qint64 mSamples = 0;
+    qint64 mNext = 0;
+};
+
+} // namespace TARN

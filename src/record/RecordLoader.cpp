@@ -1,0 +1,205 @@
+#include "base/Diagnostics.h"
+#include "record/Record.h"
+#include "record/RecordFile.h"
+#include "record/SampleGrouper.h"
+#include "record/UtcDetector.h"
+
+#include <algorithm>
+#include <memory>
+#include <new>
+
+namespace TARN {
+
+namespace {
+
+/// Names of the form xxxxHHHH... carry a hexadecimal number; its upper half marks a unit whose
+/// clock the folder's time offset corrects.
+bool isHighFile(const QString& path)
+{
+    const QString name = path.section('/', -1);
+    return name.mid(4, 4).toInt(nullptr, 16) > 32767;
+}
+
+QString folderOf(const QString& path)
+{
+    return path.contains('/') ? path.section('/', 0, -2) : QString(".");
+}
+
+} // namespace
+
+/// One call of readRecordData.
+class Record::Loader
+{
+public:
+    Loader(Record& record, const std::list<QString>& paths) : mRecord(record)
+    {
+        for (const QString& path : paths) {
+            mParts.push_back({path, 0});
+        }
+    }
+
+    bool load()
+    {
+        mGrouper = std::make_unique<SampleGrouper>();
+        if (!mGrouper->reserve(plannedSamples()) || !countAll() || !mGrouper->allocate()) {
+            diagnose("Not enough memory for %zu samples\n", mPlanned);
+            return false;
+        }
+        // The block is not touched yet, so giving the old samples back first keeps the two
+        // recordings from being in memory together.
+        const double offset = mRecord.mRecordData.offset;
+        mRecord.mRecordData = RecordData();
+        mRecord.mRecordData.offset = offset;
+        mRecord.mRecordInfo.utcTime = 0;
+        const bool complete = storeAll();
+        mGrouper->finish(mRecord.mRecordData);
+        report(1, 1);
+        return complete;
+    }
+
+private:
+    struct Part
+    {
+        QString path;
+        std::size_t countedTo; ///< samples counted up to the end of this file
+    };
+
+    /// Samples promised by the sizes of all files, and what there is to do for the progress.
+    std::size_t plannedSamples()
+    {
+        for (const Part& part : mParts) {
+            RecordFile file;
+            if (!file.open(part.path)) {
+                break;
+            }
+            mPlanned += static_cast<std::size_t>(std::max<qint64>(0, file.samples()));
+        }
+        return mPlanned;
+    }
+
+    bool countAll()
+    {
+        for (Part& part : mParts) {
+            RecordFile file;
+            if (!file.open(part.path)) {
+                break; // reported when it can't be opened to be stored
+            }
+            RecordInfo unused;
+            const bool swapped = parseRecordHeader(file.header(), unused).swapped;
+            for (auto samples = file.nextSamples(); !samples.empty();
+                 samples = file.nextSamples()) {
+                mGrouper->count(samples, swapped);
+                report(mGrouper->counted(), 2 * mPlanned);
+            }
+            part.countedTo = mGrouper->counted();
+        }
+        return true;
+    }
+
+    bool storeAll()
+    {
+        for (const Part& part : mParts) {
+            mRecord.mFolder = folderOf(part.path);
+            mRecord.loadOffset();
+            RecordFile file;
+            if (!file.open(part.path)) {
+                diagnose("Could not open %s\n", qUtf8Printable(part.path));
+                return false;
+            }
+            mRecord.mRecordInfo.fileName = part.path;
+            mRecord.mRecordInfo.samples = file.samples();
+            const bool swapped = readHeader(file);
+            storeFile(file, swapped, isHighFile(part.path));
+            mGrouper->skipTo(part.countedTo);
+            diagnose("<%s> mRecordInfo.startTime %.0f mRecordInfo.stopTime %.0f\n",
+                     qUtf8Printable(part.path), mRecord.mRecordInfo.startTime,
+                     mRecord.mRecordInfo.stopTime);
+        }
+        return true;
+    }
+
+    bool readHeader(const RecordFile& file)
+    {
+        const bool swapped = parseRecordHeader(file.header(), mRecord.mRecordInfo).swapped;
+        if (mStored == 0) {
+            mRecord.mRawData = file.headerBytes();
+            mRecord.mRawDataIsBigEndian = swapped;
+        }
+        return swapped;
+    }
+
+    void storeFile(RecordFile& file, bool swapped, bool highFile)
+    {
+        const qint64 promised = std::max<qint64>(0, file.samples());
+        diagnose("Record::readData size %lld records %lld\n",
+                 static_cast<long long>(file.samples() * RecordSampleSize),
+                 static_cast<long long>(file.samples()));
+        const std::size_t before = mStored;
+        UtcDetector utc;
+        const auto visit = [this, &utc](const RecordEntry& entry) {
+            widenTimes(entry.time());
+            if (utc.see(entry)) {
+                setUtc(utc);
+            }
+        };
+        for (auto samples = file.nextSamples(); !samples.empty(); samples = file.nextSamples()) {
+            mGrouper->store(samples, swapped, highFile, visit);
+            report(mPlanned + mStored, 2 * mPlanned);
+        }
+        const auto got = static_cast<qint64>(mStored - before);
+        if (got < promised) {
+            diagnose("Could not read all of the file: %lld of %lld samples read\n",
+                     static_cast<long long>(got), static_cast<long long>(promised));
+        }
+        diagnose("Start Time %f Stop Time %f\n", mRecord.mRecordInfo.startTime,
+                 mRecord.mRecordInfo.stopTime);
+    }
+
+    void widenTimes(double time)
+    {
+        RecordInfo& info = mRecord.mRecordInfo;
+        info.startTime = mStored == 0 ? time : std::min(info.startTime, time);
+        info.stopTime = mStored == 0 ? time : std::max(info.stopTime, time);
+        ++mStored;
+    }
+
+    void setUtc(const UtcDetector& utc)
+    {
+        const QDateTime start = utc.dateTime();
+        if (start.isValid()) {
+            mRecord.mRecordInfo.utcTime = start.toSecsSinceEpoch();
+        }
+        diagnose("### Time <%s> year %d month %d day %d\n",
+                 qUtf8Printable(start.toString("dd.MM.yyyy hh:mm:ss")), utc.year(), utc.month(),
+                 utc.day());
+    }
+
+    void report(std::size_t done, std::size_t all)
+    {
+        const int percent = static_cast<int>(100.0 * static_cast<double>(done) /
+                                             static_cast<double>(std::max<std::size_t>(1, all)));
+        if (percent != mLastPercent && mRecord.mProgress) {
+            mRecord.mProgress(percent);
+        }
+        mLastPercent = percent;
+    }
+
+    Record& mRecord;
+    std::vector<Part> mParts;
+    std::unique_ptr<SampleGrouper> mGrouper; // too large for the stack
+    std::size_t mPlanned = 0;
+    std::size_t mStored = 0;
+    int mLastPercent = -1;
+};
+
+bool Record::readRecordData(const std::list<QString>& paths)
+{
+    try {
+        return Loader(*this, paths).load();
+    } catch (const std::bad_alloc&) {
+        diagnose("Not enough memory to read the recording\n");
+        return false;
+    }
+}
+
+} // namespace TARN

@@ -1,0 +1,96 @@
+#include "record/SampleGrouper.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+
+namespace TARN {
+
+bool SampleGrouper::reserve(std::size_t samples)
+{
+    if (samples > std::numeric_limits<std::uint32_t>::max()) {
+        return false; // positions are 32 bits; this many samples would be over 120 GB of file
+    }
+    mReserved = samples;
+    mRecent.fill({~Key(0), 0}); // no identifier has bit 31 set, so no key matches
+    mOrder.reset(new (std::nothrow) std::uint32_t[samples]);
+    return mOrder != nullptr;
+}
+
+void SampleGrouper::count(std::span<const unsigned char> samples, bool swapped)
+{
+    constexpr std::size_t ChannelInSample = 10;
+    constexpr std::size_t IdInSample = 12;
+    for (std::size_t at = 0; at + sizeof(RecordEntry) <= samples.size() && mCounted < mReserved;
+         at += sizeof(RecordEntry)) {
+        const unsigned char* sample = samples.data() + at;
+        auto channel = loadLittle<std::uint16_t>(sample + ChannelInSample);
+        auto id = loadLittle<std::uint32_t>(sample + IdInSample);
+        if (swapped) {
+            channel = byteSwapped(channel);
+            id = byteSwapped(id);
+        }
+        const std::uint32_t group = groupOf(keyOf(channel, id & 0x7FFFFFFFU));
+        ++mGroups[group].size;
+        mOrder[mCounted++] = group;
+    }
+}
+
+bool SampleGrouper::allocate()
+{
+    mIndex = {};
+    mSamples.reset(new (std::nothrow) RecordEntry[mCounted]);
+    if (mSamples == nullptr) {
+        return false;
+    }
+    std::size_t begin = 0;
+    for (Group& group : mGroups) {
+        group.begin = begin;
+        begin += group.size;
+        group.size = 0;
+    }
+    return true;
+}
+
+void SampleGrouper::finish(RecordData& data)
+{
+    std::ranges::sort(mGroups, {}, &Group::key);
+    data.mLists.clear();
+    data.mLists.reserve(mGroups.size());
+    for (const Group& group : mGroups) {
+        if (group.size > 0) {
+            data.mLists.push_back({static_cast<unsigned>(group.key >> 32),
+                                   static_cast<unsigned>(group.key),
+                                   {&mSamples[group.begin], group.size},
+                                   group.highFile});
+        }
+    }
+    data.mCount = mStored;
+    data.mTimeOrder = mRuns.order(mSamples.get(), {mOrder.get(), mStored});
+    data.mSamples = std::move(mSamples);
+    data.mFileOrder = std::move(mOrder);
+    data.mChannelLists.clear();
+    data.limits.clear();
+    data.warnings.clear();
+}
+
+std::uint32_t SampleGrouper::groupOf(Key key)
+{
+    // The multiplier spreads neighbouring identifiers over the table.
+    Recent& recent = mRecent[(key * 0x9E3779B97F4A7C15ULL) >> 52];
+    if (recent.key != key) {
+        recent = {key, findOrAddGroup(key)};
+    }
+    return recent.group;
+}
+
+std::uint32_t SampleGrouper::findOrAddGroup(Key key)
+{
+    const auto [found, isNew] = mIndex.try_emplace(key, static_cast<std::uint32_t>(mGroups.size()));
+    if (isNew) {
+        mGroups.push_back({key, 0, 0, false});
+    }
+    return found->second;
+}
+
+} // namespace TARN

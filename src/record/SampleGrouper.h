@@ -1,0 +1,121 @@
+#pragma once
+
+#include "base/ByteOrder.h"
+#include "record/RecordData.h"
+#include "record/RecordHeader.h"
+#include "record/TimeRuns.h"
+
+#include <array>
+#include <cstring>
+#include <span>
+#include <unordered_map>
+#include <vector>
+
+namespace TARN {
+
+/// Brings the samples of one or more files into one block grouped by channel and identifier, in
+/// two passes over the same bytes: count() says how long each group becomes, store() then puts
+/// every sample straight into its place. Use: reserve, count..., allocate, store..., finish.
+///
+/// The second pass may see other bytes than the first (a card pulled out, a file still being
+/// written): samples that no longer fit their place are left out, what is there stays right.
+class SampleGrouper
+{
+public:
+    /// Room for at most \p samples; false when there is not enough memory.
+    bool reserve(std::size_t samples);
+
+    /// First pass. \p samples is a multiple of 28 bytes; \p swapped says that they are big-endian.
+    void count(std::span<const unsigned char> samples, bool swapped);
+
+    /// Between the passes; false when there is not enough memory.
+    bool allocate();
+
+    /// Second pass, over the bytes of the first in the same order: stores each sample and hands
+    /// it to \p visit. \p highFile is the flag that the touched lists take.
+    template <typename Visitor>
+    void store(std::span<const unsigned char> samples, bool swapped, bool highFile, Visitor visit);
+
+    /// Samples of the first pass that the second one has not been given, up to \p counted, are
+    /// skipped: call where a file turns out shorter than when it was counted.
+    void skipTo(std::size_t counted) { mRead = counted; }
+
+    std::size_t counted() const { return mCounted; }
+
+    /// Hands samples, lists and time order over to \p data, replacing what it held.
+    void finish(RecordData& data);
+
+private:
+    using Key = std::uint64_t;
+
+    struct Group
+    {
+        Key key;
+        std::size_t begin;
+        std::size_t size;
+        bool highFile;
+    };
+
+    static Key keyOf(unsigned channel, unsigned id) { return Key(channel) << 32 | id; }
+    std::uint32_t groupOf(Key key);
+    std::uint32_t findOrAddGroup(Key key);
+
+    /// Few identifiers make up the traffic; this finds most of them without the hash map.
+    struct Recent
+    {
+        Key key;
+        std::uint32_t group;
+    };
+    std::array<Recent, 4096> mRecent;
+    std::unordered_map<Key, std::uint32_t> mIndex;
+    std::vector<Group> mGroups;
+
+    std::size_t mReserved = 0;
+    std::size_t mCounted = 0;
+    std::size_t mRead = 0;
+    std::size_t mStored = 0;
+    std::unique_ptr<RecordEntry[]> mSamples;
+    /// In the first pass the group of each sample, in the second its position in the block.
+    std::unique_ptr<std::uint32_t[]> mOrder;
+    TimeRuns mRuns;
+};
+
+/// The sample at \p from in host order, bit 31 of the identifier cleared.
+inline RecordEntry loadEntry(const unsigned char* from, bool swapped)
+{
+    RecordEntry entry;
+    std::memcpy(&entry, from, sizeof entry);
+    if (swapped) {
+        entry.channel = byteSwapped(entry.channel);
+        entry.id = byteSwapped(entry.id);
+        entry.w16 = byteSwapped(entry.w16);
+        entry.w18 = byteSwapped(entry.w18);
+        entry.timeHigh = byteSwapped(entry.timeHigh);
+        entry.timeLow = byteSwapped(entry.timeLow);
+    }
+    entry.id &= 0x7FFFFFFFU;
+    return entry;
+}
+
+template <typename Visitor>
+void SampleGrouper::store(std::span<const unsigned char> samples, bool swapped, bool highFile,
+                          Visitor visit)
+{
+    for (std::size_t at = 0; at + sizeof(RecordEntry) <= samples.size() && mRead < mCounted;
+         at += sizeof(RecordEntry)) {
+        const RecordEntry entry = loadEntry(samples.data() + at, swapped);
+        Group& group = mGroups[mOrder[mRead++]];
+        if (group.key != keyOf(entry.channel, entry.id)) {
+            continue;
+        }
+        const std::size_t position = group.begin + group.size++;
+        group.highFile = highFile;
+        mSamples[position] = entry;
+        mOrder[mStored] = static_cast<std::uint32_t>(position);
+        mRuns.add(mStored, entry.time());
+        ++mStored;
+        visit(entry);
+    }
+}
+
+} // namespace TARN
