@@ -19,7 +19,7 @@ void addSelection(CLI::App& command, Selection& selection)
         command.add_option("--project", selection.project, "parameters selected in this project");
     auto* parameter = command.add_option("--parameter", selection.parameters,
                                          "a parameter as \"Device/Name\"; repeatable");
-    parameter->expected(1)->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    parameter->allow_extra_args(false); // what follows the one name are files
     auto* all = command.add_flag("--all", selection.all, "every parameter (the default)");
     project->excludes(parameter)->excludes(all);
     parameter->excludes(all);

@@ -166,7 +166,8 @@ private:
     void setUtc(const UtcDetector& utc)
     {
         const QDateTime start = utc.dateTime();
-        if (start.isValid()) {
+        // The first of several files tells when the recording began.
+        if (start.isValid() && mRecord.mRecordInfo.utcTime == 0) {
             mRecord.mRecordInfo.utcTime = start.toSecsSinceEpoch();
         }
         diagnose("### Time <%s> year %d month %d day %d\n",

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Installs what building, testing and running needs. The one list of packages; safe to repeat.
+set -euo pipefail
+
+packages=(
+    # build
+    g++ cmake ninja-build ccache pkg-config
+    qt6-base-dev qt6-base-dev-tools libqt6svg6-dev
+    qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
+    libgl-dev libopengl-dev libcli11-dev nlohmann-json3-dev
+    # test and benchmark
+    clang-format-14 libbenchmark-dev
+    # a screen where there is none
+    xvfb xauth xdotool libgl1-mesa-dri fonts-dejavu-core
+)
+
+if [ "$(uname)" = Darwin ]; then
+    # Untested: the packages of the same names as far as Homebrew has them.
+    brew install cmake ninja ccache qt cli11 nlohmann-json google-benchmark clang-format
+    exit
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+    status=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
+    [ "$status" = installed ] || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+echo "installing: ${missing[*]}"
+as_root=()
+[ "$(id -u)" -eq 0 ] || as_root=(sudo)
+export DEBIAN_FRONTEND=noninteractive
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

@@ -1,0 +1,185 @@
+#include "app/DialogMain.h"
+
+#include "app/DialogStatusBar.h"
+#include "app/StartUp.h"
+#include "base/Property.h"
+#include "display/DialogData.h"
+#include "profile/DialogProfile.h"
+#include "profile/Project.h"
+#include "record/DialogCard.h"
+#include "widgets/Kernel.h"
+#include "widgets/WaitCursor.h"
+
+#include <QtGui/QCloseEvent>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QVBoxLayout>
+
+#include <cstdlib>
+
+namespace TARN {
+
+DialogMain::DialogMain(QWidget* parent) : QMainWindow(parent), mEndProcess([] { std::exit(0); })
+{
+    constexpr int ReopenDelay = 20; // ms
+    createPanes();
+    mStatusBar = new DialogStatusBar(this);
+    setStatusBar(mStatusBar);
+    loadProfile();
+    createActions();
+    createMenu();
+    createToolbar();
+    setWindowIcon(QIcon(":/icons/orna.svg"));
+    mRecord.setProgressListener([this](int percent) { setProgress(percent); });
+    mTimer.setSingleShot(true);
+    connect(&mTimer, &QTimer::timeout, this, &DialogMain::slotTimeout);
+    mTimer.start(ReopenDelay);
+    resize(1000, 800);
+    updateEnabled();
+    updateTitle();
+}
+
+void DialogMain::createPanes()
+{
+    mCard = new DialogCard;
+    mProfile = new DialogProfile(nullptr, *Profile::instance());
+    mData = new DialogData;
+    mData->setStyle(Kernel::instance()->getStyle2());
+    auto* left = new QWidget;
+    auto* layout = new QVBoxLayout(left);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(mCard, 2);
+    layout->addWidget(mProfile, 3);
+    mSplitter = new QSplitter;
+    mSplitter->setStyle(Kernel::instance()->getStyle2());
+    mSplitter->addWidget(left);
+    mSplitter->addWidget(mData);
+    mSplitter->setStretchFactor(0, 1);
+    mSplitter->setStretchFactor(1, 2);
+    mSplitter->setSizes({1000, 2000}); // only the ratio counts
+    setCentralWidget(mSplitter);
+    connect(mCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
+    connect(mProfile, &DialogProfile::signalChanged, this, &DialogMain::slotProfileChanged);
+    connect(mProfile, &DialogProfile::signalEdited, this, [this] { setEdited(true); });
+    connect(mData, &DialogData::signalMessage, this,
+            [this](const QString& text) { mStatusBar->showMessage(text); });
+}
+
+void DialogMain::loadProfile()
+{
+    const std::string file = Property::instance()->getString("Profile", DefaultProfile);
+    if (!Profile::instance()->loadProfile(QString::fromStdString(file))) {
+        mStatusBar->showMessage(tr("The profile \"%1\" could not be loaded: no parameters can be "
+                                   "shown.")
+                                    .arg(QString::fromStdString(file)));
+    }
+    mProfile->updateList();
+}
+
+void DialogMain::loadRecords(const QString& folder)
+{
+    mCardInfo = readCard(folder);
+    mCard->setCardInfo(mCardInfo);
+}
+
+void DialogMain::slotTimeout()
+{
+    const Property* settings = Property::instance();
+    loadRecords(QString::fromStdString(settings->getString("LastPath", ".")));
+    const std::string project = settings->getString("LastProjectPath", ".");
+    if (Project::instance()->readProject(project)) {
+        mProjectFile = QString::fromStdString(project);
+        mProfile->updateProject();
+    }
+    slotProfileChanged();
+    setEdited(false);
+}
+
+void DialogMain::slotLoadRecord(const std::list<QString>& files)
+{
+    std::list<QString> paths = files;
+    paths.remove(QString()); // detail lines name no file
+    if (paths.empty() || mLoading) {
+        return;
+    }
+    mLoading = true;
+    const WaitCursor waitCursor;
+    setProgress(0);
+    mData->updateRecord(nullptr); // the samples shown are about to go
+    if (mRecord.readRecordData(paths)) {
+        mStatusBar->showMessage(tr("Samples loaded: %L1").arg(mRecord.recordData().count()));
+    } else {
+        mStatusBar->showMessage(tr("Not all recordings could be read. Check that the card is "
+                                   "still in place."));
+    }
+    mData->updateRecord(&mRecord);
+    setProgress(100);
+    mLoading = false;
+    updateEnabled();
+}
+
+void DialogMain::setProgress(int percent)
+{
+    mStatusBar->updateProgress(percent);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void DialogMain::slotProfileChanged()
+{
+    {
+        const WaitCursor waitCursor;
+        mData->updateProfile();
+    }
+    setEdited(true);
+}
+
+void DialogMain::setEdited(bool edited)
+{
+    mEdited = edited;
+    updateEnabled();
+    updateTitle();
+}
+
+void DialogMain::updateEnabled()
+{
+    mActions.at(ActionType::SaveProject)->setEnabled(mEdited);
+}
+
+void DialogMain::updateTitle()
+{
+    const QString name = mProjectFile.section('/', -1).section('.', 0, 0);
+    setWindowTitle("ORNA " + name + (mEdited ? tr("[edited]") : QString()));
+}
+
+bool DialogMain::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const auto modifiers = key->modifiers() & ~Qt::ShiftModifier;
+        if (key->key() == Qt::Key_Z && !key->isAutoRepeat() && modifiers == Qt::ControlModifier) {
+            return true;
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+bool DialogMain::cleanup()
+{
+    return !mEdited || askSaveProject();
+}
+
+void DialogMain::closeEvent(QCloseEvent* event)
+{
+    if (mClosing) {
+        return;
+    }
+    if (!cleanup()) {
+        event->ignore();
+        return;
+    }
+    mClosing = true;
+    event->accept();
+    // At once: nothing is left to save, and tearing down a large recording takes time.
+    mEndProcess();
+}
+
+} // namespace TARN

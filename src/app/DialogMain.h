@@ -1,0 +1,103 @@
+#pragma once
+
+#include "record/CardInfo.h"
+#include "record/Record.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QMainWindow>
+
+#include <functional>
+#include <list>
+#include <map>
+
+class QActionGroup;
+class QSplitter;
+
+namespace TARN {
+
+class DialogCard;
+class DialogData;
+class DialogProfile;
+class DialogStatusBar;
+
+/// The numbers by which commands are dispatched.
+enum class ActionType
+{
+    NewProject = 0,
+    OpenProject = 1,
+    OpenCard = 2,
+    SaveProject = 4,
+    SaveProjectAs = 5,
+    Quit = 6
+};
+
+/// The one top-level window. Owns the open recording, offers the commands, opens the last card
+/// and project again after the start, and guards unsaved changes of the project.
+class DialogMain : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit DialogMain(QWidget* parent = nullptr);
+
+    Record& record() { return mRecord; }
+
+    /// Shows how much of a long operation is done and keeps the window painted meanwhile.
+    void setProgress(int percent);
+
+    /// Replaces what happens once the window has agreed to close; by default the process ends.
+    void setEndProcess(std::function<void()> endProcess) { mEndProcess = std::move(endProcess); }
+
+    /// Swallows Control+Z, with or without Shift, before any window of the program sees it.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private Q_SLOTS:
+    void slotLoadRecord(const std::list<QString>& files);
+    void slotProfileChanged();
+    void slotTimeout();
+    void slotMenu(QAction* action);
+
+private:
+    void createPanes();
+    void createActions();
+    void createMenu();
+    void createToolbar();
+    QAction* addCommand(ActionType type, const QString& text, const char* icon,
+                        const QString& statusTip, const QKeySequence& shortcut = {});
+    void updateEnabled();
+    void updateTitle();
+    void setEdited(bool edited);
+
+    void loadProfile();
+    void loadRecords(const QString& folder);
+    void openCard();
+    bool newProject();
+    bool openProject();
+    void projectReplaced();
+    void quit();
+    bool askSaveProject();
+    bool saveProject(bool askName);
+    QString askProjectName();
+    bool cleanup();
+
+    bool mClosing = false;
+    bool mLoading = false;
+    bool mEdited = false; ///< the selection differs from the project file
+    Record mRecord;
+    CardInfo mCardInfo;
+    QString mProjectFile; ///< empty when no project file is known
+    std::map<ActionType, QAction*> mActions;
+    std::function<void()> mEndProcess;
+    QActionGroup* mCommands;
+    QSplitter* mSplitter;
+    DialogCard* mCard;
+    DialogProfile* mProfile;
+    DialogData* mData;
+    DialogStatusBar* mStatusBar;
+    QTimer mTimer;
+};
+
+} // namespace TARN

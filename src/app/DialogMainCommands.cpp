@@ -1,0 +1,230 @@
+#include "app/DialogMain.h"
+#include "app/DialogStatusBar.h"
+#include "base/Property.h"
+#include "profile/DialogProfile.h"
+#include "profile/Project.h"
+
+#include <QtGui/QAction>
+#include <QtGui/QActionGroup>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolBar>
+
+namespace TARN {
+
+namespace {
+
+QString setting(const char* key)
+{
+    return QString::fromStdString(Property::instance()->getString(key, "."));
+}
+
+void storeSetting(const char* key, const QString& value)
+{
+    Property::instance()->setString(key, value.toStdString());
+    Property::instance()->writeXmlFile();
+}
+
+} // namespace
+
+void DialogMain::createActions()
+{
+    mCommands = new QActionGroup(this);
+    mCommands->setExclusive(false);
+    connect(mCommands, &QActionGroup::triggered, this, &DialogMain::slotMenu);
+    addCommand(ActionType::NewProject, tr("&New Project"), "projectNew", tr("Create new Project"),
+               tr("Ctrl+N"));
+    addCommand(ActionType::OpenProject, tr("&Open Project"), "projectOpen", tr("Open Project"),
+               tr("Ctrl+O"))
+        ->setIconText(tr("Open Project File"));
+    addCommand(ActionType::SaveProject, tr("&Save Project"), "projectSave", tr("Save Project"),
+               tr("Ctrl+S"))
+        ->setIconText(tr("Save Project File"));
+    addCommand(ActionType::SaveProjectAs, tr("&Save Project as"), "projectSaveAs",
+               tr("Save Project as"))
+        ->setIconText(tr("Save Project File as"));
+    addCommand(ActionType::OpenCard, tr("&Open Card"), "cardOpen", tr("Open Card"), tr("Ctrl+C"))
+        ->setIconText(tr("Open SD Card"));
+    addCommand(ActionType::Quit, tr("&Quit"), "quit", tr("Quit Application"), tr("Ctrl+Q"));
+}
+
+QAction* DialogMain::addCommand(ActionType type, const QString& text, const char* icon,
+                                const QString& statusTip, const QKeySequence& shortcut)
+{
+    auto* action = new QAction(QIcon(QString(":/icons/%1.svg").arg(icon)), text, this);
+    action->setData(static_cast<int>(type));
+    action->setStatusTip(statusTip);
+    action->setShortcut(shortcut);
+    mCommands->addAction(action);
+    mActions[type] = action;
+    return action;
+}
+
+void DialogMain::createMenu()
+{
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    file->addAction(mActions[ActionType::NewProject]);
+    file->addAction(mActions[ActionType::OpenProject]);
+    file->addAction(mActions[ActionType::SaveProject]);
+    file->addAction(mActions[ActionType::SaveProjectAs]);
+    file->addSeparator();
+    file->addAction(mActions[ActionType::OpenCard]);
+    file->addSeparator();
+    file->addAction(mActions[ActionType::Quit]);
+}
+
+void DialogMain::createToolbar()
+{
+    QToolBar* toolbar = addToolBar(tr("Main Toolbar"));
+    toolbar->setObjectName("MainToolbar");
+    for (const ActionType type : {ActionType::NewProject, ActionType::OpenProject,
+                                  ActionType::SaveProject, ActionType::OpenCard}) {
+        toolbar->addAction(mActions[type]);
+    }
+}
+
+void DialogMain::slotMenu(QAction* action)
+{
+    switch (static_cast<ActionType>(action->data().toInt())) {
+    case ActionType::NewProject:
+        newProject();
+        break;
+    case ActionType::OpenProject:
+        openProject();
+        break;
+    case ActionType::OpenCard:
+        openCard();
+        break;
+    case ActionType::SaveProject:
+        saveProject(false);
+        break;
+    case ActionType::SaveProjectAs:
+        saveProject(true);
+        break;
+    case ActionType::Quit:
+        quit();
+        break;
+    }
+    updateEnabled();
+}
+
+bool DialogMain::newProject()
+{
+    if (!cleanup()) {
+        return false;
+    }
+    mProjectFile.clear();
+    Project::instance()->clear();
+    projectReplaced();
+    return true;
+}
+
+bool DialogMain::openProject()
+{
+    if (!cleanup()) {
+        return false;
+    }
+    const QString file = QFileDialog::getOpenFileName(
+        this, tr("Open TARN Project"), setting("LastProjectPath"), tr("Project Files (*.xml)"));
+    if (file.isEmpty()) {
+        return false;
+    }
+    const bool read = Project::instance()->readProject(file.toStdString());
+    mProjectFile = file;
+    storeSetting("LastProjectPath", file);
+    projectReplaced();
+    if (!read) {
+        QMessageBox::warning(this, tr("ORNA Warning"),
+                             tr("The project \"%1\" could not be read.\nCheck that it is a project "
+                                "file saved by this program.")
+                                 .arg(file));
+    }
+    return read;
+}
+
+void DialogMain::projectReplaced()
+{
+    mProfile->updateProject();
+    slotProfileChanged();
+    setEdited(false);
+}
+
+void DialogMain::openCard()
+{
+    const QString folder =
+        QFileDialog::getExistingDirectory(this, tr("Open SD Card"), setting("LastPath"));
+    if (folder.isEmpty()) {
+        return;
+    }
+    loadRecords(folder);
+    storeSetting("LastPath", folder);
+    mStatusBar->showMessage(tr("Recordings found: %1").arg(mCardInfo.records.size()));
+}
+
+void DialogMain::quit()
+{
+    if (!cleanup()) {
+        return;
+    }
+    mEdited = false; // the question has been answered
+    mTimer.stop();
+    close();
+}
+
+bool DialogMain::askSaveProject()
+{
+    QMessageBox box(QMessageBox::Warning, tr("TARN Warning"),
+                    tr("Current Project not saved !\nSave it now ?"), QMessageBox::NoButton, this);
+    QPushButton* yes = box.addButton(tr("Yes"), QMessageBox::YesRole);
+    const QAbstractButton* no = box.addButton(tr("No"), QMessageBox::NoRole);
+    const QAbstractButton* cancel = box.addButton(tr("Cancel"), QMessageBox::RejectRole);
+    box.setDefaultButton(yes);
+    box.exec();
+    if (box.clickedButton() == cancel) {
+        return false;
+    }
+    if (box.clickedButton() == no) {
+        return true;
+    }
+    return saveProject(false);
+}
+
+bool DialogMain::saveProject(bool askName)
+{
+    if (askName || mProjectFile.isEmpty()) {
+        const QString file = askProjectName();
+        if (file.isEmpty()) {
+            return false;
+        }
+        mProjectFile = file;
+    }
+    if (!Project::instance()->saveProject(mProjectFile.toStdString())) {
+        QMessageBox::critical(this, tr("ORNA Warning"),
+                              tr("The project could not be written to \"%1\".\nThe old file is "
+                                 "unchanged; save it in another folder.")
+                                  .arg(mProjectFile));
+        return false;
+    }
+    storeSetting("LastProjectPath", mProjectFile);
+    setEdited(false);
+    return true;
+}
+
+QString DialogMain::askProjectName()
+{
+    const QString file = QFileDialog::getSaveFileName(
+        this, tr("Save TARN Project"), setting("LastProjectPath"), tr("Project Files (*.xml)"));
+    if (file.isEmpty()) {
+        return {};
+    }
+    const QString folder = file.section('/', 0, -2);
+    QString name = file.section('/', -1);
+    if (!name.contains('.')) {
+        name += ".xml";
+    }
+    return folder + "/" + name;
+}
+
+} // namespace TARN

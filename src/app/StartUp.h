@@ -1,0 +1,19 @@
+#pragma once
+
+class QApplication;
+
+namespace TARN {
+
+class DialogMain;
+
+/// The profile that is used until the user chooses another, relative to the working directory.
+constexpr const char* DefaultProfile = "orna.app/Contents/Resources/Tolvane_Profile.xml";
+
+/// Makes numbers read and written with "." whatever the user's locale is.
+void useDecimalPoint();
+
+/// The start of the viewer up to the running event loop: splash, paths, settings, translations
+/// and the main window, which is shown. The window is never deleted.
+DialogMain* startUp(QApplication& application);
+
+} // namespace TARN

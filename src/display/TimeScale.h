@@ -1,0 +1,22 @@
+#pragma once
+
+#include "record/RecordInfo.h"
+
+#include <QtCore/QString>
+
+namespace TARN {
+
+/// Positions of the time slider run from 0 at the recording's start to this at its stop.
+constexpr int SliderSteps = 10000;
+
+/// Time of a slider position, seconds; exactly start and stop at the ends.
+double sliderTime(const RecordInfo& info, int position);
+
+/// Slider position of a time (seconds); 0 where start and stop are one.
+int sliderPosition(const RecordInfo& info, double time);
+
+/// Local date and time of a moment as "dd.MM.yyyy hh:mm:ss"; dashes while the recording's
+/// UTC start is unknown. Counts on past midnight.
+QString dateText(const RecordInfo& info, double time);
+
+} // namespace TARN

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "record/CardInfo.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QWidget>
+
+#include <list>
+
+class QLineEdit;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace TARN {
+
+/// Lists the recordings of a card folder with what their headers say, and announces those that
+/// the user picks.
+class DialogCard : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DialogCard(QWidget* parent = nullptr);
+
+    void setCardInfo(const CardInfo& info);
+    void updateInfo();
+
+Q_SIGNALS:
+    /// Half a second after the last change of the selection. A selected detail line contributes
+    /// an empty path.
+    void signalLoadRecord(const std::list<QString>& files);
+
+private Q_SLOTS:
+    void slotSelect();
+    void slotTimeout();
+
+private:
+    void addRecord(const QString& path, const RecordInfo& info);
+    void addDetails(QTreeWidgetItem* item, const RecordInfo& info);
+
+    CardInfo mCardInfo;
+    std::list<QString> mSelected;
+    QTimer mTimer;
+    QLineEdit* mFolder;
+    QTreeWidget* mTree;
+};
+
+} // namespace TARN

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtWidgets/QTableView>
+
+namespace TARN {
+
+/// The table that all data views use: rows of 15 pixels, one row selected at a time, and where
+/// there are no rows a sentence that says why and what to do.
+class DataTableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit DataTableView(QWidget* parent = nullptr);
+
+    void setEmptyText(const QString& text);
+    QString emptyText() const { return mEmptyText; }
+
+    /// Gives columns the width that their visible values need; none gets narrower.
+    void widenColumns();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString mEmptyText;
+};
+
+} // namespace TARN

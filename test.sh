@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds, runs every test. Ends with a status other than 0 when
+# anything fails: a warning of the compiler, a file that is not formatted, a test.
+set -euo pipefail
+cd "$(dirname "$0")"
+scripts/setup.sh
+
+step() { printf '\n== %s\n' "$*"; }
+launcher=-DCMAKE_CXX_COMPILER_LAUNCHER=ccache
+
+step "format"
+git ls-files '*.cpp' '*.h' | xargs clang-format-14 --dry-run --Werror
+
+step "build and test"
+cmake --preset release $launcher -DORNA_WERROR=ON
+cmake --build --preset release
+QT_QPA_PLATFORM=offscreen ctest --preset release --label-exclude display
+xvfb-run -a -s "-screen 0 1400x1000x24" ctest --preset release --label-regex display
+
+step "core under the address and undefined-behaviour sanitizers"
+cmake --preset asan $launcher -DORNA_WERROR=ON
+cmake --build --preset asan
+ctest --preset asan
+
+printf '\nAll tests passed.\n'

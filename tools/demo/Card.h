@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace TARN {
+
+struct CardOptions
+{
+    std::string folder;
+    int minutes = 60;
+    int scale = 1;
+    std::uint64_t seed = 1;
+    int files = 3;
+    bool littleEndian = false;
+};
+
+/// Flies the demo flight and writes it as consecutive recording files LOG_0001.CAN, LOG_0002.CAN
+/// ... into the folder, which is made if it is missing. All files are written before the first
+/// replaces an older one. Returns an empty text, or one line that says what failed.
+std::string writeCard(const CardOptions& options);
+
+} // namespace TARN

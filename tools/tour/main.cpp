@@ -1,0 +1,125 @@
+// Opens the viewer on the card and project of the settings, uses it as a person would and leaves
+// screenshots. Needs a display, a virtual one will do.
+
+#include "app/DialogMain.h"
+#include "app/DialogSplash.h"
+#include "app/StartUp.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtGui/QPalette>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDoubleSpinBox>
+#include <QtWidgets/QSlider>
+#include <QtWidgets/QTreeWidget>
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <iostream>
+
+namespace {
+
+struct Arguments
+{
+    std::string out;
+    bool dark = false;
+    int width = 1280;
+    int height = 860;
+};
+
+/// Runs the event loop for a while: timers fire, windows are painted.
+void live(int milliseconds)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
+}
+
+QPalette darkPalette()
+{
+    QPalette palette(QColor(53, 53, 53));
+    palette.setColor(QPalette::Base, QColor(35, 35, 35));
+    palette.setColor(QPalette::AlternateBase, QColor(45, 45, 45));
+    palette.setColor(QPalette::Text, Qt::white);
+    palette.setColor(QPalette::WindowText, Qt::white);
+    palette.setColor(QPalette::ButtonText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, QColor(53, 53, 53));
+    palette.setColor(QPalette::ToolTipText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(160, 160, 160));
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor(127, 127, 127));
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(127, 127, 127));
+    return palette;
+}
+
+class Tour
+{
+public:
+    Tour(TARN::DialogMain& window, const Arguments& arguments)
+        : mWindow(window),
+          mArguments(arguments)
+    {}
+
+    bool run()
+    {
+        live(300);
+        shoot("01-card");
+        auto* recordings = mWindow.findChild<QTreeWidget*>("recordings");
+        if (recordings->topLevelItemCount() == 0) {
+            std::cerr << "orna-tour: no recordings on the card of the settings\n";
+            return false;
+        }
+        recordings->setCurrentItem(recordings->topLevelItem(0));
+        recordings->topLevelItem(0)->setExpanded(true);
+        live(1500);
+        shoot("02-one-recording");
+        recordings->topLevelItem(0)->setExpanded(false);
+        recordings->selectAll();
+        live(2500);
+        mWindow.findChild<QSlider*>("timeSlider")->setValue(2200);
+        live(300);
+        shoot("03-table");
+        return !mFailed;
+    }
+
+private:
+    void shoot(const char* name)
+    {
+        const QString suffix = mArguments.dark ? "-dark" : "";
+        const QString file = QString::fromStdString(mArguments.out) + "/" + name + suffix + ".png";
+        if (!mWindow.grab().save(file)) {
+            std::cerr << "orna-tour: could not write " << file.toStdString() << '\n';
+            mFailed = true;
+        }
+    }
+
+    TARN::DialogMain& mWindow;
+    const Arguments& mArguments;
+    bool mFailed = false;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    TARN::useDecimalPoint();
+    QApplication application(argc, argv);
+    TARN::useDecimalPoint();
+    Arguments arguments;
+    CLI::App command("Takes screenshots of the viewer at work.", "orna-tour");
+    command.add_option("OUT", arguments.out, "existing folder for the pictures")->required();
+    command.add_flag("--dark", arguments.dark, "with a dark theme");
+    command.add_option("--width", arguments.width, "window width, pixels");
+    command.add_option("--height", arguments.height, "window height, pixels");
+    CLI11_PARSE(command, argc, argv);
+    if (arguments.dark) {
+        QApplication::setPalette(darkPalette());
+    }
+    TARN::DialogMain* window = TARN::startUp(application);
+    TARN::DialogSplash::instance()->close();
+    window->resize(arguments.width, arguments.height);
+    const bool done = Tour(*window, arguments).run();
+    std::cout.flush();
+    std::_Exit(done ? 0 : 1); // as the viewer itself ends: at once
+}
