@@ -4,6 +4,9 @@
 #include "app/StartUp.h"
 #include "base/Property.h"
 #include "display/DialogData.h"
+#include "export/DialogExportCsv.h"
+#include "export/DialogExportKml.h"
+#include "faults/EventDetector.h"
 #include "profile/DialogProfile.h"
 #include "profile/Project.h"
 #include "record/DialogCard.h"
@@ -22,6 +25,8 @@ DialogMain::DialogMain(QWidget* parent) : QMainWindow(parent), mEndProcess([] { 
 {
     constexpr int ReopenDelay = 20; // ms
     createPanes();
+    mKmlWizard = new DialogExportKml(this);
+    mCsvWizard = new DialogExportCsv(this);
     mStatusBar = new DialogStatusBar(this);
     setStatusBar(mStatusBar);
     loadProfile();
@@ -111,6 +116,8 @@ void DialogMain::slotLoadRecord(const std::list<QString>& files)
         mStatusBar->showMessage(tr("Not all recordings could be read. Check that the card is "
                                    "still in place."));
     }
+    mRecordPath = paths.front();
+    detectEvents(mRecord, *Profile::instance());
     mData->updateRecord(&mRecord);
     setProgress(100);
     mLoading = false;
@@ -141,6 +148,9 @@ void DialogMain::setEdited(bool edited)
 
 void DialogMain::updateEnabled()
 {
+    const bool hasSamples = !mRecord.recordData().empty();
+    mActions.at(ActionType::ExportKml)->setEnabled(hasSamples);
+    mActions.at(ActionType::ExportCsv)->setEnabled(hasSamples);
     mActions.at(ActionType::SaveProject)->setEnabled(mEdited);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "export/CsvExportOptions.h"
+#include "export/KmlExportOptions.h"
 #include "record/CardInfo.h"
 #include "record/Record.h"
 
@@ -17,8 +19,11 @@ namespace TARN {
 
 class DialogCard;
 class DialogData;
+class DialogExportCsv;
+class DialogExportKml;
 class DialogProfile;
 class DialogStatusBar;
+struct ExportResult;
 
 /// The numbers by which commands are dispatched.
 enum class ActionType
@@ -28,7 +33,9 @@ enum class ActionType
     OpenCard = 2,
     SaveProject = 4,
     SaveProjectAs = 5,
-    Quit = 6
+    Quit = 6,
+    ExportKml = 16,
+    ExportCsv = 17
 };
 
 /// The one top-level window. Owns the open recording, offers the commands, opens the last card
@@ -83,10 +90,20 @@ private:
     QString askProjectName();
     bool cleanup();
 
+    template <typename Options>
+    void presetOptions(Options& options) const;
+    void exportKml();
+    void exportCsv();
+    void reportExport(const ExportResult& result, const QString& path, const QString& title,
+                      const QString& failure);
+
     bool mClosing = false;
     bool mLoading = false;
     bool mEdited = false; ///< the selection differs from the project file
     Record mRecord;
+    QString mRecordPath; ///< first file of the recording
+    KmlExportOptions mKmlOptions;
+    CsvExportOptions mCsvOptions;
     CardInfo mCardInfo;
     QString mProjectFile; ///< empty when no project file is known
     std::map<ActionType, QAction*> mActions;
@@ -96,6 +113,8 @@ private:
     DialogCard* mCard;
     DialogProfile* mProfile;
     DialogData* mData;
+    DialogExportKml* mKmlWizard;
+    DialogExportCsv* mCsvWizard;
     DialogStatusBar* mStatusBar;
     QTimer mTimer;
 };

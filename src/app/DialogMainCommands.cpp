@@ -47,6 +47,10 @@ void DialogMain::createActions()
         ->setIconText(tr("Save Project File as"));
     addCommand(ActionType::OpenCard, tr("&Open Card"), "cardOpen", tr("Open Card"), tr("Ctrl+C"))
         ->setIconText(tr("Open SD Card"));
+    addCommand(ActionType::ExportKml, tr("Export Google KML File"), "exportKml",
+               tr("Export Google Earth KML File"));
+    addCommand(ActionType::ExportCsv, tr("Export CSV/CAN File"), "exportCsv",
+               tr("Export CSV/CAN File"));
     addCommand(ActionType::Quit, tr("&Quit"), "quit", tr("Quit Application"), tr("Ctrl+Q"));
 }
 
@@ -72,6 +76,9 @@ void DialogMain::createMenu()
     file->addSeparator();
     file->addAction(mActions[ActionType::OpenCard]);
     file->addSeparator();
+    file->addAction(mActions[ActionType::ExportKml]);
+    file->addAction(mActions[ActionType::ExportCsv]);
+    file->addSeparator();
     file->addAction(mActions[ActionType::Quit]);
 }
 
@@ -79,8 +86,9 @@ void DialogMain::createToolbar()
 {
     QToolBar* toolbar = addToolBar(tr("Main Toolbar"));
     toolbar->setObjectName("MainToolbar");
-    for (const ActionType type : {ActionType::NewProject, ActionType::OpenProject,
-                                  ActionType::SaveProject, ActionType::OpenCard}) {
+    for (const ActionType type :
+         {ActionType::NewProject, ActionType::OpenProject, ActionType::SaveProject,
+          ActionType::OpenCard, ActionType::ExportKml, ActionType::ExportCsv}) {
         toolbar->addAction(mActions[type]);
     }
 }
@@ -102,6 +110,12 @@ void DialogMain::slotMenu(QAction* action)
         break;
     case ActionType::SaveProjectAs:
         saveProject(true);
+        break;
+    case ActionType::ExportKml:
+        exportKml();
+        break;
+    case ActionType::ExportCsv:
+        exportCsv();
         break;
     case ActionType::Quit:
         quit();

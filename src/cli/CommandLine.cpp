@@ -54,17 +54,129 @@ void addDecode(CLI::App& app, DecodeArguments& arguments, std::ostream& out)
     command->final_callback([&] { runDecode(arguments, out); });
 }
 
+void addRange(CLI::App& command, Range& range)
+{
+    command.add_option("--start", range.start, "first second, on the recording's clock");
+    command.add_option("--stop", range.stop, "last second, on the recording's clock");
+}
+
+void addOut(CLI::App& command, std::string& out)
+{
+    command.add_option("-o,--out", out, "file to write")->required();
+}
+
+void addEvents(CLI::App& app, EventsArguments& arguments, std::ostream& out)
+{
+    CLI::App* command = app.add_subcommand("events", "What was exceeded and which lamps came on");
+    addProfile(*command, arguments.profile);
+    addFiles(*command, arguments.files);
+    command->final_callback([&] { runEvents(arguments, out); });
+}
+
+void addFaults(CLI::App& app, FaultsArguments& arguments, std::ostream& out)
+{
+    CLI::App* command = app.add_subcommand("faults", "Error matrices: timeline and active bits");
+    addProfile(*command, arguments.profile);
+    command->add_option("--time", arguments.time, "second for the active bits");
+    addFiles(*command, arguments.files);
+    command->final_callback([&] { runFaults(arguments, out); });
+}
+
+void addCsv(CLI::App& app, CsvArguments& arguments)
+{
+    CLI::App* command = app.add_subcommand("csv", "Decoded values as a text table");
+    addProfile(*command, arguments.profile);
+    addSelection(*command, arguments.selection);
+    addRange(*command, arguments.range);
+    command->add_option("--resolution", arguments.resolution, "grid step in milliseconds")
+        ->check(CLI::IsMember({100, 10, 1}));
+    command->add_option("--separator", arguments.separator, "\";\", \",\" or \"tab\"")
+        ->check(CLI::IsMember({";", ",", "tab"}));
+    addOut(*command, arguments.out);
+    addFiles(*command, arguments.files);
+    command->final_callback([&] { runCsv(arguments); });
+}
+
+void addKmlOptions(CLI::App& command, KmlExportOptions& options)
+{
+    const CLI::Validator isColor(
+        [](std::string& text) {
+            const bool valid =
+                text.size() == 6 && text.find_first_not_of("0123456789abcdefABCDEF") == text.npos;
+            return valid ? std::string() : "\"" + text + "\" is no colour of six digits";
+        },
+        "RRGGBB");
+    const auto addSwitch = [&](const char* name, bool& on, const char* help) {
+        command.add_flag_callback(
+            name, [&on] { on = false; }, help);
+    };
+    command.add_option("--timestamp", options.timeStamp, "width of a position slot in ms")
+        ->check(CLI::PositiveNumber);
+    command.add_option("--line-width", options.lineWidth, "width of the path");
+    command.add_option("--line-color", options.lineColor, "colour of the path")->check(isColor);
+    command.add_option("--line-alpha", options.lineAlpha, "its opacity")->check(CLI::Range(0, 255));
+    addSwitch("--no-polygon", options.polygonOn, "don't extrude the path to the ground");
+    command.add_option("--polygon-color", options.polygonColor, "colour below it")->check(isColor);
+    command.add_option("--polygon-alpha", options.polygonAlpha, "its opacity")
+        ->check(CLI::Range(0, 255));
+    addSwitch("--no-placemarks", options.placeMarkOn, "no marks along the path");
+    command.add_option("--placemark-interval", options.placeMarkInterval, "slots between marks")
+        ->check(CLI::PositiveNumber);
+    command.add_option("--placemark-color", options.placeMarkColor, "their colour")->check(isColor);
+    addSwitch("--no-errors", options.errorMarkOn, "no marks where something went wrong");
+    addSwitch("--no-limits", options.showLimit, "none for exceeded limits");
+    addSwitch("--no-warnings", options.showWarning, "none for warning lamps");
+    command.add_option("--error-color", options.errorMarkColor, "their colour")->check(isColor);
+}
+
+void addKml(CLI::App& app, KmlArguments& arguments)
+{
+    CLI::App* command = app.add_subcommand("kml", "The flight path for an earth viewer");
+    addProfile(*command, arguments.profile);
+    addSelection(*command, arguments.selection);
+    addRange(*command, arguments.range);
+    addKmlOptions(*command, arguments.options);
+    addOut(*command, arguments.out);
+    addFiles(*command, arguments.files);
+    command->final_callback([&] { runKml(arguments); });
+}
+
+void addCan(CLI::App& app, CanArguments& arguments)
+{
+    CLI::App* command = app.add_subcommand("can", "A part of the recording as a recording");
+    addRange(*command, arguments.range);
+    addOut(*command, arguments.out);
+    addFiles(*command, arguments.files);
+    command->final_callback([&] { runCan(arguments); });
+}
+
+/// What each command was given; lives as long as the parser refers to it.
+struct Arguments
+{
+    InfoArguments info;
+    DecodeArguments decode;
+    EventsArguments events;
+    FaultsArguments faults;
+    CsvArguments csv;
+    KmlArguments kml;
+    CanArguments can;
+};
+
 } // namespace
 
 int runCommandLine(int argc, const char* const* argv, std::ostream& out, std::ostream& error)
 {
-    InfoArguments info;
-    DecodeArguments decode;
+    Arguments arguments;
     CLI::App app("Reads recordings of an engine monitoring unit without a window.", "orna-cli");
     app.set_version_flag("--version", Revision::getRevisionString());
     app.require_subcommand(1);
-    addInfo(app, info, out);
-    addDecode(app, decode, out);
+    addInfo(app, arguments.info, out);
+    addDecode(app, arguments.decode, out);
+    addEvents(app, arguments.events, out);
+    addFaults(app, arguments.faults, out);
+    addCsv(app, arguments.csv);
+    addKml(app, arguments.kml);
+    addCan(app, arguments.can);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {

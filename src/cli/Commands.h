@@ -1,8 +1,10 @@
 #pragma once
 
 #include "cli/Inputs.h"
+#include "export/KmlExportOptions.h"
 
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +23,54 @@ struct DecodeArguments
     std::vector<std::string> files;
 };
 
+struct EventsArguments
+{
+    std::string profile;
+    std::vector<std::string> files;
+};
+
+struct FaultsArguments
+{
+    std::string profile;
+    std::optional<double> time; ///< seconds on the recording's clock; its start when absent
+    std::vector<std::string> files;
+};
+
+/// Seconds on the recording's clock; what is absent is the recording's own.
+struct Range
+{
+    std::optional<double> start;
+    std::optional<double> stop;
+};
+
+struct CsvArguments
+{
+    std::string profile;
+    Selection selection;
+    Range range;
+    int resolution = 100;
+    std::string separator = ";"; ///< ";", "," or "tab"
+    std::string out;
+    std::vector<std::string> files;
+};
+
+struct KmlArguments
+{
+    std::string profile;
+    Selection selection;
+    Range range;
+    KmlExportOptions options;
+    std::string out;
+    std::vector<std::string> files;
+};
+
+struct CanArguments
+{
+    Range range;
+    std::string out;
+    std::vector<std::string> files;
+};
+
 /// The header of each recording, as text or as one JSON object a line. A folder stands for its
 /// recordings, sorted by path.
 void runInfo(const InfoArguments& arguments, std::ostream& out);
@@ -28,5 +78,16 @@ void runInfo(const InfoArguments& arguments, std::ostream& out);
 /// Every sample of every selected parameter, one JSON object a line, parameters in profile
 /// order, samples in file order.
 void runDecode(const DecodeArguments& arguments, std::ostream& out);
+
+/// Limit events, then warning-lamp events, one JSON object a line.
+void runEvents(const EventsArguments& arguments, std::ostream& out);
+
+/// Each error matrix with its timeline and its active bits at a time, one JSON object a line.
+void runFaults(const FaultsArguments& arguments, std::ostream& out);
+
+// The exports write the file and nothing to a stream.
+void runCsv(const CsvArguments& arguments);
+void runKml(const KmlArguments& arguments);
+void runCan(const CanArguments& arguments);
 
 } // namespace TARN

@@ -1,4 +1,5 @@
 #include "cli/Commands.h"
+#include "cli/Json.h"
 #include "profile/Decoder.h"
 #include "profile/Profile.h"
 #include "record/Record.h"
@@ -9,13 +10,6 @@
 namespace TARN {
 
 namespace {
-
-using Json = nlohmann::ordered_json;
-
-Json jsonOf(const QColor& color)
-{
-    return color.isValid() ? Json(color.name().toStdString()) : Json(nullptr);
-}
 
 void decodeParameter(const ProfileDevice& device, const ProfileParameter& parameter,
                      const Record& record, std::ostream& out)

@@ -1,4 +1,5 @@
 #include "cli/Commands.h"
+#include "cli/Json.h"
 #include "record/CardInfo.h"
 #include "record/Record.h"
 
@@ -11,9 +12,7 @@ namespace TARN {
 
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-Json jsonOf(const RecordInfo& info)
+Json fieldsOf(const RecordInfo& info)
 {
     return {{"file", info.fileName.toStdString()},
             {"dateTime", info.dateTimeText().toStdString()},
@@ -32,7 +31,7 @@ Json jsonOf(const RecordInfo& info)
 
 void printInfo(const RecordInfo& info, bool json, std::ostream& out)
 {
-    const Json object = jsonOf(info);
+    const Json object = fieldsOf(info);
     if (json) {
         out << object.dump() << '\n';
         return;

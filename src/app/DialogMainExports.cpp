@@ -1,0 +1,80 @@
+#include "app/DialogMain.h"
+#include "app/DialogStatusBar.h"
+#include "base/Property.h"
+#include "display/DialogData.h"
+#include "export/DialogExportCsv.h"
+#include "export/DialogExportKml.h"
+#include "export/ExportCan.h"
+#include "export/ExportCsv.h"
+#include "export/ExportKml.h"
+#include "profile/Profile.h"
+#include "widgets/WaitCursor.h"
+
+#include <QtWidgets/QMessageBox>
+
+namespace TARN {
+
+/// What every export starts from: the recording, its range and the current time.
+template <typename Options>
+void DialogMain::presetOptions(Options& options) const
+{
+    options.info = mRecord.recordInfo();
+    options.startTime = options.info.startTime;
+    options.stopTime = options.info.stopTime;
+    options.currentTime = mData->time();
+}
+
+void DialogMain::exportKml()
+{
+    const QString name = mRecordPath.section('/', -1).section('.', 0, 0);
+    mKmlOptions.fileName = (name + ".kml").toStdString();
+    presetOptions(mKmlOptions);
+    if (mKmlWizard->getOptions(mKmlOptions) != QDialog::Accepted) {
+        return;
+    }
+    const ExportResult result = [this] {
+        const WaitCursor waitCursor;
+        setProgress(0);
+        return ExportKml(*Profile::instance()).exportData(mRecord, mKmlOptions);
+    }();
+    reportExport(result, mKmlOptions.path(), tr("ORNA Warning"), tr("Exporting KML file failed !"));
+}
+
+void DialogMain::exportCsv()
+{
+    presetOptions(mCsvOptions);
+    if (mCsvWizard->getOptions(mCsvOptions) != QDialog::Accepted) {
+        return;
+    }
+    const ExportResult result = [this] {
+        const WaitCursor waitCursor;
+        setProgress(0);
+        const auto progress = [this](int percent) { setProgress(percent); };
+        if (mCsvOptions.fileType == CsvExportOptions::Can) {
+            ExportCan exporter;
+            exporter.setProgress(progress);
+            return exporter.exportData(mRecord, mCsvOptions);
+        }
+        ExportCsv exporter(*Profile::instance());
+        exporter.setProgress(progress);
+        return exporter.exportData(mRecord, mCsvOptions);
+    }();
+    reportExport(result, mCsvOptions.path(), tr("ORNA Viewer Warning"),
+                 tr("Exporting CSV/CAN file failed !"));
+}
+
+void DialogMain::reportExport(const ExportResult& result, const QString& path, const QString& title,
+                              const QString& failure)
+{
+    setProgress(100);
+    if (result) {
+        mStatusBar->showMessage(tr("Written: %1").arg(path) + "   " + result.message);
+        return;
+    }
+    QMessageBox box(QMessageBox::Critical, title, failure, QMessageBox::NoButton, this);
+    box.setInformativeText(result.message);
+    box.addButton(tr("Ok"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+} // namespace TARN

@@ -1,0 +1,283 @@
+#include "export/ExportCsv.h"
+
+#include "base/ClockTime.h"
+#include "base/Diagnostics.h"
+#include "export/OutputFile.h"
+#include "profile/Profile.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QStorageInfo>
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <numeric>
+
+namespace TARN {
+
+namespace {
+
+constexpr double NoSample = 1e15;
+constexpr auto NoTick = std::numeric_limits<std::int64_t>::max();
+
+QString translated(const char* text)
+{
+    return QCoreApplication::translate("ExportCsv", text);
+}
+
+void appendPadded(std::int64_t value, int digits, std::string& out)
+{
+    char buffer[24];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
+    for (auto length = end - buffer; length < digits; ++length) {
+        out += '0';
+    }
+    out.append(buffer, end);
+}
+
+} // namespace
+
+ExportResult ExportCsv::exportData(Record& record, const CsvExportOptions& options)
+{
+    mColumns.clear();
+    mEarliest = NoSample;
+    mLatest = -NoSample;
+    mStepsPerSecond = 1.0 / (options.resolution * 0.001);
+    diagnose("Start %f Stop %f\n", options.startTime, options.stopTime);
+    for (const auto& [id, device] : mProfile.data().devices) {
+        for (const auto& [uid, parameter] : device.parameters) {
+            if (parameter.selected || options.allParameters) {
+                addColumn(record, parameter, options);
+            }
+        }
+    }
+    const std::int64_t first = tick(mEarliest);
+    const std::int64_t last = tick(options.stopTime);
+    diagnose("th0 %lld th1 %lld\n", static_cast<long long>(first), static_cast<long long>(last));
+    const QString reason = refusal(first, last, options);
+    if (!reason.isEmpty()) {
+        diagnose("%s\n", qUtf8Printable(reason));
+        return ExportResult::failure(reason);
+    }
+    return writeFile(options, first, last);
+}
+
+std::int64_t ExportCsv::tick(double time) const
+{
+    return truncatedTo<std::int64_t>(time * mStepsPerSecond + 0.5);
+}
+
+std::int64_t ExportCsv::tickOf(const Column& column, std::size_t k) const
+{
+    return tick(column.at(k).time() + column.shift);
+}
+
+void ExportCsv::addColumn(const Record& record, const ProfileParameter& parameter,
+                          const CsvExportOptions& options)
+{
+    Column column{parameter.name.toStdString(),
+                  Decoder(mProfile.data(), parameter),
+                  {},
+                  0.0,
+                  {},
+                  false,
+                  0,
+                  {},
+                  false};
+    const RecordIdList* list = record.recordData().find(static_cast<unsigned>(parameter.channel),
+                                                        static_cast<unsigned>(parameter.id));
+    if (list != nullptr) {
+        column.entries = list->entries;
+        column.shift = list->shift(record.recordData().offset);
+        scan(column, options);
+    }
+    mColumns.push_back(std::move(column));
+}
+
+/// Keeps the samples inside the range and sees to it that their ticks ascend.
+void ExportCsv::scan(Column& column, const CsvExportOptions& options)
+{
+    std::size_t begin = column.entries.size();
+    std::size_t end = 0;
+    std::size_t inside = 0;
+    std::int64_t lastTick = std::numeric_limits<std::int64_t>::min();
+    bool ascending = true;
+    const auto isInside = [&](double time) {
+        return options.startTime <= time && time <= options.stopTime;
+    };
+    for (std::size_t i = 0; i < column.entries.size(); ++i) {
+        const double time = column.entries[i].time() + column.shift;
+        if (!isInside(time)) {
+            continue;
+        }
+        begin = std::min(begin, i);
+        end = i + 1;
+        ++inside;
+        mEarliest = std::min(mEarliest, time);
+        mLatest = std::max(mLatest, time);
+        ascending = ascending && tick(time) >= lastTick;
+        lastTick = tick(time);
+    }
+    column.entries =
+        inside == 0 ? column.entries.first(0) : column.entries.subspan(begin, end - begin);
+    if (ascending && inside == column.entries.size()) {
+        return;
+    }
+    for (std::size_t i = 0; i < column.entries.size(); ++i) {
+        if (isInside(column.entries[i].time() + column.shift)) {
+            column.order.push_back(static_cast<std::uint32_t>(i));
+        }
+    }
+    std::ranges::stable_sort(column.order, {}, [&](std::uint32_t i) {
+        return tick(column.entries[i].time() + column.shift);
+    });
+    column.ordered = true;
+}
+
+/// Why the table should not be begun; empty when nothing speaks against it.
+QString ExportCsv::refusal(std::int64_t first, std::int64_t last, const CsvExportOptions& options)
+{
+    if (first > last) {
+        return {}; // the title line alone
+    }
+    const auto times = [this, &options] {
+        return translated("The first sample is at %1 s, the last at %2 s, the export ends at %3 s. "
+                          "Choose a shorter time range or a coarser resolution.")
+            .arg(mEarliest, 0, 'f', 3)
+            .arg(mLatest, 0, 'f', 3)
+            .arg(options.stopTime, 0, 'f', 3);
+    };
+    if (first < std::numeric_limits<std::int32_t>::min() ||
+        last > std::numeric_limits<std::int32_t>::max()) {
+        return translated("The table would have too many rows.") + " " + times();
+    }
+    constexpr std::size_t TimeWidth = 13;
+    std::size_t rowSize = TimeWidth;
+    for (const Column& column : mColumns) {
+        std::string text;
+        if (column.size() > 0) {
+            column.decoder.appendText(column.at(0), text);
+        }
+        rowSize += text.size() + 1;
+    }
+    const auto size = static_cast<double>(rowSize) * static_cast<double>(last - first + 1);
+    const QStorageInfo disk(QString::fromStdString(options.directory));
+    if (disk.isValid() && size > static_cast<double>(disk.bytesAvailable())) {
+        return translated("The table would have %1 rows, about %2 MB, more than is free in \"%3\".")
+                   .arg(last - first + 1)
+                   .arg(size / 1e6, 0, 'f', 0)
+                   .arg(QString::fromStdString(options.directory)) +
+               " " + times();
+    }
+    return {};
+}
+
+ExportResult ExportCsv::writeFile(const CsvExportOptions& options, std::int64_t first,
+                                  std::int64_t last)
+{
+    OutputFile file(options.path());
+    if (!file.open()) {
+        diagnose("could not open <%s> for write !\n", qUtf8Printable(options.path()));
+        return ExportResult::failure(
+            translated("\"%1\" can't be written: %2").arg(options.path(), file.errorText()));
+    }
+    std::string title = "Time";
+    for (const Column& column : mColumns) {
+        title += options.separator + column.title;
+    }
+    file.write(title + "\n");
+    writeRows(file, options, first, last);
+    if (!file.commit()) {
+        return ExportResult::failure(
+            translated("\"%1\" could not be written: %2").arg(options.path(), file.errorText()));
+    }
+    return ExportResult::success(
+        mColumns.empty() ? translated("No parameter is selected, the file holds its title only.")
+        : first > last   ? translated("No sample lies in the time range, the file holds its "
+                                        "titles only.")
+                         : QString());
+}
+
+void ExportCsv::writeRows(OutputFile& file, const CsvExportOptions& options, std::int64_t first,
+                          std::int64_t last)
+{
+    std::int64_t nextChange = first; // until then rows differ in their time alone
+    std::string line;
+    int percent = -1;
+    for (std::int64_t row = first; row <= last && !file.failed(); ++row) {
+        if (row == nextChange || row == first + 1) {
+            nextChange = advance(row);
+            joinCells(options.separator, row == first);
+        }
+        line.clear();
+        appendElapsed(row, options.resolution, line);
+        line += mCells;
+        line += '\n';
+        file.write(line);
+        const auto now = static_cast<int>(100 * (row - first) / (last - first + 1));
+        if (now != percent && mProgress) {
+            mProgress(now);
+        }
+        percent = now;
+    }
+}
+
+/// Takes the samples of a row into the cells; returns the next row that has samples.
+std::int64_t ExportCsv::advance(std::int64_t row)
+{
+    std::int64_t next = NoTick;
+    for (Column& column : mColumns) {
+        const RecordEntry* entry = nullptr;
+        while (column.next < column.size() && tickOf(column, column.next) == row) {
+            entry = &column.at(column.next++);
+        }
+        if (entry != nullptr) {
+            column.text.clear();
+            column.decoder.appendText(*entry, column.text);
+            column.reached = true;
+        }
+        if (column.next < column.size()) {
+            next = std::min(next, tickOf(column, column.next));
+        }
+    }
+    return next;
+}
+
+/// In the first row the last column has no cell, not even an empty one, unless it has a sample;
+/// readers of these files have learned to live with that.
+void ExportCsv::joinCells(char separator, bool isFirstRow)
+{
+    mCells.clear();
+    for (std::size_t c = 0; c < mColumns.size(); ++c) {
+        const bool isLast = c + 1 == mColumns.size();
+        if (isFirstRow && isLast && !mColumns[c].reached) {
+            break;
+        }
+        mCells += separator;
+        mCells += mColumns[c].text;
+    }
+}
+
+/// Time since the first sample. Ticks are rounded and the first sample's is truncated, so the
+/// first row can read one step.
+void ExportCsv::appendElapsed(std::int64_t row, int resolution, std::string& out) const
+{
+    const double f = mStepsPerSecond;
+    const auto steps =
+        static_cast<double>(row - truncatedTo<std::int64_t>(mEarliest * mStepsPerSecond));
+    const auto hours = static_cast<int>(steps / (f * 3600));
+    double rest = steps - hours * f * 3600;
+    const auto minutes = static_cast<int>(rest / (f * 60));
+    rest = rest - minutes * f * 60;
+    const auto seconds = static_cast<int>(rest / f);
+    const auto milliseconds = static_cast<int>((rest - seconds * f) * resolution);
+    appendPadded(hours, 1, out);
+    out += ':';
+    appendPadded(minutes, 2, out);
+    out += ':';
+    appendPadded(seconds, 2, out);
+    out += '.';
+    appendPadded(milliseconds, 3, out);
+}
+
+} // namespace TARN

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "export/FlightPath.h"
+#include "export/KmlExportOptions.h"
+#include "record/Record.h"
+
+#include <QtCore/QString>
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace TARN {
+
+/// A mark on the flight path with the values that it carries.
+struct KmlMark
+{
+    struct Item
+    {
+        std::string name;
+        std::string value;
+    };
+
+    PathPosition position;
+    QString time; ///< "hh:mm:ss"
+    std::vector<Item> items;
+};
+
+using KmlMarks = std::map<int, KmlMark>;
+
+/// A mark at every interval of slots, with the last value of each selected parameter in it. A
+/// sample in a slot without a position takes its mark away again.
+KmlMarks placeMarks(const Profile& profile, const RecordData& data, const FlightPath& path,
+                    const KmlExportOptions& options);
+
+/// A mark for each slot with events that has a position.
+KmlMarks errorMarks(const std::vector<RecordLimit>& events, const FlightPath& path);
+KmlMarks errorMarks(const std::vector<RecordWarning>& events, const FlightPath& path);
+
+} // namespace TARN

@@ -1,0 +1,106 @@
+#include "faults/EventDetector.h"
+
+#include "base/ClockTime.h"
+#include "profile/Decoder.h"
+#include "profile/Profile.h"
+#include "record/Record.h"
+
+#include <algorithm>
+
+namespace TARN {
+
+namespace {
+
+/// A parameter with its samples and its decoder.
+struct Source
+{
+    const ProfileDevice& device;
+    const ProfileParameter& parameter;
+    const Decoder decoder;
+    const RecordIdList& list;
+};
+
+RecordEvent eventAt(const Source& source, const RecordEntry& entry)
+{
+    std::string value;
+    RecordEvent event;
+    event.color = source.decoder.appendDisplay(entry, value);
+    event.time = entry.time();
+    const QString name = source.device.name + " " + source.parameter.name;
+    event.name = name.toStdString();
+    event.value = value + " " + source.parameter.unit.toStdString();
+    event.text = name + " " + QString::fromStdString(event.value);
+    event.tenths = tenthsOf(event.time);
+    return event;
+}
+
+void collectLimits(const Source& source, std::vector<RecordLimit>& limits)
+{
+    int previous = StateLimit; // so that a range that is left already is not entered
+    for (const RecordEntry& entry : source.list.entries) {
+        const int state = source.decoder.state(entry);
+        if ((previous == StateOk && state != StateOk) ||
+            (previous == StateWarning && state == StateLimit)) {
+            limits.push_back({eventAt(source, entry)});
+        }
+        previous = state;
+    }
+}
+
+void collectWarnings(const Source& source, std::vector<RecordWarning>& warnings)
+{
+    int previous = 0;
+    for (const RecordEntry& entry : source.list.entries) {
+        const int value = source.decoder.toInt(entry);
+        if (value == 0 || value == previous) {
+            continue;
+        }
+        previous = value;
+        RecordEvent event = eventAt(source, entry);
+        if (value == 1) {
+            event.color = QColor(255, 150, 100);
+        } else if (value == 2) {
+            event.color = QColor(255, 100, 100);
+        }
+        warnings.push_back({event});
+    }
+}
+
+bool isLamp(const ProfileInfo& profile, const ProfileParameter& parameter)
+{
+    const auto found = profile.enums.find(parameter.enumId);
+    return found != profile.enums.end() && found->second.name == "WarningLamp";
+}
+
+} // namespace
+
+void detectEvents(Record& record, const Profile& profile)
+{
+    RecordData& data = record.recordData();
+    data.limits.clear();
+    data.warnings.clear();
+    for (const auto& [deviceId, device] : profile.data().devices) {
+        for (const auto& [uid, parameter] : device.parameters) {
+            const bool lamp = isLamp(profile.data(), parameter);
+            const bool limited = profile.data().thresholds.contains(parameter.thresholdId);
+            const RecordIdList* list = lamp || limited
+                                           ? data.find(static_cast<unsigned>(parameter.channel),
+                                                       static_cast<unsigned>(parameter.id))
+                                           : nullptr;
+            if (list == nullptr) {
+                continue;
+            }
+            const Source source{device, parameter, Decoder(profile.data(), parameter), *list};
+            if (limited) {
+                collectLimits(source, data.limits);
+            }
+            if (lamp) {
+                collectWarnings(source, data.warnings);
+            }
+        }
+    }
+    std::ranges::stable_sort(data.limits, {}, &RecordLimit::time);
+    std::ranges::stable_sort(data.warnings, {}, &RecordWarning::time);
+}
+
+} // namespace TARN
