@@ -78,6 +78,7 @@ void DialogMain::loadProfile()
                                     .arg(QString::fromStdString(file)));
     }
     mProfile->updateList();
+    mData->loadProfile();
 }
 
 void DialogMain::loadRecords(const QString& folder)
@@ -113,8 +114,10 @@ void DialogMain::slotLoadRecord(const std::list<QString>& files)
     if (mRecord.readRecordData(paths)) {
         mStatusBar->showMessage(tr("Samples loaded: %L1").arg(mRecord.recordData().count()));
     } else {
-        mStatusBar->showMessage(tr("Not all recordings could be read. Check that the card is "
-                                   "still in place."));
+        mStatusBar->showMessage(
+            tr("Not everything could be read (%1). Check that the card is still "
+               "in place.")
+                .arg(mRecord.errorText()));
     }
     mRecordPath = paths.front();
     detectEvents(mRecord, *Profile::instance());

@@ -104,6 +104,7 @@ QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& ele
 {
     QDomAttr attribute = document.createAttribute(name);
     attribute.setValue(value);
+    element.removeAttribute(name); // setting alone would keep both
     element.setAttributeNode(attribute);
     return attribute;
 }

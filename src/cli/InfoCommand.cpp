@@ -49,17 +49,14 @@ void runInfo(const InfoArguments& arguments, std::ostream& out)
 {
     for (const std::string& argument : arguments.paths) {
         const QString path = QString::fromStdString(argument);
-        if (QFileInfo(path).isDir()) {
-            for (const auto& [file, info] : readCard(path).records) {
-                printInfo(info, arguments.json, out);
+        const auto files = QFileInfo(path).isDir() ? cardFiles(path) : std::vector<QString>{path};
+        for (const QString& file : files) {
+            Record record;
+            if (!record.readRecordInfo(file)) {
+                throw CommandFailure("could not open the recording \"" + file.toStdString() + "\"");
             }
-            continue;
+            printInfo(record.recordInfo(), arguments.json, out);
         }
-        Record record;
-        if (!record.readRecordInfo(path)) {
-            throw CommandFailure("could not open the recording \"" + argument + "\"");
-        }
-        printInfo(record.recordInfo(), arguments.json, out);
     }
 }
 

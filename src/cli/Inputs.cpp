@@ -42,7 +42,7 @@ void loadInputs(const std::string& profile, const std::vector<std::string>& file
         paths.push_back(QString::fromStdString(file));
     }
     if (!record.readRecordData(paths)) {
-        throw CommandFailure("could not read all recording files; the lines above name the one");
+        throw CommandFailure(record.errorText().toStdString());
     }
 }
 

@@ -3,9 +3,14 @@
 #include "base/ClockTime.h"
 #include "display/DialogDataTable.h"
 #include "display/TimeScale.h"
+#include "faults/DialogDataErrorMatrix.h"
+#include "faults/DialogEventList.h"
+#include "faults/EventDetector.h"
+#include "profile/Profile.h"
 #include "widgets/Kernel.h"
 
 #include <QtCore/QScopedValueRollback>
+#include <QtGui/QShortcut>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLCDNumber>
@@ -13,20 +18,24 @@
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTimeEdit>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace TARN {
 
 DialogData::DialogData(QWidget* parent)
-    : QWidget(parent),
-      mTabs(new QTabWidget),
-      mTable(new DialogDataTable)
+    : QWidget(parent), mTabs(new QTabWidget), mTable(new DialogDataTable),
+      mLimits(new DialogDataLimit), mWarnings(new DialogDataWarning),
+      mFaults(new DialogDataErrorMatrix)
 {
     createTabs();
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(mTabs, 1);
     layout->addLayout(createNavigation());
     connect(mTable, &DialogDataTable::signalTime, this, &DialogData::slotTableTime);
+    connect(mLimits, &DialogDataLimit::signalTime, this, &DialogData::slotLimitTime);
+    connect(mWarnings, &DialogDataWarning::signalTime, this, &DialogData::slotWarningTime);
+    connect(mFaults, &DialogDataErrorMatrix::signalTime, this, &DialogData::slotFaultTime);
     connect(mOffset, &QDoubleSpinBox::valueChanged, this, &DialogData::slotTimeOffset);
     connect(mSlider, &QSlider::valueChanged, this, &DialogData::slotSlider);
     connect(mTimeEdit, &QTimeEdit::timeChanged, this, &DialogData::slotValue);
@@ -35,7 +44,10 @@ DialogData::DialogData(QWidget* parent)
 void DialogData::createTabs()
 {
     mTabs->addTab(mTable, QIcon(":/icons/canStatistic.svg"), tr("Data"));
-    mViews = {mTable};
+    mTabs->addTab(mLimits, QIcon(":/icons/limit.svg"), tr("Limit/Warning Exceed"));
+    mTabs->addTab(mWarnings, QIcon(":/icons/warningLamp.svg"), tr("Warning Lamps"));
+    mTabs->addTab(mFaults, QIcon(":/icons/faultMatrix.svg"), tr("Fault Matrix"));
+    mViews = {mTable, mLimits, mWarnings, mFaults};
 }
 
 QGridLayout* DialogData::createNavigation()
@@ -46,12 +58,14 @@ QGridLayout* DialogData::createNavigation()
     auto* label = new QLabel(tr("Offset:"));
     label->setBuddy(mOffset);
     auto* grid = new QGridLayout;
-    grid->addWidget(mDateDisplay, 0, 0, 1, 4);
-    grid->addWidget(mTimeDisplay, 1, 0, 1, 4);
+    grid->addWidget(mDateDisplay, 0, 0, 1, 6);
+    grid->addWidget(mTimeDisplay, 1, 0, 1, 6);
     grid->addWidget(label, 2, 0);
     grid->addWidget(mOffset, 2, 1);
     grid->addWidget(mSlider, 2, 2);
     grid->addWidget(mTimeEdit, 2, 3);
+    grid->addWidget(mPrevious, 2, 4);
+    grid->addWidget(mNext, 2, 5);
     grid->setColumnStretch(2, 1);
     return grid;
 }
@@ -99,6 +113,9 @@ void DialogData::createControls()
     mTimeEdit->setDisplayFormat("hh:mm:ss");
     mTimeEdit->setToolTip(tr("Current time; type a time and press Enter to go there"));
     mTimeEdit->setAccessibleName(tr("Go to time"));
+    mPrevious = createEventButton("eventPrevious", tr("Previous event"), Qt::Key_P,
+                                  &DialogData::slotPreviousEvent);
+    mNext = createEventButton("eventNext", tr("Next event"), Qt::Key_N, &DialogData::slotNextEvent);
     // A number is complete with Enter, not after its first digit.
     mOffset->setKeyboardTracking(false);
     mTimeEdit->setKeyboardTracking(false);
@@ -108,6 +125,23 @@ void DialogData::createControls()
     }
 }
 
+QToolButton* DialogData::createEventButton(const char* icon, const QString& toolTip,
+                                           const QKeySequence& key, void (DialogData::*slot)())
+{
+    auto* button = new QToolButton;
+    button->setIcon(QIcon(QString(":/icons/%1.svg").arg(icon)));
+    button->setToolTip(QString("%1 (%2)").arg(toolTip, key.toString()));
+    button->setAccessibleName(toolTip);
+    button->setObjectName(icon);
+    button->setEnabled(false);
+    connect(button, &QToolButton::clicked, this, slot);
+    // For the whole window, so that the key works from every view.
+    auto* shortcut = new QShortcut(key, this);
+    shortcut->setContext(Qt::WindowShortcut);
+    connect(shortcut, &QShortcut::activated, this, slot);
+    return button;
+}
+
 void DialogData::updateRecord(Record* record)
 {
     mRecord = record;
@@ -115,12 +149,45 @@ void DialogData::updateRecord(Record* record)
     mOffset->setEnabled(record != nullptr);
     mSlider->setEnabled(record != nullptr);
     mTimeEdit->setEnabled(record != nullptr);
+    updateEvents();
     updateDisplay();
     for (DataView* view : mViews) {
         view->updateRecord(record);
     }
     for (DataView* view : mViews) {
         view->setTime(mTime);
+    }
+}
+
+void DialogData::loadProfile()
+{
+    const ProfileInfo& profile = Profile::instance()->data();
+    mFaults->loadProfile(profile);
+    mFaults->updateRecord(mRecord);
+    mTabs->setTabVisible(mTabs->indexOf(mWarnings), hasWarningLamps(profile));
+    mTabs->setTabVisible(mTabs->indexOf(mFaults), !profile.faultMatrices.empty());
+    updateEvents();
+}
+
+/// Collects the events to go to; the buttons work while there are any.
+void DialogData::updateEvents()
+{
+    mEvents = mRecord != nullptr ? EventTimes(*mRecord, *Profile::instance()) : EventTimes();
+    mPrevious->setEnabled(!mEvents.empty());
+    mNext->setEnabled(!mEvents.empty());
+}
+
+void DialogData::slotNextEvent()
+{
+    if (const auto time = mEvents.next(mTime)) {
+        goTo(*time, nullptr);
+    }
+}
+
+void DialogData::slotPreviousEvent()
+{
+    if (const auto time = mEvents.previous(mTime)) {
+        goTo(*time, nullptr);
     }
 }
 
@@ -151,6 +218,21 @@ void DialogData::slotValue(QTime time)
 void DialogData::slotTableTime(double time)
 {
     goTo(time, mTable);
+}
+
+void DialogData::slotLimitTime(double time)
+{
+    goTo(time, mLimits);
+}
+
+void DialogData::slotWarningTime(double time)
+{
+    goTo(time, mWarnings);
+}
+
+void DialogData::slotFaultTime(double time)
+{
+    goTo(time, nullptr); // cells and cursor of the matrices move too
 }
 
 void DialogData::slotTimeOffset(double offset)

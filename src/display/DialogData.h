@@ -1,5 +1,6 @@
 #pragma once
 
+#include "faults/EventTimes.h"
 #include "record/Record.h"
 
 #include <QtCore/QTime>
@@ -13,11 +14,15 @@ class QLCDNumber;
 class QSlider;
 class QTabWidget;
 class QTimeEdit;
+class QToolButton;
 
 namespace TARN {
 
 class DataView;
+class DialogDataErrorMatrix;
+class DialogDataLimit;
 class DialogDataTable;
+class DialogDataWarning;
 
 /// The data window: its views, and the one current time that they share. A view that picks a
 /// time reports it here; all others are told, then the displays follow.
@@ -35,6 +40,9 @@ public:
     /// The profile or the parameter selection changed.
     void updateProfile();
 
+    /// A profile was loaded: tabs for lamps and faults follow what it describes.
+    void loadProfile();
+
     /// Current time, seconds on the recording's clock.
     double time() const { return mTime; }
 
@@ -42,25 +50,42 @@ Q_SIGNALS:
     /// Something that the user should read.
     void signalMessage(const QString& text);
 
+public Q_SLOTS:
+    /// Goes to the next or previous event: limit, lamp or fault change.
+    void slotNextEvent();
+    void slotPreviousEvent();
+
 private Q_SLOTS:
     void slotSlider(int position);
     void slotValue(QTime time);
     void slotTimeOffset(double offset);
     void slotTableTime(double time);
+    void slotLimitTime(double time);
+    void slotWarningTime(double time);
+    void slotFaultTime(double time);
 
 private:
     void createTabs();
     QGridLayout* createNavigation();
     void createControls();
+    QToolButton* createEventButton(const char* icon, const QString& toolTip,
+                                   const QKeySequence& key, void (DialogData::*slot)());
     QLCDNumber* createDisplay(int digits, const QString& text, const QString& name);
     void goTo(double time, const DataView* source);
     void updateDisplay();
+    void updateEvents();
 
     Record* mRecord = nullptr;
     double mTime = 0.0;
     bool mUpdating = false; ///< the controls' values are not the user's
     QTabWidget* mTabs;
     DialogDataTable* mTable;
+    DialogDataLimit* mLimits;
+    DialogDataWarning* mWarnings;
+    DialogDataErrorMatrix* mFaults;
+    EventTimes mEvents;
+    QToolButton* mPrevious;
+    QToolButton* mNext;
     std::vector<DataView*> mViews; ///< in the order in which they are told
     QLCDNumber* mDateDisplay;
     QLCDNumber* mTimeDisplay;

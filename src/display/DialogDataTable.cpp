@@ -10,9 +10,7 @@
 namespace TARN {
 
 DialogDataTable::DialogDataTable(QWidget* parent)
-    : QWidget(parent),
-      mModel(new TableModel(this)),
-      mTable(new DataTableView)
+    : QWidget(parent), mModel(new TableModel(this)), mTable(new DataTableView)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,23 +1,9 @@
 #include "display/TableModel.h"
 
+#include "base/CellColor.h"
 #include "base/ClockTime.h"
 
-#include <QtGui/QBrush>
-
 namespace TARN {
-
-namespace {
-
-const QColor TimeBackground(230, 230, 230);
-
-/// Black or white, whichever stands out from the cell.
-QColor textColorOn(const QColor& background)
-{
-    constexpr int MidGrey = 128;
-    return qGray(background.rgb()) < MidGrey ? Qt::white : Qt::black;
-}
-
-} // namespace
 
 TableModel::TableModel(QObject* parent) : QAbstractTableModel(parent) {}
 
@@ -60,7 +46,7 @@ int TableModel::columnCount(const QModelIndex& parent) const
 
 QVariant TableModel::data(const QModelIndex& index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    if (!index.isValid()) {
         return {};
     }
     return index.column() == 0 ? timeData(index.row(), role)
@@ -76,9 +62,9 @@ QVariant TableModel::timeData(int row, int role) const
     case Qt::UserRole:
         return static_cast<qlonglong>(milliseconds);
     case Qt::BackgroundRole:
-        return QBrush(TimeBackground);
+        return backgroundOf(TimeCellColor);
     case Qt::ForegroundRole:
-        return QBrush(Qt::black);
+        return foregroundOn(TimeCellColor);
     default:
         return {};
     }
@@ -99,16 +85,13 @@ QVariant TableModel::valueData(int row, int column, int role) const
     if (role == Qt::DisplayRole) {
         return QString::fromStdString(text);
     }
-    // A normal value takes the table's own colours, which are white in a light theme only.
-    if (!color.isValid() || color == QColor(Qt::white)) {
-        return {};
-    }
-    return QBrush(role == Qt::BackgroundRole ? color : textColorOn(color));
+    return role == Qt::BackgroundRole ? backgroundOf(color) : foregroundOn(color);
 }
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section >= columnCount()) {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
+        section >= columnCount()) {
         return QAbstractTableModel::headerData(section, orientation, role);
     }
     return section == 0 ? tr("Time") : mParameters[static_cast<std::size_t>(section - 1)].title();

@@ -27,7 +27,7 @@ public:
     {
         if (mBits.empty()) {
             mSparse.push_back(key);
-        } else {
+        } else if ((key - mLowest) / 64 < mBits.size()) {
             mBits[(key - mLowest) / 64] |= std::uint64_t(1) << (key - mLowest) % 64;
         }
     }

@@ -11,10 +11,8 @@
 namespace TARN {
 
 DialogExportCsvPath::DialogExportCsvPath(CsvExportOptions& options)
-    : mOptions(options),
-      mPath(new DirectoryEdit(tr("Save CSV/CAN Export"))),
-      mFileType(new QwtComboBox(this, 0)),
-      mFile(new QLineEdit)
+    : mOptions(options), mPath(new DirectoryEdit(tr("Save CSV/CAN Export"))),
+      mFileType(new QwtComboBox(this, 0)), mFile(new QLineEdit)
 {
     setTitle(tr("CSV/CAN Export"));
     setSubTitle(tr("Select the output directory and file"));
@@ -63,9 +61,7 @@ void DialogExportCsvPath::slotFileType(int type)
 }
 
 DialogExportCsvOptions::DialogExportCsvOptions(CsvExportOptions& options)
-    : mOptions(options),
-      mLimiter(new QwtComboBox(this, 0)),
-      mResolution(new QwtComboBox(this, 1)),
+    : mOptions(options), mLimiter(new QwtComboBox(this, 0)), mResolution(new QwtComboBox(this, 1)),
       mParameter(new QwtComboBox(this, 2)),
       mTimes(new WidgetTimeRange(options.startTime, options.stopTime, options.currentTime))
 {

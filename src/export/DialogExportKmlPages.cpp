@@ -35,9 +35,7 @@ ColorButton* createColorButton(const QString& title)
 } // namespace
 
 DialogExportKmlPath::DialogExportKmlPath(KmlExportOptions& options)
-    : mOptions(options),
-      mPath(new DirectoryEdit(tr("Save KML Export"))),
-      mFile(new QLineEdit)
+    : mOptions(options), mPath(new DirectoryEdit(tr("Save KML Export"))), mFile(new QLineEdit)
 {
     setTitle(tr("KML Export"));
     setSubTitle(tr("Select the output directory and file"));

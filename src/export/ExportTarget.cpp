@@ -37,9 +37,7 @@ QString obstacle(const QFileInfo& folder, const QString& file)
 } // namespace
 
 DirectoryEdit::DirectoryEdit(const QString& title, QWidget* parent)
-    : QWidget(parent),
-      mTitle(title),
-      mEdit(new QLineEdit)
+    : QWidget(parent), mTitle(title), mEdit(new QLineEdit)
 {
     auto* browse = new QPushButton(QIcon(":/icons/projectOpen.svg"), tr("Browse..."));
     browse->setToolTip(title);

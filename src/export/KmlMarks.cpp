@@ -44,24 +44,6 @@ QString markTime(int number, double slotWidth, int interval)
     return clockTime(truncatedTo<std::int64_t>(milliseconds)).toString("hh:mm:ss");
 }
 
-template <typename Event>
-KmlMarks marksOf(const std::vector<Event>& events, const FlightPath& path)
-{
-    KmlMarks marks;
-    for (const Event& event : events) {
-        const int slot = path.slotOf(event.time);
-        const PathPosition* position = path.position(slot);
-        if (position == nullptr) {
-            continue;
-        }
-        KmlMark& mark = marks[slot];
-        mark.position = *position;
-        mark.time = clockText(slot * path.slotWidth());
-        mark.items.push_back({event.name, event.value});
-    }
-    return marks;
-}
-
 } // namespace
 
 KmlMarks placeMarks(const Profile& profile, const RecordData& data, const FlightPath& path,
@@ -92,14 +74,21 @@ KmlMarks placeMarks(const Profile& profile, const RecordData& data, const Flight
     return marks;
 }
 
-KmlMarks errorMarks(const std::vector<RecordLimit>& events, const FlightPath& path)
+KmlMarks errorMarks(const std::vector<RecordEvent>& events, const FlightPath& path)
 {
-    return marksOf(events, path);
-}
-
-KmlMarks errorMarks(const std::vector<RecordWarning>& events, const FlightPath& path)
-{
-    return marksOf(events, path);
+    KmlMarks marks;
+    for (const RecordEvent& event : events) {
+        const int slot = path.slotOf(event.time);
+        const PathPosition* position = path.position(slot);
+        if (position == nullptr) {
+            continue;
+        }
+        KmlMark& mark = marks[slot];
+        mark.position = *position;
+        mark.time = clockText(slot * path.slotWidth());
+        mark.items.push_back({event.name, event.value});
+    }
+    return marks;
 }
 
 } // namespace TARN

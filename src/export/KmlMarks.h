@@ -34,7 +34,6 @@ KmlMarks placeMarks(const Profile& profile, const RecordData& data, const Flight
                     const KmlExportOptions& options);
 
 /// A mark for each slot with events that has a position.
-KmlMarks errorMarks(const std::vector<RecordLimit>& events, const FlightPath& path);
-KmlMarks errorMarks(const std::vector<RecordWarning>& events, const FlightPath& path);
+KmlMarks errorMarks(const std::vector<RecordEvent>& events, const FlightPath& path);
 
 } // namespace TARN

@@ -12,12 +12,8 @@
 namespace TARN {
 
 WidgetTimeRange::WidgetTimeRange(double& start, double& stop, const double& cursor, QWidget* parent)
-    : QGroupBox(tr("Start/Stop Time"), parent),
-      mStart(start),
-      mStop(stop),
-      mCursor(cursor),
-      mStartEdit(createEditor(tr("Start time"))),
-      mStopEdit(createEditor(tr("Stop time")))
+    : QGroupBox(tr("Start/Stop Time"), parent), mStart(start), mStop(stop), mCursor(cursor),
+      mStartEdit(createEditor(tr("Start time"))), mStopEdit(createEditor(tr("Stop time")))
 {
     mStartEdit->setObjectName("startTime");
     mStopEdit->setObjectName("stopTime");

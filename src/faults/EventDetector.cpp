@@ -41,7 +41,7 @@ void collectLimits(const Source& source, std::vector<RecordLimit>& limits)
         const int state = source.decoder.state(entry);
         if ((previous == StateOk && state != StateOk) ||
             (previous == StateWarning && state == StateLimit)) {
-            limits.push_back({eventAt(source, entry)});
+            limits.push_back(eventAt(source, entry));
         }
         previous = state;
     }
@@ -62,17 +62,28 @@ void collectWarnings(const Source& source, std::vector<RecordWarning>& warnings)
         } else if (value == 2) {
             event.color = QColor(255, 100, 100);
         }
-        warnings.push_back({event});
+        warnings.push_back(event);
     }
+}
+
+bool isLampEnum(const ProfileEnum& enumeration)
+{
+    return enumeration.name == "WarningLamp";
 }
 
 bool isLamp(const ProfileInfo& profile, const ProfileParameter& parameter)
 {
     const auto found = profile.enums.find(parameter.enumId);
-    return found != profile.enums.end() && found->second.name == "WarningLamp";
+    return found != profile.enums.end() && isLampEnum(found->second);
 }
 
 } // namespace
+
+bool hasWarningLamps(const ProfileInfo& profile)
+{
+    return std::ranges::any_of(profile.enums,
+                               [](const auto& item) { return isLampEnum(item.second); });
+}
 
 void detectEvents(Record& record, const Profile& profile)
 {

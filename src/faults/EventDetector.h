@@ -4,6 +4,10 @@ namespace TARN {
 
 class Profile;
 class Record;
+struct ProfileInfo;
+
+/// Whether the profile knows warning lamps: an enumeration named "WarningLamp".
+bool hasWarningLamps(const ProfileInfo& profile);
 
 /// Finds everything that went wrong in a recording and puts it into its two event lists, which
 /// views and exports read: limits (a parameter entered its warning or limit range) and warnings

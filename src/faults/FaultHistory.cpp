@@ -1,6 +1,7 @@
 #include "faults/FaultHistory.h"
 
 #include "base/ByteOrder.h"
+#include "base/Numbers.h"
 
 #include <algorithm>
 #include <ranges>
@@ -57,9 +58,29 @@ FaultHistory::FaultHistory(const RecordData& record, const FaultMatrix& matrix)
             mLatest.push_back(latest);
         }
     }
+    mTyped = bitsOfType(matrix, ErrorInfo) | bitsOfType(matrix, ErrorWarning) |
+             bitsOfType(matrix, ErrorFault);
     mInfo = changesOf(mEntries, bitsOfType(matrix, ErrorInfo));
     mWarning = changesOf(mEntries, bitsOfType(matrix, ErrorWarning));
     mFault = changesOf(mEntries, bitsOfType(matrix, ErrorFault));
+}
+
+void FaultHistory::appendChangeTimes(std::vector<double>& times) const
+{
+    for (std::size_t i = 1; i < mEntries.size(); ++i) {
+        if (((wordOf(mEntries[i]) ^ wordOf(mEntries[i - 1])) & mTyped) != 0) {
+            times.push_back(mEntries[i].time());
+        }
+    }
+}
+
+int FaultHistory::timelineX(float time, double start, double stop, int width)
+{
+    if (start == stop) {
+        return 0;
+    }
+    const auto pixelsPerSecond = static_cast<float>(width / (stop - start));
+    return truncatedTo<int>(pixelsPerSecond * static_cast<float>(time - start));
 }
 
 std::uint32_t FaultHistory::bitsAt(double time) const

@@ -34,10 +34,19 @@ public:
     const std::vector<FaultPoint>& warning() const { return mWarning; }
     const std::vector<FaultPoint>& fault() const { return mFault; }
 
+    /// Appends the exact times (seconds) of the messages with which an error of any type came or
+    /// went, in message order.
+    void appendChangeTimes(std::vector<double>& times) const;
+
+    /// Horizontal pixel of a time in a timeline of \p width pixels that spans \p start to
+    /// \p stop (seconds); 0 where the two are one.
+    static int timelineX(float time, double start, double stop, int width);
+
 private:
     std::span<const RecordEntry> mEntries;
     /// Latest time up to each message; empty where the messages ascend in time anyway.
     std::vector<double> mLatest;
+    std::uint32_t mTyped = 0; ///< bits that have an error type
     std::vector<FaultPoint> mInfo;
     std::vector<FaultPoint> mWarning;
     std::vector<FaultPoint> mFault;

@@ -51,12 +51,9 @@ Real degreesOf(Real degreesAndMinutes)
 } // namespace
 
 Decoder::Decoder(const ProfileInfo& profile, const ProfileParameter& parameter)
-    : mKind(kindOf(parameter.dataType)),
-      mStartByte(parameter.startByte),
-      mStartBit(parameter.startBit & 31),
-      mMask(maskOf(parameter.startBit, parameter.endBit)),
-      mFactor(parameter.factor),
-      mOffset(parameter.offset),
+    : mKind(kindOf(parameter.dataType)), mStartByte(parameter.startByte),
+      mStartBit(parameter.startBit & 31), mMask(maskOf(parameter.startBit, parameter.endBit)),
+      mFactor(parameter.factor), mOffset(parameter.offset),
       mThreshold(findOrNull(profile.thresholds, parameter.thresholdId)),
       mEnum(findOrNull(profile.enums, parameter.enumId))
 {}

@@ -19,11 +19,8 @@ ProfileParameter* parameterOf(const QTreeWidgetItem* item)
 } // namespace
 
 DialogProfile::DialogProfile(QWidget* parent, Profile& profile)
-    : QWidget(parent),
-      mProfile(profile),
-      mClear(new QPushButton(tr("Clear"))),
-      mConfirm(new QPushButton(tr("Confirm Selection"))),
-      mTree(new QTreeWidget)
+    : QWidget(parent), mProfile(profile), mClear(new QPushButton(tr("Clear"))),
+      mConfirm(new QPushButton(tr("Confirm Selection"))), mTree(new QTreeWidget)
 {
     createControls();
     auto* label = new QLabel(tr("Selected Parameters"));

@@ -3,6 +3,8 @@
 #include "base/Directory.h"
 #include "record/Record.h"
 
+#include <algorithm>
+
 namespace TARN {
 
 namespace {
@@ -14,15 +16,24 @@ bool isRecordingName(const QString& name)
 
 } // namespace
 
+std::vector<QString> cardFiles(const QString& folder)
+{
+    std::vector<QString> files;
+    for (const std::string& entry : Directory(folder.toStdString()).entryList(false)) {
+        const QString path = QString::fromStdString(entry);
+        if (isRecordingName(path) && !Directory::exists(entry)) {
+            files.push_back(path);
+        }
+    }
+    std::ranges::sort(files);
+    return files;
+}
+
 CardInfo readCard(const QString& folder)
 {
     CardInfo card;
     card.path = folder;
-    for (const std::string& entry : Directory(folder.toStdString()).entryList(false)) {
-        const QString path = QString::fromStdString(entry);
-        if (!isRecordingName(path) || Directory::exists(entry)) {
-            continue;
-        }
+    for (const QString& path : cardFiles(folder)) {
         Record record;
         record.readRecordInfo(path);
         card.records[path] = record.recordInfo();

@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 
 #include <map>
+#include <vector>
 
 namespace TARN {
 
@@ -14,6 +15,9 @@ struct CardInfo
     QString path;                          ///< the folder
     std::map<QString, RecordInfo> records; ///< by full path
 };
+
+/// Full paths of the recordings of a folder, sorted.
+std::vector<QString> cardFiles(const QString& folder);
 
 /// Lists the recordings of a folder (files ending in ".CAN" or ".can", not of its sub-folders)
 /// with what their headers say. Empty when the folder can't be opened.

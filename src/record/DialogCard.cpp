@@ -9,9 +9,7 @@
 namespace TARN {
 
 DialogCard::DialogCard(QWidget* parent)
-    : QWidget(parent),
-      mFolder(new QLineEdit),
-      mTree(new QTreeWidget)
+    : QWidget(parent), mFolder(new QLineEdit), mTree(new QTreeWidget)
 {
     mFolder->setReadOnly(true);
     mFolder->setPlaceholderText(tr("No card opened"));

@@ -4,6 +4,8 @@
 #include "base/XmlHandler.h"
 #include "record/RecordFile.h"
 
+#include <cmath>
+
 namespace TARN {
 
 bool Record::readRecordInfo(const QString& path)
@@ -51,7 +53,8 @@ void Record::loadOffset()
     }
     for (QDomElement element = document.documentElement().firstChildElement("Offset");
          !element.isNull(); element = element.nextSiblingElement("Offset")) {
-        mRecordData.offset = xml.xmlGetDoubleAttribute(element.attributes(), "value", 0.0);
+        const double offset = xml.xmlGetDoubleAttribute(element.attributes(), "value", 0.0);
+        mRecordData.offset = std::isfinite(offset) ? offset : 0.0;
     }
     diagnose("loadOffset %f\n", mRecordData.offset);
 }

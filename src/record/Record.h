@@ -41,6 +41,9 @@ public:
     /// and nothing changed when there is not enough memory. Invalidates all lists and spans.
     bool readRecordData(const std::list<QString>& paths);
 
+    /// What kept the last readRecordData from reading everything, naming the file.
+    const QString& errorText() const { return mErrorText; }
+
     /// The time offset belongs to the card folder and is kept there in Offset.xml, seconds.
     /// Setting writes the file; false when that failed (the offset then holds for this run).
     bool setOffset(double seconds);
@@ -56,6 +59,7 @@ private:
     RecordHeaderBytes mRawData{};
     bool mRawDataIsBigEndian = false;
     QString mFolder; ///< of the file last read
+    QString mErrorText;
     ProgressListener mProgress;
 };
 

@@ -18,12 +18,7 @@ struct RecordEvent
     int tenths = 0;    ///< time in tenths of a second, rounded
 };
 
-/// A parameter entered its warning or its limit range.
-struct RecordLimit : RecordEvent
-{};
-
-/// A warning lamp was switched on.
-struct RecordWarning : RecordEvent
-{};
+using RecordLimit = RecordEvent;   ///< a parameter entered its warning or its limit range
+using RecordWarning = RecordEvent; ///< a warning lamp was switched on
 
 } // namespace TARN

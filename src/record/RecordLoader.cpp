@@ -41,9 +41,12 @@ public:
     bool load()
     {
         mGrouper = std::make_unique<SampleGrouper>();
-        if (!mGrouper->reserve(plannedSamples()) || !countAll() || !mGrouper->allocate()) {
-            diagnose("Not enough memory for %zu samples\n", mPlanned);
-            return false;
+        const bool hasRoom = mGrouper->reserve(plannedSamples());
+        if (hasRoom) {
+            countAll();
+        }
+        if (!hasRoom || !mGrouper->allocate()) {
+            return fail(QString("not enough memory for %1 samples").arg(mPlanned));
         }
         // The block is not touched yet, so giving the old samples back first keeps the two
         // recordings from being in memory together.
@@ -77,7 +80,7 @@ private:
         return mPlanned;
     }
 
-    bool countAll()
+    void countAll()
     {
         for (Part& part : mParts) {
             RecordFile file;
@@ -93,7 +96,6 @@ private:
             }
             part.countedTo = mGrouper->counted();
         }
-        return true;
     }
 
     bool storeAll()
@@ -104,13 +106,14 @@ private:
             RecordFile file;
             if (!file.open(part.path)) {
                 diagnose("Could not open %s\n", qUtf8Printable(part.path));
-                return false;
+                return fail(QString("could not open the recording \"%1\"").arg(part.path));
             }
             mRecord.mRecordInfo.fileName = part.path;
             mRecord.mRecordInfo.samples = file.samples();
             const bool swapped = readHeader(file);
+            mGrouper->beginFile(part.countedTo);
             storeFile(file, swapped, isHighFile(part.path));
-            mGrouper->skipTo(part.countedTo);
+            mGrouper->endFile();
             diagnose("<%s> mRecordInfo.startTime %.0f mRecordInfo.stopTime %.0f\n",
                      qUtf8Printable(part.path), mRecord.mRecordInfo.startTime,
                      mRecord.mRecordInfo.stopTime);
@@ -155,6 +158,12 @@ private:
                  mRecord.mRecordInfo.stopTime);
     }
 
+    bool fail(const QString& reason)
+    {
+        mRecord.mErrorText = reason;
+        return false;
+    }
+
     void widenTimes(double time)
     {
         RecordInfo& info = mRecord.mRecordInfo;
@@ -195,10 +204,11 @@ private:
 
 bool Record::readRecordData(const std::list<QString>& paths)
 {
+    mErrorText.clear();
     try {
         return Loader(*this, paths).load();
     } catch (const std::bad_alloc&) {
-        diagnose("Not enough memory to read the recording\n");
+        mErrorText = "not enough memory to read the recording";
         return false;
     }
 }

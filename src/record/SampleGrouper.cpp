@@ -54,19 +54,22 @@ bool SampleGrouper::allocate()
 
 void SampleGrouper::finish(RecordData& data)
 {
+    // All that may run out of memory comes before anything is handed over.
+    std::vector<std::uint32_t> timeOrder = mRuns.order(mSamples.get(), {mOrder.get(), mStored});
+    std::vector<RecordIdList> lists;
+    lists.reserve(mGroups.size());
     std::ranges::sort(mGroups, {}, &Group::key);
-    data.mLists.clear();
-    data.mLists.reserve(mGroups.size());
     for (const Group& group : mGroups) {
         if (group.size > 0) {
-            data.mLists.push_back({static_cast<unsigned>(group.key >> 32),
-                                   static_cast<unsigned>(group.key),
-                                   {&mSamples[group.begin], group.size},
-                                   group.highFile});
+            lists.push_back({static_cast<unsigned>(group.key >> 32),
+                             static_cast<unsigned>(group.key),
+                             {&mSamples[group.begin], group.size},
+                             group.highFile});
         }
     }
     data.mCount = mStored;
-    data.mTimeOrder = mRuns.order(mSamples.get(), {mOrder.get(), mStored});
+    data.mLists = std::move(lists);
+    data.mTimeOrder = std::move(timeOrder);
     data.mSamples = std::move(mSamples);
     data.mFileOrder = std::move(mOrder);
     data.mChannelLists.clear();

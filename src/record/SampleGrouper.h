@@ -36,9 +36,12 @@ public:
     template <typename Visitor>
     void store(std::span<const unsigned char> samples, bool swapped, bool highFile, Visitor visit);
 
-    /// Samples of the first pass that the second one has not been given, up to \p counted, are
-    /// skipped: call where a file turns out shorter than when it was counted.
-    void skipTo(std::size_t counted) { mRead = counted; }
+    /// Before a file's second pass: \p counted is what the first pass had counted with its last
+    /// sample. Samples that a file has gained since are left out.
+    void beginFile(std::size_t counted) { mFileEnd = counted; }
+
+    /// After it: places of samples that the file has lost since stay empty.
+    void endFile() { mRead = mFileEnd; }
 
     std::size_t counted() const { return mCounted; }
 
@@ -73,6 +76,7 @@ private:
     std::size_t mReserved = 0;
     std::size_t mCounted = 0;
     std::size_t mRead = 0;
+    std::size_t mFileEnd = 0;
     std::size_t mStored = 0;
     std::unique_ptr<RecordEntry[]> mSamples;
     /// In the first pass the group of each sample, in the second its position in the block.
@@ -101,7 +105,7 @@ template <typename Visitor>
 void SampleGrouper::store(std::span<const unsigned char> samples, bool swapped, bool highFile,
                           Visitor visit)
 {
-    for (std::size_t at = 0; at + sizeof(RecordEntry) <= samples.size() && mRead < mCounted;
+    for (std::size_t at = 0; at + sizeof(RecordEntry) <= samples.size() && mRead < mFileEnd;
          at += sizeof(RecordEntry)) {
         const RecordEntry entry = loadEntry(samples.data() + at, swapped);
         Group& group = mGroups[mOrder[mRead++]];

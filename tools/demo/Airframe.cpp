@@ -19,10 +19,8 @@ constexpr double kRollingFriction = 0.02;
 } // namespace
 
 Airframe::Airframe(Random& random)
-    : mRandom(random),
-      mPosition(departureRunway().at(900.0, 220.0)),
-      mAltitude(departureRunway().elevation),
-      mHeading(departureRunway().course - kPi / 2.0),
+    : mRandom(random), mPosition(departureRunway().at(900.0, 220.0)),
+      mAltitude(departureRunway().elevation), mHeading(departureRunway().course - kPi / 2.0),
       mTrack(mHeading)
 {
     mAir = airAt(mAltitude);

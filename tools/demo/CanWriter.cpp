@@ -15,9 +15,7 @@ constexpr std::size_t kHeaderSize = 128;
 } // namespace
 
 CanWriter::CanWriter(std::string path, bool littleEndian)
-    : mPath(std::move(path)),
-      mWorkPath(mPath + ".part"),
-      mLittleEndian(littleEndian)
+    : mPath(std::move(path)), mWorkPath(mPath + ".part"), mLittleEndian(littleEndian)
 {
     mBuffer.reserve(kBufferSize + kHeaderSize);
 }

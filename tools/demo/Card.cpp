@@ -55,8 +55,7 @@ class Card
 {
 public:
     explicit Card(const CardOptions& options)
-        : mOptions(options),
-          mTraffic(startTicks(), options.scale, options.seed)
+        : mOptions(options), mTraffic(startTicks(), options.scale, options.seed)
     {}
 
     std::string write()

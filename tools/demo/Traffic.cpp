@@ -20,8 +20,7 @@ bool restsAtZero(Signal signal)
 } // namespace
 
 Traffic::Traffic(std::uint64_t startTicks, int scale, std::uint64_t seed)
-    : mStartTicks(startTicks),
-      mRandom(seed ^ 0xB05)
+    : mStartTicks(startTicks), mRandom(seed ^ 0xB05)
 {
     // A frame with eight data bytes takes about 125 us at 1 Mbit/s. Scaled rates are those of an
     // accordingly faster bus.

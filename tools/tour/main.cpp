@@ -57,8 +57,7 @@ class Tour
 {
 public:
     Tour(TARN::DialogMain& window, const Arguments& arguments)
-        : mWindow(window),
-          mArguments(arguments)
+        : mWindow(window), mArguments(arguments)
     {}
 
     bool run()
