@@ -43,6 +43,7 @@ DialogData::DialogData(QWidget* parent)
 
 void DialogData::createTabs()
 {
+    mTabs->setObjectName("views");
     mTabs->addTab(mTable, QIcon(":/icons/canStatistic.svg"), tr("Data"));
     mTabs->addTab(mLimits, QIcon(":/icons/limit.svg"), tr("Limit/Warning Exceed"));
     mTabs->addTab(mWarnings, QIcon(":/icons/warningLamp.svg"), tr("Warning Lamps"));

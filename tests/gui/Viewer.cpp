@@ -1,5 +1,6 @@
 #include "gui/Viewer.h"
 
+#include "app/DialogSplash.h"
 #include "app/StartUp.h"
 #include "base/Property.h"
 #include "demo/Card.h"
@@ -22,13 +23,13 @@ void writeFile(const QString& path, const QString& text)
 
 } // namespace
 
-Viewer::Viewer()
+Viewer::Viewer(int minutes)
 {
     qputenv("HOME", mHome.path().toUtf8());
     QDir(mHome.path()).mkpath("ORNA");
     TARN::CardOptions card;
     card.folder = cardPath().toStdString();
-    card.minutes = 10;
+    card.minutes = minutes;
     card.files = 2;
     QCOMPARE(TARN::writeCard(card), std::string());
     writeFile(projectPath(), "<TarnProject>\n    <Parameters>\n"
@@ -54,7 +55,9 @@ TARN::DialogMain& Viewer::start()
     TARN::Property::instance()->clear();
     mWindow.reset(TARN::startUp(*qApp));
     mWindow->setEndProcess([this] { mClosed = true; });
-    [this] { QVERIFY(QTest::qWaitForWindowExposed(mWindow.get())); }();
+    TARN::DialogSplash::instance()->close(); // shortcuts work in the active window only
+    mWindow->activateWindow();
+    [this] { QVERIFY(QTest::qWaitForWindowActive(mWindow.get())); }();
     QTest::qWait(100); // the last card and project are opened shortly after the start
     return *mWindow;
 }

@@ -18,8 +18,8 @@
 class Viewer
 {
 public:
-    /// Makes home, card (two files of a short flight) and project; starts nothing.
-    Viewer();
+    /// Makes home, card (two files of a flight of so many minutes) and project; starts nothing.
+    explicit Viewer(int minutes = 10);
 
     QString cardPath() const { return mHome.filePath("card"); }
     QString projectPath() const { return mHome.filePath("Flight.test.xml"); }

@@ -10,6 +10,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QSlider>
+#include <QtWidgets/QTabWidget>
+#include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
 
 #include <CLI/CLI.hpp>
@@ -79,11 +81,23 @@ public:
         mWindow.findChild<QSlider*>("timeSlider")->setValue(2200);
         live(300);
         shoot("03-table");
+        auto* next = mWindow.findChild<QToolButton*>("eventNext");
+        auto* tabs = mWindow.findChild<QTabWidget*>("views");
+        for (int i = 0; i < EventsToPass; ++i) {
+            next->click();
+        }
+        for (int tab = 1; tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            live(400);
+            shoot(QString("%1-tab-%2").arg(tab + 3, 2, 10, QChar('0')).arg(tab));
+        }
         return !mFailed;
     }
 
 private:
-    void shoot(const char* name)
+    static constexpr int EventsToPass = 9; ///< into the middle of the flight's story
+
+    void shoot(const QString& name)
     {
         const QString suffix = mArguments.dark ? "-dark" : "";
         const QString file = QString::fromStdString(mArguments.out) + "/" + name + suffix + ".png";
