@@ -5,11 +5,11 @@ set -euo pipefail
 packages=(
     # build
     g++ cmake ninja-build ccache pkg-config
-    qt6-base-dev qt6-base-dev-tools libqt6svg6-dev
+    qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libqt6opengl6-dev
     qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
     libgl-dev libopengl-dev libcli11-dev nlohmann-json3-dev
     # test and benchmark
-    clang-format-14 libbenchmark-dev
+    clang-format-14 gdal-bin
     # a screen where there is none
     xvfb xauth xdotool libgl1-mesa-dri fonts-dejavu-core
 )

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "base/LargeArray.h"
 #include "record/RecordEntry.h"
 #include "record/RecordEvent.h"
 
 #include <cstddef>
 #include <map>
-#include <memory>
 #include <span>
 #include <vector>
 
@@ -80,8 +80,8 @@ private:
     const RecordIdList* allOfChannel(unsigned channel, unsigned id) const;
 
     std::size_t mCount = 0;
-    std::unique_ptr<RecordEntry[]> mSamples;
-    std::unique_ptr<std::uint32_t[]> mFileOrder;
+    LargeArray<RecordEntry> mSamples;
+    LargeArray<std::uint32_t> mFileOrder;
     std::vector<std::uint32_t> mTimeOrder; ///< empty when it equals the file order
     std::vector<RecordIdList> mLists;      ///< by channel, then identifier
     mutable std::map<unsigned, ChannelList> mChannelLists;

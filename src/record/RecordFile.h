@@ -10,8 +10,8 @@
 
 namespace TARN {
 
-/// One recording file, read in order in pieces of about a megabyte. The file is never mapped: a
-/// card that is pulled out would then end the process instead of the reading.
+/// One recording file, read in order in pieces of a quarter of a megabyte. The file is never
+/// mapped: a card that is pulled out would then end the process instead of the reading.
 class RecordFile
 {
 public:

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <new>
 
 namespace TARN {
 
@@ -13,24 +12,15 @@ bool SampleGrouper::reserve(std::size_t samples)
     }
     mReserved = samples;
     mRecent.fill({~Key(0), 0}); // no identifier has bit 31 set, so no key matches
-    mOrder.reset(new (std::nothrow) std::uint32_t[samples]);
+    mOrder = makeLargeArray<std::uint32_t>(samples);
     return mOrder != nullptr;
 }
 
 void SampleGrouper::count(std::span<const unsigned char> samples, bool swapped)
 {
-    constexpr std::size_t ChannelInSample = 10;
-    constexpr std::size_t IdInSample = 12;
     for (std::size_t at = 0; at + sizeof(RecordEntry) <= samples.size() && mCounted < mReserved;
          at += sizeof(RecordEntry)) {
-        const unsigned char* sample = samples.data() + at;
-        auto channel = loadLittle<std::uint16_t>(sample + ChannelInSample);
-        auto id = loadLittle<std::uint32_t>(sample + IdInSample);
-        if (swapped) {
-            channel = byteSwapped(channel);
-            id = byteSwapped(id);
-        }
-        const std::uint32_t group = groupOf(keyOf(channel, id & 0x7FFFFFFFU));
+        const std::uint32_t group = groupOf(keyAt(samples.data() + at, swapped));
         ++mGroups[group].size;
         mOrder[mCounted++] = group;
     }
@@ -39,7 +29,7 @@ void SampleGrouper::count(std::span<const unsigned char> samples, bool swapped)
 bool SampleGrouper::allocate()
 {
     mIndex = {};
-    mSamples.reset(new (std::nothrow) RecordEntry[mCounted]);
+    mSamples = makeLargeArray<RecordEntry>(mCounted);
     if (mSamples == nullptr) {
         return false;
     }

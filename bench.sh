@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Builds and runs the benchmarks. Prints one line a figure, "NAME VALUE TARGET ok|short", and
+# nothing else on standard output. --quick leaves the 1 GB recording out, --peers adds other
+# tools where they are installed, a name's beginning ("load.") measures those figures alone.
+set -euo pipefail
+cd "$(dirname "$0")"
+if [ -x scripts/setup.sh ]; then
+    scripts/setup.sh >&2
+fi
+
+build=build/bench
+mkdir -p "$build"
+{
+    cmake --preset bench -DCMAKE_CXX_COMPILER_LAUNCHER=ccache &&
+        cmake --build --preset bench --target orna-bench
+} >"$build/build-log.txt" 2>&1 || {
+    cat "$build/build-log.txt" >&2
+    exit 1
+}
+export TMPDIR=$PWD/$build # on the disk, where /tmp may be memory
+exec "$build/bin/orna-bench" "$@"

@@ -1,0 +1,73 @@
+#include "Suite.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace TARN::Bench {
+
+Suite::Suite(Options options) : mOptions(std::move(options))
+{
+    std::string folder = (std::filesystem::temp_directory_path() / "orna-bench-XXXXXX").string();
+    require(mkdtemp(folder.data()) != nullptr, "no folder for the recordings");
+    mFolder = folder;
+}
+
+Suite::~Suite()
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(mFolder, ignored);
+}
+
+void Suite::figure(const std::string& name, Target target, const Measurement& value)
+{
+    if (!isWanted(name)) {
+        return;
+    }
+    const double got = value();
+    const bool isMet = target.isCeiling ? got <= target.value : got >= target.value;
+    std::printf("%s %.4g %s%g %s\n", name.c_str(), got,
+                target.isCeiling ? "<=" : ">=", target.value, isMet ? "ok" : "short");
+    std::fflush(stdout);
+}
+
+void Suite::peer(const std::string& name, const Measurement& value)
+{
+    if (mOptions.peers && isWanted(name)) {
+        std::printf("%s %.4g - peer\n", name.c_str(), value());
+        std::fflush(stdout);
+    }
+}
+
+const std::string& Suite::recording(const std::string& name,
+                                    const std::function<void(const std::string& path)>& write)
+{
+    std::string& path = mRecordings[name];
+    if (path.empty()) {
+        path = (mFolder / (name + ".CAN")).string();
+        write(path);
+    }
+    return path;
+}
+
+const std::string& Suite::busRecording(std::size_t megabytes)
+{
+    return recording("bus" + std::to_string(megabytes), [&](const std::string& path) {
+        writeRecording(path, busMessages(), megabytes * 1'000'000 / SampleSize);
+    });
+}
+
+const std::string& Suite::shuffledRecording(std::size_t megabytes)
+{
+    const std::string& ordered = busRecording(megabytes);
+    return recording("shuffled" + std::to_string(megabytes),
+                     [&](const std::string& path) { shuffleBlocks(ordered, path); });
+}
+
+const std::string& Suite::tableRecording(std::size_t rows)
+{
+    return recording("table" + std::to_string(rows), [&](const std::string& path) {
+        writeRecording(path, tableMessages(), rows * tableMessages().size());
+    });
+}
+
+} // namespace TARN::Bench

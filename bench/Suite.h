@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Harness.h"
+#include "Traffic.h"
+
+#include <filesystem>
+#include <map>
+#include <string>
+
+namespace TARN::Bench {
+
+/// What is asked of a figure.
+struct Target
+{
+    bool isCeiling;
+    double value;
+};
+
+constexpr Target atMost(double value)
+{
+    return {true, value};
+}
+
+constexpr Target atLeast(double value)
+{
+    return {false, value};
+}
+
+struct Options
+{
+    bool quick = false;
+    bool peers = false;
+    std::string only; ///< start of the names of the figures to measure; empty for all
+};
+
+/// Measures figures and prints each as a line "NAME VALUE TARGET ok|short" on standard output.
+/// Owns the recordings that are measured on; they are deleted with it.
+class Suite
+{
+public:
+    explicit Suite(Options options);
+    ~Suite();
+    Suite(const Suite&) = delete;
+    Suite& operator=(const Suite&) = delete;
+
+    const Options& options() const { return mOptions; }
+
+    /// Does nothing when the figure was not asked for.
+    void figure(const std::string& name, Target target, const Measurement& value);
+
+    /// A rival's ratio that nothing is asked of: "NAME VALUE - peer". Only with --peers.
+    void peer(const std::string& name, const Measurement& value);
+
+    /// A recording of the bus with \p megabytes of samples, made when it is first asked for.
+    const std::string& busRecording(std::size_t megabytes);
+    /// The same with its blocks of 256 samples in a random order.
+    const std::string& shuffledRecording(std::size_t megabytes);
+    /// A recording in which each of tableMessages() sends once in every tenth of a second.
+    const std::string& tableRecording(std::size_t rows);
+
+private:
+    bool isWanted(const std::string& name) const { return name.starts_with(mOptions.only); }
+    const std::string& recording(const std::string& name,
+                                 const std::function<void(const std::string& path)>& write);
+
+    Options mOptions;
+    std::filesystem::path mFolder;
+    std::map<std::string, std::string> mRecordings; ///< path by name
+};
+
+// The figures, one source for each subject.
+void loadFigures(Suite& suite);
+void decodeFigures(Suite& suite);
+void tableFigures(Suite& suite);
+void peerFigures(Suite& suite);
+
+} // namespace TARN::Bench

@@ -1,0 +1,152 @@
+#include "PlainReader.h"
+#include "Suite.h"
+#include "record/Record.h"
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <malloc.h>
+#include <memory>
+#include <unistd.h>
+
+namespace TARN::Bench {
+
+namespace {
+
+void load(Record& record, const std::string& path)
+{
+    require(record.readRecordData({QString::fromStdString(path)}), "can't load " + path);
+}
+
+Measurement loadOf(const std::string& path)
+{
+    return [path] {
+        Record record;
+        return secondsOf([&] { load(record, path); });
+    };
+}
+
+/// The least that a program can do which wants the file's bytes in its memory.
+Measurement plainReadOf(const std::string& path)
+{
+    return [path] {
+        std::unique_ptr<char, decltype(&std::free)> bytes(nullptr, std::free);
+        return secondsOf([&] {
+            const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+            const auto size = static_cast<std::size_t>(lseek(file, 0, SEEK_END));
+            bytes.reset(static_cast<char*>(std::malloc(size)));
+            lseek(file, 0, SEEK_SET);
+            std::size_t done = 0;
+            for (ssize_t got = 1; got > 0 && done < size; done += static_cast<std::size_t>(got)) {
+                got = read(file, bytes.get() + done, size - done);
+            }
+            close(file);
+            require(done == size, "short read");
+        });
+    };
+}
+
+Measurement linkedLoadOf(const std::string& path)
+{
+    return [path] {
+        LinkedRecord record;
+        return secondsOf([&] { record.load(path); });
+    };
+}
+
+double bytesFromSystem()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.arena + info.hblkhd);
+}
+
+Measurement bytesPerSampleOf(const std::string& path)
+{
+    return [path] {
+        const double before = bytesFromSystem();
+        Record record;
+        load(record, path);
+        return (bytesFromSystem() - before) / static_cast<double>(record.recordData().count());
+    };
+}
+
+Measurement perSample(const Measurement& time, std::size_t megabytes)
+{
+    return [=] { return time() / static_cast<double>(megabytes); };
+}
+
+/// Every list and both orders, sample by sample, against a reader that does the plain thing.
+void checkLoad(const std::string& path)
+{
+    inChild([&] {
+        Record record;
+        load(record, path);
+        const PlainRecord plain(path);
+        const RecordData& data = record.recordData();
+        require(data.count() == plain.samples().size(), "wrong number of samples");
+        std::map<ListKey, Digest> lists;
+        for (const RecordIdList& list : data.lists()) {
+            lists[{list.channel, list.id}] = Digest::of(list.entries);
+        }
+        require(lists == plain.lists(), "a list differs");
+        Digest inFileOrder;
+        Digest inTimeOrder;
+        for (std::size_t k = 0; k < data.count(); ++k) {
+            inFileOrder.add(data.inFileOrder(k));
+            inTimeOrder.add(data.inTimeOrder(k));
+        }
+        require(inFileOrder == Digest::of(plain.samples()), "the file order differs");
+        require(inTimeOrder == plain.inTimeOrder(), "the time order differs");
+        return 0.0;
+    });
+}
+
+double checkedRatio(const std::string& path, const Measurement& ours, const Measurement& rival)
+{
+    checkLoad(path);
+    return ratioOf(ours, rival);
+}
+
+double growth(Suite& suite)
+{
+    constexpr std::size_t Small = 10;
+    const std::size_t large = suite.options().quick ? 100 : 1000;
+    for (const std::size_t megabytes : {std::size_t(1), Small, large}) {
+        checkLoad(suite.busRecording(megabytes));
+    }
+    return ratioOf(perSample(loadOf(suite.busRecording(large)), large),
+                   perSample(loadOf(suite.busRecording(Small)), Small));
+}
+
+double linkedRatio(Suite& suite)
+{
+    const std::string& path = suite.busRecording(100);
+    checkLoad(path);
+    inChild([&] {
+        LinkedRecord linked;
+        linked.load(path);
+        require(linked.digests() == PlainRecord(path).lists(), "the rival's lists differ");
+        return 0.0;
+    });
+    return ratioOf(linkedLoadOf(path), loadOf(path), 5);
+}
+
+} // namespace
+
+void loadFigures(Suite& suite)
+{
+    suite.figure("load.time", atMost(2.0), [&] {
+        const std::string& path = suite.busRecording(100);
+        return checkedRatio(path, loadOf(path), plainReadOf(path));
+    });
+    suite.figure("load.growth", atMost(1.3), [&] { return growth(suite); });
+    suite.figure("load.disorder", atMost(3.5), [&] {
+        const std::string& path = suite.shuffledRecording(100);
+        return checkedRatio(path, loadOf(path), plainReadOf(path));
+    });
+    // A recording that is not in order holds a second index, so this is the larger case.
+    suite.figure("load.memory", atMost(46.0),
+                 [&] { return medianOf(bytesPerSampleOf(suite.shuffledRecording(100))); });
+    suite.figure("load.naive", atLeast(40.0), [&] { return linkedRatio(suite); });
+}
+
+} // namespace TARN::Bench
