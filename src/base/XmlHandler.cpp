@@ -2,11 +2,11 @@
 
 #include "base/Diagnostics.h"
 #include "base/Numbers.h"
+#include "base/OutputFile.h"
 #include "base/XmlText.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QSaveFile>
 #include <QtCore/QXmlStreamReader>
 
 namespace TARN {
@@ -209,11 +209,11 @@ bool XmlHandler::xmlReadFile(QDomDocument& document, const QString& folder, cons
 
 bool XmlHandler::xmlWriteFile(const QDomDocument& document, const QString& file)
 {
-    QSaveFile out(file);
-    if (!out.open(QIODevice::WriteOnly)) {
+    OutputFile out(file);
+    if (!out.open()) {
         return false;
     }
-    out.write(xmlText(document).toUtf8());
+    out.write(xmlText(document).toStdString());
     return out.commit();
 }
 

@@ -3,7 +3,7 @@
 #include "base/ByteOrder.h"
 #include "base/Diagnostics.h"
 #include "base/Numbers.h"
-#include "export/OutputFile.h"
+#include "base/OutputFile.h"
 
 #include <QtCore/QCoreApplication>
 

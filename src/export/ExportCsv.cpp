@@ -2,7 +2,7 @@
 
 #include "base/ClockTime.h"
 #include "base/Diagnostics.h"
-#include "export/OutputFile.h"
+#include "base/OutputFile.h"
 #include "profile/Profile.h"
 
 #include <QtCore/QCoreApplication>
@@ -52,7 +52,8 @@ ExportResult ExportCsv::exportData(Record& record, const CsvExportOptions& optio
         }
     }
     const std::int64_t first = tick(mEarliest);
-    const std::int64_t last = tick(options.stopTime);
+    // Without a sample there is no row, whatever the end of the range.
+    const std::int64_t last = mEarliest == NoSample ? first - 1 : tick(options.stopTime);
     diagnose("th0 %lld th1 %lld\n", static_cast<long long>(first), static_cast<long long>(last));
     const QString reason = refusal(first, last, options);
     if (!reason.isEmpty()) {

@@ -82,7 +82,8 @@ void FlightPath::fillBackward()
     const PathPosition* next = nullptr;
     for (auto at = mPositions.rbegin(); at != mPositions.rend(); ++at) {
         for (const auto coordinate : Coordinates) {
-            if (next == nullptr || at->second.*coordinate >= Missing) {
+            const bool isMissing = at->second.*coordinate < Missing; // NaN is a value
+            if (next == nullptr || !isMissing) {
                 continue;
             }
             at->second.*coordinate = next->*coordinate;
