@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds, makes the demo flight and opens the viewer on it, with a home
 # of its own so that the user's settings are never touched. Without a display it runs the same
-# session under a virtual one and leaves screenshots.
+# session under a virtual one and leaves screenshots and exports.
 set -euo pipefail
 cd "$(dirname "$0")"
 scripts/setup.sh
@@ -10,7 +10,7 @@ root=$PWD
 build=$root/build/release
 demo=$root/build/demo
 cmake --preset release -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >"$root/build-log.txt" 2>&1 &&
-    cmake --build --preset release --target orna orna-demo orna-tour >>"$root/build-log.txt" 2>&1 || {
+    cmake --build --preset release --target orna orna-cli orna-demo orna-tour >>"$root/build-log.txt" 2>&1 || {
     cat "$root/build-log.txt"
     exit 1
 }
@@ -35,9 +35,20 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || [ "$(uname)" = Darwin ]; then
     echo "Opening the demo flight: click a recording in the list on the left."
     exec orna.app/Contents/MacOS/orna
 fi
+profile=orna.app/Contents/Resources/Tolvane_Profile.xml
+selection=(--profile "$profile" --project "$HOME/ORNA/Demo_Project.xml")
+recordings=("$demo"/card/LOG_*.CAN)
+{
+    bin/orna-cli csv "${selection[@]}" -o "$demo/flight.csv" "${recordings[@]}"
+    bin/orna-cli kml "${selection[@]}" -o "$demo/flight.kml" "${recordings[@]}"
+    bin/orna-cli can --start 33800 --stop 33900 -o "$demo/excerpt.CAN" "${recordings[@]}"
+} 2>"$demo/export-log.txt" || {
+    cat "$demo/export-log.txt"
+    exit 1
+}
 xvfb-run -a -s "-screen 0 1400x1000x24" bin/orna-tour "$demo" >"$demo/tour-log.txt" 2>&1 || {
     cat "$demo/tour-log.txt"
     exit 1
 }
-echo "No display here: the demo flight was opened on a virtual one. Screenshots of it:"
-ls "$demo"/*.png
+echo "No display here: the demo flight was opened on a virtual one. Screenshots and exports of it:"
+ls "$demo"/*.png "$demo"/flight.* "$demo"/excerpt.CAN

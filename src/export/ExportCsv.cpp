@@ -6,6 +6,7 @@
 #include "profile/Profile.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFileInfo>
 #include <QtCore/QStorageInfo>
 
 #include <algorithm>
@@ -162,7 +163,7 @@ QString ExportCsv::refusal(std::int64_t first, std::int64_t last, const CsvExpor
         rowSize += text.size() + 1;
     }
     const auto size = static_cast<double>(rowSize) * static_cast<double>(last - first + 1);
-    const QStorageInfo disk(QString::fromStdString(options.directory));
+    const QStorageInfo disk(QFileInfo(options.path()).absolutePath());
     if (disk.isValid() && size > static_cast<double>(disk.bytesAvailable())) {
         return translated("The table would have %1 rows, about %2 MB, more than is free in \"%3\".")
                    .arg(last - first + 1)
