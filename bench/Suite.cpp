@@ -70,4 +70,11 @@ const std::string& Suite::tableRecording(std::size_t rows)
     });
 }
 
+const std::string& Suite::csvRecording()
+{
+    return recording("csv", [&](const std::string& path) {
+        writeRecording(path, csvMessages(), csvRows() * csvMessages().size());
+    });
+}
+
 } // namespace TARN::Bench

@@ -58,6 +58,11 @@ public:
     /// A recording in which each of tableMessages() sends once in every tenth of a second.
     const std::string& tableRecording(std::size_t rows);
 
+    /// A recording of csvMessages() over an hour, with --quick over six minutes.
+    const std::string& csvRecording();
+    /// Its rows at a tenth of a second.
+    std::size_t csvRows() const { return mOptions.quick ? 3'600 : 36'000; }
+
 private:
     bool isWanted(const std::string& name) const { return name.starts_with(mOptions.only); }
     const std::string& recording(const std::string& name,
@@ -72,6 +77,7 @@ private:
 void loadFigures(Suite& suite);
 void decodeFigures(Suite& suite);
 void tableFigures(Suite& suite);
+void exportFigures(Suite& suite);
 void peerFigures(Suite& suite);
 
 } // namespace TARN::Bench

@@ -85,14 +85,28 @@ std::vector<Message> busMessages()
     return messages;
 }
 
-std::vector<Message> tableMessages()
+namespace {
+
+std::vector<Message> tenthlyMessages(unsigned count)
 {
     std::vector<Message> messages;
-    for (unsigned i = 0; i < 30; ++i) {
+    for (unsigned i = 0; i < count; ++i) {
         // Sent before the half of a tenth, so that all numbers of a tenth round to one row.
         messages.push_back({0, 500 + i, DataType::Float, 10, static_cast<int>(i % 5)});
     }
     return messages;
+}
+
+} // namespace
+
+std::vector<Message> tableMessages()
+{
+    return tenthlyMessages(30);
+}
+
+std::vector<Message> csvMessages()
+{
+    return tenthlyMessages(50);
 }
 
 void fillPayload(const Message& message, std::uint64_t slot, Random& random, unsigned char* to)

@@ -47,6 +47,9 @@ std::vector<Message> busMessages();
 /// 30 numbers, each sent once in every tenth of a second.
 std::vector<Message> tableMessages();
 
+/// 50 of them.
+std::vector<Message> csvMessages();
+
 /// Bytes 0 to 7 of a sample: a number that wanders where the type is FLOAT, else any bits.
 void fillPayload(const Message& message, std::uint64_t slot, Random& random, unsigned char* to);
 

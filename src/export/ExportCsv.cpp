@@ -7,10 +7,10 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
-#include <QtCore/QStorageInfo>
 
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <limits>
 #include <numeric>
 
@@ -41,6 +41,7 @@ void appendPadded(std::int64_t value, int digits, std::string& out)
 ExportResult ExportCsv::exportData(Record& record, const CsvExportOptions& options)
 {
     mColumns.clear();
+    mCells.clear();
     mEarliest = NoSample;
     mLatest = -NoSample;
     mStepsPerSecond = 1.0 / (options.resolution * 0.001);
@@ -69,23 +70,17 @@ std::int64_t ExportCsv::tick(double time) const
     return truncatedTo<std::int64_t>(time * mStepsPerSecond + 0.5);
 }
 
-std::int64_t ExportCsv::tickOf(const Column& column, std::size_t k) const
+void ExportCsv::findNextTick(Column& column) const
 {
-    return tick(column.at(k).time() + column.shift);
+    column.nextTick =
+        column.next < column.size() ? tick(column.at(column.next).time() + column.shift) : NoTick;
 }
 
 void ExportCsv::addColumn(const Record& record, const ProfileParameter& parameter,
                           const CsvExportOptions& options)
 {
-    Column column{parameter.name.toStdString(),
-                  Decoder(mProfile.data(), parameter),
-                  {},
-                  0.0,
-                  {},
-                  false,
-                  0,
-                  {},
-                  false};
+    Column column{.title = parameter.name.toStdString(),
+                  .decoder = Decoder(mProfile.data(), parameter)};
     const RecordIdList* list = record.recordData().find(static_cast<unsigned>(parameter.channel),
                                                         static_cast<unsigned>(parameter.id));
     if (list != nullptr) {
@@ -93,6 +88,7 @@ void ExportCsv::addColumn(const Record& record, const ProfileParameter& paramete
         column.shift = list->shift(record.recordData().offset);
         scan(column, options);
     }
+    findNextTick(column);
     mColumns.push_back(std::move(column));
 }
 
@@ -117,8 +113,9 @@ void ExportCsv::scan(Column& column, const CsvExportOptions& options)
         ++inside;
         mEarliest = std::min(mEarliest, time);
         mLatest = std::max(mLatest, time);
-        ascending = ascending && tick(time) >= lastTick;
-        lastTick = tick(time);
+        const std::int64_t sampleTick = tick(time);
+        ascending = ascending && sampleTick >= lastTick;
+        lastTick = sampleTick;
     }
     column.entries =
         inside == 0 ? column.entries.first(0) : column.entries.subspan(begin, end - begin);
@@ -163,8 +160,10 @@ QString ExportCsv::refusal(std::int64_t first, std::int64_t last, const CsvExpor
         rowSize += text.size() + 1;
     }
     const auto size = static_cast<double>(rowSize) * static_cast<double>(last - first + 1);
-    const QStorageInfo disk(QFileInfo(options.path()).absolutePath());
-    if (disk.isValid() && size > static_cast<double>(disk.bytesAvailable())) {
+    std::error_code unknown;
+    const auto disk =
+        std::filesystem::space(QFileInfo(options.path()).absolutePath().toStdString(), unknown);
+    if (!unknown && size > static_cast<double>(disk.available)) {
         return translated("The table would have %1 rows, about %2 MB, more than is free in \"%3\".")
                    .arg(last - first + 1)
                    .arg(size / 1e6, 0, 'f', 0)
@@ -208,8 +207,7 @@ void ExportCsv::writeRows(OutputFile& file, const CsvExportOptions& options, std
     int percent = -1;
     for (std::int64_t row = first; row <= last && !file.failed(); ++row) {
         if (row == nextChange || row == first + 1) {
-            nextChange = advance(row);
-            joinCells(options.separator, row == first);
+            nextChange = advance(row, options.separator, row == first);
         }
         line.clear();
         appendElapsed(row, options.resolution, line);
@@ -224,40 +222,42 @@ void ExportCsv::writeRows(OutputFile& file, const CsvExportOptions& options, std
     }
 }
 
-/// Takes the samples of a row into the cells; returns the next row that has samples.
-std::int64_t ExportCsv::advance(std::int64_t row)
+/// The last sample of a row; null when the column has none in it.
+const RecordEntry* ExportCsv::takeSample(Column& column, std::int64_t row) const
 {
-    std::int64_t next = NoTick;
-    for (Column& column : mColumns) {
-        const RecordEntry* entry = nullptr;
-        while (column.next < column.size() && tickOf(column, column.next) == row) {
-            entry = &column.at(column.next++);
-        }
-        if (entry != nullptr) {
-            column.text.clear();
-            column.decoder.appendText(*entry, column.text);
-            column.reached = true;
-        }
-        if (column.next < column.size()) {
-            next = std::min(next, tickOf(column, column.next));
-        }
+    const RecordEntry* entry = nullptr;
+    while (column.nextTick == row) {
+        entry = &column.at(column.next++);
+        findNextTick(column);
     }
-    return next;
+    return entry;
 }
 
-/// In the first row the last column has no cell, not even an empty one, unless it has a sample;
-/// readers of these files have learned to live with that.
-void ExportCsv::joinCells(char separator, bool isFirstRow)
+/// Makes the cells of a row from those of the row before and its samples; returns the next row
+/// that has samples. In the first row the last column has no cell, not even an empty one, unless
+/// it has a sample; readers of these files have learned to live with that.
+std::int64_t ExportCsv::advance(std::int64_t row, char separator, bool isFirstRow)
 {
-    mCells.clear();
-    for (std::size_t c = 0; c < mColumns.size(); ++c) {
-        const bool isLast = c + 1 == mColumns.size();
-        if (isFirstRow && isLast && !mColumns[c].reached) {
+    std::int64_t next = NoTick;
+    mNewCells.clear();
+    for (Column& column : mColumns) {
+        const RecordEntry* entry = takeSample(column, row);
+        next = std::min(next, column.nextTick);
+        if (isFirstRow && entry == nullptr && &column == &mColumns.back()) {
             break;
         }
-        mCells += separator;
-        mCells += mColumns[c].text;
+        mNewCells += separator;
+        const std::size_t begin = mNewCells.size();
+        if (entry != nullptr) {
+            column.decoder.appendText(*entry, mNewCells);
+        } else {
+            mNewCells.append(mCells, column.cellBegin, column.cellSize);
+        }
+        column.cellBegin = begin;
+        column.cellSize = mNewCells.size() - begin;
     }
+    mCells.swap(mNewCells);
+    return next;
 }
 
 /// Time since the first sample. Ticks are rounded and the first sample's is truncated, so the

@@ -35,22 +35,24 @@ private:
     {
         std::string title;
         Decoder decoder;
-        std::span<const RecordEntry> entries;
+        std::span<const RecordEntry> entries = {};
         double shift = 0.0;
         /// The entries inside the range by tick, equal ticks in file order; empty where they
         /// are all inside and ascend already.
-        std::vector<std::uint32_t> order;
-        bool ordered = false; ///< order is used
-        std::size_t next = 0; ///< the sample to come
-        std::string text;     ///< the cell as it is now
-        bool reached = false; ///< a sample has been met
+        std::vector<std::uint32_t> order = {};
+        bool ordered = false;      ///< order is used
+        std::size_t next = 0;      ///< the sample to come
+        std::int64_t nextTick = 0; ///< its tick; beyond every row after the last sample
+        /// The cell's text as it is now, in the current row; empty before the first sample.
+        std::size_t cellBegin = 0;
+        std::size_t cellSize = 0;
 
         std::size_t size() const { return ordered ? order.size() : entries.size(); }
         const RecordEntry& at(std::size_t k) const { return entries[ordered ? order[k] : k]; }
     };
 
     std::int64_t tick(double time) const;
-    std::int64_t tickOf(const Column& column, std::size_t k) const;
+    void findNextTick(Column& column) const;
     void addColumn(const Record& record, const ProfileParameter& parameter,
                    const CsvExportOptions& options);
     void scan(Column& column, const CsvExportOptions& options);
@@ -58,8 +60,8 @@ private:
     ExportResult writeFile(const CsvExportOptions& options, std::int64_t first, std::int64_t last);
     void writeRows(OutputFile& file, const CsvExportOptions& options, std::int64_t first,
                    std::int64_t last);
-    std::int64_t advance(std::int64_t row);
-    void joinCells(char separator, bool isFirstRow);
+    std::int64_t advance(std::int64_t row, char separator, bool isFirstRow);
+    const RecordEntry* takeSample(Column& column, std::int64_t row) const;
     void appendElapsed(std::int64_t row, int resolution, std::string& out) const;
 
     const Profile& mProfile;
@@ -68,7 +70,8 @@ private:
     double mEarliest = 0.0; ///< time of the first sample exported
     double mLatest = 0.0;   ///< time of the last sample exported
     std::vector<Column> mColumns;
-    std::string mCells; ///< the current row without its time
+    std::string mCells;    ///< the current row without its time
+    std::string mNewCells; ///< the same while it is made
 };
 
 } // namespace TARN

@@ -6,6 +6,7 @@
 #include "record/Record.h"
 
 #include <algorithm>
+#include <array>
 
 namespace TARN {
 
@@ -36,14 +37,20 @@ RecordEvent eventAt(const Source& source, const RecordEntry& entry)
 
 void collectLimits(const Source& source, std::vector<RecordLimit>& limits)
 {
+    constexpr std::size_t Piece = 1024; // stays in the processor's cache
+    std::array<int, Piece> states;
     int previous = StateLimit; // so that a range that is left already is not entered
-    for (const RecordEntry& entry : source.list.entries) {
-        const int state = source.decoder.state(entry);
-        if ((previous == StateOk && state != StateOk) ||
-            (previous == StateWarning && state == StateLimit)) {
-            limits.push_back(eventAt(source, entry));
+    for (std::size_t begin = 0; begin < source.list.entries.size(); begin += Piece) {
+        const auto piece =
+            source.list.entries.subspan(begin, std::min(Piece, source.list.entries.size() - begin));
+        source.decoder.states(piece, states.data());
+        for (std::size_t i = 0; i < piece.size(); ++i) {
+            if ((previous == StateOk && states[i] != StateOk) ||
+                (previous == StateWarning && states[i] == StateLimit)) {
+                limits.push_back(eventAt(source, piece[i]));
+            }
+            previous = states[i];
         }
-        previous = state;
     }
 }
 

@@ -3,6 +3,7 @@
 #include "base/ByteOrder.h"
 #include "base/Numbers.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <type_traits>
@@ -244,17 +245,42 @@ void Decoder::toDoubles(std::span<const RecordEntry> entries, bool scaled, doubl
 
 int Decoder::state(const RecordEntry& entry) const
 {
-    if (entry.data[TypeByte] != DataType::Float || mThreshold == nullptr) {
+    return mThreshold != nullptr ? stateIn(entry, scaledLimits().data()) : StateOk;
+}
+
+void Decoder::states(std::span<const RecordEntry> entries, int* states) const
+{
+    if (mThreshold == nullptr) {
+        std::fill_n(states, entries.size(), StateOk);
+        return;
+    }
+    const std::vector<double> limits = scaledLimits();
+    for (const RecordEntry& entry : entries) {
+        *states++ = stateIn(entry, limits.data());
+    }
+}
+
+/// Threshold values are scaled like readings before the two are compared.
+std::vector<double> Decoder::scaledLimits() const
+{
+    std::vector<double> limits;
+    limits.reserve(mThreshold->values.size());
+    for (const ProfileThrValue& step : mThreshold->values) {
+        limits.push_back(scale(step.val));
+    }
+    return limits;
+}
+
+inline int Decoder::stateIn(const RecordEntry& entry, const double* limits) const
+{
+    if (entry.data[TypeByte] != DataType::Float) {
         return StateOk;
     }
     const auto value = std::bit_cast<float>(loadBig<std::uint32_t>(entry.data + DataByte));
     const auto compared = static_cast<float>(scale(value));
     int state = StateOk;
-    for (const ProfileThrValue& step : mThreshold->values) {
-        if (scale(step.val) > compared) {
-            break;
-        }
-        state = step.state;
+    for (std::size_t i = 0; i < mThreshold->values.size() && !(limits[i] > compared); ++i) {
+        state = mThreshold->values[i].state;
     }
     return state;
 }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace TARN {
 
@@ -33,6 +34,9 @@ public:
 
     /// Threshold state of a message of type FLOAT; StateOk for any other.
     int state(const RecordEntry& entry) const;
+
+    /// state of every entry; \p states has room for as many.
+    void states(std::span<const RecordEntry> entries, int* states) const;
 
     /// Appends the display text (UTF-8) and returns the cell colour: white, or that of the
     /// highest threshold reached, which is invalid where the profile names none.
@@ -72,6 +76,8 @@ private:
     std::uint64_t loadBytes(const RecordEntry& entry, int width) const;
     float loadFloat(const RecordEntry& entry) const;
     std::uint32_t bitField(std::uint32_t word) const;
+    int stateIn(const RecordEntry& entry, const double* limits) const;
+    std::vector<double> scaledLimits() const;
     double scale(double raw) const { return raw * mFactor + mOffset; }
 
     template <Kind kind>
