@@ -14,13 +14,15 @@
 
 namespace TARN {
 
-/// What every export starts from: the recording, its range and the current time.
+/// What every export starts from: the recording, the range marked in it, all of it when nothing
+/// is marked, and the current time.
 template <typename Options>
 void DialogMain::presetOptions(Options& options) const
 {
     options.info = mRecord.recordInfo();
-    options.startTime = options.info.startTime;
-    options.stopTime = options.info.stopTime;
+    const bool isMarked = mData->markStop() > mData->markStart();
+    options.startTime = isMarked ? mData->markStart() : options.info.startTime;
+    options.stopTime = isMarked ? mData->markStop() : options.info.stopTime;
     options.currentTime = mData->time();
 }
 

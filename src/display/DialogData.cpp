@@ -1,6 +1,7 @@
 #include "display/DialogData.h"
 
 #include "base/ClockTime.h"
+#include "display/DialogDataGraph.h"
 #include "display/DialogDataTable.h"
 #include "display/TimeScale.h"
 #include "faults/DialogDataErrorMatrix.h"
@@ -25,7 +26,7 @@ namespace TARN {
 
 DialogData::DialogData(QWidget* parent)
     : QWidget(parent), mTabs(new QTabWidget), mTable(new DialogDataTable),
-      mLimits(new DialogDataLimit), mWarnings(new DialogDataWarning),
+      mGraph(new DialogDataGraph), mLimits(new DialogDataLimit), mWarnings(new DialogDataWarning),
       mFaults(new DialogDataErrorMatrix)
 {
     createTabs();
@@ -33,6 +34,7 @@ DialogData::DialogData(QWidget* parent)
     layout->addWidget(mTabs, 1);
     layout->addLayout(createNavigation());
     connect(mTable, &DialogDataTable::signalTime, this, &DialogData::slotTableTime);
+    connect(mGraph, &DialogDataGraph::signalCursor, this, &DialogData::slotCursor);
     connect(mLimits, &DialogDataLimit::signalTime, this, &DialogData::slotLimitTime);
     connect(mWarnings, &DialogDataWarning::signalTime, this, &DialogData::slotWarningTime);
     connect(mFaults, &DialogDataErrorMatrix::signalTime, this, &DialogData::slotFaultTime);
@@ -46,9 +48,10 @@ void DialogData::createTabs()
     mTabs->setObjectName("views");
     mTabs->addTab(mTable, QIcon(":/icons/canStatistic.svg"), tr("Data"));
     mTabs->addTab(mLimits, QIcon(":/icons/limit.svg"), tr("Limit/Warning Exceed"));
+    mTabs->addTab(mGraph, QIcon(":/icons/graphSingle.svg"), tr("Graph"));
     mTabs->addTab(mWarnings, QIcon(":/icons/warningLamp.svg"), tr("Warning Lamps"));
     mTabs->addTab(mFaults, QIcon(":/icons/faultMatrix.svg"), tr("Fault Matrix"));
-    mViews = {mTable, mLimits, mWarnings, mFaults};
+    mViews = {mTable, mGraph, mLimits, mWarnings, mFaults};
 }
 
 QGridLayout* DialogData::createNavigation()
@@ -214,6 +217,21 @@ void DialogData::slotValue(QTime time)
     if (!mUpdating && mRecord != nullptr) {
         goTo(QTime(0, 0).secsTo(time), nullptr);
     }
+}
+
+double DialogData::markStart() const
+{
+    return mGraph->markStart();
+}
+
+double DialogData::markStop() const
+{
+    return mGraph->markStop();
+}
+
+void DialogData::slotCursor(float time, double)
+{
+    goTo(time, mGraph);
 }
 
 void DialogData::slotTableTime(double time)

@@ -20,6 +20,7 @@ namespace TARN {
 
 class DataView;
 class DialogDataErrorMatrix;
+class DialogDataGraph;
 class DialogDataLimit;
 class DialogDataTable;
 class DialogDataWarning;
@@ -46,6 +47,10 @@ public:
     /// Current time, seconds on the recording's clock.
     double time() const { return mTime; }
 
+    // The range marked in the graph, seconds; start and stop are one when nothing is marked.
+    double markStart() const;
+    double markStop() const;
+
 Q_SIGNALS:
     /// Something that the user should read.
     void signalMessage(const QString& text);
@@ -59,6 +64,7 @@ private Q_SLOTS:
     void slotSlider(int position);
     void slotValue(QTime time);
     void slotTimeOffset(double offset);
+    void slotCursor(float time, double value);
     void slotTableTime(double time);
     void slotLimitTime(double time);
     void slotWarningTime(double time);
@@ -80,6 +86,7 @@ private:
     bool mUpdating = false; ///< the controls' values are not the user's
     QTabWidget* mTabs;
     DialogDataTable* mTable;
+    DialogDataGraph* mGraph;
     DialogDataLimit* mLimits;
     DialogDataWarning* mWarnings;
     DialogDataErrorMatrix* mFaults;

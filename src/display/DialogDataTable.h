@@ -1,6 +1,6 @@
 #pragma once
 
-#include "display/DataView.h"
+#include "widgets/DataView.h"
 
 #include <QtWidgets/QWidget>
 

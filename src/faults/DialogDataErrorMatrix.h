@@ -1,8 +1,8 @@
 #pragma once
 
-#include "display/DataView.h"
 #include "profile/ProfileTypes.h"
 #include "record/Record.h"
+#include "widgets/DataView.h"
 
 #include <QtWidgets/QWidget>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "display/DataView.h"
 #include "record/Record.h"
+#include "widgets/DataView.h"
 
 #include <QtWidgets/QWidget>
 

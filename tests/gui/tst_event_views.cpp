@@ -163,7 +163,7 @@ void EventViews::matrixShowsTheStateOfTheMoment()
     auto* table = matrices.first()->findChild<QTableWidget*>();
     QCOMPARE(table->horizontalHeaderItem(0)->text(), "31");
     QCOMPARE(table->horizontalHeaderItem(31)->text(), "0");
-    tabs()->setCurrentIndex(3);
+    tabs()->setCurrentIndex(4);
     const auto colorOf = [table](int bit) {
         QWidget* cell = table->cellWidget(0, 31 - bit);
         return cell->grab().toImage().pixelColor(cell->width() / 2, 4);
@@ -181,7 +181,7 @@ void EventViews::matrixShowsTheStateOfTheMoment()
 
 void EventViews::timelinePicksATime()
 {
-    tabs()->setCurrentIndex(3);
+    tabs()->setCurrentIndex(4);
     auto* timeline = mViewer->window().findChildren<WidgetErrorTime*>().first();
     QTest::mouseClick(timeline, Qt::LeftButton, {}, QPoint(timeline->width() / 4, 5));
     QVERIFY(qAbs(mViewer->slider()->value() - 2500) < 20);
@@ -208,13 +208,13 @@ void EventViews::narrowMatrixKeepsItsColumns()
 
 void EventViews::profileDecidesWhichTabsAreThere()
 {
-    QCOMPARE(tabs()->count(), 4);
-    QVERIFY(tabs()->isTabVisible(2) && tabs()->isTabVisible(3));
+    QCOMPARE(tabs()->count(), 5);
+    QVERIFY(tabs()->isTabVisible(3) && tabs()->isTabVisible(4));
     Viewer plain;
     plain.writeSettings(plain.cardPath(), "nowhere.xml", plain.projectPath());
     plain.start();
     auto* views = plain.window().findChild<QTabWidget*>("views");
-    QVERIFY(!views->isTabVisible(2) && !views->isTabVisible(3));
+    QVERIFY(!views->isTabVisible(3) && !views->isTabVisible(4));
     plain.loadRecordings({0});
     auto* list = plain.window().findChild<DialogDataLimit*>()->findChild<DataTableView*>();
     QCOMPARE(list->emptyText(), "No limit exceeded in this recording.");
