@@ -77,6 +77,7 @@ private:
 void loadFigures(Suite& suite);
 void decodeFigures(Suite& suite);
 void tableFigures(Suite& suite);
+void graphFigures(Suite& suite);
 void exportFigures(Suite& suite);
 void peerFigures(Suite& suite);
 

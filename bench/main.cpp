@@ -26,6 +26,7 @@ int main(int argc, char** argv)
         Bench::loadFigures(suite);
         Bench::decodeFigures(suite);
         Bench::tableFigures(suite);
+        Bench::graphFigures(suite);
         Bench::exportFigures(suite);
         Bench::peerFigures(suite);
     } catch (const std::exception& error) {
