@@ -1,23 +1,18 @@
-#include "cli/CommandLine.h"
+#include "support/CommandRun.h"
 #include "support/CoreTest.h"
 #include "support/RecordingBuilder.h"
 
 #include <QtCore/QRegularExpression>
 
 #include <nlohmann/json.hpp>
-#include <sstream>
 
 using namespace TARN;
 using nlohmann::json;
 
 namespace {
 
-struct Run
+struct Run : CommandRun
 {
-    int status;
-    std::string out;
-    std::string error;
-
     /// Every line of the output as JSON.
     std::vector<json> lines() const
     {
@@ -32,24 +27,12 @@ struct Run
 
 Run run(const QStringList& arguments)
 {
-    std::vector<std::string> texts = {"orna-cli"};
-    for (const QString& argument : arguments) {
-        texts.push_back(argument.toStdString());
-    }
-    std::vector<const char*> argv;
-    for (const std::string& text : texts) {
-        argv.push_back(text.c_str());
-    }
-    std::ostringstream out;
-    std::ostringstream error;
-    const int status = runCommandLine(static_cast<int>(argv.size()), argv.data(), out, error);
-    return {status, out.str(), error.str()};
+    return {runCommand(arguments)};
 }
 
-/// JSON written with single quotation marks here, for the eye's sake.
-std::string quoted(QByteArray text)
+std::string fromQuoted(const QByteArray& text)
 {
-    return text.replace('\'', '"').toStdString();
+    return quoted(text).toStdString();
 }
 
 } // namespace
@@ -92,12 +75,12 @@ private Q_SLOTS:
         file.text(5, "1.0").add({.ticks = ticks(1.5)}).add({.ticks = ticks(2.25)});
         const QString name = write("c.can", file.bytes());
         write("B.CAN", RecordingBuilder().bytes());
-        const std::string expected =
-            quoted("{'file':'" + name.toUtf8() +
-                   "','dateTime':'9.7.2021 4:05:06','startTime':1.5,'stopTime':2.25,'samples':2,"
-                   "'busType':2,'ecuSerialNumber':4000000000,'softwarePartA':'A',"
-                   "'softwarePartB':'B\xEF\xBF\xBD','ecuType':'ecu','emuSwVersion':'1.0',"
-                   "'engineSerialNr':'serial','engineType':'type'}\n");
+        const std::string expected = fromQuoted(
+            "{'file':'" + name.toUtf8() +
+            "','dateTime':'9.7.2021 4:05:06','startTime':1.5,'stopTime':2.25,'samples':2,"
+            "'busType':2,'ecuSerialNumber':4000000000,'softwarePartA':'A',"
+            "'softwarePartB':'B\xEF\xBF\xBD','ecuType':'ecu','emuSwVersion':'1.0',"
+            "'engineSerialNr':'serial','engineType':'type'}\n");
         QCOMPARE(run({"info", "--json", name}).out, expected);
         const Run both = run({"info", "--json", folder()}); // sorted by path
         QVERIFY(both.lines().at(0)["file"] == path("B.CAN").toStdString());
@@ -124,18 +107,18 @@ private Q_SLOTS:
         const QByteArray oil = "{'device':'ECU','parameter':'Oil','channel':0,'id':500,";
         const QByteArray lamp = "{'device':'ECU','parameter':'Lamp','channel':1,'id':501,";
         const std::string all =
-            quoted(oil +
-                   "'time':100.5,'int':0,'double':1.5,'raw':15.0,'state':1,'text':'1.5',"
-                   "'color':'#ffff00'}\n" +
-                   oil +
-                   "'time':0.25,'int':0,'double':30.0,'raw':300.0,'state':2,'text':'30',"
-                   "'color':null}\n" +
-                   lamp +
-                   "'time':101.0,'int':1,'double':1.0,'raw':1.0,'state':0,'text':'1: on',"
-                   "'color':'#ffffff'}\n" +
-                   lamp +
-                   "'time':7.0,'int':2,'double':2.0,'raw':2.0,'state':0,"
-                   "'text':'2: Invalid ENUM Value','color':'#ffffff'}\n");
+            fromQuoted(oil +
+                       "'time':100.5,'int':0,'double':1.5,'raw':15.0,'state':1,'text':'1.5',"
+                       "'color':'#ffff00'}\n" +
+                       oil +
+                       "'time':0.25,'int':0,'double':30.0,'raw':300.0,'state':2,'text':'30',"
+                       "'color':null}\n" +
+                       lamp +
+                       "'time':101.0,'int':1,'double':1.0,'raw':1.0,'state':0,'text':'1: on',"
+                       "'color':'#ffffff'}\n" +
+                       lamp +
+                       "'time':7.0,'int':2,'double':2.0,'raw':2.0,'state':0,"
+                       "'text':'2: Invalid ENUM Value','color':'#ffffff'}\n");
         QCOMPARE(QByteArray::fromStdString(result.out), QByteArray::fromStdString(all));
     }
 

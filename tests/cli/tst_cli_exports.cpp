@@ -1,7 +1,5 @@
-#include "cli/CommandLine.h"
 #include "export/RecordTest.h"
-
-#include <sstream>
+#include "support/CommandRun.h"
 
 using namespace TARN;
 
@@ -16,24 +14,9 @@ struct Run
 
 Run run(const QStringList& arguments)
 {
-    std::vector<std::string> texts = {"orna-cli"};
-    for (const QString& argument : arguments) {
-        texts.push_back(argument.toStdString());
-    }
-    std::vector<const char*> argv;
-    for (const std::string& text : texts) {
-        argv.push_back(text.c_str());
-    }
-    std::ostringstream out;
-    std::ostringstream error;
-    const int status = runCommandLine(static_cast<int>(argv.size()), argv.data(), out, error);
-    return {status, QByteArray::fromStdString(out.str()), QByteArray::fromStdString(error.str())};
-}
-
-/// JSON written with single quotation marks here, for the eye's sake.
-QByteArray quoted(QByteArray text)
-{
-    return text.replace('\'', '"');
+    const CommandRun done = runCommand(arguments);
+    return {done.status, QByteArray::fromStdString(done.out),
+            QByteArray::fromStdString(done.error)};
 }
 
 } // namespace

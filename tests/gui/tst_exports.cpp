@@ -1,11 +1,11 @@
 #include "base/ClockTime.h"
 #include "base/Property.h"
-#include "cli/CommandLine.h"
 #include "export/DialogExportCsv.h"
 #include "export/DialogExportKml.h"
 #include "gui/Viewer.h"
 #include "profile/Profile.h"
 #include "record/Record.h"
+#include "support/CommandRun.h"
 #include "widgets/QwtComboBox.h"
 
 #include <QtCore/QFile>
@@ -20,7 +20,6 @@
 #include <QtWidgets/QStatusBar>
 
 #include <functional>
-#include <sstream>
 
 using namespace TARN;
 
@@ -130,7 +129,7 @@ private Q_SLOTS:
 
 private:
     QString out(const QString& name) const { return mOut->filePath(name); }
-    int commandLine(std::initializer_list<QString> arguments);
+    int commandLine(QStringList arguments);
 
     std::unique_ptr<Viewer> mViewer;
     std::unique_ptr<QTemporaryDir> mOut;
@@ -149,21 +148,10 @@ void Exports::cleanup()
     Profile::instance()->clear();
 }
 
-int Exports::commandLine(std::initializer_list<QString> arguments)
+int Exports::commandLine(QStringList arguments)
 {
-    std::vector<std::string> texts = {"orna-cli"};
-    for (const QString& argument : arguments) {
-        texts.push_back(argument.toStdString());
-    }
-    texts.push_back((mViewer->cardPath() + "/LOG_0001.CAN").toStdString());
-    texts.push_back((mViewer->cardPath() + "/LOG_0002.CAN").toStdString());
-    std::vector<const char*> argv;
-    for (const std::string& text : texts) {
-        argv.push_back(text.c_str());
-    }
-    std::ostringstream output;
-    std::ostringstream error;
-    return runCommandLine(static_cast<int>(argv.size()), argv.data(), output, error);
+    arguments << mViewer->cardPath() + "/LOG_0001.CAN" << mViewer->cardPath() + "/LOG_0002.CAN";
+    return runCommand(arguments).status;
 }
 
 void Exports::enabledWithARecordingOnly()
