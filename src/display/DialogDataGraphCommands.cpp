@@ -1,9 +1,10 @@
+#include "base/OutputFile.h"
 #include "display/DialogDataGraph.h"
 #include "display/DialogGraphSetup.h"
 #include "display/WidgetGraph.h"
 
+#include <QtCore/QBuffer>
 #include <QtCore/QFileInfo>
-#include <QtCore/QSaveFile>
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QMessageBox>
@@ -159,10 +160,15 @@ void DialogDataGraph::saveSnapshot()
 bool DialogDataGraph::saveImage(const QString& file)
 {
     const QByteArray suffix = QFileInfo(file).suffix().toLatin1();
-    QSaveFile out(file); // what stood there before stays when saving fails
     const QImage image = mGraph->grabFramebuffer().convertToFormat(QImage::Format_RGB32);
-    return out.open(QIODevice::WriteOnly) &&
-           image.save(&out, suffix.isEmpty() ? "BMP" : suffix.constData()) && out.commit();
+    QBuffer encoded;
+    OutputFile out(file);
+    if (!encoded.open(QIODevice::WriteOnly) ||
+        !image.save(&encoded, suffix.isEmpty() ? "BMP" : suffix.constData()) || !out.open()) {
+        return false;
+    }
+    out.write(encoded.data().toStdString());
+    return out.commit();
 }
 
 } // namespace TARN

@@ -9,8 +9,9 @@
 
 namespace TARN {
 
-DialogEventList::DialogEventList(const QString& title, const QString& allWell, QWidget* parent)
-    : QWidget(parent), mAllWell(allWell), mModel(new EventModel(title, this)),
+DialogEventList::DialogEventList(Events events, const QString& title, const QString& allWell,
+                                 QWidget* parent)
+    : QWidget(parent), mEvents(events), mAllWell(allWell), mModel(new EventModel(title, this)),
       mTable(new DataTableView)
 {
     auto* layout = new QGridLayout(this);
@@ -30,7 +31,7 @@ DialogEventList::DialogEventList(const QString& title, const QString& allWell, Q
 void DialogEventList::updateRecord(Record* record)
 {
     const QScopedValueRollback updating(mUpdating, true);
-    mModel->setEvents(record != nullptr ? &eventsOf(record->recordData()) : nullptr);
+    mModel->setEvents(record != nullptr ? &(record->recordData().*mEvents) : nullptr);
     mTable->setEmptyText(record != nullptr
                              ? mAllWell
                              : tr("No recording is loaded.\nOpen a card and pick one or more "
@@ -61,12 +62,13 @@ void DialogEventList::slotSelect()
 }
 
 DialogDataLimit::DialogDataLimit(QWidget* parent)
-    : DialogEventList(tr("Warning/Limit Exceed"), tr("No limit exceeded in this recording."),
-                      parent)
+    : DialogEventList(&RecordData::limits, tr("Warning/Limit Exceed"),
+                      tr("No limit exceeded in this recording."), parent)
 {}
 
 DialogDataWarning::DialogDataWarning(QWidget* parent)
-    : DialogEventList(tr("Warning Lamps"), tr("No warning lamp came on in this recording."), parent)
+    : DialogEventList(&RecordData::warnings, tr("Warning Lamps"),
+                      tr("No warning lamp came on in this recording."), parent)
 {}
 
 } // namespace TARN

@@ -27,16 +27,17 @@ Q_SIGNALS:
     void signalTime(double time);
 
 protected:
-    /// \p title of the event column; \p allWell is shown when a recording has no event.
-    DialogEventList(const QString& title, const QString& allWell, QWidget* parent);
+    /// The list of a recording that the view shows.
+    using Events = std::vector<RecordEvent> RecordData::*;
 
-    /// The list of a recording that this view shows.
-    virtual const std::vector<RecordEvent>& eventsOf(const RecordData& recording) const = 0;
+    /// \p title of the event column; \p allWell is shown when a recording has no event.
+    DialogEventList(Events events, const QString& title, const QString& allWell, QWidget* parent);
 
 private Q_SLOTS:
     void slotSelect();
 
 private:
+    Events mEvents;
     QString mAllWell;
     EventModel* mModel;
     DataTableView* mTable;
@@ -50,12 +51,6 @@ class DialogDataLimit : public DialogEventList
 
 public:
     explicit DialogDataLimit(QWidget* parent = nullptr);
-
-protected:
-    const std::vector<RecordEvent>& eventsOf(const RecordData& recording) const override
-    {
-        return recording.limits;
-    }
 };
 
 /// Every moment at which a warning lamp was switched on.
@@ -65,12 +60,6 @@ class DialogDataWarning : public DialogEventList
 
 public:
     explicit DialogDataWarning(QWidget* parent = nullptr);
-
-protected:
-    const std::vector<RecordEvent>& eventsOf(const RecordData& recording) const override
-    {
-        return recording.warnings;
-    }
 };
 
 } // namespace TARN
