@@ -13,9 +13,10 @@ void TableModel::updateProfile(const Profile& profile)
     mRows.clear();
     mParameters.clear();
     mDecoders.clear();
+    mProfile = profile.data();
     for (const ProfileParameter* parameter : profile.selectedParameters()) {
         mParameters.push_back(*parameter);
-        mDecoders.emplace_back(profile.data(), *parameter);
+        mDecoders.emplace_back(mProfile, *parameter);
     }
     endResetModel();
 }

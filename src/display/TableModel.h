@@ -20,8 +20,7 @@ public:
     /// Takes over the selection of the profile; the table is empty until updateRecord.
     void updateProfile(const Profile& profile);
 
-    /// Shows a recording; null empties the table. Refers to it and to the profile until the
-    /// next call of either.
+    /// Shows a recording; null empties the table. Refers to it until the next call of either.
     void updateRecord(const Record* record);
 
     /// Last row that is not after \p time (seconds); 0 when there is none.
@@ -38,7 +37,8 @@ private:
     QVariant timeData(int row, int role) const;
     QVariant valueData(int row, int column, int role) const;
 
-    std::vector<ProfileParameter> mParameters; ///< copies: a profile may be reloaded
+    ProfileInfo mProfile; ///< a copy that the decoders refer to: the profile may be reloaded
+    std::vector<ProfileParameter> mParameters;
     std::vector<Decoder> mDecoders;
     TableRows mRows;
 };
