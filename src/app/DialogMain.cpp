@@ -1,7 +1,7 @@
 #include "app/DialogMain.h"
 
+#include "app/Bundle.h"
 #include "app/DialogStatusBar.h"
-#include "app/StartUp.h"
 #include "base/Property.h"
 #include "display/DialogData.h"
 #include "export/DialogExportCsv.h"
@@ -38,7 +38,9 @@ DialogMain::DialogMain(QWidget* parent) : QMainWindow(parent), mEndProcess([] { 
     mTimer.setSingleShot(true);
     connect(&mTimer, &QTimer::timeout, this, &DialogMain::slotTimeout);
     mTimer.start(ReopenDelay);
+    setAcceptDrops(true);
     resize(1000, 800);
+    restoreWindow();
     updateEnabled();
     updateTitle();
 }
@@ -71,11 +73,12 @@ void DialogMain::createPanes()
 
 void DialogMain::loadProfile()
 {
-    const std::string file = Property::instance()->getString("Profile", DefaultProfile);
-    if (!Profile::instance()->loadProfile(QString::fromStdString(file))) {
+    const QString file =
+        QString::fromStdString(Property::instance()->getString("Profile", DefaultProfile));
+    if (!Profile::instance()->loadProfile(inBundle(file))) {
         mStatusBar->showMessage(tr("The profile \"%1\" could not be loaded: no parameters can be "
-                                   "shown.")
-                                    .arg(QString::fromStdString(file)));
+                                   "shown. Choose another under Extras, Preferences.")
+                                    .arg(file));
     }
     mProfile->updateList();
     mData->loadProfile();
@@ -120,11 +123,17 @@ void DialogMain::slotLoadRecord(const std::list<QString>& files)
                 .arg(mRecord.errorText()));
     }
     mRecordPath = paths.front();
-    detectEvents(mRecord, *Profile::instance());
-    mData->updateRecord(&mRecord);
+    showRecording();
     setProgress(100);
     mLoading = false;
     updateEnabled();
+}
+
+/// Finds the events of the recording as the profile defines them and shows it in all views.
+void DialogMain::showRecording()
+{
+    detectEvents(mRecord, *Profile::instance());
+    mData->updateRecord(&mRecord);
 }
 
 void DialogMain::setProgress(int percent)
@@ -140,6 +149,25 @@ void DialogMain::slotProfileChanged()
         mData->updateProfile();
     }
     setEdited(true);
+}
+
+void DialogMain::slotProfileFileChanged()
+{
+    const WaitCursor waitCursor;
+    const double time = mData->time();
+    const bool hasSamples = !mRecord.recordData().empty();
+    Project::instance()->takeProfileData();
+    mData->updateRecord(nullptr); // events and cells shown are those of the old profile
+    loadProfile();
+    Project::instance()->setProfileData();
+    mProfile->updateProject();
+    mData->updateProfile();
+    if (hasSamples) {
+        showRecording();
+        mData->goTo(time);
+    }
+    updateEnabled();
+    updateTitle();
 }
 
 void DialogMain::setEdited(bool edited)
@@ -189,6 +217,7 @@ void DialogMain::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    saveWindow();
     mClosing = true;
     event->accept();
     // At once: nothing is left to save, and tearing down a large recording takes time.

@@ -12,6 +12,8 @@
 #include <list>
 #include <map>
 
+class DialogAbout;
+class DialogHelp;
 class QActionGroup;
 class QSplitter;
 
@@ -21,6 +23,7 @@ class DialogCard;
 class DialogData;
 class DialogExportCsv;
 class DialogExportKml;
+class DialogPreferences;
 class DialogProfile;
 class DialogStatusBar;
 struct ExportResult;
@@ -34,12 +37,16 @@ enum class ActionType
     SaveProject = 4,
     SaveProjectAs = 5,
     Quit = 6,
+    About = 8,
+    Help = 9,
+    Preferences = 14,
     ExportKml = 16,
     ExportCsv = 17
 };
 
 /// The one top-level window. Owns the open recording, offers the commands, opens the last card
-/// and project again after the start, and guards unsaved changes of the project.
+/// and project again after the start, and guards unsaved changes of the project. Card folders,
+/// recordings and projects can be dropped on it.
 class DialogMain : public QMainWindow
 {
     Q_OBJECT
@@ -60,12 +67,16 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private Q_SLOTS:
     void slotLoadRecord(const std::list<QString>& files);
     void slotProfileChanged();
+    void slotProfileFileChanged();
     void slotTimeout();
     void slotMenu(QAction* action);
+    void slotMenuPrefAbout();
 
 private:
     void createPanes();
@@ -81,14 +92,25 @@ private:
     void loadProfile();
     void loadRecords(const QString& folder);
     void openCard();
+    void openCard(const QString& folder);
+    void showRecording();
     bool newProject();
     bool openProject();
+    bool openProject(const QString& file);
     void projectReplaced();
     void quit();
     bool askSaveProject();
     bool saveProject(bool askName);
     QString askProjectName();
     bool cleanup();
+
+    void showAbout();
+    void showHelp();
+    void showPreferences();
+    void openDropped(const QString& path);
+    static void storeSetting(const char* key, const QString& value);
+    void saveWindow() const;
+    void restoreWindow();
 
     template <typename Options>
     void presetOptions(Options& options) const;
@@ -116,6 +138,10 @@ private:
     DialogExportKml* mKmlWizard;
     DialogExportCsv* mCsvWizard;
     DialogStatusBar* mStatusBar;
+    // Made when they are first asked for.
+    DialogPreferences* mPreferences = nullptr;
+    DialogAbout* mAbout = nullptr;
+    DialogHelp* mHelp = nullptr;
     QTimer mTimer;
 };
 

@@ -21,13 +21,13 @@ QString setting(const char* key)
     return QString::fromStdString(Property::instance()->getString(key, "."));
 }
 
-void storeSetting(const char* key, const QString& value)
+} // namespace
+
+void DialogMain::storeSetting(const char* key, const QString& value)
 {
     Property::instance()->setString(key, value.toStdString());
     Property::instance()->writeXmlFile();
 }
-
-} // namespace
 
 void DialogMain::createActions()
 {
@@ -35,29 +35,37 @@ void DialogMain::createActions()
     mCommands->setExclusive(false);
     connect(mCommands, &QActionGroup::triggered, this, &DialogMain::slotMenu);
     addCommand(ActionType::NewProject, tr("&New Project"), "projectNew", tr("Create new Project"),
-               tr("Ctrl+N"));
+               QKeySequence("Ctrl+N"));
     addCommand(ActionType::OpenProject, tr("&Open Project"), "projectOpen", tr("Open Project"),
-               tr("Ctrl+O"))
+               QKeySequence("Ctrl+O"))
         ->setIconText(tr("Open Project File"));
     addCommand(ActionType::SaveProject, tr("&Save Project"), "projectSave", tr("Save Project"),
-               tr("Ctrl+S"))
+               QKeySequence("Ctrl+S"))
         ->setIconText(tr("Save Project File"));
     addCommand(ActionType::SaveProjectAs, tr("&Save Project as"), "projectSaveAs",
                tr("Save Project as"))
         ->setIconText(tr("Save Project File as"));
-    addCommand(ActionType::OpenCard, tr("&Open Card"), "cardOpen", tr("Open Card"), tr("Ctrl+C"))
+    addCommand(ActionType::OpenCard, tr("&Open Card"), "cardOpen", tr("Open Card"),
+               QKeySequence("Ctrl+C"))
         ->setIconText(tr("Open SD Card"));
+    addCommand(ActionType::Preferences, tr("Preferences"), nullptr, tr("Open Preferences Dialog"));
     addCommand(ActionType::ExportKml, tr("Export Google KML File"), "exportKml",
                tr("Export Google Earth KML File"));
     addCommand(ActionType::ExportCsv, tr("Export CSV/CAN File"), "exportCsv",
                tr("Export CSV/CAN File"));
-    addCommand(ActionType::Quit, tr("&Quit"), "quit", tr("Quit Application"), tr("Ctrl+Q"));
+    addCommand(ActionType::Quit, tr("&Quit"), "quit", tr("Quit Application"),
+               QKeySequence("Ctrl+Q"));
+    addCommand(ActionType::About, tr("About"), "about", tr("Show License Information"));
+    addCommand(ActionType::Help, tr("Help"), "help", tr("Help Window"), QKeySequence("F1"));
 }
 
 QAction* DialogMain::addCommand(ActionType type, const QString& text, const char* icon,
                                 const QString& statusTip, const QKeySequence& shortcut)
 {
-    auto* action = new QAction(QIcon(QString(":/icons/%1.svg").arg(icon)), text, this);
+    auto* action = new QAction(text, this);
+    if (icon != nullptr) {
+        action->setIcon(QIcon(QString(":/icons/%1.svg").arg(icon)));
+    }
     action->setData(static_cast<int>(type));
     action->setStatusTip(statusTip);
     action->setShortcut(shortcut);
@@ -80,6 +88,12 @@ void DialogMain::createMenu()
     file->addAction(mActions[ActionType::ExportCsv]);
     file->addSeparator();
     file->addAction(mActions[ActionType::Quit]);
+    QMenu* extras = menuBar()->addMenu(tr("&Extras"));
+    extras->addAction(mActions[ActionType::Preferences]);
+    connect(extras, &QMenu::aboutToShow, this, &DialogMain::slotMenuPrefAbout);
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    help->addAction(mActions[ActionType::Help]);
+    help->addAction(mActions[ActionType::About]);
 }
 
 void DialogMain::createToolbar()
@@ -91,6 +105,11 @@ void DialogMain::createToolbar()
           ActionType::OpenCard, ActionType::ExportKml, ActionType::ExportCsv}) {
         toolbar->addAction(mActions[type]);
     }
+}
+
+void DialogMain::slotMenuPrefAbout()
+{
+    updateEnabled();
 }
 
 void DialogMain::slotMenu(QAction* action)
@@ -120,6 +139,15 @@ void DialogMain::slotMenu(QAction* action)
     case ActionType::Quit:
         quit();
         break;
+    case ActionType::About:
+        showAbout();
+        break;
+    case ActionType::Help:
+        showHelp();
+        break;
+    case ActionType::Preferences:
+        showPreferences();
+        break;
     }
     updateEnabled();
 }
@@ -142,9 +170,11 @@ bool DialogMain::openProject()
     }
     const QString file = QFileDialog::getOpenFileName(
         this, tr("Open TARN Project"), setting("LastProjectPath"), tr("Project Files (*.xml)"));
-    if (file.isEmpty()) {
-        return false;
-    }
+    return !file.isEmpty() && openProject(file);
+}
+
+bool DialogMain::openProject(const QString& file)
+{
     const bool read = Project::instance()->readProject(file.toStdString());
     mProjectFile = file;
     storeSetting("LastProjectPath", file);
@@ -169,9 +199,13 @@ void DialogMain::openCard()
 {
     const QString folder =
         QFileDialog::getExistingDirectory(this, tr("Open SD Card"), setting("LastPath"));
-    if (folder.isEmpty()) {
-        return;
+    if (!folder.isEmpty()) {
+        openCard(folder);
     }
+}
+
+void DialogMain::openCard(const QString& folder)
+{
     loadRecords(folder);
     storeSetting("LastPath", folder);
     mStatusBar->showMessage(tr("Recordings found: %1").arg(mCardInfo.records.size()));

@@ -1,16 +1,19 @@
 #include "app/StartUp.h"
 
+#include "app/Bundle.h"
 #include "app/DialogMain.h"
 #include "app/DialogSplash.h"
 #include "base/Diagnostics.h"
 #include "base/Directory.h"
 #include "base/Property.h"
 #include "base/Revision.h"
+#include "widgets/ClearStyle.h"
 #include "widgets/Kernel.h"
 
 #include <QtCore/QLocale>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QStyle>
 
 #include <clocale>
 #include <cstdlib>
@@ -18,8 +21,6 @@
 namespace TARN {
 
 namespace {
-
-constexpr const char* TranslationDirectory = "orna.app/Contents/Resources/";
 
 /// Where the program keeps its files; both empty without a home directory, else ending in "/".
 struct StartPaths
@@ -39,8 +40,8 @@ void createMissing(const std::string& path, const char* message)
 void install(QTranslator& translator, const char* prefix, const char* label,
              const std::string& language)
 {
-    const bool loaded =
-        translator.load(QString(prefix) + QString::fromStdString(language), TranslationDirectory);
+    const bool loaded = translator.load(QString(prefix) + QString::fromStdString(language),
+                                        inBundle(BundleResources));
     diagnose("Translation %s <%s> %d\n", label, language.c_str(), loaded ? 1 : 0);
     if (loaded) {
         QCoreApplication::installTranslator(&translator);
@@ -98,13 +99,16 @@ DialogMain* startUp(QApplication& application)
     splash->addEntry(
         QString("Version %1").arg(QString::fromStdString(Revision::getRevisionString())));
     Kernel::instance()->application = &application;
+    if (QApplication::style()->name() == "fusion") { // a desktop's own style is left alone
+        QApplication::setStyle(new ClearStyle);
+    }
     const QString resources =
         QCoreApplication::applicationDirPath().section('/', 0, -2) + "/Resources/";
     const StartPaths paths = findPaths();
     createPaths(paths, resources.toStdString());
     loadSettings(paths);
     installTranslators();
-    splash->addEntry("Creating Dialogs ...");
+    splash->addEntry(QCoreApplication::translate("StartUp", "Creating Dialogs ..."));
     auto* mainWindow = new DialogMain;
     Kernel::instance()->mainWindow = mainWindow;
     application.installEventFilter(mainWindow);

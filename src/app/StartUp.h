@@ -6,9 +6,6 @@ namespace TARN {
 
 class DialogMain;
 
-/// The profile that is used until the user chooses another, relative to the working directory.
-constexpr const char* DefaultProfile = "orna.app/Contents/Resources/Tolvane_Profile.xml";
-
 /// Makes numbers read and written with "." whatever the user's locale is.
 void useDecimalPoint();
 

@@ -184,14 +184,14 @@ void DialogData::updateEvents()
 void DialogData::slotNextEvent()
 {
     if (const auto time = mEvents.next(mTime)) {
-        goTo(*time, nullptr);
+        goTo(*time);
     }
 }
 
 void DialogData::slotPreviousEvent()
 {
     if (const auto time = mEvents.previous(mTime)) {
-        goTo(*time, nullptr);
+        goTo(*time);
     }
 }
 
@@ -208,14 +208,26 @@ void DialogData::updateProfile()
 void DialogData::slotSlider(int position)
 {
     if (!mUpdating && mRecord != nullptr) {
-        goTo(sliderTime(mRecord->recordInfo(), position), nullptr);
+        goTo(sliderTime(mRecord->recordInfo(), position));
     }
 }
 
 void DialogData::slotValue(QTime time)
 {
     if (!mUpdating && mRecord != nullptr) {
-        goTo(QTime(0, 0).secsTo(time), nullptr);
+        goTo(QTime(0, 0).secsTo(time));
+    }
+}
+
+int DialogData::currentView() const
+{
+    return mTabs->currentIndex();
+}
+
+void DialogData::setCurrentView(int view)
+{
+    if (mTabs->isTabVisible(view)) {
+        mTabs->setCurrentIndex(view);
     }
 }
 
@@ -251,7 +263,7 @@ void DialogData::slotWarningTime(double time)
 
 void DialogData::slotFaultTime(double time)
 {
-    goTo(time, nullptr); // cells and cursor of the matrices move too
+    goTo(time); // cells and cursor of the matrices move too
 }
 
 void DialogData::slotTimeOffset(double offset)

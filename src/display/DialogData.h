@@ -44,8 +44,14 @@ public:
     /// A profile was loaded: tabs for lamps and faults follow what it describes.
     void loadProfile();
 
+    /// Number of the view that is shown; a view that is hidden or not there is not gone to.
+    int currentView() const;
+    void setCurrentView(int view);
+
     /// Current time, seconds on the recording's clock.
     double time() const { return mTime; }
+    /// Makes \p time the current one in every view but \p source, which shows it already.
+    void goTo(double time, const DataView* source = nullptr);
 
     // The range marked in the graph, seconds; start and stop are one when nothing is marked.
     double markStart() const;
@@ -77,7 +83,6 @@ private:
     QToolButton* createEventButton(const char* icon, const QString& toolTip,
                                    const QKeySequence& key, void (DialogData::*slot)());
     QLCDNumber* createDisplay(int digits, const QString& text, const QString& name);
-    void goTo(double time, const DataView* source);
     void updateDisplay();
     void updateEvents();
 

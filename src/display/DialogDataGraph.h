@@ -11,7 +11,7 @@
 class QButtonGroup;
 class QLabel;
 class QToolButton;
-class QVBoxLayout;
+class QWidget;
 class WidgetGraph;
 
 namespace TARN {
@@ -78,7 +78,7 @@ private:
         NoCommand = 99
     };
 
-    QVBoxLayout* createButtons();
+    QWidget* createButtons();
     QWidget* createPlot();
     void createGraph();
     void runCommand(int command);

@@ -5,6 +5,8 @@
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
@@ -21,14 +23,15 @@ DialogDataGraph::DialogDataGraph(QWidget* parent)
     connect(&mTimer, &QTimer::timeout, this, &DialogDataGraph::slotTimeout);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(createButtons());
+    layout->addWidget(createButtons());
     layout->addWidget(createPlot(), 1);
     connect(mGroup, &QButtonGroup::idPressed, this, &DialogDataGraph::slotCommandPress);
     connect(mGroup, &QButtonGroup::idReleased, this, &DialogDataGraph::slotCommandRelease);
     updateControls();
 }
 
-QVBoxLayout* DialogDataGraph::createButtons()
+/// The column of buttons; on a low screen it scrolls, so that it never makes the window too high.
+QWidget* DialogDataGraph::createButtons()
 {
     constexpr int IconSize = 32;
     constexpr int GroupGap = 5;
@@ -49,7 +52,9 @@ QVBoxLayout* DialogDataGraph::createButtons()
         {tr("Setup"), "configure2"},
         {tr("Snapshot"), "frame_image"},
     };
-    auto* layout = new QVBoxLayout;
+    auto* column = new QWidget;
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(0, 0, 0, 0);
     for (int id = 0; id < CommandCount; ++id) {
         auto* button = new QToolButton;
         button->setToolTip(commands[id].toolTip);
@@ -71,7 +76,15 @@ QVBoxLayout* DialogDataGraph::createButtons()
     }
     layout->addStretch();
     mGroup->setExclusive(false);
-    return layout;
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(column);
+    const int scrollBar = area->verticalScrollBar()->sizeHint().width();
+    area->setFixedWidth(column->sizeHint().width() + scrollBar);
+    return area;
 }
 
 QWidget* DialogDataGraph::createPlot()

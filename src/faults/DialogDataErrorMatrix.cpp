@@ -18,6 +18,7 @@ DialogDataErrorMatrix::DialogDataErrorMatrix(QWidget* parent)
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setWidget(mInner);
+    area->setAccessibleName(tr("Error matrices"));
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(area, 0, 0);

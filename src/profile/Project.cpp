@@ -25,6 +25,17 @@ void Project::setProfileData()
         });
 }
 
+void Project::takeProfileData()
+{
+    Profile::instance()->forEachParameter(
+        [this](const ProfileDevice&, const ProfileParameter& parameter) {
+            mParameters.erase(parameter.name.toStdString());
+        });
+    for (const ProfileParameter* parameter : Profile::instance()->selectedParameters()) {
+        mParameters.insert(parameter->name.toStdString());
+    }
+}
+
 bool Project::readProject(const std::string& file)
 {
     mParameters.clear();

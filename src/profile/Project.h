@@ -19,6 +19,10 @@ public:
     /// Marks exactly those parameters of the profile as selected whose names the project holds.
     void setProfileData();
 
+    /// Takes the profile's marks into the project, so that setProfileData() brings them back after
+    /// another profile has been loaded. Names that the profile does not hold stay as they are.
+    void takeProfileData();
+
     /// Takes the file's names and marks the profile. False, with an empty project and the
     /// profile's marks as they were, when the file can't be read.
     bool readProject(const std::string& file);

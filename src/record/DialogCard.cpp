@@ -44,6 +44,16 @@ void DialogCard::updateInfo()
     }
 }
 
+void DialogCard::selectRecord(const QString& path)
+{
+    for (int row = 0; row < mTree->topLevelItemCount(); ++row) {
+        QTreeWidgetItem* item = mTree->topLevelItem(row);
+        if (item->data(0, Qt::UserRole).toString() == path) {
+            mTree->setCurrentItem(item);
+        }
+    }
+}
+
 void DialogCard::addRecord(const QString& path, const RecordInfo& info)
 {
     auto* item = new QTreeWidgetItem(mTree);

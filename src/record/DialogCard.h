@@ -25,6 +25,9 @@ public:
     void setCardInfo(const CardInfo& info);
     void updateInfo();
 
+    /// Picks one recording as a click on it does.
+    void selectRecord(const QString& path);
+
 Q_SIGNALS:
     /// Half a second after the last change of the selection. A selected detail line contributes
     /// an empty path.

@@ -1,6 +1,6 @@
 #include "widgets/Kernel.h"
 
-#include <QtWidgets/QStyleFactory>
+#include "widgets/ClearStyle.h"
 
 namespace TARN {
 
@@ -11,7 +11,6 @@ Kernel* Kernel::instance()
 }
 
 // The styles live as long as the program; widgets that use them are never outlived.
-Kernel::Kernel() : mStyle(QStyleFactory::create("Fusion")), mStyle2(QStyleFactory::create("Fusion"))
-{}
+Kernel::Kernel() : mStyle(new ClearStyle), mStyle2(new ClearStyle) {}
 
 } // namespace TARN

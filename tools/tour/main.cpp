@@ -4,8 +4,12 @@
 #include "app/DialogMain.h"
 #include "app/DialogSplash.h"
 #include "app/StartUp.h"
+#include "base/Property.h"
+#include "display/DialogGraphSetup.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QTimer>
+#include <QtGui/QAction>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDoubleSpinBox>
@@ -13,6 +17,7 @@
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
+#include <QtWidgets/QWizard>
 
 #include <CLI/CLI.hpp>
 #include <functional>
@@ -91,17 +96,78 @@ public:
             live(400);
             shoot(QString("%1-tab-%2").arg(tab + 3, 2, 10, QChar('0')).arg(tab));
         }
+        passDialogs();
         return !mFailed;
     }
 
 private:
     static constexpr int EventsToPass = 9; ///< into the middle of the flight's story
 
-    void shoot(const QString& name)
+    void passDialogs()
+    {
+        using TARN::ActionType;
+        passDialog("20-preferences", ActionType::Preferences);
+        passDialog("21-about", ActionType::About);
+        passDialog("22-help", ActionType::Help);
+        auto* setup = mWindow.findChild<TARN::DialogGraphSetup*>();
+        setup->updateDialog();
+        setup->show();
+        live(200);
+        shoot("23-graph-setup", setup);
+        setup->hide();
+        passWizard("24-kml", ActionType::ExportKml);
+        passWizard("25-csv", ActionType::ExportCsv);
+    }
+
+    QAction* action(TARN::ActionType type)
+    {
+        for (QAction* action : mWindow.findChildren<QAction*>()) {
+            if (action->data().isValid() && action->data().toInt() == static_cast<int>(type)) {
+                return action;
+            }
+        }
+        return nullptr;
+    }
+
+    void passDialog(const QString& name, TARN::ActionType type)
+    {
+        action(type)->trigger();
+        live(300);
+        if (QWidget* dialog = QApplication::activeWindow(); dialog != &mWindow) {
+            shoot(name, dialog);
+            dialog->hide();
+        }
+        mWindow.activateWindow();
+        live(100);
+    }
+
+    /// A wizard runs an event loop of its own: its pages are taken from within.
+    void passWizard(const QString& name, TARN::ActionType type)
+    {
+        QTimer::singleShot(500, &mWindow, [this, name] {
+            auto* wizard = qobject_cast<QWizard*>(QApplication::activeModalWidget());
+            if (wizard == nullptr) {
+                mFailed = true;
+                return;
+            }
+            const auto pages = wizard->pageIds();
+            for (int page = 0; page < pages.size(); ++page) {
+                live(200);
+                shoot(QString("%1-%2").arg(name).arg(page + 1), wizard);
+                wizard->next();
+            }
+            wizard->reject();
+        });
+        action(type)->trigger();
+    }
+
+    void shoot(const QString& name) { shoot(name, &mWindow); }
+
+    void shoot(const QString& name, QWidget* window)
     {
         const QString suffix = mArguments.dark ? "-dark" : "";
         const QString file = QString::fromStdString(mArguments.out) + "/" + name + suffix + ".png";
-        if (!mWindow.grab().save(file)) {
+        if (!window->grab().save(file)) {
             std::cerr << "orna-tour: could not write " << file.toStdString() << '\n';
             mFailed = true;
         }

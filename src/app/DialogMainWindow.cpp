@@ -1,0 +1,139 @@
+#include "app/DialogAbout.h"
+#include "app/DialogHelp.h"
+#include "app/DialogMain.h"
+#include "app/DialogPreferences.h"
+#include "base/Property.h"
+#include "base/XmlHandler.h"
+#include "display/DialogData.h"
+#include "record/DialogCard.h"
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QMimeData>
+#include <QtGui/QDragEnterEvent>
+#include <QtWidgets/QSplitter>
+
+namespace TARN {
+
+namespace {
+
+constexpr const char* GeometryKey = "MainGeometry";
+constexpr const char* PanesKey = "MainPanes";
+constexpr const char* ViewKey = "MainView";
+
+QByteArray storedState(const char* key)
+{
+    return QByteArray::fromBase64(
+        QByteArray::fromStdString(Property::instance()->getString(key, "")));
+}
+
+void present(QDialog* dialog)
+{
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
+}
+
+bool isRecording(const QString& path)
+{
+    return path.endsWith(".CAN") || path.endsWith(".can");
+}
+
+bool isProfile(const QString& path)
+{
+    XmlHandler xml;
+    QDomDocument document;
+    return xml.xmlReadFile(document, path) &&
+           document.documentElement().tagName() == "CanAerospaceProfile";
+}
+
+/// The local files and folders dragged that the window can open.
+QStringList openablePaths(const QMimeData* data)
+{
+    QStringList paths;
+    for (const QUrl& url : data->urls()) {
+        const QFileInfo file(url.toLocalFile());
+        if (url.isLocalFile() &&
+            (file.isDir() || isRecording(file.fileName()) || file.fileName().endsWith(".xml"))) {
+            paths.append(file.absoluteFilePath());
+        }
+    }
+    return paths;
+}
+
+} // namespace
+
+void DialogMain::showAbout()
+{
+    if (mAbout == nullptr) {
+        mAbout = new DialogAbout(this);
+    }
+    present(mAbout);
+}
+
+void DialogMain::showHelp()
+{
+    if (mHelp == nullptr) {
+        const std::string language = Property::instance()->getString("Locale", "us");
+        mHelp = new DialogHelp(this, QString::fromStdString(language));
+    }
+    present(mHelp);
+}
+
+void DialogMain::showPreferences()
+{
+    if (mPreferences == nullptr) {
+        mPreferences = new DialogPreferences(this);
+        connect(mPreferences, &DialogPreferences::signalProfileFileChanged, this,
+                &DialogMain::slotProfileFileChanged);
+    }
+    present(mPreferences);
+}
+
+/// Keeps size, panes and view for the next start.
+void DialogMain::saveWindow() const
+{
+    Property* settings = Property::instance();
+    settings->setString(GeometryKey, saveGeometry().toBase64().toStdString());
+    settings->setString(PanesKey, mSplitter->saveState().toBase64().toStdString());
+    settings->setInt(ViewKey, mData->currentView());
+    settings->writeXmlFile();
+}
+
+void DialogMain::restoreWindow()
+{
+    restoreGeometry(storedState(GeometryKey));
+    mSplitter->restoreState(storedState(PanesKey));
+    mData->setCurrentView(Property::instance()->getInt(ViewKey, 0));
+}
+
+void DialogMain::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!mLoading && !openablePaths(event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void DialogMain::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    for (const QString& path : openablePaths(event->mimeData())) {
+        openDropped(path);
+    }
+}
+
+void DialogMain::openDropped(const QString& path)
+{
+    if (QFileInfo(path).isDir()) {
+        openCard(path);
+    } else if (isRecording(path)) {
+        openCard(path.section('/', 0, -2));
+        mCard->selectRecord(path);
+    } else if (isProfile(path)) {
+        storeSetting("Profile", path);
+        slotProfileFileChanged();
+    } else if (cleanup()) {
+        openProject(path);
+    }
+}
+
+} // namespace TARN

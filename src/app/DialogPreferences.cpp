@@ -1,0 +1,175 @@
+#include "app/DialogPreferences.h"
+
+#include "app/Bundle.h"
+#include "base/Property.h"
+#include "widgets/QwtComboBox.h"
+
+#include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QToolButton>
+
+namespace TARN {
+
+namespace {
+
+struct Language
+{
+    const char* name; ///< in the language itself, whatever language the program speaks
+    const char* code;
+};
+
+constexpr Language Languages[] = {{"deutsch", "de"}, {"español", "es"},   {"français", "fr"},
+                                  {"english", "us"}, {"português", "pt"}, {"česky", "cz"}};
+
+} // namespace
+
+DialogPreferences::DialogPreferences(QWidget* parent)
+    : QDialog(parent), mPageList(new QListWidget), mPages(new QStackedWidget),
+      mProfilePath(new QLineEdit), mLanguage(new QwtComboBox(this, 0))
+{
+    setWindowTitle(tr("Preferences"));
+    mPageList->setMovement(QListView::Static);
+    mPageList->setMaximumWidth(150);
+    mPageList->setAccessibleName(tr("Pages"));
+    mPageList->setToolTip(tr("Pages of the preferences"));
+    mPages->addWidget(createGeneralPage());
+    connect(mPageList, &QListWidget::currentItemChanged, this, &DialogPreferences::slotChangePage);
+    new QListWidgetItem(QIcon(":/icons/pageGeneral.svg"), tr("General"), mPageList);
+    mPageList->setCurrentRow(0);
+    auto* buttons = new QDialogButtonBox;
+    QPushButton* ok = buttons->addButton(tr("Ok"), QDialogButtonBox::AcceptRole);
+    ok->setToolTip(tr("Close; every change holds already"));
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &DialogPreferences::slotClose);
+    auto* layout = new QGridLayout(this);
+    layout->addWidget(mPageList, 0, 0);
+    layout->addWidget(mPages, 0, 1);
+    layout->addWidget(buttons, 1, 0, 1, 2);
+    layout->setColumnStretch(1, 1);
+    resize(640, 300);
+    mProfilePath->setFocus();
+}
+
+QWidget* DialogPreferences::createGeneralPage()
+{
+    createProfileField();
+    createLanguageBox();
+    auto* browse = new QToolButton;
+    browse->setText(tr("..."));
+    browse->setToolTip(tr("Choose a profile file"));
+    browse->setAccessibleName(tr("Choose a profile file"));
+    connect(browse, &QToolButton::clicked, this, &DialogPreferences::slotProfileSelect);
+    auto* profileLabel = new QLabel(tr("Profile File :"));
+    profileLabel->setBuddy(mProfilePath);
+    auto* languageLabel = new QLabel(tr("Language :"));
+    languageLabel->setBuddy(mLanguage);
+    auto* page = new QGroupBox(tr("Application"));
+    auto* layout = new QGridLayout(page);
+    layout->addWidget(profileLabel, 0, 0);
+    layout->addWidget(mProfilePath, 0, 1);
+    layout->addWidget(browse, 0, 2);
+    layout->addWidget(languageLabel, 1, 0);
+    layout->addWidget(mLanguage, 1, 1, Qt::AlignLeft);
+    layout->setRowStretch(2, 1);
+    layout->setColumnStretch(1, 1);
+    return page;
+}
+
+void DialogPreferences::createProfileField()
+{
+    mProfilePath->setObjectName("profilePath");
+    mProfilePath->setToolTip(tr("The XML file that says how the samples are decoded"));
+    mProfilePath->setAccessibleName(tr("Profile file"));
+    connect(mProfilePath, &QLineEdit::textChanged, this, &DialogPreferences::slotProfilePath);
+}
+
+void DialogPreferences::createLanguageBox()
+{
+    mLanguage->setObjectName("language");
+    mLanguage->setToolTip(tr("Language of the program from its next start on"));
+    mLanguage->setAccessibleName(tr("Language"));
+    int number = 0;
+    for (const Language& language : Languages) {
+        mLanguage->addItem(QString::fromUtf8(language.name), number);
+        mLanguageCodes[number++] = language.code;
+    }
+    connect(mLanguage, qOverload<int>(&QwtComboBox::signalActivated), this,
+            &DialogPreferences::slotLanguage);
+}
+
+void DialogPreferences::fillDialog()
+{
+    const QScopedValueRollback filling(mFilling, true);
+    const Property* settings = Property::instance();
+    mProfilePath->setText(QString::fromStdString(settings->getString("Profile", DefaultProfile)));
+    const std::string locale = settings->getString("Locale", "us");
+    int current = -1;
+    for (const auto& [number, code] : mLanguageCodes) {
+        if (code == locale) {
+            current = number;
+        }
+    }
+    mLanguage->setData(current);
+}
+
+void DialogPreferences::showEvent(QShowEvent* event)
+{
+    fillDialog();
+    QDialog::showEvent(event);
+}
+
+void DialogPreferences::slotClose()
+{
+    accept();
+}
+
+void DialogPreferences::slotChangePage(QListWidgetItem* current, QListWidgetItem* previous)
+{
+    mPages->setCurrentIndex(mPageList->row(current != nullptr ? current : previous));
+}
+
+void DialogPreferences::slotProfilePath(const QString& path)
+{
+    if (mFilling) {
+        return;
+    }
+    Property::instance()->setString("Profile", path.toStdString());
+    Property::instance()->writeXmlFile();
+    Q_EMIT signalProfileFileChanged();
+}
+
+void DialogPreferences::slotProfileSelect()
+{
+    const QString file =
+        QFileDialog::getOpenFileName(this, tr("Profile"), inBundle("orna.app/Contents/Resources"),
+                                     tr("ORNA Profile (*.xml);;All files (*.*)"));
+    if (!file.isEmpty()) {
+        slotProfilePath(file);
+        fillDialog();
+    }
+}
+
+void DialogPreferences::slotLanguage(int number)
+{
+    if (mFilling) {
+        return;
+    }
+    Property::instance()->setString("Locale", mLanguageCodes[number]);
+    Property::instance()->writeXmlFile();
+    Q_EMIT signalLanguageChanged();
+    QMessageBox box(QMessageBox::Information, tr("TARN Info"),
+                    tr("Please restart TARN to load new language !"), QMessageBox::NoButton, this);
+    box.addButton(tr("Ok"), QMessageBox::AcceptRole);
+    box.exec();
+}
+
+} // namespace TARN

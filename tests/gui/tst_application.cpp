@@ -1,0 +1,259 @@
+#include "base/Property.h"
+#include "gui/Viewer.h"
+#include "profile/Profile.h"
+#include "record/Record.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QMimeData>
+#include <QtGui/QAccessible>
+#include <QtGui/QDragEnterEvent>
+#include <QtTest/QTest>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QTabWidget>
+#include <QtWidgets/QTextBrowser>
+
+using namespace TARN;
+
+/// What surrounds the views: preferences, help, dropped files, the window's memory.
+class Application : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { Profile::instance()->clear(); }
+    void anotherProfileKeepsSelectionAndTime();
+    void languageIsForTheNextStart();
+    void manualIsSearched();
+    void opensWhatIsDropped_data();
+    void opensWhatIsDropped();
+    void windowComesBackAsItWas();
+    void everyControlSaysWhatItIs();
+};
+
+namespace {
+
+template <typename T>
+T* child(QWidget* parent, const char* name)
+{
+    T* found = parent->findChild<T*>(name);
+    [&] { QVERIFY2(found != nullptr, name); }();
+    return found;
+}
+
+/// Drags paths onto the window and lets them fall when it would take them.
+bool drop(QWidget* window, const QStringList& paths)
+{
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& path : paths) {
+        urls.append(QUrl::fromLocalFile(path));
+    }
+    data.setUrls(urls);
+    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    enter.ignore();
+    QApplication::sendEvent(window, &enter);
+    if (!enter.isAccepted()) {
+        return false;
+    }
+    QDropEvent fall({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(window, &fall);
+    return true;
+}
+
+QString setting(const char* key)
+{
+    return QString::fromStdString(Property::instance()->getString(key, ""));
+}
+
+} // namespace
+
+void Application::anotherProfileKeepsSelectionAndTime()
+{
+    Viewer viewer(30); // long enough for the story to exceed limits
+    viewer.start();
+    viewer.loadRecordings({0, 1});
+    viewer.slider()->setValue(viewer.slider()->maximum() / 3);
+    viewer.clickCheckBox(viewer.parameter("CHT 1 [°C]"));
+    viewer.confirmSelection();
+    const int row = viewer.selectedRow();
+    const QString cell = viewer.cell(row, 2);
+    const auto limits = viewer.window().record().recordData().limits.size();
+    QVERIFY(row > 0);
+    QVERIFY(limits > 0);
+
+    viewer.action("Preferences")->trigger();
+    auto* path = child<QLineEdit>(&viewer.window(), "profilePath");
+    const QString profile = path->text();
+    QTest::keyClick(path, Qt::Key_End);
+    QTest::keyClicks(path, "x"); // there is no such file
+    QCOMPARE(setting("Profile"), profile + "x");
+    QCOMPARE(viewer.parameters()->topLevelItemCount(), 0);
+    QCOMPARE(viewer.table()->model()->columnCount(), 1);
+    QCOMPARE(viewer.window().record().recordData().limits.size(), 0U);
+    QTest::keyClick(path, Qt::Key_Backspace);
+    QCOMPARE(viewer.parameter("CHT 1 [°C]")->checkState(0), Qt::Checked);
+    QCOMPARE(viewer.parameter("CHT 2 [°C]")->checkState(0), Qt::Unchecked);
+    QCOMPARE(viewer.selectedRow(), row);
+    QCOMPARE(viewer.cell(row, 2), cell);
+    QCOMPARE(viewer.window().record().recordData().limits.size(), limits);
+    QFile settings(viewer.settingsPath());
+    QVERIFY(settings.open(QIODevice::ReadOnly));
+    QVERIFY(settings.readAll().contains(profile.toUtf8() + "\""));
+}
+
+void Application::languageIsForTheNextStart()
+{
+    Viewer viewer;
+    viewer.start();
+    viewer.action("Preferences")->trigger();
+    auto* language = child<QComboBox>(&viewer.window(), "language");
+    QCOMPARE(language->count(), 6);
+    QCOMPARE(language->currentText(), "english");
+    viewer.answerBox("Ok");
+    QTest::keyClick(language, Qt::Key_Up);
+    QVERIFY(viewer.boxWasShown());
+    QCOMPARE(setting("Locale"), "fr");
+    QCOMPARE(viewer.action("Help")->text(), "Help");
+    Property::instance()->setString("Locale", "it"); // one that is not offered
+    language->window()->hide();
+    viewer.action("Preferences")->trigger();
+    QCOMPARE(language->currentIndex(), -1);
+}
+
+void Application::manualIsSearched()
+{
+    Viewer viewer;
+    viewer.start();
+    QTest::keyClick(&viewer.window(), Qt::Key_F1);
+    auto* text = child<QTextBrowser>(&viewer.window(), "manual");
+    auto* sections = child<QListWidget>(&viewer.window(), "sections");
+    auto* search = child<QLineEdit>(&viewer.window(), "search");
+    QVERIFY(text->isVisible());
+    const auto shown = [&] {
+        int count = 0;
+        for (int row = 0; row < sections->count(); ++row) {
+            count += sections->item(row)->isHidden() ? 0 : 1;
+        }
+        return count;
+    };
+    const int all = shown();
+    QVERIFY(all > 10);
+    QTest::keyClicks(search, "offset");
+    QVERIFY(shown() > 0);
+    QVERIFY(shown() < all);
+    QCOMPARE(text->textCursor().selectedText().toLower(), "offset");
+    const int first = text->textCursor().position();
+    QTest::keyClick(search, Qt::Key_Return);
+    QVERIFY(text->textCursor().position() > first);
+    QVERIFY(text->isVisible());
+    QTest::keyClicks(search, "zzz");
+    QCOMPARE(shown(), 0);
+    search->clear();
+    QCOMPARE(shown(), all);
+    sections->setCurrentRow(all - 1);
+    const QRect heading = text->cursorRect();
+    QVERIFY(text->viewport()->rect().contains(heading.center()));
+}
+
+void Application::opensWhatIsDropped_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("taken");
+    QTest::addRow("card folder") << "other" << true;
+    QTest::addRow("recording") << "other/LOG_0002.CAN" << true;
+    QTest::addRow("project") << "other/Two.xml" << true;
+    QTest::addRow("profile") << "other/Profile.xml" << true;
+    QTest::addRow("anything else") << "other/readme.txt" << false;
+}
+
+void Application::opensWhatIsDropped()
+{
+    QFETCH(QString, file);
+    QFETCH(bool, taken);
+    Viewer viewer;
+    const QString home = viewer.cardPath().section('/', 0, -2);
+    QVERIFY(QFile::rename(viewer.cardPath(), home + "/other"));
+    QVERIFY(QFile::copy(ORNA_RESOURCES "/Tolvane_Profile.xml", home + "/other/Profile.xml"));
+    QVERIFY(QFile::copy(viewer.projectPath(), home + "/other/Two.xml"));
+    QVERIFY(QFile::copy(viewer.projectPath(), home + "/other/readme.txt"));
+    viewer.writeSettings("", "no profile", "");
+    viewer.start();
+    const QString path = home + "/" + file;
+    QCOMPARE(drop(&viewer.window(), {path}), taken);
+    QTest::qWait(700);
+    const bool isCard = !file.contains('.') || file.endsWith("CAN");
+    QCOMPARE(viewer.recordings()->topLevelItemCount(), isCard ? 2 : 0);
+    QCOMPARE(setting("LastPath"), isCard ? home + "/other" : QString());
+    QCOMPARE(!viewer.window().record().recordData().empty(), file.endsWith("CAN"));
+    QCOMPARE(setting("LastProjectPath") == path, file.endsWith("Two.xml"));
+    QCOMPARE(viewer.parameters()->topLevelItemCount() > 0, file.endsWith("Profile.xml"));
+}
+
+void Application::windowComesBackAsItWas()
+{
+    Viewer viewer;
+    viewer.start();
+    QCOMPARE(viewer.window().size(), QSize(1000, 800));
+    auto* splitter = viewer.window().findChild<QSplitter*>();
+    viewer.window().resize(900, 700);
+    QTest::qWait(50);
+    splitter->setSizes({400, 500});
+    const QList<int> sizes = splitter->sizes();
+    child<QTabWidget>(&viewer.window(), "views")->setCurrentIndex(3);
+    viewer.window().close();
+    QVERIFY(viewer.hasClosed());
+
+    viewer.start();
+    QCOMPARE(viewer.window().size(), QSize(900, 700));
+    QCOMPARE(viewer.window().findChild<QSplitter*>()->sizes(), sizes);
+    auto* views = child<QTabWidget>(&viewer.window(), "views");
+    QCOMPARE(views->currentIndex(), 3);
+    viewer.window().close();
+
+    // A view that the profile does not fill is not shown, so another one is.
+    QFile profile(viewer.cardPath() + "/Plain.xml");
+    QVERIFY(profile.open(QIODevice::WriteOnly));
+    profile.write("<CanAerospaceProfile/>");
+    profile.close();
+    Property::instance()->setString("Profile", profile.fileName().toStdString());
+    Property::instance()->writeXmlFile();
+    viewer.start();
+    views = child<QTabWidget>(&viewer.window(), "views");
+    QVERIFY(views->isTabVisible(views->currentIndex()));
+}
+
+/// Someone who cannot see the screen hears a name for everything that takes the keyboard.
+void Application::everyControlSaysWhatItIs()
+{
+    Viewer viewer;
+    viewer.start();
+    viewer.loadRecordings({0});
+    for (const char* command : {"Preferences", "About", "Help"}) {
+        viewer.action(command)->trigger();
+    }
+    QStringList nameless;
+    for (QWidget* widget : viewer.window().findChildren<QWidget*>()) {
+        const bool isPart = widget->objectName().startsWith("qt_") ||
+                            qobject_cast<QScrollBar*>(widget) != nullptr ||
+                            widget->focusPolicy() == Qt::NoFocus || widget->focusProxy() != nullptr;
+        if (isPart || qobject_cast<QDialog*>(widget) != nullptr) {
+            continue;
+        }
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+        if (face == nullptr || face->text(QAccessible::Name).isEmpty()) {
+            nameless.append(QString("%1 %2 in %3")
+                                .arg(widget->metaObject()->className(), widget->objectName(),
+                                     widget->parentWidget()->metaObject()->className()));
+        }
+    }
+    QCOMPARE(nameless.join("\n"), QString());
+}
+
+QTEST_MAIN(Application)
+#include "tst_application.moc"
