@@ -20,7 +20,7 @@ std::uint32_t bitsOfType(const FaultMatrix& matrix, int type)
 {
     std::uint32_t mask = 0;
     for (const auto& [bit, parameter] : matrix.parameters) {
-        if (bit >= 0 && bit < 32 && parameter.errorType == type) {
+        if (parameter.errorType == type) {
             mask |= 1U << bit;
         }
     }

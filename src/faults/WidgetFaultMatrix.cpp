@@ -14,7 +14,7 @@ namespace TARN {
 
 namespace {
 
-constexpr int Bits = 32;
+constexpr int Bits = FaultMatrix::Bits;
 constexpr int NarrowestColumn = 15;
 constexpr int RowHeight = 150;
 

@@ -1,5 +1,7 @@
 #include "profile/ProfileReader.h"
 
+#include "base/Diagnostics.h"
+
 namespace TARN {
 
 namespace {
@@ -120,6 +122,13 @@ void ProfileReader::readDevice(const QDomElement& element)
 
 void ProfileReader::readErrorMatrix(const QDomElement& element)
 {
+    // Every parameter is offered to every matrix; a bound keeps that linear in the file's size.
+    constexpr std::size_t MostMatrices = 1024;
+    if (mProfile.mInfo.faultMatrices.size() == MostMatrices) {
+        diagnose("more than %zu error matrices, <%s> is left out\n", MostMatrices,
+                 qUtf8Printable(text(element, "name")));
+        return;
+    }
     FaultMatrix matrix;
     matrix.id = integer(element, "id");
     matrix.name = text(element, "name");
@@ -168,6 +177,9 @@ void ProfileReader::store(ProfileDevice& device, const ProfileParameter& paramet
 {
     device.parameters[parameter.uid] = parameter;
     mProfile.mParametersById[static_cast<unsigned>(parameter.id)] = parameter;
+    if (parameter.startBit < 0 || parameter.startBit >= FaultMatrix::Bits) {
+        return; // no bit of a matrix
+    }
     for (FaultMatrix& matrix : mProfile.mInfo.faultMatrices) {
         if (matrix.id == parameter.id) {
             matrix.parameters[parameter.startBit] = parameter;

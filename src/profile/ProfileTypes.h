@@ -135,7 +135,9 @@ struct FaultMatrix
 {
     int id = 0; ///< CAN identifier of the status message
     QString name;
-    std::map<int, ProfileParameter> parameters; ///< by bit number
+    std::map<int, ProfileParameter> parameters; ///< by bit number, 0 ... Bits - 1
+
+    static constexpr int Bits = 32;
 };
 
 struct ProfileInfo

@@ -3,6 +3,8 @@
 #include "base/XmlHandler.h"
 #include "profile/Profile.h"
 
+#include <QtCore/QFileInfo>
+
 namespace TARN {
 
 Project* Project::instance()
@@ -53,6 +55,15 @@ bool Project::readProject(const std::string& file)
     }
     setProfileData();
     return true;
+}
+
+bool Project::mayReplace(const std::string& file)
+{
+    XmlHandler xml;
+    QDomDocument document;
+    return !QFileInfo::exists(QString::fromStdString(file)) ||
+           (xml.xmlReadFile(document, QString::fromStdString(file)) &&
+            document.documentElement().tagName() == "TarnProject");
 }
 
 bool Project::saveProject(const std::string& file)

@@ -27,6 +27,10 @@ public:
     /// profile's marks as they were, when the file can't be read.
     bool readProject(const std::string& file);
 
+    /// Whether a file may be replaced by a project without losing anything else: there is none, or
+    /// it is a project.
+    static bool mayReplace(const std::string& file);
+
     /// Writes the names of the parameters now selected, in profile order. False when the file
     /// could not be written; the old one is then still there.
     bool saveProject(const std::string& file);

@@ -93,6 +93,8 @@ void DialogCard::slotSelect()
     for (const QTreeWidgetItem* item : mTree->selectedItems()) {
         mSelected.push_back(item->data(0, Qt::UserRole).toString());
     }
+    // As listed, however they were picked: time runs forward from file to file.
+    mSelected.sort();
     mTimer.start(Delay);
 }
 

@@ -5,6 +5,8 @@
 #include "record/RecordHeader.h"
 #include "record/TimeRuns.h"
 
+#include <QtCore/QHashFunctions>
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -52,6 +54,12 @@ public:
 private:
     using Key = std::uint64_t;
 
+    /// Salted anew in each run: no file can be made whose keys all fall on one place.
+    struct SaltedHash
+    {
+        std::size_t operator()(Key key) const { return qHash(key, QHashSeed::globalSeed()); }
+    };
+
     struct Group
     {
         Key key;
@@ -71,7 +79,7 @@ private:
         std::uint32_t group;
     };
     std::array<Recent, 4096> mRecent;
-    std::unordered_map<Key, std::uint32_t> mIndex;
+    std::unordered_map<Key, std::uint32_t, SaltedHash> mIndex;
     std::vector<Group> mGroups;
 
     std::size_t mReserved = 0;

@@ -147,6 +147,7 @@ private Q_SLOTS:
             "<Device><Parameter name='early' id='7' startBit='0'/>"
             "<ErrorMatrix id='7' name='M'/><ErrorMatrix id='8'/>"
             "<Parameter name='b' id='7' startBit='9' errorType='Info'/>"
+            "<Parameter name='no bit' id='7' startBit='32'/>"
             "<Parameter name='replaced' id='7' startBit='2'/></Device>"
             "<Device><ErrorMatrix id='7'/><Parameter name='a' id='7' startBit='2'/></Device>"));
         QCOMPARE(mInfo.faultMatrices.size(), 3U);
