@@ -241,7 +241,8 @@ bool DialogMain::askSaveProject()
 
 bool DialogMain::saveProject(bool askName)
 {
-    if (askName || mProjectFile.isEmpty()) {
+    // A profile opened as a project by mistake is not replaced without a question.
+    if (askName || mProjectFile.isEmpty() || !Project::mayReplace(mProjectFile.toStdString())) {
         const QString file = askProjectName();
         if (file.isEmpty()) {
             return false;

@@ -97,8 +97,7 @@ QString DialogDataGraph::emptyText() const
     }
     if (mGraph->model().hasSamples()) {
         // Read when they are gone.
-        return tr("The graph was cleared.\nPick the recording again, or press \"Confirm "
-                  "Selection\", to fill it.");
+        return tr("The graph was cleared.\nPress \"Confirm Selection\" to fill it again.");
     }
     return tr("The recording holds no sample of the selected parameters.");
 }

@@ -27,6 +27,7 @@ Viewer::Viewer(int minutes)
 {
     qputenv("HOME", mHome.path().toUtf8());
     QDir(mHome.path()).mkpath("ORNA");
+    QDir(mHome.path()).mkpath("out");
     TARN::CardOptions card;
     card.folder = cardPath().toStdString();
     card.minutes = minutes;

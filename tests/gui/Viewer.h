@@ -22,6 +22,7 @@ public:
     explicit Viewer(int minutes = 10);
 
     QString cardPath() const { return mHome.filePath("card"); }
+    QString exportPath() const { return mHome.filePath("out"); }
     QString projectPath() const { return mHome.filePath("Flight.test.xml"); }
     QString settingsPath() const { return mHome.filePath("ORNA/ORNA.ini"); }
 

@@ -5,11 +5,13 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QMimeData>
+#include <QtCore/QTimer>
 #include <QtGui/QAccessible>
 #include <QtGui/QDragEnterEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialog>
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
@@ -32,6 +34,7 @@ private Q_SLOTS:
     void manualIsSearched();
     void opensWhatIsDropped_data();
     void opensWhatIsDropped();
+    void profileOpenedAsProjectIsNotReplaced();
     void windowComesBackAsItWas();
     void everyControlSaysWhatItIs();
 };
@@ -193,6 +196,29 @@ void Application::opensWhatIsDropped()
     QCOMPARE(!viewer.window().record().recordData().empty(), file.endsWith("CAN"));
     QCOMPARE(setting("LastProjectPath") == path, file.endsWith("Two.xml"));
     QCOMPARE(viewer.parameters()->topLevelItemCount() > 0, file.endsWith("Profile.xml"));
+}
+
+void Application::profileOpenedAsProjectIsNotReplaced()
+{
+    Viewer viewer;
+    const QString profile = viewer.cardPath() + "/Profile.xml";
+    QVERIFY(QFile::copy(ORNA_RESOURCES "/Tolvane_Profile.xml", profile));
+    viewer.writeSettings(viewer.cardPath(), profile, profile);
+    viewer.start();
+    viewer.clickCheckBox(viewer.parameter("CHT 1 [°C]"));
+    bool asked = false;
+    QTimer::singleShot(200, this, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        asked = dialog != nullptr;
+        if (dialog != nullptr) {
+            dialog->reject();
+        }
+    });
+    viewer.action("&Save Project")->trigger();
+    QVERIFY(asked);
+    QFile file(profile);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll().contains("<CanAerospaceProfile"));
 }
 
 void Application::windowComesBackAsItWas()
