@@ -1,0 +1,998 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>ExportCan</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogCard</name>
+    <message>
+        <source>No card opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder of the recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Card folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Time: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop Time: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bus Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ECU Serial Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Software Part Nr. A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Software Part Nr. B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ECU Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EMU SW Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Engine Serial Nr.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Engine Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samples Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogData</name>
+    <message>
+        <source>Data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Limit/Warning Exceed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning Lamps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fault Matrix</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date and time of day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time on the recording&apos;s clock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offset:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current time, from the recording&apos;s start to its stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current time; type a time and press Enter to go there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go to time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogDataErrorMatrix</name>
+    <message>
+        <source>The profile describes no error matrix.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogDataGraph</name>
+    <message>
+        <source>%1 of %2 selected parameters shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No parameter is selected.
+Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No recording is loaded.
+Open a card and pick one or more recordings in the list on the left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The graph was cleared.
+Pick the recording again, or press &quot;Confirm Selection&quot;, to fill it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The recording holds no sample of the selected parameters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Snapshot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BMP File (*.bmp);;All Files (*.*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The snapshot could not be saved as
+%1
+Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png or .jpg.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom 1:1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom Marker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Single Graph Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset all to default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The graph cannot be drawn: this display offers no OpenGL.
+All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogDataLimit</name>
+    <message>
+        <source>Warning/Limit Exceed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No limit exceeded in this recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogDataTable</name>
+    <message>
+        <source>Values of the selected parameters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No parameter is selected.
+Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No recording is loaded.
+Open a card and pick one or more recordings in the list on the left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The recording holds no sample of the selected parameters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogDataWarning</name>
+    <message>
+        <source>Warning Lamps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No warning lamp came on in this recording.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogEventList</name>
+    <message>
+        <source>No recording is loaded.
+Open a card and pick one or more recordings in the list on the left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportCsv</name>
+    <message>
+        <source>CSV Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportCsvOptions</name>
+    <message>
+        <source>CSV/CAN Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select CSV/CAN Option</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Limiter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameter Selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Semikolon ;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comma ,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tabstop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stands between two columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>10 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time from row to row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Parameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selected Parameter only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns of the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportCsvPath</name>
+    <message>
+        <source>Save CSV/CAN Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CSV/CAN Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select the output directory and file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>.CSV Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>.CAN Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A table of decoded values, or a recording that can be opened again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Filename</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportKml</name>
+    <message>
+        <source>Google Earth KML Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportKmlOptions</name>
+    <message>
+        <source> ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One point of the path for each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>KML Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select KML Option</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Timestamp every :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width of the flight path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Line Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line Style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Polygon Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw Polygon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A curtain from the flight path to the ground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polygon color</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportKmlPath</name>
+    <message>
+        <source>Save KML Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>KML Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select the output directory and file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Filename</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportKmlPlacemark</name>
+    <message>
+        <source>KML Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select KML Placemarks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> samples</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points of the path from mark to mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Placemark Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw selected parameters as placemarks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Placemark every</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Placemark Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select Exceedance Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Limit exceedance / Warning Lamps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Limit Exceedance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warning Lamps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exceedance Placemark Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogGraphSetup</name>
+    <message>
+        <source>Background color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grid On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grid color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label background</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cursor On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Legend On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Autoscale On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Y minimum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Y maximum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Oscilloscope Setup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, used while autoscale is off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Floating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cursor mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Background Color :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grid On/Color :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label Color :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Label Background :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cursor On/Mode :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Legend :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Y-Scale :</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogMain</name>
+    <message>
+        <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samples loaded: %L1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not everything could be read (%1). Check that the card is still in place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[edited]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create new Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+N</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+O</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Project File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+S</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Project File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save Project as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Project as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Project File as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open Card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open SD Card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Google KML File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export Google Earth KML File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export CSV/CAN File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit Application</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open TARN Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Project Files (*.xml)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The project &quot;%1&quot; could not be read.
+Check that it is a project file saved by this program.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings found: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TARN Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current Project not saved !
+Save it now ?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The project could not be written to &quot;%1&quot;.
+The old file is unchanged; save it in another folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save TARN Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogProfile</name>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confirm Selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selected Parameters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Untick all parameters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the ticked parameters in all views</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameters of the profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogStatusBar</name>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DirectoryEdit</name>
+    <message>
+        <source>Browse...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder of the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::EventModel</name>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::TableModel</name>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::WidgetErrorTime</name>
+    <message>
+        <source>When errors were active: from the top info, warning, fault. Click to go there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fault timeline</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::WidgetTimeRange</name>
+    <message>
+        <source>Start/Stop Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cursor Pos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start at the current time of the data window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop at the current time of the data window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The start time is after the stop time: nothing would be exported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WidgetGraph</name>
+    <message>
+        <source>Graph of the selected parameters</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
