@@ -13,6 +13,71 @@
     </message>
 </context>
 <context>
+    <name>ExportCsv</name>
+    <message>
+        <source>The first sample is at %1 s, the last at %2 s, the export ends at %3 s. Choose a shorter time range or a coarser resolution.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table would have too many rows.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table would have %1 rows, about %2 MB, more than is free in &quot;%3&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No parameter is selected, the file holds its title only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No sample lies in the time range, the file holds its titles only.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExportKml</name>
+    <message>
+        <source>&quot;%1&quot; could not be written. Check that the folder exists, may be written to and has room.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No position lies in the time range, the flight path is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ExportTarget</name>
+    <message>
+        <source>Type a file name, without a folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogCard</name>
     <message>
         <source>No card opened</source>

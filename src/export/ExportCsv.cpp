@@ -21,10 +21,11 @@ namespace {
 constexpr double NoSample = 1e15;
 constexpr auto NoTick = std::numeric_limits<std::int64_t>::max();
 
-QString translated(const char* text)
+/// The user's texts of this file, declared so that the extraction of texts finds them.
+struct Texts
 {
-    return QCoreApplication::translate("ExportCsv", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ExportCsv)
+};
 
 void appendPadded(std::int64_t value, int digits, std::string& out)
 {
@@ -140,15 +141,15 @@ QString ExportCsv::refusal(std::int64_t first, std::int64_t last, const CsvExpor
         return {}; // the title line alone
     }
     const auto times = [this, &options] {
-        return translated("The first sample is at %1 s, the last at %2 s, the export ends at %3 s. "
-                          "Choose a shorter time range or a coarser resolution.")
+        return Texts::tr("The first sample is at %1 s, the last at %2 s, the export ends at %3 s. "
+                         "Choose a shorter time range or a coarser resolution.")
             .arg(mEarliest, 0, 'f', 3)
             .arg(mLatest, 0, 'f', 3)
             .arg(options.stopTime, 0, 'f', 3);
     };
     if (first < std::numeric_limits<std::int32_t>::min() ||
         last > std::numeric_limits<std::int32_t>::max()) {
-        return translated("The table would have too many rows.") + " " + times();
+        return Texts::tr("The table would have too many rows.") + " " + times();
     }
     constexpr std::size_t TimeWidth = 13;
     std::size_t rowSize = TimeWidth;
@@ -164,7 +165,7 @@ QString ExportCsv::refusal(std::int64_t first, std::int64_t last, const CsvExpor
     const auto disk =
         std::filesystem::space(QFileInfo(options.path()).absolutePath().toStdString(), unknown);
     if (!unknown && size > static_cast<double>(disk.available)) {
-        return translated("The table would have %1 rows, about %2 MB, more than is free in \"%3\".")
+        return Texts::tr("The table would have %1 rows, about %2 MB, more than is free in \"%3\".")
                    .arg(last - first + 1)
                    .arg(size / 1e6, 0, 'f', 0)
                    .arg(QString::fromStdString(options.directory)) +
@@ -180,7 +181,7 @@ ExportResult ExportCsv::writeFile(const CsvExportOptions& options, std::int64_t 
     if (!file.open()) {
         diagnose("could not open <%s> for write !\n", qUtf8Printable(options.path()));
         return ExportResult::failure(
-            translated("\"%1\" can't be written: %2").arg(options.path(), file.errorText()));
+            Texts::tr("\"%1\" can't be written: %2").arg(options.path(), file.errorText()));
     }
     std::string title = "Time";
     for (const Column& column : mColumns) {
@@ -190,12 +191,12 @@ ExportResult ExportCsv::writeFile(const CsvExportOptions& options, std::int64_t 
     writeRows(file, options, first, last);
     if (!file.commit()) {
         return ExportResult::failure(
-            translated("\"%1\" could not be written: %2").arg(options.path(), file.errorText()));
+            Texts::tr("\"%1\" could not be written: %2").arg(options.path(), file.errorText()));
     }
     return ExportResult::success(
-        mColumns.empty() ? translated("No parameter is selected, the file holds its title only.")
-        : first > last   ? translated("No sample lies in the time range, the file holds its "
-                                        "titles only.")
+        mColumns.empty() ? Texts::tr("No parameter is selected, the file holds its title only.")
+        : first > last   ? Texts::tr("No sample lies in the time range, the file holds its "
+                                       "titles only.")
                          : QString());
 }
 

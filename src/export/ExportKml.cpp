@@ -13,10 +13,11 @@ namespace TARN {
 
 namespace {
 
-QString translated(const char* text)
+/// The user's texts of this file, declared so that the extraction of texts finds them.
+struct Texts
 {
-    return QCoreApplication::translate("ExportKml", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ExportKml)
+};
 
 /// Alpha, blue, green, red, each as two hexadecimal digits.
 std::string kmlColor(const std::string& rgb, int alpha)
@@ -66,13 +67,13 @@ ExportResult ExportKml::exportData(const Record& record, const KmlExportOptions&
     mDocument = QDomDocument();
     if (!written) {
         return ExportResult::failure(
-            translated("\"%1\" could not be written. Check that the folder exists, may be written "
-                       "to and has room.")
+            Texts::tr("\"%1\" could not be written. Check that the folder exists, may be written "
+                      "to and has room.")
                 .arg(options.path()));
     }
     return ExportResult::success(
         path.positions().empty()
-            ? translated("No position lies in the time range, the flight path is empty.")
+            ? Texts::tr("No position lies in the time range, the flight path is empty.")
             : QString());
 }
 

@@ -12,23 +12,24 @@ namespace TARN {
 
 namespace {
 
-QString translated(const char* text)
+/// The user's texts of this file, declared so that the extraction of texts finds them.
+struct Texts
 {
-    return QCoreApplication::translate("ExportTarget", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ExportTarget)
+};
 
 /// Why nothing can be written there; empty when nothing speaks against it.
 QString obstacle(const QFileInfo& folder, const QString& file)
 {
     if (file.isEmpty() || file.contains('/')) {
-        return translated("Type a file name, without a folder.");
+        return Texts::tr("Type a file name, without a folder.");
     }
     if (!folder.isDir()) {
-        return translated("The folder \"%1\" does not exist. Choose another.")
+        return Texts::tr("The folder \"%1\" does not exist. Choose another.")
             .arg(folder.filePath());
     }
     if (!folder.isWritable()) {
-        return translated("The folder \"%1\" may not be written to. Choose another.")
+        return Texts::tr("The folder \"%1\" may not be written to. Choose another.")
             .arg(folder.filePath());
     }
     return {};
@@ -72,15 +73,15 @@ bool confirmTarget(QWidget* parent, const std::string& directory, const std::str
     const QString file = QString::fromStdString(fileName);
     const QString reason = obstacle(folder, file);
     if (!reason.isEmpty()) {
-        QMessageBox::warning(parent, translated("ORNA Warning"), reason);
+        QMessageBox::warning(parent, Texts::tr("ORNA Warning"), reason);
         return false;
     }
     if (!QFileInfo::exists(folder.filePath() + "/" + file)) {
         return true;
     }
     return QMessageBox::question(
-               parent, translated("ORNA Warning"),
-               translated("\"%1\" exists in this folder. Replace it?").arg(file)) ==
+               parent, Texts::tr("ORNA Warning"),
+               Texts::tr("\"%1\" exists in this folder. Replace it?").arg(file)) ==
            QMessageBox::Yes;
 }
 
