@@ -17,6 +17,9 @@ cmake --build --preset release
 QT_QPA_PLATFORM=offscreen ctest --preset release --label-exclude display
 xvfb-run -a -s "-screen 0 1400x1000x24" ctest --preset release --label-regex display
 
+step "packaging"
+scripts/check-packaging.sh build/release
+
 step "core under the address and undefined-behaviour sanitizers"
 cmake --preset asan $launcher -DORNA_WERROR=ON
 cmake --build --preset asan

@@ -10,6 +10,8 @@ packages=(
     libgl-dev libopengl-dev libcli11-dev nlohmann-json3-dev
     # test and benchmark
     clang-format-14 gdal-bin
+    # packaging and its checks
+    dpkg-dev file desktop-file-utils appstream shared-mime-info libglib2.0-bin libxml2-utils groff-base
     # a screen where there is none
     xvfb xauth xdotool libgl1-mesa-dri fonts-dejavu-core
 )
