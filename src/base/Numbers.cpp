@@ -1,12 +1,95 @@
 #include "base/Numbers.h"
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <charconv>
+#include <cstdint>
 #include <cstdlib>
 #include <string_view>
 
 namespace TARN {
 
 namespace {
+
+__extension__ using Wide = unsigned __int128;
+
+constexpr int MostDigits = 17;      ///< printed in integers; products of them fit Wide
+constexpr int LowestExponent = -4;  ///< of ten; smaller numbers are printed as "1e-05"
+constexpr double LowestValue = 1e-4;
+constexpr double LimitValue = 1e17; ///< no number of MostDigits digits before the point is larger
+
+template <std::uint64_t base, std::size_t count>
+constexpr std::array<std::uint64_t, count> powersOf()
+{
+    std::array<std::uint64_t, count> powers = {1};
+    for (std::size_t i = 1; i < count; ++i) {
+        powers[i] = powers[i - 1] * base;
+    }
+    return powers;
+}
+
+constexpr auto PowersOfFive = powersOf<5, MostDigits - LowestExponent + 1>();
+constexpr auto PowersOfTen = powersOf<10, MostDigits + 1>();
+
+/// The integer nearest fraction * 2^exponent * 10^k, halves to even. The product with 5^k is
+/// exact, 53 and 49 bits at most; so what the shift drops is known to the last bit.
+std::uint64_t scaledInteger(std::uint64_t fraction, int exponent, int k)
+{
+    const Wide product = Wide(fraction) * PowersOfFive[static_cast<std::size_t>(k)];
+    const int drop = -(exponent + k);
+    if (drop <= 0) {
+        return static_cast<std::uint64_t>(product << -drop);
+    }
+    const auto whole = static_cast<std::uint64_t>(product >> drop);
+    const Wide rest = product - (Wide(whole) << drop);
+    const Wide half = Wide(1) << (drop - 1);
+    return whole + static_cast<std::uint64_t>(rest > half || (rest == half && whole % 2 == 1));
+}
+
+/// Places the point after the digit of 10^\p exponent and drops zeros behind it.
+char* placePoint(std::string_view digits, int exponent, char* out)
+{
+    constexpr std::string_view Zeros = "0.000";
+    const std::size_t used = digits.find_last_not_of('0') + 1;
+    if (exponent < 0) {
+        out = std::ranges::copy(Zeros.substr(0, static_cast<std::size_t>(1 - exponent)), out).out;
+        return std::ranges::copy(digits.substr(0, used), out).out;
+    }
+    const auto whole = static_cast<std::size_t>(exponent + 1);
+    out = std::ranges::copy(digits.substr(0, whole), out).out;
+    if (used > whole) {
+        *out++ = '.';
+        out = std::ranges::copy(digits.substr(whole, used - whole), out).out;
+    }
+    return out;
+}
+
+/// Prints a number that needs no exponent, in a third of the library's time: tables and exports
+/// are made of millions of them. Null when the number does need one, or is zero.
+char* printPlain(double value, int digits, char* out)
+{
+    const double size = std::abs(value);
+    if (!(size >= LowestValue && size < LimitValue) || digits < 1 || digits > MostDigits) {
+        return nullptr;
+    }
+    const auto bits = std::bit_cast<std::uint64_t>(size);
+    const std::uint64_t fraction = (bits & ((1ULL << 52) - 1)) | 1ULL << 52;
+    const int binary = static_cast<int>(bits >> 52) - 1075;
+    // log10 of 2^n, rounded down: the exponent of ten or the one below it.
+    for (int exponent = (binary + 52) * 1233 >> 12; exponent < digits; ++exponent) {
+        const std::uint64_t number = scaledInteger(fraction, binary, digits - 1 - exponent);
+        if (number < PowersOfTen[static_cast<std::size_t>(digits)]) {
+            char text[20];
+            const auto end = std::to_chars(text, std::end(text), number).ptr;
+            if (std::signbit(value)) {
+                *out++ = '-';
+            }
+            return placePoint({text, end}, exponent, out);
+        }
+    }
+    return nullptr;
+}
 
 std::string_view withoutLeadingBlanks(std::string_view text)
 {
@@ -20,10 +103,12 @@ std::string_view withoutLeadingBlanks(std::string_view text)
 void appendGeneral(double value, int digits, std::string& out)
 {
     char buffer[64];
-    const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, digits)
-            .ptr;
-    out.append(buffer, end);
+    const char* end = printPlain(value, digits, buffer);
+    if (end == nullptr) {
+        end = std::to_chars(buffer, std::end(buffer), value, std::chars_format::general, digits)
+                  .ptr;
+    }
+    out.append(buffer, static_cast<std::size_t>(end - buffer));
 }
 
 std::string fixedText(double value, int decimals)

@@ -70,7 +70,7 @@ private:
     double mEarliest = 0.0; ///< time of the first sample exported
     double mLatest = 0.0;   ///< time of the last sample exported
     std::vector<Column> mColumns;
-    std::string mCells;    ///< the current row without its time
+    std::string mCells;    ///< the current row without its time, to its line's end
     std::string mNewCells; ///< the same while it is made
 };
 
