@@ -1,6 +1,7 @@
-// Measures a paint of the graph on a display of its own; prints its figure like orna-bench does.
+// The figures that need a display; prints them like orna-bench does.
 
 #include "Harness.h"
+#include "Start.h"
 #include "display/WidgetGraph.h"
 
 #include <QtGui/qopengl.h>
@@ -9,7 +10,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstring>
+#include <string>
+#include <string_view>
 
 namespace TARN::Bench {
 
@@ -117,13 +119,29 @@ double paintRatio()
 
 } // namespace TARN::Bench
 
+namespace {
+
+void print(const std::string& name, const std::string& only, double (*ratio)())
+{
+    constexpr double Target = 1.5;
+    if (name.starts_with(only)) {
+        const double value = ratio();
+        std::printf("%s %.4g <=%g %s\n", name.c_str(), value, Target,
+                    value <= Target ? "ok" : "short");
+    }
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
-    using namespace TARN::Bench;
-    constexpr double Target = 1.5;
-    const char* only = argc > 1 ? argv[argc - 1] : "";
-    if (only[0] != '-' && std::strncmp("graph.paint", only, std::strlen(only)) != 0) {
-        return 0;
+    std::string only;
+    for (int i = 1; i < argc; ++i) {
+        if (std::string_view(argv[i]) == "--rounds") {
+            TARN::Bench::showRounds();
+        } else if (argv[i][0] != '-') {
+            only = argv[i];
+        }
     }
     QApplication application(argc, argv);
     if (!WidgetGraph::canDraw()) {
@@ -131,8 +149,8 @@ int main(int argc, char** argv)
         return 1;
     }
     try {
-        const double ratio = paintRatio();
-        std::printf("graph.paint %.4g <=%g %s\n", ratio, Target, ratio <= Target ? "ok" : "short");
+        print("graph.paint", only, TARN::Bench::paintRatio);
+        print("start.time", only, TARN::Bench::startRatio);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "orna-bench-paint: %s\n", error.what());
         return 1;
