@@ -40,6 +40,10 @@ void addInfo(CLI::App& app, InfoArguments& arguments, std::ostream& out)
 {
     CLI::App* command = app.add_subcommand("info", "Header of each recording");
     command->add_flag("--json", arguments.json, "one JSON object a line");
+    auto* check = command->add_flag("--check", arguments.check,
+                                    "read every sample and tell what is missing or can't be right");
+    command->add_option("--profile", arguments.profile, "tell what this profile does not describe")
+        ->needs(check);
     command->add_option("PATH", arguments.paths, "recording files or card folders")->required();
     command->final_callback([&] { runInfo(arguments, out); });
 }

@@ -13,6 +13,8 @@ namespace TARN {
 struct InfoArguments
 {
     bool json = false;
+    bool check = false;  ///< read the samples too
+    std::string profile; ///< for the check; may be empty
     std::vector<std::string> paths;
 };
 
@@ -71,8 +73,8 @@ struct CanArguments
     std::vector<std::string> files;
 };
 
-/// The header of each recording, as text or as one JSON object a line. A folder stands for its
-/// recordings, sorted by path.
+/// The header of each recording and what could not be read of it, as text or as one JSON object
+/// a line. A folder stands for its recordings, sorted by path.
 void runInfo(const InfoArguments& arguments, std::ostream& out);
 
 /// Every sample of every selected parameter, one JSON object a line, parameters in profile

@@ -1,7 +1,10 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
+#include "profile/Profile.h"
+#include "profile/UnknownIdentifiers.h"
 #include "record/CardInfo.h"
 #include "record/Record.h"
+#include "record/RecordText.h"
 
 #include <QtCore/QFileInfo>
 
@@ -29,16 +32,77 @@ Json fieldsOf(const RecordInfo& info)
             {"engineType", info.engineType.toStdString()}};
 }
 
-void printInfo(const RecordInfo& info, bool json, std::ostream& out)
+Json integrityOf(const RecordInfo& info)
 {
-    const Json object = fieldsOf(info);
+    return {{"missingHeaderBytes", info.missingHeaderBytes}, {"ignoredBytes", info.ignoredBytes}};
+}
+
+Json integrityOf(const FileIntegrity& file)
+{
+    const TimeFindings& found = file.found;
+    Json object = integrityOf(file.info);
+    object.update({{"samplesRead", file.samples},
+                   {"samplesUnread", file.unread},
+                   {"impossibleTimes", found.impossibleTimes},
+                   {"firstImpossible", found.firstImpossible},
+                   {"otherChannels", file.otherChannels},
+                   {"gaps", found.gaps},
+                   {"longestGap", found.longestGap},
+                   {"longestGapStart", found.longestGapStart}});
+    return object;
+}
+
+/// What is printed about one file.
+struct FileReport
+{
+    Json fields;
+    Json integrity;
+    QStringList remarks;
+};
+
+FileReport headerReport(const QString& path)
+{
+    Record record;
+    if (!record.readRecordInfo(path)) {
+        throw CommandFailure("could not open the recording \"" + path.toStdString() + "\"");
+    }
+    const RecordInfo& info = record.recordInfo();
+    return {fieldsOf(info), integrityOf(info), recordRemarks(info)};
+}
+
+FileReport sampleReport(const QString& path, const std::string& profile)
+{
+    Record record;
+    loadInputs(profile, {path.toStdString()}, record);
+    const FileIntegrity& file = record.integrity().files.front();
+    FileReport report{fieldsOf(file.info), integrityOf(file), recordRemarks(file)};
+    if (!profile.empty()) {
+        const auto unknown = unknownIdentifiers(record.recordData(), *Profile::instance());
+        report.integrity["unknownIdentifiers"] = unknown.identifiers;
+        report.integrity["unknownSamples"] = unknown.samples;
+        report.remarks += unknown.remark();
+        report.remarks.removeAll(QString());
+    }
+    if (report.remarks.isEmpty()) {
+        report.remarks += "none";
+    }
+    return report;
+}
+
+void print(const FileReport& report, bool json, std::ostream& out)
+{
     if (json) {
+        Json object = report.fields;
+        object["integrity"] = report.integrity;
         out << object.dump() << '\n';
         return;
     }
-    for (const auto& [name, value] : object.items()) {
+    for (const auto& [name, value] : report.fields.items()) {
         out << name << ": " << (value.is_string() ? value.get<std::string>() : value.dump())
             << '\n';
+    }
+    for (const QString& remark : report.remarks) {
+        out << "remark: " << remark.toStdString() << '\n';
     }
     out << '\n';
 }
@@ -51,11 +115,8 @@ void runInfo(const InfoArguments& arguments, std::ostream& out)
         const QString path = QString::fromStdString(argument);
         const auto files = QFileInfo(path).isDir() ? cardFiles(path) : std::vector<QString>{path};
         for (const QString& file : files) {
-            Record record;
-            if (!record.readRecordInfo(file)) {
-                throw CommandFailure("could not open the recording \"" + file.toStdString() + "\"");
-            }
-            printInfo(record.recordInfo(), arguments.json, out);
+            print(arguments.check ? sampleReport(file, arguments.profile) : headerReport(file),
+                  arguments.json, out);
         }
     }
 }

@@ -1,8 +1,11 @@
 #include "record/Record.h"
 
 #include "base/Diagnostics.h"
+#include "base/KeepAside.h"
 #include "base/XmlHandler.h"
 #include "record/RecordFile.h"
+
+#include <QtCore/QFileInfo>
 
 #include <cmath>
 
@@ -12,24 +15,31 @@ bool Record::readRecordInfo(const QString& path)
 {
     mRecordInfo.fileName = path;
     RecordFile file;
-    if (!file.open(path)) {
+    mRecordInfo.unreadable = !file.open(path);
+    if (mRecordInfo.unreadable) {
         diagnose("Could not open %s\n", qUtf8Printable(path));
         return false;
     }
-    const HeaderFacts facts = parseRecordHeader(file.header(), mRecordInfo);
-    mRecordInfo.samples = file.samples();
-    mRecordInfo.startTime = facts.startTime;
-    if (file.samples() > 0) {
-        mRecordInfo.startTime = file.sampleTime(0, facts.swapped);
-        mRecordInfo.stopTime = file.sampleTime(file.samples() - 1, facts.swapped);
-    }
+    file.describe(mRecordInfo);
     return true;
+}
+
+void Record::clear()
+{
+    const double offset = mRecordData.offset;
+    mRecordData = RecordData();
+    mRecordData.offset = offset;
+    mIntegrity = RecordIntegrity();
 }
 
 bool Record::setOffset(double seconds)
 {
     mRecordData.offset = seconds;
-    return saveOffset();
+    const bool saved = saveOffset();
+    if (saved) {
+        mIntegrity.damagedOffset.clear();
+    }
+    return saved;
 }
 
 bool Record::saveOffset() const
@@ -41,6 +51,11 @@ bool Record::saveOffset() const
     xml.xmlCreateAttribute(document, offset, "value", mRecordData.offset);
     const QString path = QString("%1/Offset.xml").arg(mFolder);
     diagnose("Write Offset <%s>\n", qUtf8Printable(path));
+    QDomDocument old;
+    const bool isDamaged = QFileInfo::exists(path) && !xml.xmlReadFile(old, mFolder, "Offset.xml");
+    if (isDamaged && keepAside(path).isEmpty()) {
+        return false;
+    }
     return xml.xmlWriteFile(document, path);
 }
 
@@ -49,6 +64,10 @@ void Record::loadOffset()
     XmlHandler xml;
     QDomDocument document;
     if (!xml.xmlReadFile(document, mFolder, "Offset.xml")) {
+        const QString path = mFolder + "/Offset.xml";
+        if (QFileInfo::exists(path)) {
+            mIntegrity.damagedOffset = path;
+        }
         return;
     }
     for (QDomElement element = document.documentElement().firstChildElement("Offset");

@@ -3,6 +3,7 @@
 #include "record/RecordData.h"
 #include "record/RecordHeader.h"
 #include "record/RecordInfo.h"
+#include "record/RecordIntegrity.h"
 
 #include <QtCore/QString>
 
@@ -38,14 +39,21 @@ public:
 
     /// Reads the files as one recording, replacing what was loaded. Stops at the first file that
     /// can't be opened and returns false; the samples of the files before it are there. False
-    /// and nothing changed when there is not enough memory. Invalidates all lists and spans.
+    /// with nothing loaded when there is not enough memory. Invalidates all lists and spans.
     bool readRecordData(const std::list<QString>& paths);
 
-    /// What kept the last readRecordData from reading everything, naming the file.
+    /// Gives the samples back; nothing is loaded then. Invalidates all lists and spans.
+    void clear();
+
+    /// What could be read of the files that are loaded, and what is odd about it.
+    const RecordIntegrity& integrity() const { return mIntegrity; }
+
+    /// What kept the last readRecordData from reading everything, naming the file, and what to do.
     const QString& errorText() const { return mErrorText; }
 
     /// The time offset belongs to the card folder and is kept there in Offset.xml, seconds.
-    /// Setting writes the file; false when that failed (the offset then holds for this run).
+    /// Setting writes the file; false when that failed (the offset then holds for this run). A
+    /// file that can't be read is kept aside, never replaced.
     bool setOffset(double seconds);
     bool saveOffset() const;
     /// Keeps the present offset when the folder has no readable Offset.xml.
@@ -56,6 +64,7 @@ private:
 
     RecordInfo mRecordInfo;
     RecordData mRecordData;
+    RecordIntegrity mIntegrity;
     RecordHeaderBytes mRawData{};
     bool mRawDataIsBigEndian = false;
     QString mFolder; ///< of the file last read

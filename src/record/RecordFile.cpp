@@ -24,7 +24,9 @@ bool RecordFile::open(const QString& path)
     if (!QFileInfo(path).isFile() || !mFile.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
         return false;
     }
-    mSamples = sampleCountOf(mFile.size());
+    const qint64 size = mFile.size();
+    mSamples = sampleCountOf(size);
+    mIgnoredBytes = ignoredBytesOf(size);
     mHeaderSize = readFully(mHeader.data(), mHeader.size());
     return true;
 }
@@ -43,6 +45,21 @@ std::span<const unsigned char> RecordFile::nextSamples()
     return {mBuffer.data(), static_cast<std::size_t>(whole * RecordSampleSize)};
 }
 
+void RecordFile::describe(RecordInfo& info)
+{
+    const HeaderFacts facts = parseRecordHeader(header(), info);
+    info.samples = mSamples;
+    info.missingHeaderBytes = RecordHeaderSize - static_cast<qint64>(mHeaderSize);
+    info.ignoredBytes = mIgnoredBytes;
+    info.startTime = facts.startTime;
+    if (mSamples > 0) {
+        info.startTime = sampleTime(0, facts.swapped);
+        info.stopTime = sampleTime(mSamples - 1, facts.swapped);
+    }
+    mNext = mSamples;
+}
+
+/// Seconds of sample \p index (from 0); 0 when it can't be read.
 double RecordFile::sampleTime(qint64 index, bool swapped)
 {
     unsigned char words[8];

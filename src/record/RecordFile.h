@@ -1,6 +1,7 @@
 #pragma once
 
 #include "record/RecordHeader.h"
+#include "record/RecordInfo.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QString>
@@ -30,10 +31,12 @@ public:
     /// reading fails. Valid until the next call.
     std::span<const unsigned char> nextSamples();
 
-    /// Seconds of sample \p index (from 0); 0 when it can't be read. Moves the read position.
-    double sampleTime(qint64 index, bool swapped);
+    /// Puts what the header, the size and the time stamps of the first and last sample say into
+    /// \p info; what the file does not give keeps its value. Ends the reading of samples.
+    void describe(RecordInfo& info);
 
 private:
+    double sampleTime(qint64 index, bool swapped);
     std::size_t readFully(unsigned char* to, std::size_t bytes);
 
     QFile mFile;
@@ -41,6 +44,7 @@ private:
     std::size_t mHeaderSize = 0;
     std::vector<unsigned char> mBuffer;
     qint64 mSamples = 0;
+    qint64 mIgnoredBytes = 0;
     qint64 mNext = 0;
 };
 

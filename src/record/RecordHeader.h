@@ -33,4 +33,10 @@ constexpr qint64 sampleCountOf(qint64 size)
     return (size - RecordHeaderSize) / RecordSampleSize;
 }
 
+/// Bytes behind the last whole sample of such a file.
+constexpr qint64 ignoredBytesOf(qint64 size)
+{
+    return size > RecordHeaderSize ? (size - RecordHeaderSize) % RecordSampleSize : 0;
+}
+
 } // namespace TARN

@@ -24,6 +24,9 @@ struct RecordInfo
     QString engineType;
     QString softwarePartB;
     QString emuSwVersion;
+    bool unreadable = false;       ///< the file could not be opened, what is said here is of no use
+    qint64 missingHeaderBytes = 0; ///< of a file that is shorter than a header
+    qint64 ignoredBytes = 0;       ///< behind the last whole sample
 
     /// dateTime as every view shows it, "d.M.yyyy h:mm:ss"; empty when there is no such date.
     QString dateTimeText() const;

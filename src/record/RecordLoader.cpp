@@ -2,7 +2,10 @@
 #include "record/Record.h"
 #include "record/RecordFile.h"
 #include "record/SampleGrouper.h"
+#include "record/TimeCheck.h"
 #include "record/UtcDetector.h"
+
+#include <QtCore/QCoreApplication>
 
 #include <algorithm>
 #include <memory>
@@ -30,30 +33,30 @@ QString folderOf(const QString& path)
 /// One call of readRecordData.
 class Record::Loader
 {
+    Q_DECLARE_TR_FUNCTIONS(Record)
+
 public:
     Loader(Record& record, const std::list<QString>& paths) : mRecord(record)
     {
         for (const QString& path : paths) {
-            mParts.push_back({path, 0});
+            mParts.push_back({path, 0, 0});
         }
     }
 
     bool load()
     {
+        // First, so that the two recordings are never in memory together.
+        mRecord.clear();
+        mRecord.mRecordInfo.utcTime = 0;
         mGrouper = std::make_unique<SampleGrouper>();
         const bool hasRoom = mGrouper->reserve(plannedSamples());
         if (hasRoom) {
             countAll();
         }
         if (!hasRoom || !mGrouper->allocate()) {
-            return fail(QString("not enough memory for %1 samples").arg(mPlanned));
+            return fail(tr("not enough memory for %1 samples; load fewer recordings at once")
+                            .arg(mPlanned));
         }
-        // The block is not touched yet, so giving the old samples back first keeps the two
-        // recordings from being in memory together.
-        const double offset = mRecord.mRecordData.offset;
-        mRecord.mRecordData = RecordData();
-        mRecord.mRecordData.offset = offset;
-        mRecord.mRecordInfo.utcTime = 0;
         const bool complete = storeAll();
         mGrouper->finish(mRecord.mRecordData);
         report(1, 1);
@@ -64,18 +67,20 @@ private:
     struct Part
     {
         QString path;
+        std::size_t promised;  ///< samples by the size of the file
         std::size_t countedTo; ///< samples counted up to the end of this file
     };
 
     /// Samples promised by the sizes of all files, and what there is to do for the progress.
     std::size_t plannedSamples()
     {
-        for (const Part& part : mParts) {
+        for (Part& part : mParts) {
             RecordFile file;
             if (!file.open(part.path)) {
                 break;
             }
-            mPlanned += static_cast<std::size_t>(std::max<qint64>(0, file.samples()));
+            part.promised = static_cast<std::size_t>(std::max<qint64>(0, file.samples()));
+            mPlanned += part.promised;
         }
         return mPlanned;
     }
@@ -106,13 +111,15 @@ private:
             RecordFile file;
             if (!file.open(part.path)) {
                 diagnose("Could not open %s\n", qUtf8Printable(part.path));
-                return fail(QString("could not open the recording \"%1\"").arg(part.path));
+                return fail(tr("could not open the recording \"%1\"; check that the card is "
+                               "still in place")
+                                .arg(part.path));
             }
             mRecord.mRecordInfo.fileName = part.path;
             mRecord.mRecordInfo.samples = file.samples();
             const bool swapped = readHeader(file);
             mGrouper->beginFile(part.countedTo);
-            storeFile(file, swapped, isHighFile(part.path));
+            storeFile(file, part, swapped);
             mGrouper->endFile();
             diagnose("<%s> mRecordInfo.startTime %.0f mRecordInfo.stopTime %.0f\n",
                      qUtf8Printable(part.path), mRecord.mRecordInfo.startTime,
@@ -124,38 +131,58 @@ private:
     bool readHeader(const RecordFile& file)
     {
         const bool swapped = parseRecordHeader(file.header(), mRecord.mRecordInfo).swapped;
-        if (mStored == 0) {
+        if (mGrouper->stored() == 0) {
             mRecord.mRawData = file.headerBytes();
             mRecord.mRawDataIsBigEndian = swapped;
         }
         return swapped;
     }
 
-    void storeFile(RecordFile& file, bool swapped, bool highFile)
+    void storeFile(RecordFile& file, const Part& part, bool swapped)
     {
-        const qint64 promised = std::max<qint64>(0, file.samples());
         diagnose("Record::readData size %lld records %lld\n",
                  static_cast<long long>(file.samples() * RecordSampleSize),
                  static_cast<long long>(file.samples()));
-        const std::size_t before = mStored;
+        const std::size_t before = mGrouper->stored();
+        const std::size_t others = mGrouper->storedOfOtherChannels();
+        const bool highFile = isHighFile(part.path);
         UtcDetector utc;
-        const auto visit = [this, &utc](const RecordEntry& entry) {
-            widenTimes(entry.time());
+        TimeCheck check;
+        const auto visit = [&](const RecordEntry& entry) {
+            check.see(mGrouper->stored() - before, entry.time());
             if (utc.see(entry)) {
                 setUtc(utc);
             }
         };
         for (auto samples = file.nextSamples(); !samples.empty(); samples = file.nextSamples()) {
             mGrouper->store(samples, swapped, highFile, visit);
-            report(mPlanned + mStored, 2 * mPlanned);
+            report(mPlanned + mGrouper->stored(), 2 * mPlanned);
         }
-        const auto got = static_cast<qint64>(mStored - before);
-        if (got < promised) {
-            diagnose("Could not read all of the file: %lld of %lld samples read\n",
-                     static_cast<long long>(got), static_cast<long long>(promised));
+        const std::size_t got = mGrouper->stored() - before;
+        if (got > 0) {
+            widenTimes(check, before == 0);
         }
+        note(file, part,
+             {{}, got, 0, mGrouper->storedOfOtherChannels() - others, check.findings()});
         diagnose("Start Time %f Stop Time %f\n", mRecord.mRecordInfo.startTime,
                  mRecord.mRecordInfo.stopTime);
+    }
+
+    /// Keeps what could be read of a file. It may have been cut or gone on growing meanwhile.
+    void note(RecordFile& file, const Part& part, FileIntegrity integrity)
+    {
+        const auto promisedNow = static_cast<std::size_t>(std::max<qint64>(0, file.samples()));
+        const std::size_t promised = std::max(part.promised, promisedNow);
+        integrity.unread = promised - std::min(promised, integrity.samples);
+        if (integrity.unread > 0) {
+            diagnose("Could not read all of the file: %zu of %zu samples read\n", integrity.samples,
+                     promised);
+        }
+        integrity.info.fileName = part.path;
+        file.describe(integrity.info);
+        mRecord.mRecordInfo.missingHeaderBytes = integrity.info.missingHeaderBytes;
+        mRecord.mRecordInfo.ignoredBytes = integrity.info.ignoredBytes;
+        mRecord.mIntegrity.files.push_back(integrity);
     }
 
     bool fail(const QString& reason)
@@ -164,12 +191,11 @@ private:
         return false;
     }
 
-    void widenTimes(double time)
+    void widenTimes(const TimeCheck& file, bool isFirst)
     {
         RecordInfo& info = mRecord.mRecordInfo;
-        info.startTime = mStored == 0 ? time : std::min(info.startTime, time);
-        info.stopTime = mStored == 0 ? time : std::max(info.stopTime, time);
-        ++mStored;
+        info.startTime = isFirst ? file.earliest() : std::min(info.startTime, file.earliest());
+        info.stopTime = isFirst ? file.latest() : std::max(info.stopTime, file.latest());
     }
 
     void setUtc(const UtcDetector& utc)
@@ -198,7 +224,6 @@ private:
     std::vector<Part> mParts;
     std::unique_ptr<SampleGrouper> mGrouper; // too large for the stack
     std::size_t mPlanned = 0;
-    std::size_t mStored = 0;
     int mLastPercent = -1;
 };
 
@@ -208,7 +233,8 @@ bool Record::readRecordData(const std::list<QString>& paths)
     try {
         return Loader(*this, paths).load();
     } catch (const std::bad_alloc&) {
-        mErrorText = "not enough memory to read the recording";
+        clear();
+        mErrorText = Loader::tr("not enough memory to read the recording; load fewer at once");
         return false;
     }
 }

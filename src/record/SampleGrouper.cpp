@@ -42,6 +42,15 @@ bool SampleGrouper::allocate()
     return true;
 }
 
+std::size_t SampleGrouper::storedOfOtherChannels() const
+{
+    std::size_t samples = 0;
+    for (const Group& group : mGroups) {
+        samples += (group.key >> 32) > 1 ? group.size : 0;
+    }
+    return samples;
+}
+
 void SampleGrouper::finish(RecordData& data)
 {
     // All that may run out of memory comes before anything is handed over.

@@ -47,6 +47,10 @@ public:
     void endFile() { mRead = mFileEnd; }
 
     std::size_t counted() const { return mCounted; }
+    std::size_t stored() const { return mStored; }
+
+    /// Samples stored of channels other than 0 and 1.
+    std::size_t storedOfOtherChannels() const;
 
     /// Hands samples, lists and time order over to \p data, replacing what it held.
     void finish(RecordData& data);

@@ -80,12 +80,37 @@ private Q_SLOTS:
             "','dateTime':'9.7.2021 4:05:06','startTime':1.5,'stopTime':2.25,'samples':2,"
             "'busType':2,'ecuSerialNumber':4000000000,'softwarePartA':'A',"
             "'softwarePartB':'B\xEF\xBF\xBD','ecuType':'ecu','emuSwVersion':'1.0',"
-            "'engineSerialNr':'serial','engineType':'type'}\n");
+            "'engineSerialNr':'serial','engineType':'type',"
+            "'integrity':{'missingHeaderBytes':0,'ignoredBytes':0}}\n");
         QCOMPARE(run({"info", "--json", name}).out, expected);
         const Run both = run({"info", "--json", folder()}); // sorted by path
         QVERIFY(both.lines().at(0)["file"] == path("B.CAN").toStdString());
         QVERIFY(both.out.ends_with("\n" + expected));
         QVERIFY(run({"info", name}).out.find("\nsamples: 2\n") != std::string::npos);
+    }
+
+    void infoChecksSamples()
+    {
+        RecordingBuilder file;
+        for (const unsigned id : {500U, 501U, 502U, 1200U, 777U, 777U}) {
+            file.add({id, ticks(id % 10), "", id == 501 ? 1U : 0U});
+        }
+        const QString name = write("a.CAN", file.add({502, ticks(50), "", 3}).append("x").bytes());
+        const auto header = run({"info", "--json", name}).lines().at(0)["integrity"];
+        QVERIFY(header == json::parse(fromQuoted("{'missingHeaderBytes':0,'ignoredBytes':1}")));
+        const Run checked = run({"info", "--json", "--check", "--profile", profile(), name});
+        QVERIFY2(checked.lines().at(0)["integrity"] ==
+                     json::parse(fromQuoted(
+                         "{'missingHeaderBytes':0,'ignoredBytes':1,'samplesRead':7,"
+                         "'samplesUnread':0,'impossibleTimes':1,'firstImpossible':4,"
+                         "'otherChannels':1,'gaps':1,'longestGap':43.0,'longestGapStart':7.0,"
+                         "'unknownIdentifiers':2,'unknownSamples':3}")),
+                 checked.out.c_str());
+        const std::string text = run({"info", "--check", "--profile", profile(), name}).out;
+        QVERIFY2(text.ends_with("\nremark: Identifiers that the profile does not describe: 2, "
+                                "their samples: 3\n\n"),
+                 text.c_str());
+        QVERIFY(run({"info", "--check", recording()}).out.ends_with("\nremark: none\n\n"));
     }
 
     void decodesSeveralFilesOfBothOrders()
@@ -175,6 +200,8 @@ private Q_SLOTS:
         row("decode R", 2, "--profile");
         row("decode --profile P", 2, "FILE");
         row("decode --profile P --all --project X R", 2, "excludes");
+        row("info --profile P R", 2, "--check");
+        row("info --check gone.CAN", 1, "\"gone.CAN\"");
         row("info gone.CAN", 1, "\"gone.CAN\"");
         row("decode --profile gone.xml R", 1, "\"gone.xml\"");
         row("decode --profile P R gone.CAN", 1, "recording");

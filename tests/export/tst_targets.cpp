@@ -1,7 +1,9 @@
+#include "base/Property.h"
 #include "export/ExportCan.h"
 #include "export/ExportCsv.h"
 #include "export/ExportKml.h"
 #include "export/RecordTest.h"
+#include "profile/Project.h"
 
 #include <QtCore/QDir>
 
@@ -121,6 +123,32 @@ private Q_SLOTS:
         }
         QVERIFY(exportAs(format, path("out"), samples, static_cast<rlim_t>(size)).done);
         QCOMPARE(read("out").size(), size);
+    }
+
+    void diskWithoutRoomForSmallFiles()
+    {
+        useProfile("<Device name='D'><Parameter name='P' id='1'/></Device>");
+        Record& record = load("1@1=1");
+        Property settings;
+        settings.setConfigFile(path("ORNA.ini").toStdString());
+        settings.setInt("CsvLimiter", 44);
+        const auto saveAll = [&](double offset) {
+            settings.writeXmlFile(); // whose failure is no news to anybody
+            const bool offsetSaved = record.setOffset(offset);
+            const bool saved = Project::instance()->saveProject(path("p.xml").toStdString());
+            return offsetSaved + saved;
+        };
+        QCOMPARE(saveAll(1), 2);
+        const QStringList files = QDir(folder()).entryList();
+        const QList<QByteArray> before = {read("ORNA.ini"), read("Offset.xml"), read("p.xml")};
+        for (const rlim_t room : {0, 20}) {
+            const FullDisk limit(room);
+            QCOMPARE(saveAll(2), 0);
+            QCOMPARE(QDir(folder()).entryList(), files);
+            QCOMPARE(QList({read("ORNA.ini"), read("Offset.xml"), read("p.xml")}), before);
+        }
+        QCOMPARE(saveAll(2), 2);
+        QVERIFY(read("Offset.xml") != before[1]);
     }
 
     /// A pipe or a device is no file that could be replaced whole.

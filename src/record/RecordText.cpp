@@ -1,0 +1,138 @@
+#include "record/RecordText.h"
+
+#include "base/ClockTime.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace TARN {
+
+namespace {
+
+struct RecordText
+{
+    Q_DECLARE_TR_FUNCTIONS(RecordText)
+};
+
+/// "%1" of \p text replaced by \p count with separators; nothing when there is none.
+void addCount(QStringList& lines, const QString& text, std::size_t count)
+{
+    if (count > 0) {
+        lines += text.arg(count);
+    }
+}
+
+RecordSection sectionOf(const QString& title, QList<RecordField> fields, const QStringList& remarks)
+{
+    if (remarks.isEmpty()) {
+        fields += {RecordText::tr("Remarks"), RecordText::tr("none")};
+    }
+    for (const QString& remark : remarks) {
+        fields += {RecordText::tr("Remark"), remark};
+    }
+    return {title, fields};
+}
+
+/// On what belongs to no file of samples.
+QStringList offsetRemarks(const RecordIntegrity& integrity)
+{
+    if (integrity.damagedOffset.isEmpty()) {
+        return {};
+    }
+    return {RecordText::tr("The time offset could not be read: \"%1\" is damaged. Setting another "
+                           "offset keeps that file aside")
+                .arg(integrity.damagedOffset)};
+}
+
+} // namespace
+
+QList<RecordField> recordFields(const RecordInfo& info)
+{
+    return {{RecordText::tr("Date"), info.dateTimeText()},
+            {RecordText::tr("Start Time"), clockText(info.startTime)},
+            {RecordText::tr("Stop Time"), clockText(info.stopTime)},
+            {RecordText::tr("Bus Type"), QString::number(info.busType)},
+            {RecordText::tr("ECU Serial Number"), QString::number(info.ecuSerialNumber)},
+            {RecordText::tr("Software Part Nr. A"), info.softwarePartA},
+            {RecordText::tr("Software Part Nr. B"), info.softwarePartB},
+            {RecordText::tr("ECU Type"), info.ecuType},
+            {RecordText::tr("EMU SW Version"), info.emuSwVersion},
+            {RecordText::tr("Engine Serial Nr."), info.engineSerialNr},
+            {RecordText::tr("Engine Type"), info.engineType},
+            {RecordText::tr("Samples Total"), QString::number(info.samples)}};
+}
+
+QStringList recordRemarks(const RecordInfo& info)
+{
+    if (info.unreadable) {
+        return {RecordText::tr("The file could not be opened")};
+    }
+    QStringList lines;
+    addCount(lines, RecordText::tr("The header is cut short, bytes missing: %1"),
+             static_cast<std::size_t>(info.missingHeaderBytes));
+    addCount(lines, RecordText::tr("Ignored at the end, bytes that are no whole sample: %1"),
+             static_cast<std::size_t>(info.ignoredBytes));
+    return lines;
+}
+
+QStringList recordRemarks(const FileIntegrity& file)
+{
+    const TimeFindings& found = file.found;
+    QStringList lines = recordRemarks(file.info);
+    addCount(lines, RecordText::tr("Samples that could not be read: %1"), file.unread);
+    if (found.impossibleTimes > 0) {
+        lines += RecordText::tr("Samples with an impossible time: %1, the first is number %2")
+                     .arg(found.impossibleTimes)
+                     .arg(found.firstImpossible);
+    }
+    addCount(lines, RecordText::tr("Samples of channels other than 0 and 1: %1"),
+             file.otherChannels);
+    if (found.gaps > 0) {
+        lines += RecordText::tr("Gaps of more than 10 s: %1, the longest is %2 s from %3 on")
+                     .arg(found.gaps)
+                     .arg(found.longestGap, 0, 'f', 1)
+                     .arg(clockText(found.longestGapStart));
+    }
+    return lines;
+}
+
+QStringList recordRemarks(const RecordIntegrity& integrity)
+{
+    QStringList lines;
+    for (const FileIntegrity& file : integrity.files) {
+        const QString name = file.info.fileName.section('/', -1);
+        for (const QString& line : recordRemarks(file)) {
+            lines += name + ": " + line;
+        }
+    }
+    return lines + offsetRemarks(integrity);
+}
+
+RecordSection recordSection(const RecordInfo& info)
+{
+    return sectionOf(info.fileName, recordFields(info), recordRemarks(info));
+}
+
+RecordSection recordSection(const FileIntegrity& file)
+{
+    QList<RecordField> fields = recordFields(file.info);
+    fields += {RecordText::tr("Samples Read"), QString::number(file.samples)};
+    return sectionOf(file.info.fileName, fields, recordRemarks(file));
+}
+
+RecordSection recordSection(const RecordIntegrity& integrity, const QString& remark)
+{
+    std::size_t samples = 0;
+    for (const FileIntegrity& file : integrity.files) {
+        samples += file.samples;
+    }
+    QStringList remarks = offsetRemarks(integrity);
+    if (!remark.isEmpty()) {
+        remarks += remark;
+    }
+    return sectionOf(RecordText::tr("Recording"),
+                     {{RecordText::tr("Files"), QString::number(integrity.files.size())},
+                      {RecordText::tr("Samples Read"), QString::number(samples)}},
+                     remarks);
+}
+
+} // namespace TARN

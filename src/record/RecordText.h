@@ -1,0 +1,44 @@
+#pragma once
+
+#include "record/RecordIntegrity.h"
+
+#include <QtCore/QList>
+#include <QtCore/QStringList>
+
+namespace TARN {
+
+/// A field as the views list it: its label and its value.
+struct RecordField
+{
+    QString label;
+    QString value;
+};
+
+/// Fields under a title.
+struct RecordSection
+{
+    QString title;
+    QList<RecordField> fields;
+};
+
+/// The fields of a recording that the card browser lists below it.
+QList<RecordField> recordFields(const RecordInfo& info);
+
+// Everything that a pilot or an engineer should know before trusting what the recording shows,
+// one line each; empty when there is nothing to remark.
+
+/// What is known without reading samples.
+QStringList recordRemarks(const RecordInfo& info);
+/// The same with what reading the samples has shown.
+QStringList recordRemarks(const FileIntegrity& file);
+/// Of all files, each line beginning with the name of the file.
+QStringList recordRemarks(const RecordIntegrity& integrity);
+
+/// All about a file: its fields and the remarks on it, "none" when there are none.
+RecordSection recordSection(const RecordInfo& info);
+RecordSection recordSection(const FileIntegrity& file);
+
+/// What goes for all files together, with \p remark where it is not empty.
+RecordSection recordSection(const RecordIntegrity& integrity, const QString& remark);
+
+} // namespace TARN
