@@ -10,6 +10,7 @@
 #include "profile/DialogProfile.h"
 #include "profile/Project.h"
 #include "record/DialogCard.h"
+#include "record/DialogRecordDetails.h"
 #include "widgets/Kernel.h"
 #include "widgets/WaitCursor.h"
 
@@ -18,6 +19,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include <cstdlib>
+#include <new>
 
 namespace TARN {
 
@@ -27,9 +29,11 @@ DialogMain::DialogMain(QWidget* parent) : QMainWindow(parent), mEndProcess([] { 
     createPanes();
     mKmlWizard = new DialogExportKml(this);
     mCsvWizard = new DialogExportCsv(this);
+    mDetails = new DialogRecordDetails(this);
     mStatusBar = new DialogStatusBar(this);
     setStatusBar(mStatusBar);
     loadProfile();
+    reportDamagedSettings();
     createActions();
     createMenu();
     createToolbar();
@@ -65,6 +69,7 @@ void DialogMain::createPanes()
     mSplitter->setSizes({1000, 2000}); // only the ratio counts
     setCentralWidget(mSplitter);
     connect(mCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
+    connect(mCard, &DialogCard::signalDetails, this, &DialogMain::slotFileDetails);
     connect(mProfile, &DialogProfile::signalChanged, this, &DialogMain::slotProfileChanged);
     connect(mProfile, &DialogProfile::signalEdited, this, [this] { setEdited(true); });
     connect(mData, &DialogData::signalMessage, this,
@@ -88,6 +93,7 @@ void DialogMain::loadRecords(const QString& folder)
 {
     mCardInfo = readCard(folder);
     mCard->setCardInfo(mCardInfo);
+    mCard->setIntegrity(mRecord.integrity());
 }
 
 void DialogMain::slotTimeout()
@@ -114,26 +120,26 @@ void DialogMain::slotLoadRecord(const std::list<QString>& files)
     const WaitCursor waitCursor;
     setProgress(0);
     mData->updateRecord(nullptr); // the samples shown are about to go
-    if (mRecord.readRecordData(paths)) {
-        mStatusBar->showMessage(tr("Samples loaded: %L1").arg(mRecord.recordData().count()));
-    } else {
-        mStatusBar->showMessage(
-            tr("Not everything could be read (%1). Check that the card is still "
-               "in place.")
-                .arg(mRecord.errorText()));
-    }
-    mRecordPath = paths.front();
-    showRecording();
+    reportLoaded(mRecord.readRecordData(paths));
+    mCard->setIntegrity(mRecord.integrity());
+    showRecord();
     setProgress(100);
     mLoading = false;
     updateEnabled();
 }
 
-/// Finds the events of the recording as the profile defines them and shows it in all views.
-void DialogMain::showRecording()
+/// Hands the recording to the views; with nothing loaded where memory does not suffice.
+void DialogMain::showRecord()
 {
-    detectEvents(mRecord, *Profile::instance());
-    mData->updateRecord(&mRecord);
+    try {
+        detectEvents(mRecord, *Profile::instance());
+        mData->updateRecord(&mRecord);
+    } catch (const std::bad_alloc&) {
+        mRecord.clear();
+        mData->updateRecord(&mRecord);
+        mStatusBar->showMessage(
+            tr("There is not enough memory to show the recording; load fewer at once."));
+    }
 }
 
 void DialogMain::setProgress(int percent)
@@ -163,7 +169,7 @@ void DialogMain::slotProfileFileChanged()
     mProfile->updateProject();
     mData->updateProfile();
     if (hasSamples) {
-        showRecording();
+        showRecord();
         mData->goTo(time);
     }
     updateEnabled();

@@ -25,6 +25,7 @@ class DialogExportCsv;
 class DialogExportKml;
 class DialogPreferences;
 class DialogProfile;
+class DialogRecordDetails;
 class DialogStatusBar;
 struct ExportResult;
 
@@ -77,8 +78,15 @@ private Q_SLOTS:
     void slotTimeout();
     void slotMenu(QAction* action);
     void slotMenuPrefAbout();
+    /// Shows all about the files of the loaded recording, about those of the card when none is.
+    void slotRecordDetails();
+    /// The same about one file, loaded or not.
+    void slotFileDetails(const QString& path);
 
 private:
+    void reportLoaded(bool complete);
+    void showRecord();
+    void reportDamagedSettings();
     void createPanes();
     void createActions();
     void createMenu();
@@ -93,7 +101,6 @@ private:
     void loadRecords(const QString& folder);
     void openCard();
     void openCard(const QString& folder);
-    void showRecording();
     bool newProject();
     bool openProject();
     bool openProject(const QString& file);
@@ -123,7 +130,6 @@ private:
     bool mLoading = false;
     bool mEdited = false; ///< the selection differs from the project file
     Record mRecord;
-    QString mRecordPath; ///< first file of the recording
     KmlExportOptions mKmlOptions;
     CsvExportOptions mCsvOptions;
     CardInfo mCardInfo;
@@ -137,6 +143,7 @@ private:
     DialogData* mData;
     DialogExportKml* mKmlWizard;
     DialogExportCsv* mCsvWizard;
+    DialogRecordDetails* mDetails;
     DialogStatusBar* mStatusBar;
     // Made when they are first asked for.
     DialogPreferences* mPreferences = nullptr;

@@ -28,7 +28,8 @@ void DialogMain::presetOptions(Options& options) const
 
 void DialogMain::exportKml()
 {
-    const QString name = mRecordPath.section('/', -1).section('.', 0, 0);
+    const QString path = mRecord.integrity().files.front().info.fileName;
+    const QString name = path.section('/', -1).section('.', 0, 0);
     mKmlOptions.fileName = (name + ".kml").toStdString();
     presetOptions(mKmlOptions);
     if (mKmlWizard->getOptions(mKmlOptions) != QDialog::Accepted) {

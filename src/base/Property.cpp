@@ -1,8 +1,11 @@
 #include "base/Property.h"
 
 #include "base/Diagnostics.h"
+#include "base/KeepAside.h"
 #include "base/Numbers.h"
 #include "base/XmlHandler.h"
+
+#include <QtCore/QFileInfo>
 
 namespace TARN {
 
@@ -19,10 +22,23 @@ void Property::setConfigFile(const std::string& file)
 
 bool Property::readXmlFile()
 {
-    return readXmlFile(mConfigFile);
+    mDamagedFile.clear();
+    const QString file = QString::fromStdString(mConfigFile);
+    if (!merge(mConfigFile) && QFileInfo(file).isFile()) {
+        const QString kept = keepAside(file);
+        mDamagedFile = (kept.isEmpty() ? file : kept).toStdString();
+    }
+    return true;
 }
 
 bool Property::readXmlFile(const std::string& file)
+{
+    merge(file);
+    return true;
+}
+
+/// False when the file could not be read.
+bool Property::merge(const std::string& file)
 {
     XmlHandler xml;
     QDomDocument document;
@@ -34,7 +50,7 @@ bool Property::readXmlFile(const std::string& file)
                   xml.xmlGetStdStringAttribute(attributes, "value", ""));
     }
     diagnose("readXmlFile <%s> %d\n", file.c_str(), read ? 1 : 0);
-    return true;
+    return read;
 }
 
 bool Property::writeXmlFile()

@@ -17,9 +17,13 @@ public:
     void setConfigFile(const std::string& file);
 
     /// Merges the file's entries into the store. A file that can't be read leaves the store as
-    /// it is; that is reported on the diagnostic stream and is not an error.
+    /// it is; that is reported on the diagnostic stream and is not an error. Where that is the
+    /// configuration file, it is renamed so that the next writing does not replace it.
     bool readXmlFile();
     bool readXmlFile(const std::string& file);
+
+    /// Where the configuration file is now that could not be read; empty when there is none such.
+    const std::string& damagedFile() const { return mDamagedFile; }
 
     /// Writes every setting that is not empty, in key order. The old file stays when writing
     /// fails; the result is true all the same, settings are never worth stopping for.
@@ -41,10 +45,12 @@ public:
     void clear();
 
 private:
+    bool merge(const std::string& file);
     const std::string* find(const std::string& key) const;
 
     std::map<std::string, std::string> mProperties;
     std::string mConfigFile;
+    std::string mDamagedFile;
 };
 
 } // namespace TARN

@@ -1,7 +1,9 @@
 #include "record/DialogCard.h"
 
 #include "base/ClockTime.h"
+#include "record/RecordText.h"
 
+#include <QtGui/QAction>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QVBoxLayout>
@@ -20,6 +22,12 @@ DialogCard::DialogCard(QWidget* parent)
     mTree->setSelectionMode(QAbstractItemView::ExtendedSelection);
     mTree->setIconSize(QSize(16, 16));
     mTree->setAccessibleName(tr("Recordings"));
+    auto* details = mFolder->addAction(QIcon(":/icons/details.svg"), QLineEdit::TrailingPosition);
+    details->setText(tr("Recording Details"));
+    details->setToolTip(tr("Header of the recording and what could be read of it"));
+    connect(details, &QAction::triggered, this, &DialogCard::askDetails);
+    mTree->addAction(details);
+    mTree->setContextMenuPolicy(Qt::ActionsContextMenu);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(3, 3, 3, 3);
     layout->addWidget(mFolder);
@@ -61,29 +69,44 @@ void DialogCard::addRecord(const QString& path, const RecordInfo& info)
     item->setIcon(0, QIcon(":/icons/recording.svg"));
     item->setData(0, Qt::UserRole, path);
     item->setData(0, Qt::UserRole + 1, true);
-    item->setToolTip(0, tr("Start Time: ") + clockText(info.startTime) + "\n" + tr("Stop Time: ") +
-                            clockText(info.stopTime));
+    item->setToolTip(0, toolTipOf(info, recordRemarks(info)));
     addDetails(item, info);
 }
 
 void DialogCard::addDetails(QTreeWidgetItem* item, const RecordInfo& info)
 {
-    const auto add = [item](const QString& label, const QString& value) {
+    for (const RecordField& field : recordFields(info)) {
         auto* line = new QTreeWidgetItem(item);
-        line->setText(0, QString("%1: %2").arg(label, value));
-    };
-    add(tr("Date"), info.dateTimeText());
-    add(tr("Start Time"), clockText(info.startTime));
-    add(tr("Stop Time"), clockText(info.stopTime));
-    add(tr("Bus Type"), QString::number(info.busType));
-    add(tr("ECU Serial Number"), QString::number(info.ecuSerialNumber));
-    add(tr("Software Part Nr. A"), info.softwarePartA);
-    add(tr("Software Part Nr. B"), info.softwarePartB);
-    add(tr("ECU Type"), info.ecuType);
-    add(tr("EMU SW Version"), info.emuSwVersion);
-    add(tr("Engine Serial Nr."), info.engineSerialNr);
-    add(tr("Engine Type"), info.engineType);
-    add(tr("Samples Total"), QString::number(info.samples));
+        line->setText(0, QString("%1: %2").arg(field.label, field.value));
+    }
+}
+
+void DialogCard::setIntegrity(const RecordIntegrity& integrity)
+{
+    for (const FileIntegrity& file : integrity.files) {
+        for (int row = 0; row < mTree->topLevelItemCount(); ++row) {
+            QTreeWidgetItem* item = mTree->topLevelItem(row);
+            if (item->data(0, Qt::UserRole).toString() == file.info.fileName) {
+                item->setToolTip(0, toolTipOf(file.info, recordRemarks(file)));
+            }
+        }
+    }
+}
+
+QString DialogCard::toolTipOf(const RecordInfo& info, const QStringList& remarks)
+{
+    const QString times = tr("Start Time: ") + clockText(info.startTime) + "\n" +
+                          tr("Stop Time: ") + clockText(info.stopTime);
+    return (QStringList(times) + remarks).join('\n');
+}
+
+void DialogCard::askDetails()
+{
+    const QTreeWidgetItem* item = mTree->currentItem();
+    if (item != nullptr && item->parent() != nullptr) {
+        item = item->parent(); // a detail line
+    }
+    Q_EMIT signalDetails(item != nullptr ? item->data(0, Qt::UserRole).toString() : QString());
 }
 
 void DialogCard::slotSelect()

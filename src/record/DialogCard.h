@@ -1,6 +1,7 @@
 #pragma once
 
 #include "record/CardInfo.h"
+#include "record/RecordIntegrity.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
@@ -28,16 +29,24 @@ public:
     /// Picks one recording as a click on it does.
     void selectRecord(const QString& path);
 
+    /// Adds what reading their samples has shown to the tool tips of the files read.
+    void setIntegrity(const RecordIntegrity& integrity);
+
 Q_SIGNALS:
     /// Half a second after the last change of the selection. A selected detail line contributes
     /// an empty path.
     void signalLoadRecord(const std::list<QString>& files);
+
+    /// The user wants to know all about the recording of this path; empty when none is current.
+    void signalDetails(const QString& path);
 
 private Q_SLOTS:
     void slotSelect();
     void slotTimeout();
 
 private:
+    static QString toolTipOf(const RecordInfo& info, const QStringList& remarks);
+    void askDetails();
     void addRecord(const QString& path, const RecordInfo& info);
     void addDetails(QTreeWidgetItem* item, const RecordInfo& info);
 

@@ -1,6 +1,8 @@
 #include "base/Property.h"
 #include "support/CoreTest.h"
 
+#include <QtCore/QDir>
+
 using namespace TARN;
 
 class TestProperty : public CoreTest
@@ -70,6 +72,34 @@ private Q_SLOTS:
             QVERIFY2(said.startsWith(reason + file.toUtf8() + ">\n"), said);
             QVERIFY2(said.endsWith("readXmlFile <" + file.toUtf8() + "> 0\n"), said);
         }
+    }
+
+    /// What a damaged file holds may be all that is left of years of settings.
+    void damagedConfigurationIsKept()
+    {
+        Property store;
+        store.setConfigFile(path("ORNA.ini").toStdString());
+        QVERIFY(store.readXmlFile());
+        QCOMPARE(store.damagedFile(), std::string());
+        const std::pair<const char*, const char*> damages[] = {
+            {"<TARN><Property", "ORNA.ini.damaged"}, {"", "ORNA.ini.damaged2"}};
+        for (const auto& [content, kept] : damages) {
+            write("ORNA.ini", content);
+            QVERIFY(store.readXmlFile());
+            QCOMPARE(store.damagedFile(), path(kept).toStdString());
+            QCOMPARE(read("ORNA.ini"), "(no file)");
+            store.setInt("CsvLimiter", 44);
+            QVERIFY(store.writeXmlFile());
+            QVERIFY(store.readXmlFile());
+            QCOMPARE(store.damagedFile(), std::string());
+        }
+        QCOMPARE(read("ORNA.ini.damaged"), "<TARN><Property");
+        QCOMPARE(read("ORNA.ini.damaged2"), "");
+        QVERIFY(QDir(folder()).mkdir("folder"));
+        store.setConfigFile(path("folder").toStdString());
+        QVERIFY(store.readXmlFile());
+        QCOMPARE(store.damagedFile(), std::string());
+        QVERIFY(QDir(path("folder")).exists());
     }
 
     void values_data()

@@ -2,9 +2,12 @@
 #include "app/DialogStatusBar.h"
 #include "profile/DialogProfile.h"
 #include "record/DialogCard.h"
+#include "record/DialogRecordDetails.h"
 
+#include <QtGui/QClipboard>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
@@ -22,6 +25,7 @@ class Panels : public QObject
 private Q_SLOTS:
     void cardAnnouncesABurstOnce();
     void cardShowsTimesOfDay();
+    void detailsCanBeCopied();
     void selectionBlinksUntilConfirmed();
     void clearingUnticksEverythingAtOnce();
     void statusBarHidesASecondAfterTheEnd();
@@ -66,6 +70,19 @@ void Panels::cardShowsTimesOfDay()
     QCOMPARE(item->text(0), "long.CAN   ");
     QCOMPARE(item->child(1)->text(0), "Start Time: 01:01:01");
     QCOMPARE(item->child(11)->text(0), "Samples Total: 0");
+}
+
+void Panels::detailsCanBeCopied()
+{
+    DialogRecordDetails dialog;
+    dialog.showReport({{"a.CAN", {{"Old", "1"}}}});
+    dialog.showReport({{"a.CAN", {{"Date", "1.2.2021"}, {"ECU Type", "X"}}}, {"b.CAN", {}}});
+    auto* copy = dialog.findChild<QDialogButtonBox*>()->buttons().last();
+    QTest::mouseClick(copy, Qt::LeftButton);
+    QCOMPARE(QGuiApplication::clipboard()->text(), "a.CAN\nDate: 1.2.2021\nECU Type: X\nb.CAN");
+    dialog.findChild<QTreeWidget*>()->topLevelItem(0)->child(1)->setSelected(true);
+    QTest::mouseClick(copy, Qt::LeftButton);
+    QCOMPARE(QGuiApplication::clipboard()->text(), "ECU Type: X");
 }
 
 namespace {

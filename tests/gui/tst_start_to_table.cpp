@@ -26,6 +26,7 @@ private Q_SLOTS:
     void swallowsControlZ();
     void survivesMissingAndBrokenFiles_data();
     void survivesMissingAndBrokenFiles();
+    void damagedRecordingsAreNamed();
     void cardVanishesWhileInUse();
 };
 
@@ -267,11 +268,49 @@ void StartToTable::survivesMissingAndBrokenFiles()
     file.close();
     viewer.start();
     QVERIFY(viewer.window().isVisible());
+    const QString messageAtStart = viewer.window().statusBar()->currentMessage();
     if (viewer.recordings()->topLevelItemCount() > 0) {
         viewer.loadRecordings({0});
     }
     viewer.confirmSelection();
-    QCOMPARE(contentOf(files.at(what)), content);
+    // Settings that can't be read make way for new ones, but are not thrown away.
+    const bool isKeptAside = what == "settings" && !content.startsWith("<Other>");
+    const QString kept = files.at(what) + (isKeptAside ? ".damaged" : "");
+    QCOMPARE(contentOf(kept), content);
+    QCOMPARE(messageAtStart.contains(".damaged"), isKeptAside);
+}
+
+void StartToTable::damagedRecordingsAreNamed()
+{
+    Viewer viewer;
+    QFile file(viewer.cardPath() + "/LOG_0002.CAN");
+    QVERIFY(file.resize(file.size() - 3 * 28 - 5));
+    viewer.start();
+    const QString remark = "Ignored at the end, bytes that are no whole sample: 23";
+    QVERIFY(viewer.recordings()->topLevelItem(1)->toolTip(0).endsWith("\n" + remark));
+    QCOMPARE(viewer.recordings()->topLevelItem(0)->toolTip(0).count('\n'), 1);
+
+    // Damage to the samples shows when they are read.
+    QVERIFY(file.open(QIODevice::ReadWrite) && file.seek(128 + 28 * 1000 + 20));
+    file.write("\x7F");
+    file.close();
+    viewer.loadRecordings({0, 1});
+    const QString impossible = "Samples with an impossible time: 1, the first is number 1001";
+    const QString message = viewer.window().statusBar()->currentMessage();
+    QVERIFY2(message.startsWith("Samples loaded: "), qUtf8Printable(message));
+    QVERIFY2(message.contains("LOG_0002.CAN: " + remark + ". LOG_0002.CAN: " + impossible),
+             qUtf8Printable(message));
+    QVERIFY(viewer.recordings()->topLevelItem(1)->toolTip(0).endsWith(remark + "\n" + impossible));
+
+    viewer.recordings()->setCurrentItem(viewer.recordings()->topLevelItem(1)->child(2));
+    viewer.recordings()->actions().first()->trigger();
+    auto* details = viewer.window().findChild<QTreeWidget*>("recordDetails");
+    QVERIFY(details->isVisible());
+    QCOMPARE(details->topLevelItemCount(), 1);
+    QCOMPARE(details->findItems(impossible, Qt::MatchExactly | Qt::MatchRecursive, 1).size(), 1);
+    QMetaObject::invokeMethod(&viewer.window(), "slotRecordDetails");
+    QCOMPARE(details->topLevelItemCount(), 3); // the whole, then its files
+    QCOMPARE(details->topLevelItem(2)->text(0), viewer.cardPath() + "/LOG_0002.CAN");
 }
 
 void StartToTable::cardVanishesWhileInUse()

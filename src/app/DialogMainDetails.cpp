@@ -1,0 +1,65 @@
+#include "app/DialogMain.h"
+#include "app/DialogStatusBar.h"
+#include "base/Property.h"
+#include "profile/Profile.h"
+#include "profile/UnknownIdentifiers.h"
+#include "record/DialogRecordDetails.h"
+
+#include <algorithm>
+
+namespace TARN {
+
+/// Says in the status bar what came of loading, damages included.
+void DialogMain::reportLoaded(bool complete)
+{
+    QStringList texts(complete ? tr("Samples loaded: %L1").arg(mRecord.recordData().count())
+                               : tr("Not everything could be read: %1").arg(mRecord.errorText()));
+    texts += recordRemarks(mRecord.integrity());
+    mStatusBar->showMessage(texts.join(". "));
+}
+
+void DialogMain::reportDamagedSettings()
+{
+    const std::string& file = Property::instance()->damagedFile();
+    if (!file.empty()) {
+        const QString text = tr("The settings could not be read, the program starts with its "
+                                "defaults. The damaged file is kept as \"%1\".");
+        mStatusBar->showMessage(text.arg(QString::fromStdString(file)) + " " +
+                                mStatusBar->currentMessage());
+    }
+}
+
+void DialogMain::slotRecordDetails()
+{
+    const RecordIntegrity& integrity = mRecord.integrity();
+    QList<RecordSection> sections;
+    if (integrity.files.empty()) {
+        for (const auto& [path, info] : mCardInfo.records) {
+            sections += recordSection(info);
+        }
+    } else {
+        sections += recordSection(
+            integrity, unknownIdentifiers(mRecord.recordData(), *Profile::instance()).remark());
+        for (const FileIntegrity& file : integrity.files) {
+            sections += recordSection(file);
+        }
+    }
+    mDetails->showReport(sections);
+}
+
+void DialogMain::slotFileDetails(const QString& path)
+{
+    const auto& files = mRecord.integrity().files;
+    const auto loaded = std::ranges::find(
+        files, path, [](const FileIntegrity& file) { return file.info.fileName; });
+    const auto listed = mCardInfo.records.find(path);
+    if (loaded != files.end()) {
+        mDetails->showReport({recordSection(*loaded)});
+    } else if (listed != mCardInfo.records.end()) {
+        mDetails->showReport({recordSection(listed->second)});
+    } else {
+        slotRecordDetails();
+    }
+}
+
+} // namespace TARN
