@@ -12,10 +12,14 @@ namespace TARN {
 /// Says in the status bar what came of loading, damages included.
 void DialogMain::reportLoaded(bool complete)
 {
-    QStringList texts(complete ? tr("Samples loaded: %L1").arg(mRecord.recordData().count())
-                               : tr("Not everything could be read: %1").arg(mRecord.errorText()));
-    texts += recordRemarks(mRecord.integrity());
-    mStatusBar->showMessage(texts.join(". "));
+    const QStringList remarks = recordRemarks(mRecord.integrity());
+    QString text = complete ? tr("Samples loaded: %L1").arg(mRecord.recordData().count())
+                            : tr("Not everything could be read: %1").arg(mRecord.errorText());
+    if (!remarks.isEmpty()) {
+        text += tr(". Remarks (see Recording Details): %1. ").arg(remarks.size());
+    }
+    mStatusBar->showMessage(text + remarks.join(". "));
+    mStatusBar->setToolTip(remarks.join('\n')); // the bar may be too short
 }
 
 void DialogMain::reportDamagedSettings()

@@ -32,17 +32,6 @@ RecordSection sectionOf(const QString& title, QList<RecordField> fields, const Q
     return {title, fields};
 }
 
-/// On what belongs to no file of samples.
-QStringList offsetRemarks(const RecordIntegrity& integrity)
-{
-    if (integrity.damagedOffset.isEmpty()) {
-        return {};
-    }
-    return {RecordText::tr("The time offset could not be read: \"%1\" is damaged. Setting another "
-                           "offset keeps that file aside")
-                .arg(integrity.damagedOffset)};
-}
-
 } // namespace
 
 QList<RecordField> recordFields(const RecordInfo& info)
@@ -104,7 +93,12 @@ QStringList recordRemarks(const RecordIntegrity& integrity)
             lines += name + ": " + line;
         }
     }
-    return lines + offsetRemarks(integrity);
+    if (!integrity.damagedOffset.isEmpty()) {
+        lines += RecordText::tr("The time offset could not be read: \"%1\" is damaged. Setting "
+                                "another offset keeps that file aside")
+                     .arg(integrity.damagedOffset);
+    }
+    return lines;
 }
 
 RecordSection recordSection(const RecordInfo& info)
@@ -125,7 +119,7 @@ RecordSection recordSection(const RecordIntegrity& integrity, const QString& rem
     for (const FileIntegrity& file : integrity.files) {
         samples += file.samples;
     }
-    QStringList remarks = offsetRemarks(integrity);
+    QStringList remarks = recordRemarks(integrity);
     if (!remark.isEmpty()) {
         remarks += remark;
     }

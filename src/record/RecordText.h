@@ -38,7 +38,7 @@ QStringList recordRemarks(const RecordIntegrity& integrity);
 RecordSection recordSection(const RecordInfo& info);
 RecordSection recordSection(const FileIntegrity& file);
 
-/// What goes for all files together, with \p remark where it is not empty.
+/// All remarks on a recording, and \p remark where it is not empty.
 RecordSection recordSection(const RecordIntegrity& integrity, const QString& remark);
 
 } // namespace TARN

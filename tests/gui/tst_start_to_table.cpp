@@ -297,7 +297,8 @@ void StartToTable::damagedRecordingsAreNamed()
     viewer.loadRecordings({0, 1});
     const QString impossible = "Samples with an impossible time: 1, the first is number 1001";
     const QString message = viewer.window().statusBar()->currentMessage();
-    QVERIFY2(message.startsWith("Samples loaded: "), qUtf8Printable(message));
+    QVERIFY2(message.startsWith("Samples loaded: ") && message.contains("Details): 2. "),
+             qUtf8Printable(message));
     QVERIFY2(message.contains("LOG_0002.CAN: " + remark + ". LOG_0002.CAN: " + impossible),
              qUtf8Printable(message));
     QVERIFY(viewer.recordings()->topLevelItem(1)->toolTip(0).endsWith(remark + "\n" + impossible));
@@ -310,6 +311,8 @@ void StartToTable::damagedRecordingsAreNamed()
     QCOMPARE(details->findItems(impossible, Qt::MatchExactly | Qt::MatchRecursive, 1).size(), 1);
     QMetaObject::invokeMethod(&viewer.window(), "slotRecordDetails");
     QCOMPARE(details->topLevelItemCount(), 3); // the whole, then its files
+    const QTreeWidgetItem* whole = details->topLevelItem(0);
+    QCOMPARE(whole->child(whole->childCount() - 1)->text(1), "LOG_0002.CAN: " + impossible);
     QCOMPARE(details->topLevelItem(2)->text(0), viewer.cardPath() + "/LOG_0002.CAN");
 }
 
