@@ -6,7 +6,6 @@
 #include "display/DialogData.h"
 #include "export/DialogExportCsv.h"
 #include "export/DialogExportKml.h"
-#include "faults/EventDetector.h"
 #include "profile/DialogProfile.h"
 #include "profile/Project.h"
 #include "record/DialogCard.h"
@@ -19,7 +18,6 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include <cstdlib>
-#include <new>
 
 namespace TARN {
 
@@ -126,20 +124,6 @@ void DialogMain::slotLoadRecord(const std::list<QString>& files)
     setProgress(100);
     mLoading = false;
     updateEnabled();
-}
-
-/// Hands the recording to the views; with nothing loaded where memory does not suffice.
-void DialogMain::showRecord()
-{
-    try {
-        detectEvents(mRecord, *Profile::instance());
-        mData->updateRecord(&mRecord);
-    } catch (const std::bad_alloc&) {
-        mRecord.clear();
-        mData->updateRecord(&mRecord);
-        mStatusBar->showMessage(
-            tr("There is not enough memory to show the recording; load fewer at once."));
-    }
 }
 
 void DialogMain::setProgress(int percent)

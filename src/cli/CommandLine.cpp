@@ -4,6 +4,7 @@
 #include "cli/Commands.h"
 
 #include <CLI/CLI.hpp>
+#include <new>
 #include <ostream>
 
 namespace TARN {
@@ -185,6 +186,9 @@ int runCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
         return app.exit(e, out, error) == 0 ? 0 : ExitUsage;
+    } catch (const std::bad_alloc&) {
+        error << "orna-cli: not enough memory; work on fewer recordings at once\n";
+        return ExitFailure;
     } catch (const std::exception& e) {
         error << "orna-cli: " << e.what() << '\n';
         return ExitFailure;

@@ -1,11 +1,14 @@
 #include "app/DialogMain.h"
 #include "app/DialogStatusBar.h"
 #include "base/Property.h"
+#include "display/DialogData.h"
+#include "faults/EventDetector.h"
 #include "profile/Profile.h"
 #include "profile/UnknownIdentifiers.h"
 #include "record/DialogRecordDetails.h"
 
 #include <algorithm>
+#include <new>
 
 namespace TARN {
 
@@ -20,6 +23,20 @@ void DialogMain::reportLoaded(bool complete)
     }
     mStatusBar->showMessage(text + remarks.join(". "));
     mStatusBar->setToolTip(remarks.join('\n')); // the bar may be too short
+}
+
+/// Hands the recording to the views; with nothing loaded where memory does not suffice.
+void DialogMain::showRecord()
+{
+    try {
+        detectEvents(mRecord, *Profile::instance());
+        mData->updateRecord(&mRecord);
+    } catch (const std::bad_alloc&) {
+        mRecord.clear();
+        mData->updateRecord(&mRecord);
+        mStatusBar->showMessage(
+            tr("There is not enough memory to show the recording; load fewer at once."));
+    }
 }
 
 void DialogMain::reportDamagedSettings()
