@@ -2,6 +2,76 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="cs" sourcelanguage="en">
 <context>
+    <name>DialogAbout</name>
+    <message>
+        <source>About ORNA</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Licence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Third-party notices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close this window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reads engine and flight recordings of an aircraft&apos;s SD card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version %1, built %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DialogHelp</name>
+    <message>
+        <source>ORNA Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close this window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sections of the manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search the manual</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Words to find; Enter goes to the next place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next place</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ExportCan</name>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
@@ -78,29 +148,32 @@
     </message>
 </context>
 <context>
-    <name>TARN::DialogCard</name>
+    <name>Record</name>
     <message>
-        <source>No card opened</source>
+        <source>not enough memory for %1 samples; load fewer recordings at once</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Folder of the recordings</source>
+        <source>could not open the recording &quot;%1&quot;; check that the card is still in place</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Card folder</source>
+        <source>not enough memory to read the recording; load fewer at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RecordText</name>
+    <message>
+        <source>Remarks</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Recordings</source>
+        <source>none</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Start Time: </source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Stop Time: </source>
+        <source>Remark</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -149,6 +222,92 @@
     </message>
     <message>
         <source>Samples Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file could not be opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The header is cut short, bytes missing: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ignored at the end, bytes that are no whole sample: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samples that could not be read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samples with an impossible time: %1, the first is number %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samples of channels other than 0 and 1: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gaps of more than 10 s: %1, the longest is %2 s from %3 on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The time offset could not be read: &quot;%1&quot; is damaged. Setting another offset keeps that file aside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Samples Read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>StartUp</name>
+    <message>
+        <source>Creating Dialogs ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogCard</name>
+    <message>
+        <source>No card opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder of the recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Card folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Time: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop Time: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Header of the recording and what could be read of it</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -229,6 +388,10 @@
         <source>The profile describes no error matrix.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Error matrices</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataGraph</name>
@@ -244,11 +407,6 @@ Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.
     <message>
         <source>No recording is loaded.
 Open a card and pick one or more recordings in the list on the left.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The graph was cleared.
-Pick the recording again, or press &quot;Confirm Selection&quot;, to fill it.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -320,6 +478,11 @@ Choose a folder that can be written, with enough free space, and a name that end
     <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The graph was cleared.
+Press &quot;Confirm Selection&quot; to fill it again.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -749,15 +912,7 @@ Open a card and pick one or more recordings in the list on the left.</source>
 <context>
     <name>TARN::DialogMain</name>
     <message>
-        <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Samples loaded: %L1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Not everything could be read (%1). Check that the card is still in place.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -773,19 +928,11 @@ Open a card and pick one or more recordings in the list on the left.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Ctrl+N</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>&amp;Open Project</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ctrl+O</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -798,10 +945,6 @@ Open a card and pick one or more recordings in the list on the left.</source>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ctrl+S</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -829,10 +972,6 @@ Open a card and pick one or more recordings in the list on the left.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Ctrl+C</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Open SD Card</source>
         <translation type="unfinished"></translation>
     </message>
@@ -854,10 +993,6 @@ Open a card and pick one or more recordings in the list on the left.</source>
     </message>
     <message>
         <source>Quit Application</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ctrl+Q</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -939,6 +1074,145 @@ The old file is unchanged; save it in another folder.</source>
         <source>Ok</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown. Choose another under Extras, Preferences.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Preferences Dialog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the Header and the Damages of the Recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show License Information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Help Window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Extras</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not everything could be read: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>. Remarks (see Recording Details): %1. </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show the recording; load fewer at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogPreferences</name>
+    <message>
+        <source>Preferences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pages of the preferences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close; every change holds already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a profile file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile File :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Application</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The XML file that says how the samples are decoded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language of the program from its next start on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ORNA Profile (*.xml);;All files (*.*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TARN Info</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please restart TARN to load new language !</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogProfile</name>
@@ -964,6 +1238,33 @@ The old file is unchanged; save it in another folder.</source>
     </message>
     <message>
         <source>Parameters of the profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogRecordDetails</name>
+    <message>
+        <source>Recording Details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the selected lines, or all when none is selected</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1050,6 +1351,13 @@ The old file is unchanged; save it in another folder.</source>
     </message>
     <message>
         <source>The start time is after the stop time: nothing would be exported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UnknownIdentifiers</name>
+    <message>
+        <source>Identifiers that the profile does not describe: %1, their samples: %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

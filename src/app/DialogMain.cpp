@@ -71,7 +71,7 @@ void DialogMain::createPanes()
     connect(mProfile, &DialogProfile::signalChanged, this, &DialogMain::slotProfileChanged);
     connect(mProfile, &DialogProfile::signalEdited, this, [this] { setEdited(true); });
     connect(mData, &DialogData::signalMessage, this,
-            [this](const QString& text) { mStatusBar->showMessage(text); });
+            [this](const QString& text) { mStatusBar->say(text); });
 }
 
 void DialogMain::loadProfile()
@@ -79,9 +79,9 @@ void DialogMain::loadProfile()
     const QString file =
         QString::fromStdString(Property::instance()->getString("Profile", DefaultProfile));
     if (!Profile::instance()->loadProfile(inBundle(file))) {
-        mStatusBar->showMessage(tr("The profile \"%1\" could not be loaded: no parameters can be "
-                                   "shown. Choose another under Extras, Preferences.")
-                                    .arg(file));
+        mStatusBar->say(tr("The profile \"%1\" could not be loaded: no parameters can be "
+                           "shown. Choose another under Extras, Preferences.")
+                            .arg(file));
     }
     mProfile->updateList();
     mData->loadProfile();
@@ -179,6 +179,15 @@ void DialogMain::updateTitle()
 {
     const QString name = mProjectFile.section('/', -1).section('.', 0, 0);
     setWindowTitle("ORNA " + name + (mEdited ? tr("[edited]") : QString()));
+}
+
+bool DialogMain::event(QEvent* event)
+{
+    if (event->type() == QEvent::StatusTip) {
+        mStatusBar->showTip(static_cast<QStatusTipEvent*>(event)->tip());
+        return true;
+    }
+    return QMainWindow::event(event);
 }
 
 bool DialogMain::eventFilter(QObject* watched, QEvent* event)

@@ -42,7 +42,8 @@ enum class ActionType
     Help = 9,
     Preferences = 14,
     ExportKml = 16,
-    ExportCsv = 17
+    ExportCsv = 17,
+    RecordDetails = 18
 };
 
 /// The one top-level window. Owns the open recording, offers the commands, opens the last card
@@ -67,6 +68,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;

@@ -49,6 +49,8 @@ void DialogMain::createActions()
                QKeySequence("Ctrl+C"))
         ->setIconText(tr("Open SD Card"));
     addCommand(ActionType::Preferences, tr("Preferences"), nullptr, tr("Open Preferences Dialog"));
+    addCommand(ActionType::RecordDetails, tr("Recording Details"), "details",
+               tr("Show the Header and the Damages of the Recording"), QKeySequence("Ctrl+I"));
     addCommand(ActionType::ExportKml, tr("Export Google KML File"), "exportKml",
                tr("Export Google Earth KML File"));
     addCommand(ActionType::ExportCsv, tr("Export CSV/CAN File"), "exportCsv",
@@ -89,6 +91,7 @@ void DialogMain::createMenu()
     file->addSeparator();
     file->addAction(mActions[ActionType::Quit]);
     QMenu* extras = menuBar()->addMenu(tr("&Extras"));
+    extras->addAction(mActions[ActionType::RecordDetails]);
     extras->addAction(mActions[ActionType::Preferences]);
     connect(extras, &QMenu::aboutToShow, this, &DialogMain::slotMenuPrefAbout);
     QMenu* help = menuBar()->addMenu(tr("&Help"));
@@ -147,6 +150,9 @@ void DialogMain::slotMenu(QAction* action)
         break;
     case ActionType::Preferences:
         showPreferences();
+        break;
+    case ActionType::RecordDetails:
+        slotRecordDetails();
         break;
     }
     updateEnabled();
@@ -208,7 +214,7 @@ void DialogMain::openCard(const QString& folder)
 {
     loadRecords(folder);
     storeSetting("LastPath", folder);
-    mStatusBar->showMessage(tr("Recordings found: %1").arg(mCardInfo.records.size()));
+    mStatusBar->say(tr("Recordings found: %1").arg(mCardInfo.records.size()));
 }
 
 void DialogMain::quit()

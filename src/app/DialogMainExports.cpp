@@ -71,7 +71,7 @@ void DialogMain::reportExport(const ExportResult& result, const QString& path, c
 {
     setProgress(100);
     if (result) {
-        mStatusBar->showMessage(tr("Written: %1").arg(path) + "   " + result.message);
+        mStatusBar->say(tr("Written: %1").arg(path) + "   " + result.message);
         return;
     }
     QMessageBox box(QMessageBox::Critical, title, failure, QMessageBox::NoButton, this);

@@ -21,7 +21,7 @@ void DialogMain::reportLoaded(bool complete)
     if (!remarks.isEmpty()) {
         text += tr(". Remarks (see Recording Details): %1. ").arg(remarks.size());
     }
-    mStatusBar->showMessage(text + remarks.join(". "));
+    mStatusBar->say(text + remarks.join(". "));
     mStatusBar->setToolTip(remarks.join('\n')); // the bar may be too short
 }
 
@@ -34,7 +34,7 @@ void DialogMain::showRecord()
     } catch (const std::bad_alloc&) {
         mRecord.clear();
         mData->updateRecord(&mRecord);
-        mStatusBar->showMessage(
+        mStatusBar->say(
             tr("There is not enough memory to show the recording; load fewer at once."));
     }
 }
@@ -45,8 +45,7 @@ void DialogMain::reportDamagedSettings()
     if (!file.empty()) {
         const QString text = tr("The settings could not be read, the program starts with its "
                                 "defaults. The damaged file is kept as \"%1\".");
-        mStatusBar->showMessage(text.arg(QString::fromStdString(file)) + " " +
-                                mStatusBar->currentMessage());
+        mStatusBar->say(text.arg(QString::fromStdString(file)) + " " + mStatusBar->said());
     }
 }
 

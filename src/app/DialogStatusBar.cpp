@@ -29,6 +29,17 @@ DialogStatusBar::DialogStatusBar(QWidget* parent) : QStatusBar(parent), mProgres
     connect(&mHideTimer, &QTimer::timeout, this, &DialogStatusBar::slotTimeout);
 }
 
+void DialogStatusBar::say(const QString& text)
+{
+    mText = text;
+    showMessage(text);
+}
+
+void DialogStatusBar::showTip(const QString& tip)
+{
+    showMessage(tip.isEmpty() ? mText : tip);
+}
+
 void DialogStatusBar::updateProgress(int percent)
 {
     constexpr int HideDelay = 1000; // ms
