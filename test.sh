@@ -17,6 +17,12 @@ cmake --build --preset release
 QT_QPA_PLATFORM=offscreen ctest --preset release --label-exclude display
 xvfb-run -a -s "-screen 0 1400x1000x24" ctest --preset release --label-regex display
 
+step "the same numbers and dates in another country"
+mkdir -p build/locale
+localedef -i de_DE -f UTF-8 build/locale/de_DE.UTF-8
+LOCPATH=$PWD/build/locale LC_ALL=de_DE.UTF-8 TZ=America/St_Johns QT_QPA_PLATFORM=offscreen \
+    ctest --preset release --label-exclude display --quiet
+
 step "packaging"
 scripts/check-packaging.sh build/release
 

@@ -9,7 +9,7 @@ packages=(
     qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
     libgl-dev libopengl-dev libcli11-dev nlohmann-json3-dev
     # test and benchmark
-    clang-format-14 gdal-bin
+    clang-format-14 gdal-bin locales
     # packaging and its checks
     dpkg-dev file desktop-file-utils appstream shared-mime-info libglib2.0-bin libxml2-utils groff-base
     # a screen where there is none

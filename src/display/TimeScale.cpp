@@ -24,7 +24,7 @@ QString dateText(const RecordInfo& info, double time)
         return "--.--.---- --:--:--";
     }
     const double seconds = static_cast<double>(info.utcTime) + time - info.startTime;
-    return QDateTime::fromSecsSinceEpoch(truncatedTo<qint64>(seconds))
+    return QDateTime::fromSecsSinceEpoch(truncatedTo<qint64>(seconds), Qt::UTC)
         .toString("dd.MM.yyyy hh:mm:ss");
 }
 

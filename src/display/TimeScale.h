@@ -15,8 +15,8 @@ double sliderTime(const RecordInfo& info, int position);
 /// Slider position of a time (seconds); 0 where start and stop are one.
 int sliderPosition(const RecordInfo& info, double time);
 
-/// Local date and time of a moment as "dd.MM.yyyy hh:mm:ss"; dashes while the recording's
-/// UTC start is unknown. Counts on past midnight.
+/// Date and time of a moment as "dd.MM.yyyy hh:mm:ss", as the recording's own messages count them
+/// in whatever zone it is read; dashes while its UTC start is unknown. Counts on past midnight.
 QString dateText(const RecordInfo& info, double time);
 
 } // namespace TARN

@@ -4,7 +4,7 @@ namespace TARN {
 
 QDateTime UtcDetector::dateTime() const
 {
-    return mDate.isValid() ? QDateTime(mDate, mTime) : QDateTime();
+    return mDate.isValid() ? QDateTime(mDate, mTime, Qt::UTC) : QDateTime();
 }
 
 bool UtcDetector::take(const RecordEntry& entry)

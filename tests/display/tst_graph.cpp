@@ -5,6 +5,7 @@
 #include "support/CoreTest.h"
 
 #include <algorithm>
+#include <clocale>
 #include <cmath>
 #include <random>
 
@@ -234,6 +235,7 @@ private Q_SLOTS:
 
     void fallingTimeTakesTheLastSampleAlong()
     {
+        std::setlocale(LC_NUMERIC, "C"); // as every program of ours, for its diagnostics
         GraphModel model;
         model.curve(0)->name = "Oil";
         model.putValue(0, 1.0); // before the first time

@@ -1,5 +1,7 @@
 #include "base/ClockTime.h"
 #include "display/TableModel.h"
+#include "display/TimeScale.h"
+#include "record/Record.h"
 #include "support/CoreTest.h"
 #include "support/RecordingBuilder.h"
 
@@ -83,6 +85,34 @@ private Q_SLOTS:
                 ++row;
             }
         }
+    }
+
+    void datesCountThroughClockChanges_data()
+    {
+        QTest::addColumn<QByteArray>("zone");
+        QTest::addColumn<QByteArray>("date"); // payload of the message: day, month, year
+        QTest::addColumn<QString>("text");
+        for (const char* zone : {"UTC", "Europe/Berlin", "America/New_York"}) {
+            QTest::addRow("%s, clocks go forward in Europe", zone)
+                << QByteArray(zone) << QByteArray("000000001D0307EA") << "29.03.2026 02:00:03";
+            QTest::addRow("%s, clocks go back in America", zone)
+                << QByteArray(zone) << QByteArray("00000000010B07EA") << "01.11.2026 02:00:03";
+        }
+    }
+
+    void datesCountThroughClockChanges()
+    {
+        QFETCH(const QByteArray, zone);
+        QFETCH(const QByteArray, date);
+        const QByteArray before = qgetenv("TZ");
+        qputenv("TZ", zone);
+        RecordingBuilder file;
+        file.add({.id = 1206, .payload = date});
+        file.add({.id = 1200, .payload = "00000000013B3A00"}); // 01:59:58
+        Record record;
+        QVERIFY(record.readRecordData({write("a.CAN", file.bytes())}));
+        QTEST(dateText(record.recordInfo(), 5.0), "text");
+        before.isNull() ? qunsetenv("TZ") : qputenv("TZ", before);
     }
 
     void rowOfATime()

@@ -208,7 +208,6 @@ private Q_SLOTS:
     {
         QFETCH(const QString, samples);
         QFETCH(const QByteArray, said);
-        qputenv("TZ", "UTC");
         std::list<QString> paths;
         for (const QString& part : samples.split('|')) {
             RecordingBuilder file;
