@@ -82,6 +82,8 @@ QWidget* DialogDataGraph::createButtons()
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(column);
+    area->viewport()->setAutoFillBackground(false);
+    column->setAutoFillBackground(false);
     const int scrollBar = area->verticalScrollBar()->sizeHint().width();
     area->setFixedWidth(column->sizeHint().width() + scrollBar);
     return area;

@@ -25,7 +25,10 @@ DialogRecordDetails::DialogRecordDetails(QWidget* parent) : QDialog(parent), mTr
     copyAction->setShortcut(QKeySequence::Copy);
     connect(copyAction, &QAction::triggered, this, &DialogRecordDetails::copy);
     addAction(copyAction);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    auto* buttons = new QDialogButtonBox;
+    QPushButton* close = buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
+    close->setToolTip(tr("Close this window"));
+    close->setDefault(true);
     auto* copyButton = buttons->addButton(tr("Copy"), QDialogButtonBox::ActionRole);
     copyButton->setToolTip(tr("Copy the selected lines, or all when none is selected"));
     connect(copyButton, &QPushButton::clicked, this, &DialogRecordDetails::copy);

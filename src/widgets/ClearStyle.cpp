@@ -28,8 +28,15 @@ void ClearStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 QPixmap ClearStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
                                         const QStyleOption* option) const
 {
-    return mode == QIcon::Selected ? pixmap
-                                   : QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+    if (mode != QIcon::Selected) {
+        return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+    }
+    QPixmap selected = pixmap;
+    QPainter painter(&selected);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(QRectF({}, pixmap.deviceIndependentSize()),
+                     option->palette.color(QPalette::HighlightedText));
+    return selected;
 }
 
 } // namespace TARN

@@ -5,7 +5,7 @@
 namespace TARN {
 
 /// The toolkit's Fusion style, made legible where it is not: on dark themes an empty check box
-/// has an outline that can be seen, and the icon of a selected item keeps its colours.
+/// has an outline that can be seen, and the icon of a selected item has the colour of its text.
 class ClearStyle : public QProxyStyle
 {
 public:

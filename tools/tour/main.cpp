@@ -109,6 +109,7 @@ private:
         passDialog("20-preferences", ActionType::Preferences);
         passDialog("21-about", ActionType::About);
         passDialog("22-help", ActionType::Help);
+        passDialog("26-details", ActionType::RecordDetails);
         auto* setup = mWindow.findChild<TARN::DialogGraphSetup*>();
         setup->updateDialog();
         setup->show();
