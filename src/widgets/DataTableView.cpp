@@ -2,12 +2,16 @@
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QStyle>
+
+#include <algorithm>
 
 namespace TARN {
 
 DataTableView::DataTableView(QWidget* parent) : QTableView(parent)
 {
     constexpr int RowHeight = 15;
+    constexpr int VisibleRowsOnly = 0;
     QFont font = this->font();
     font.setPixelSize(11); // fits the row height
     setFont(font);
@@ -23,6 +27,9 @@ DataTableView::DataTableView(QWidget* parent) : QTableView(parent)
         header->setFont(font); // a style sheet keeps them from inheriting it
         header->setHighlightSections(false);
     }
+    // Measuring a cell costs more than showing it; a thousand rows of a hundred columns, as is
+    // usual, would hold up every load by half a second.
+    horizontalHeader()->setResizeContentsPrecision(VisibleRowsOnly);
     verticalHeader()->setMinimumSectionSize(RowHeight);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(RowHeight);
@@ -38,11 +45,25 @@ void DataTableView::widenColumns()
 {
     constexpr int Padding = 8;
     for (int column = 0; column < model()->columnCount(); ++column) {
-        const int wanted = sizeHintForColumn(column) + Padding;
+        const int wanted = std::max(sizeHintForColumn(column), widthOfProbes(column)) + Padding;
         if (wanted > columnWidth(column)) {
             setColumnWidth(column, wanted);
         }
     }
+}
+
+/// What a column's values need, judged by some of them from beginning to end.
+int DataTableView::widthOfProbes(int column) const
+{
+    constexpr qint64 Probes = 100;
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+    int widest = 0;
+    for (qint64 i = 0; i < Probes; ++i) {
+        const auto row = static_cast<int>(i * model()->rowCount() / Probes);
+        const QString text = model()->index(row, column).data().toString();
+        widest = std::max(widest, fontMetrics().horizontalAdvance(text) + margin);
+    }
+    return widest;
 }
 
 void DataTableView::paintEvent(QPaintEvent* event)

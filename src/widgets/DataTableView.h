@@ -16,13 +16,16 @@ public:
     void setEmptyText(const QString& text);
     QString emptyText() const { return mEmptyText; }
 
-    /// Gives columns the width that their visible values need; none gets narrower.
+    /// Gives columns the width that their visible values and a hundred others need; none gets
+    /// narrower.
     void widenColumns();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    int widthOfProbes(int column) const;
+
     QString mEmptyText;
 };
 
