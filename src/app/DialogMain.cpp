@@ -23,7 +23,6 @@ namespace TARN {
 
 DialogMain::DialogMain(QWidget* parent) : QMainWindow(parent), mEndProcess([] { std::exit(0); })
 {
-    constexpr int ReopenDelay = 20; // ms
     createPanes();
     mKmlWizard = new DialogExportKml(this);
     mCsvWizard = new DialogExportCsv(this);
@@ -39,7 +38,6 @@ DialogMain::DialogMain(QWidget* parent) : QMainWindow(parent), mEndProcess([] { 
     mRecord.setProgressListener([this](int percent) { setProgress(percent); });
     mTimer.setSingleShot(true);
     connect(&mTimer, &QTimer::timeout, this, &DialogMain::slotTimeout);
-    mTimer.start(ReopenDelay);
     setAcceptDrops(true);
     resize(1000, 800);
     restoreWindow();
@@ -92,6 +90,18 @@ void DialogMain::loadRecords(const QString& folder)
     mCardInfo = readCard(folder);
     mCard->setCardInfo(mCardInfo);
     mCard->setIntegrity(mRecord.integrity());
+}
+
+/// The last card is opened once the window stands there: nobody should look at a grey one while
+/// a slow card is read.
+void DialogMain::paintEvent(QPaintEvent* event)
+{
+    constexpr int ReopenDelay = 20; // ms
+    QMainWindow::paintEvent(event);
+    if (!mPainted) {
+        mPainted = true;
+        mTimer.start(ReopenDelay);
+    }
 }
 
 void DialogMain::slotTimeout()

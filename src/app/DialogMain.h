@@ -72,6 +72,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private Q_SLOTS:
     void slotLoadRecord(const std::list<QString>& files);
@@ -129,6 +130,7 @@ private:
                       const QString& failure);
 
     bool mClosing = false;
+    bool mPainted = false;
     bool mLoading = false;
     bool mEdited = false; ///< the selection differs from the project file
     Record mRecord;
