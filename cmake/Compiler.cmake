@@ -10,8 +10,14 @@ target_compile_definitions(orna_flags INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400 QT_NO_FOREACH)
 if(ORNA_SANITIZE)
     target_compile_options(orna_flags INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+        -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all
+        -fno-omit-frame-pointer
         # GCC loses track of initialisation in instrumented code; the plain build still warns.
-        -Wno-maybe-uninitialized)
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(orna_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(ORNA_FUZZ)
+    # Coverage for the fuzzer in every library; its main function only in the fuzz targets.
+    target_compile_options(orna_flags INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(orna_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()

@@ -9,6 +9,8 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QXmlStreamReader>
 
+#include <algorithm>
+
 namespace TARN {
 
 namespace {
@@ -51,7 +53,8 @@ ReadResult readDocument(QDomDocument& document, const QString& name, QString& re
     if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly)) {
         return ReadResult::NotOpened;
     }
-    const QByteArray content = file.read(LargestFile + 1);
+    // Reading allocates what it is asked for, however short the file.
+    const QByteArray content = file.read(std::min(file.size(), LargestFile) + 1);
     if (content.size() > LargestFile) {
         reason = "larger than 16 MiB";
         return ReadResult::NotParsed;

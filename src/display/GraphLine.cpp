@@ -47,10 +47,12 @@ public:
     }
 
 private:
-    /// Far outside the widget is far enough; larger numbers would upset the rasteriser.
+    /// Far outside the widget is far enough; larger numbers would upset the rasteriser. A range
+    /// too large for its numbers gives NaN, which is outside too.
     static float limited(double pixels)
     {
-        return static_cast<float>(std::clamp(pixels, -1e5, 1e5));
+        constexpr double Far = 1e5;
+        return static_cast<float>(pixels > -Far ? std::min(pixels, Far) : -Far);
     }
 
     static double ratio(double extent, double range) { return range != 0.0 ? extent / range : 0.0; }

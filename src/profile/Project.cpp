@@ -74,7 +74,8 @@ bool Project::saveProject(const std::string& file)
     QDomElement list = xml.xmlCreateElement(document, root, "Parameters");
     for (const ProfileParameter* parameter : Profile::instance()->selectedParameters()) {
         QDomElement element = xml.xmlCreateElement(document, list, "Parameter");
-        xml.xmlCreateAttribute(document, element, "name", parameter->name);
+        // As it is compared when it is read: a name that is no valid Unicode has only this form.
+        xml.xmlCreateAttribute(document, element, "name", parameter->name.toStdString());
     }
     return xml.xmlWriteFile(document, QString::fromStdString(file));
 }

@@ -1,0 +1,113 @@
+/// Any fields of a parameter and any samples: every way to decode a sample gives the same.
+
+#include "base/Numbers.h"
+#include "fuzz/Fuzz.h"
+#include "profile/Decoder.h"
+#include "profile/Profile.h"
+
+#include <bit>
+#include <cmath>
+
+using namespace TARN;
+
+namespace {
+
+/// Where a field may begin and end: mostly in the sample, now and then anywhere.
+int position(Fuzz::Input& input)
+{
+    const auto byte = input.take<std::int8_t>();
+    return byte == -128 ? input.take<std::int32_t>() : byte;
+}
+
+ProfileParameter takeParameter(Fuzz::Input& input)
+{
+    ProfileParameter parameter;
+    parameter.dataType = input.take<std::uint8_t>();
+    parameter.startByte = position(input);
+    parameter.startBit = position(input);
+    parameter.endBit = position(input);
+    parameter.factor = input.take<double>();
+    parameter.offset = input.take<double>();
+    parameter.thresholdId = 1;
+    parameter.enumId = 1;
+    return parameter;
+}
+
+/// Thresholds and labels, as many as the next byte says; none is none.
+ProfileInfo takeProfile(Fuzz::Input& input)
+{
+    ProfileInfo profile;
+    const auto counts = input.take<std::uint8_t>();
+    for (int i = 0; i < (counts & 7); ++i) {
+        ProfileThrValue value;
+        value.val = input.take<float>();
+        value.state = input.take<std::uint8_t>() % 3;
+        value.color = QColor(10 + i, 20, 30);
+        profile.thresholds[1].values.push_back(value);
+    }
+    for (int i = 0; i < (counts >> 3 & 7); ++i) {
+        const auto value = input.take<std::int16_t>();
+        profile.enums[1].values[value] = {value, "label", 1};
+    }
+    return profile;
+}
+
+bool sameBits(double a, double b)
+{
+    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+}
+
+/// A number's text is the number in twelve digits, scaled or not as the type has it.
+void checkText(const std::string& text, const Decoder& decoder, const ProfileParameter& parameter,
+               const RecordEntry& entry)
+{
+    if (parameter.dataType == DataType::Long48) {
+        const double value = decoder.toDouble(entry, true);
+        const double shown = leadingDouble(text);
+        Fuzz::require(!std::isfinite(value) ||
+                          std::fabs(shown - value) <= std::fabs(value) * 1e-11 + 1e-300,
+                      "a text shows the value");
+    } else if (parameter.dataType == DataType::BShort) {
+        Fuzz::require(leadingInt(text) == decoder.toDouble(entry, true), "a text shows the bits");
+    } else {
+        Fuzz::require(!text.empty(), "every sample has a text");
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    Fuzz::Input input({data, size});
+    const ProfileParameter parameter = takeParameter(input);
+    const ProfileInfo profile = takeProfile(input);
+    const Decoder decoder(profile, parameter);
+
+    std::vector<RecordEntry> entries(input.rest().size() / sizeof(RecordEntry));
+    for (RecordEntry& entry : entries) {
+        entry = input.take<RecordEntry>();
+    }
+    std::vector<double> scaled(entries.size());
+    std::vector<double> raw(entries.size());
+    std::vector<int> states(entries.size());
+    decoder.toDoubles(entries, true, scaled.data());
+    decoder.toDoubles(entries, false, raw.data());
+    decoder.states(entries, states.data());
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        const RecordEntry& entry = entries[i];
+        Fuzz::require(sameBits(decoder.toDouble(entry, true), scaled[i]), "a column's values");
+        Fuzz::require(sameBits(decoder.toDouble(entry, false), raw[i]), "a column's raw values");
+        Fuzz::require(decoder.state(entry) == states[i], "a column's states");
+        decoder.toInt(entry);
+        std::string text;
+        std::string shown;
+        decoder.appendText(entry, text);
+        const QColor color = decoder.appendDisplay(entry, shown);
+        Fuzz::require(text == shown, "one text of a sample");
+        Fuzz::require(color == QColor(Qt::white) ||
+                          (color.blue() == 30 && profile.thresholds.contains(1)),
+                      "white or a threshold's colour");
+        checkText(text, decoder, parameter, entry);
+    }
+    return 0;
+}
