@@ -43,14 +43,14 @@ void encode(const RecordEntry& entry, double start, unsigned char* to)
     // A hair above 31.25 ns: the low word of a time just before a turn must not overflow.
     constexpr double Tick = 3.1250000000000005e-8;
     const double time = entry.time() - start;
-    const auto high = truncatedTo<std::uint32_t>(time / TurnOfLowWord);
+    const auto high = truncatedTo<std::int32_t>(time / TurnOfLowWord);
     const auto low = truncatedTo<std::uint32_t>((time - high * TurnOfLowWord) / Tick);
     std::memcpy(to, &entry, 10);
     storeBig(entry.channel, to + 10);
     storeBig(entry.id, to + 12);
     storeBig(entry.w16, to + 16);
     storeBig(entry.w18, to + 18);
-    storeBig(high, to + 20);
+    storeBig(static_cast<std::uint32_t>(high), to + 20);
     storeBig(low, to + 24);
 }
 
