@@ -63,7 +63,7 @@ void DialogEventList::slotSelect()
 
 DialogDataLimit::DialogDataLimit(QWidget* parent)
     : DialogEventList(&RecordData::limits, tr("Warning/Limit Exceed"),
-                      tr("No limit exceeded in this recording."), parent)
+                      tr("No parameter left its normal range in this recording."), parent)
 {}
 
 DialogDataWarning::DialogDataWarning(QWidget* parent)

@@ -27,6 +27,8 @@ DataTableView::DataTableView(QWidget* parent) : QTableView(parent)
         header->setFont(font); // a style sheet keeps them from inheriting it
         header->setHighlightSections(false);
     }
+    mWidening.setSingleShot(true);
+    connect(&mWidening, &QTimer::timeout, this, &DataTableView::widenVisible);
     // Measuring a cell costs more than showing it; a thousand rows of a hundred columns, as is
     // usual, would hold up every load by half a second.
     horizontalHeader()->setResizeContentsPrecision(VisibleRowsOnly);
@@ -43,13 +45,32 @@ void DataTableView::setEmptyText(const QString& text)
 
 void DataTableView::widenColumns()
 {
-    constexpr int Padding = 8;
     for (int column = 0; column < model()->columnCount(); ++column) {
-        const int wanted = std::max(sizeHintForColumn(column), widthOfProbes(column)) + Padding;
-        if (wanted > columnWidth(column)) {
-            setColumnWidth(column, wanted);
-        }
+        widen(column, std::max(sizeHintForColumn(column), widthOfProbes(column)));
     }
+}
+
+void DataTableView::widenVisible()
+{
+    const int last = columnAt(viewport()->width() - 1);
+    for (int column = std::max(0, columnAt(0));
+         column < model()->columnCount() && (last < 0 || column <= last); ++column) {
+        widen(column, sizeHintForColumn(column));
+    }
+}
+
+void DataTableView::widen(int column, int width)
+{
+    constexpr int Padding = 8;
+    if (width + Padding > columnWidth(column)) {
+        setColumnWidth(column, width + Padding);
+    }
+}
+
+void DataTableView::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    mWidening.start(); // when the scrolling is done: widths move what is scrolled
 }
 
 /// What a column's values need, judged by some of them from beginning to end.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QTimer>
 #include <QtWidgets/QTableView>
 
 namespace TARN {
@@ -22,11 +23,16 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    /// No number that comes into sight is cut short.
+    void scrollContentsBy(int dx, int dy) override;
 
 private:
     int widthOfProbes(int column) const;
+    void widenVisible();
+    void widen(int column, int width);
 
     QString mEmptyText;
+    QTimer mWidening;
 };
 
 } // namespace TARN
