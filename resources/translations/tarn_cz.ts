@@ -5,528 +5,536 @@
     <name>DialogAbout</name>
     <message>
         <source>About ORNA</source>
-        <translation type="unfinished"></translation>
+        <translation>O programu ORNA</translation>
     </message>
     <message>
         <source>Licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Licence</translation>
     </message>
     <message>
         <source>Third-party notices</source>
-        <translation type="unfinished"></translation>
+        <translation>Oznámení třetích stran</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít</translation>
     </message>
     <message>
         <source>Close this window</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít toto okno</translation>
     </message>
     <message>
         <source>Reads engine and flight recordings of an aircraft&apos;s SD card</source>
-        <translation type="unfinished"></translation>
+        <translation>Čte záznamy motoru a letu z SD karty letadla</translation>
     </message>
     <message>
         <source>Version %1, built %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze %1, sestaveno %2</translation>
     </message>
 </context>
 <context>
     <name>DialogHelp</name>
     <message>
         <source>ORNA Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Nápověda ORNA</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít</translation>
     </message>
     <message>
         <source>Close this window</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít toto okno</translation>
     </message>
     <message>
         <source>Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Příručka</translation>
     </message>
     <message>
         <source>Sections of the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Oddíly příručky</translation>
     </message>
     <message>
         <source>Search the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledat v příručce</translation>
     </message>
     <message>
         <source>Words to find; Enter goes to the next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledaná slova; Enter přejde na další místo</translation>
     </message>
     <message>
         <source>Previous place</source>
-        <translation type="unfinished"></translation>
+        <translation>Předchozí místo</translation>
     </message>
     <message>
         <source>Next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Další místo</translation>
     </message>
 </context>
 <context>
     <name>ExportCan</name>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor „%1“ nelze zapsat: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor „%1“ se nepodařilo zapsat: %2</translation>
     </message>
 </context>
 <context>
     <name>ExportCsv</name>
     <message>
         <source>The first sample is at %1 s, the last at %2 s, the export ends at %3 s. Choose a shorter time range or a coarser resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>První vzorek je v čase %1 s, poslední v %2 s, export končí v %3 s. Zvolte kratší časový rozsah nebo hrubší rozlišení.</translation>
     </message>
     <message>
         <source>The table would have too many rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka by měla příliš mnoho řádků.</translation>
     </message>
     <message>
         <source>The table would have %1 rows, about %2 MB, more than is free in &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka by měla %1 řádků, asi %2 MB, to je víc než volné místo v „%3“.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor „%1“ nelze zapsat: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor „%1“ se nepodařilo zapsat: %2</translation>
     </message>
     <message>
         <source>No parameter is selected, the file holds its title only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není vybrán žádný parametr, soubor obsahuje jen záhlaví.</translation>
     </message>
     <message>
         <source>No sample lies in the time range, the file holds its titles only.</source>
-        <translation type="unfinished"></translation>
+        <translation>V časovém rozsahu není žádný vzorek, soubor obsahuje jen záhlaví.</translation>
     </message>
 </context>
 <context>
     <name>ExportKml</name>
     <message>
         <source>&quot;%1&quot; could not be written. Check that the folder exists, may be written to and has room.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor „%1“ se nepodařilo zapsat. Zkontrolujte, zda složka existuje, lze do ní zapisovat a je v ní dost místa.</translation>
     </message>
     <message>
         <source>No position lies in the time range, the flight path is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>V časovém rozsahu není žádná poloha, dráha letu je prázdná.</translation>
     </message>
 </context>
 <context>
     <name>ExportTarget</name>
     <message>
         <source>Type a file name, without a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zadejte název souboru bez složky.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka „%1“ neexistuje. Zvolte jinou.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do složky „%1“ nelze zapisovat. Zvolte jinou.</translation>
     </message>
     <message>
         <source>ORNA Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>ORNA – upozornění</translation>
     </message>
     <message>
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor „%1“ v této složce již existuje. Nahradit?</translation>
     </message>
 </context>
 <context>
     <name>Record</name>
     <message>
         <source>not enough memory for %1 samples; load fewer recordings at once</source>
-        <translation type="unfinished"></translation>
+        <translation>nedostatek paměti pro %1 vzorků; načtěte méně záznamů najednou</translation>
     </message>
     <message>
         <source>could not open the recording &quot;%1&quot;; check that the card is still in place</source>
-        <translation type="unfinished"></translation>
+        <translation>záznam „%1“ se nepodařilo otevřít; zkontrolujte, zda je karta stále vložena</translation>
     </message>
     <message>
         <source>not enough memory to read the recording; load fewer at once</source>
-        <translation type="unfinished"></translation>
+        <translation>nedostatek paměti pro načtení záznamu; načtěte méně záznamů najednou</translation>
     </message>
 </context>
 <context>
     <name>RecordText</name>
     <message>
         <source>Remarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznámky</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>žádné</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznámka</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Start Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas začátku</translation>
     </message>
     <message>
         <source>Stop Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas konce</translation>
     </message>
     <message>
         <source>Bus Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ sběrnice</translation>
     </message>
     <message>
         <source>ECU Serial Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Výrobní č. ECU</translation>
     </message>
     <message>
         <source>Software Part Nr. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Č. dílu softwaru A</translation>
     </message>
     <message>
         <source>Software Part Nr. B</source>
-        <translation type="unfinished"></translation>
+        <translation>Č. dílu softwaru B</translation>
     </message>
     <message>
         <source>ECU Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ ECU</translation>
     </message>
     <message>
         <source>EMU SW Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze SW EMU</translation>
     </message>
     <message>
         <source>Engine Serial Nr.</source>
-        <translation type="unfinished"></translation>
+        <translation>Výrobní č. motoru</translation>
     </message>
     <message>
         <source>Engine Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ motoru</translation>
     </message>
     <message>
         <source>Samples Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzorků celkem</translation>
     </message>
     <message>
         <source>The file could not be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor se nepodařilo otevřít</translation>
     </message>
     <message>
         <source>The header is cut short, bytes missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hlavička je neúplná, chybějící bajty: %1</translation>
     </message>
     <message>
         <source>Ignored at the end, bytes that are no whole sample: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Na konci vynechány bajty, které netvoří celý vzorek: %1</translation>
     </message>
     <message>
         <source>Samples that could not be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzorky, které se nepodařilo přečíst: %1</translation>
     </message>
     <message>
         <source>Samples with an impossible time: %1, the first is number %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzorky s nemožným časem: %1, první má pořadové číslo %2</translation>
     </message>
     <message>
         <source>Samples of channels other than 0 and 1: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzorky z jiných kanálů než 0 a 1: %1</translation>
     </message>
     <message>
         <source>Gaps of more than 10 s: %1, the longest is %2 s from %3 on</source>
-        <translation type="unfinished"></translation>
+        <translation>Mezery delší než 10 s: %1, nejdelší trvá %2 s od %3</translation>
     </message>
     <message>
         <source>The time offset could not be read: &quot;%1&quot; is damaged. Setting another offset keeps that file aside</source>
-        <translation type="unfinished"></translation>
+        <translation>Časový posun se nepodařilo přečíst: soubor „%1“ je poškozen. Při nastavení jiného posunu se tento soubor uschová stranou</translation>
     </message>
     <message>
         <source>Samples Read</source>
-        <translation type="unfinished"></translation>
+        <translation>Přečteno vzorků</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory</translation>
     </message>
 </context>
 <context>
     <name>StartUp</name>
     <message>
         <source>Creating Dialogs ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytváření oken ...</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
     <message>
         <source>No card opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Není otevřena žádná karta</translation>
     </message>
     <message>
         <source>Folder of the recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka se záznamy</translation>
     </message>
     <message>
         <source>Card folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka karty</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy</translation>
     </message>
     <message>
         <source>Start Time: </source>
-        <translation type="unfinished"></translation>
+        <translation>Čas začátku: </translation>
     </message>
     <message>
         <source>Stop Time: </source>
-        <translation type="unfinished"></translation>
+        <translation>Čas konce: </translation>
     </message>
     <message>
         <source>Recording Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Podrobnosti záznamu</translation>
     </message>
     <message>
         <source>Header of the recording and what could be read of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Hlavička záznamu a co se z něj podařilo přečíst</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogData</name>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Limit/Warning Exceed</source>
-        <translation type="unfinished"></translation>
+        <translation>Překročení limitů/výstrah</translation>
     </message>
     <message>
         <source>Graph</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf</translation>
     </message>
     <message>
         <source>Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Výstražné kontrolky</translation>
     </message>
     <message>
         <source>Fault Matrix</source>
-        <translation type="unfinished"></translation>
+        <translation>Matice poruch</translation>
     </message>
     <message>
         <source>Date and time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum a denní čas</translation>
     </message>
     <message>
         <source>Time on the recording&apos;s clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas podle hodin záznamu</translation>
     </message>
     <message>
         <source>Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posun:</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy přičítané k časům jednotek, jejichž hodiny jdou jinak; ukládají se do složky karty</translation>
     </message>
     <message>
         <source>Current time, from the recording&apos;s start to its stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuální čas, od začátku do konce záznamu</translation>
     </message>
     <message>
         <source>Current time</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuální čas</translation>
     </message>
     <message>
         <source>Current time; type a time and press Enter to go there</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuální čas; chcete-li přejít jinam, zadejte čas a stiskněte Enter</translation>
     </message>
     <message>
         <source>Go to time</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejít na čas</translation>
     </message>
     <message>
         <source>Previous event</source>
-        <translation type="unfinished"></translation>
+        <translation>Předchozí událost</translation>
     </message>
     <message>
         <source>Next event</source>
-        <translation type="unfinished"></translation>
+        <translation>Další událost</translation>
     </message>
     <message>
         <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Posun se nepodařilo uložit na kartu (není chráněna proti zápisu?) a platí do ukončení programu.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
     <message>
         <source>The profile describes no error matrix.</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil nepopisuje žádnou matici poruch.</translation>
     </message>
     <message>
         <source>Error matrices</source>
-        <translation type="unfinished"></translation>
+        <translation>Matice poruch</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
         <source>%1 of %2 selected parameters shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazené parametry: %1 z %2 vybraných</translation>
     </message>
     <message>
         <source>No parameter is selected.
 Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není vybrán žádný parametr.
+Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</translation>
     </message>
     <message>
         <source>No recording is loaded.
 Open a card and pick one or more recordings in the list on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není načten žádný záznam.
+Otevřete kartu a vyberte v seznamu vlevo jeden nebo více záznamů.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam neobsahuje žádný vzorek vybraných parametrů.</translation>
     </message>
     <message>
         <source>Save Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit snímek</translation>
     </message>
     <message>
         <source>BMP File (*.bmp);;All Files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor BMP (*.bmp);;Všechny soubory (*.*)</translation>
     </message>
     <message>
         <source>The snapshot could not be saved as
 %1
 Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png or .jpg.</source>
-        <translation type="unfinished"></translation>
+        <translation>Snímek se nepodařilo uložit jako
+%1
+Zvolte složku, do které lze zapisovat a kde je dost volného místa, a název s příponou .bmp, .png nebo .jpg.</translation>
     </message>
     <message>
         <source>Zoom In</source>
-        <translation type="unfinished"></translation>
+        <translation>Přiblížit</translation>
     </message>
     <message>
         <source>Zoom Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Oddálit</translation>
     </message>
     <message>
         <source>Zoom 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom 1:1</translation>
     </message>
     <message>
         <source>Zoom Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom na značky</translation>
     </message>
     <message>
         <source>Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>Vymazat vše</translation>
     </message>
     <message>
         <source>Automatic Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatický režim</translation>
     </message>
     <message>
         <source>Split Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Dělený režim</translation>
     </message>
     <message>
         <source>Single Graph Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Režim jednoho grafu</translation>
     </message>
     <message>
         <source>Reset all to default</source>
-        <translation type="unfinished"></translation>
+        <translation>Obnovit výchozí stav</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavení</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Snímek</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf nelze vykreslit: tento displej nepodporuje OpenGL.
+Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL 2.1 nebo softwarový ovladač Mesa.</translation>
     </message>
     <message>
         <source>The graph was cleared.
 Press &quot;Confirm Selection&quot; to fill it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf byl vymazán.
+Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataLimit</name>
     <message>
         <source>Warning/Limit Exceed</source>
-        <translation type="unfinished"></translation>
+        <translation>Překročení výstrah/limitů</translation>
     </message>
     <message>
-        <source>No limit exceeded in this recording.</source>
-        <translation type="unfinished"></translation>
+        <source>No parameter left its normal range in this recording.</source>
+        <translation>Žádný parametr v tomto záznamu neopustil svůj normální rozsah.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataTable</name>
     <message>
         <source>Values of the selected parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnoty vybraných parametrů</translation>
     </message>
     <message>
         <source>No parameter is selected.
 Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není vybrán žádný parametr.
+Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</translation>
     </message>
     <message>
         <source>No recording is loaded.
 Open a card and pick one or more recordings in the list on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není načten žádný záznam.
+Otevřete kartu a vyberte v seznamu vlevo jeden nebo více záznamů.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam neobsahuje žádný vzorek vybraných parametrů.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataWarning</name>
     <message>
         <source>Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Výstražné kontrolky</translation>
     </message>
     <message>
         <source>No warning lamp came on in this recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>V tomto záznamu se nerozsvítila žádná výstražná kontrolka.</translation>
     </message>
 </context>
 <context>
@@ -534,838 +542,850 @@ Open a card and pick one or more recordings in the list on the left.</source>
     <message>
         <source>No recording is loaded.
 Open a card and pick one or more recordings in the list on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není načten žádný záznam.
+Otevřete kartu a vyberte v seznamu vlevo jeden nebo více záznamů.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportCsv</name>
     <message>
         <source>CSV Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export CSV</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvOptions</name>
     <message>
         <source>CSV/CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export CSV/CAN</translation>
     </message>
     <message>
         <source>Select CSV/CAN Option</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte možnosti CSV/CAN</translation>
     </message>
     <message>
         <source>Limiter</source>
-        <translation type="unfinished"></translation>
+        <translation>Oddělovač</translation>
     </message>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozlišení</translation>
     </message>
     <message>
         <source>Parameter Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Výběr parametrů</translation>
     </message>
     <message>
         <source>Semikolon ;</source>
-        <translation type="unfinished"></translation>
+        <translation>Středník ;</translation>
     </message>
     <message>
         <source>Comma ,</source>
-        <translation type="unfinished"></translation>
+        <translation>Čárka ,</translation>
     </message>
     <message>
         <source>Tabstop</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulátor</translation>
     </message>
     <message>
         <source>Stands between two columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Znak mezi dvěma sloupci</translation>
     </message>
     <message>
         <source>100 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>100 ms</translation>
     </message>
     <message>
         <source>10 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>10 ms</translation>
     </message>
     <message>
         <source>1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ms</translation>
     </message>
     <message>
         <source>Time from row to row</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas od řádku k řádku</translation>
     </message>
     <message>
         <source>All Parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny parametry</translation>
     </message>
     <message>
         <source>Selected Parameter only</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen vybrané parametry</translation>
     </message>
     <message>
         <source>Columns of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloupce tabulky</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvPath</name>
     <message>
         <source>Save CSV/CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit export CSV/CAN</translation>
     </message>
     <message>
         <source>CSV/CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export CSV/CAN</translation>
     </message>
     <message>
         <source>Select the output directory and file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte výstupní složku a soubor</translation>
     </message>
     <message>
         <source>.CSV Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export .CSV</translation>
     </message>
     <message>
         <source>.CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export .CAN</translation>
     </message>
     <message>
         <source>A table of decoded values, or a recording that can be opened again</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka dekódovaných hodnot, nebo záznam, který lze znovu otevřít</translation>
     </message>
     <message>
         <source>Name of the file in this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Název souboru v této složce</translation>
     </message>
     <message>
         <source>Export Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Cílová složka</translation>
     </message>
     <message>
         <source>Export Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ exportu</translation>
     </message>
     <message>
         <source>Export Filename</source>
-        <translation type="unfinished"></translation>
+        <translation>Název souboru</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKml</name>
     <message>
         <source>Google Earth KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export Google Earth KML</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlOptions</name>
     <message>
         <source> ms</source>
-        <translation type="unfinished"></translation>
+        <translation> ms</translation>
     </message>
     <message>
         <source>One point of the path for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden bod dráhy za každých</translation>
     </message>
     <message>
         <source>KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export KML</translation>
     </message>
     <message>
         <source>Select KML Option</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte možnosti KML</translation>
     </message>
     <message>
         <source>Timestamp every :</source>
-        <translation type="unfinished"></translation>
+        <translation>Časový údaj každých :</translation>
     </message>
     <message>
         <source>Width of the flight path</source>
-        <translation type="unfinished"></translation>
+        <translation>Šířka dráhy letu</translation>
     </message>
     <message>
         <source>Select Line Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat barvu čáry</translation>
     </message>
     <message>
         <source>Line Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Styl čáry</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Šířka čáry</translation>
     </message>
     <message>
         <source>Line color</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva čáry</translation>
     </message>
     <message>
         <source>Select Polygon Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat barvu polygonu</translation>
     </message>
     <message>
         <source>Draw Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreslit polygon</translation>
     </message>
     <message>
         <source>A curtain from the flight path to the ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Svislá stěna od dráhy letu k zemi</translation>
     </message>
     <message>
         <source>Polygon color</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva polygonu</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPath</name>
     <message>
         <source>Save KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit export KML</translation>
     </message>
     <message>
         <source>KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export KML</translation>
     </message>
     <message>
         <source>Select the output directory and file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte výstupní složku a soubor</translation>
     </message>
     <message>
         <source>Name of the file in this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Název souboru v této složce</translation>
     </message>
     <message>
         <source>Export Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Cílová složka</translation>
     </message>
     <message>
         <source>Export Filename</source>
-        <translation type="unfinished"></translation>
+        <translation>Název souboru</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPlacemark</name>
     <message>
         <source>KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export KML</translation>
     </message>
     <message>
         <source>Select KML Placemarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte značky míst KML</translation>
     </message>
     <message>
         <source> samples</source>
-        <translation type="unfinished"></translation>
+        <translation> vzorků</translation>
     </message>
     <message>
         <source>Points of the path from mark to mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Body dráhy od značky ke značce</translation>
     </message>
     <message>
         <source>Select Placemark Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat barvu značek míst</translation>
     </message>
     <message>
         <source>Draw selected parameters as placemarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Kreslit vybrané parametry jako značky míst</translation>
     </message>
     <message>
         <source>Placemark every</source>
-        <translation type="unfinished"></translation>
+        <translation>Značka místa každých</translation>
     </message>
     <message>
         <source>Placemark Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva značek míst</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit</translation>
     </message>
     <message>
         <source>Select Exceedance Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat barvu překročení</translation>
     </message>
     <message>
         <source>Show Limit exceedance / Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit překročení limitů / výstražné kontrolky</translation>
     </message>
     <message>
         <source>Limit Exceedance</source>
-        <translation type="unfinished"></translation>
+        <translation>Překročení limitů</translation>
     </message>
     <message>
         <source>Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Výstražné kontrolky</translation>
     </message>
     <message>
         <source>Exceedance Placemark Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva značek překročení</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogGraphSetup</name>
     <message>
         <source>Background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva pozadí</translation>
     </message>
     <message>
         <source>Grid On</source>
-        <translation type="unfinished"></translation>
+        <translation>Mřížka</translation>
     </message>
     <message>
         <source>Grid color</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva mřížky</translation>
     </message>
     <message>
         <source>Label color</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva popisků</translation>
     </message>
     <message>
         <source>Label background</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozadí popisků</translation>
     </message>
     <message>
         <source>Cursor On</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurzor</translation>
     </message>
     <message>
         <source>Legend On</source>
-        <translation type="unfinished"></translation>
+        <translation>Legenda</translation>
     </message>
     <message>
         <source>Autoscale On</source>
-        <translation type="unfinished"></translation>
+        <translation>Autom. měřítko</translation>
     </message>
     <message>
         <source>Y minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum Y</translation>
     </message>
     <message>
         <source>Y maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum Y</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít</translation>
     </message>
     <message>
         <source>Oscilloscope Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavení osciloskopu</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat</translation>
     </message>
     <message>
         <source>%1, used while autoscale is off</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, platí při vypnutém automatickém měřítku</translation>
     </message>
     <message>
         <source>Floating</source>
-        <translation type="unfinished"></translation>
+        <translation>Plovoucí</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Střed</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec</translation>
     </message>
     <message>
         <source>Cursor mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Režim kurzoru</translation>
     </message>
     <message>
         <source>Background Color :</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva pozadí :</translation>
     </message>
     <message>
         <source>Grid On/Color :</source>
-        <translation type="unfinished"></translation>
+        <translation>Mřížka/barva :</translation>
     </message>
     <message>
         <source>Label Color :</source>
-        <translation type="unfinished"></translation>
+        <translation>Barva popisků :</translation>
     </message>
     <message>
         <source>Label Background :</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozadí popisků :</translation>
     </message>
     <message>
         <source>Cursor On/Mode :</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurzor/režim :</translation>
     </message>
     <message>
         <source>Legend :</source>
-        <translation type="unfinished"></translation>
+        <translation>Legenda :</translation>
     </message>
     <message>
         <source>Y-Scale :</source>
-        <translation type="unfinished"></translation>
+        <translation>Měřítko Y :</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogMain</name>
     <message>
         <source>Samples loaded: %L1</source>
-        <translation type="unfinished"></translation>
+        <translation>Načteno vzorků: %L1</translation>
     </message>
     <message>
         <source>[edited]</source>
-        <translation type="unfinished"></translation>
+        <translation>[změněno]</translation>
     </message>
     <message>
         <source>&amp;New Project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nový projekt</translation>
     </message>
     <message>
         <source>Create new Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořit nový projekt</translation>
     </message>
     <message>
         <source>&amp;Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít projekt</translation>
     </message>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít projekt</translation>
     </message>
     <message>
         <source>Open Project File</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít soubor projektu</translation>
     </message>
     <message>
         <source>&amp;Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit projekt</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit projekt</translation>
     </message>
     <message>
         <source>Save Project File</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit soubor projektu</translation>
     </message>
     <message>
         <source>&amp;Save Project as</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit projekt &amp;jako</translation>
     </message>
     <message>
         <source>Save Project as</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit projekt jako</translation>
     </message>
     <message>
         <source>Save Project File as</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit soubor projektu jako</translation>
     </message>
     <message>
         <source>&amp;Open Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít k&amp;artu</translation>
     </message>
     <message>
         <source>Open Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít kartu</translation>
     </message>
     <message>
         <source>Open SD Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít SD kartu</translation>
     </message>
     <message>
         <source>Export Google KML File</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat soubor Google KML</translation>
     </message>
     <message>
         <source>Export Google Earth KML File</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat soubor Google Earth KML</translation>
     </message>
     <message>
         <source>Export CSV/CAN File</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat soubor CSV/CAN</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>U&amp;končit</translation>
     </message>
     <message>
         <source>Quit Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukončit aplikaci</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Soubor</translation>
     </message>
     <message>
         <source>Main Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Hlavní panel nástrojů</translation>
     </message>
     <message>
         <source>Open TARN Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít projekt TARN</translation>
     </message>
     <message>
         <source>Project Files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory projektů (*.xml)</translation>
     </message>
     <message>
         <source>ORNA Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>ORNA – upozornění</translation>
     </message>
     <message>
         <source>The project &quot;%1&quot; could not be read.
 Check that it is a project file saved by this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt „%1“ se nepodařilo načíst.
+Zkontrolujte, zda jde o soubor projektu uložený tímto programem.</translation>
     </message>
     <message>
         <source>Recordings found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nalezeno záznamů: %1</translation>
     </message>
     <message>
         <source>TARN Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>TARN – upozornění</translation>
     </message>
     <message>
         <source>Current Project not saved !
 Save it now ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuální projekt není uložen !
+Uložit nyní ?</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ano</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>The project could not be written to &quot;%1&quot;.
 The old file is unchanged; save it in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Projekt se nepodařilo zapsat do „%1“.
+Původní soubor zůstal beze změny; uložte projekt do jiné složky.</translation>
     </message>
     <message>
         <source>Save TARN Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit projekt TARN</translation>
     </message>
     <message>
         <source>Exporting KML file failed !</source>
-        <translation type="unfinished"></translation>
+        <translation>Export souboru KML se nezdařil !</translation>
     </message>
     <message>
         <source>ORNA Viewer Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohlížeč ORNA – upozornění</translation>
     </message>
     <message>
         <source>Exporting CSV/CAN file failed !</source>
-        <translation type="unfinished"></translation>
+        <translation>Export souboru CSV/CAN se nezdařil !</translation>
     </message>
     <message>
         <source>Written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapsáno: %1</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown. Choose another under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil „%1“ se nepodařilo načíst: nelze zobrazit žádné parametry. Zvolte jiný v nabídce Nástroje, Předvolby.</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolby</translation>
     </message>
     <message>
         <source>Open Preferences Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít okno předvoleb</translation>
     </message>
     <message>
         <source>Recording Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Podrobnosti záznamu</translation>
     </message>
     <message>
         <source>Show the Header and the Damages of the Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit hlavičku a poškození záznamu</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>O programu</translation>
     </message>
     <message>
         <source>Show License Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit informace o licenci</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Nápověda</translation>
     </message>
     <message>
         <source>Help Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Okno nápovědy</translation>
     </message>
     <message>
         <source>&amp;Extras</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nástroje</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ná&amp;pověda</translation>
     </message>
     <message>
         <source>Not everything could be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nepodařilo se přečíst vše: %1</translation>
     </message>
     <message>
         <source>. Remarks (see Recording Details): %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>. Poznámky (viz Podrobnosti záznamu): %1. </translation>
     </message>
     <message>
         <source>There is not enough memory to show the recording; load fewer at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>K zobrazení záznamu není dost paměti; načtěte méně záznamů najednou.</translation>
     </message>
     <message>
         <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavení se nepodařilo přečíst, program se spouští s výchozími hodnotami. Poškozený soubor je uschován jako „%1“.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogPreferences</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolby</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránky</translation>
     </message>
     <message>
         <source>Pages of the preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Stránky předvoleb</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Obecné</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Close; every change holds already</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít; všechny změny již platí</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Choose a profile file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolit soubor profilu</translation>
     </message>
     <message>
         <source>Profile File :</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor profilu :</translation>
     </message>
     <message>
         <source>Language :</source>
-        <translation type="unfinished"></translation>
+        <translation>Jazyk :</translation>
     </message>
     <message>
         <source>Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplikace</translation>
     </message>
     <message>
         <source>The XML file that says how the samples are decoded</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor XML, který určuje, jak se vzorky dekódují</translation>
     </message>
     <message>
         <source>Profile file</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor profilu</translation>
     </message>
     <message>
         <source>Language of the program from its next start on</source>
-        <translation type="unfinished"></translation>
+        <translation>Jazyk programu od příštího spuštění</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Jazyk</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>ORNA Profile (*.xml);;All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil ORNA (*.xml);;Všechny soubory (*.*)</translation>
     </message>
     <message>
         <source>TARN Info</source>
-        <translation type="unfinished"></translation>
+        <translation>TARN – informace</translation>
     </message>
     <message>
         <source>Please restart TARN to load new language !</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro načtení nového jazyka restartujte TARN !</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogProfile</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Odznačit vše</translation>
     </message>
     <message>
         <source>Confirm Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Potvrdit výběr</translation>
     </message>
     <message>
         <source>Selected Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrané parametry</translation>
     </message>
     <message>
         <source>Untick all parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit zaškrtnutí všech parametrů</translation>
     </message>
     <message>
         <source>Show the ticked parameters in all views</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit zaškrtnuté parametry ve všech pohledech</translation>
     </message>
     <message>
         <source>Parameters of the profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametry profilu</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogRecordDetails</name>
     <message>
         <source>Recording Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Podrobnosti záznamu</translation>
     </message>
     <message>
         <source>Recording details</source>
-        <translation type="unfinished"></translation>
+        <translation>Podrobnosti záznamu</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Pole</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnota</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopírovat</translation>
     </message>
     <message>
         <source>Copy the selected lines, or all when none is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopírovat vybrané řádky, nebo všechny, není-li vybrán žádný</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zavřít</translation>
+    </message>
+    <message>
+        <source>Close this window</source>
+        <translation>Zavřít toto okno</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogStatusBar</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Průběh</translation>
     </message>
 </context>
 <context>
     <name>TARN::DirectoryEdit</name>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Procházet...</translation>
     </message>
     <message>
         <source>Folder of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka souboru</translation>
     </message>
 </context>
 <context>
     <name>TARN::EventModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
 </context>
 <context>
     <name>TARN::TableModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
 </context>
 <context>
     <name>TARN::WidgetErrorTime</name>
     <message>
         <source>When errors were active: from the top info, warning, fault. Click to go there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdy byla hlášení aktivní: shora informace, výstraha, porucha. Kliknutím tam přejdete.</translation>
     </message>
     <message>
         <source>Fault timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Časová osa poruch</translation>
     </message>
 </context>
 <context>
     <name>TARN::WidgetTimeRange</name>
     <message>
         <source>Start/Stop Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas začátku/konce</translation>
     </message>
     <message>
         <source>Start time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas začátku</translation>
     </message>
     <message>
         <source>Stop time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas konce</translation>
     </message>
     <message>
         <source>Cursor Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Poz. kurzoru</translation>
     </message>
     <message>
         <source>Start at the current time of the data window</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek v aktuálním čase okna s daty</translation>
     </message>
     <message>
         <source>Stop at the current time of the data window</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec v aktuálním čase okna s daty</translation>
     </message>
     <message>
         <source>Start :</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek :</translation>
     </message>
     <message>
         <source>Stop :</source>
-        <translation type="unfinished"></translation>
+        <translation>Konec :</translation>
     </message>
     <message>
         <source>ORNA Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>ORNA – upozornění</translation>
     </message>
     <message>
         <source>The start time is after the stop time: nothing would be exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas začátku je až za časem konce: nic by se neexportovalo.</translation>
     </message>
 </context>
 <context>
     <name>UnknownIdentifiers</name>
     <message>
         <source>Identifiers that the profile does not describe: %1, their samples: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifikátory, které profil nepopisuje: %1, jejich vzorky: %2</translation>
     </message>
 </context>
 <context>
     <name>WidgetGraph</name>
     <message>
         <source>Graph of the selected parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf vybraných parametrů</translation>
     </message>
 </context>
 </TS>

@@ -5,528 +5,536 @@
     <name>DialogAbout</name>
     <message>
         <source>About ORNA</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de ORNA</translation>
     </message>
     <message>
         <source>Licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Licencia</translation>
     </message>
     <message>
         <source>Third-party notices</source>
-        <translation type="unfinished"></translation>
+        <translation>Avisos de terceros</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Close this window</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar esta ventana</translation>
     </message>
     <message>
         <source>Reads engine and flight recordings of an aircraft&apos;s SD card</source>
-        <translation type="unfinished"></translation>
+        <translation>Lee las grabaciones de motor y de vuelo de la tarjeta SD de una aeronave</translation>
     </message>
     <message>
         <source>Version %1, built %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión %1, compilada: %2</translation>
     </message>
 </context>
 <context>
     <name>DialogHelp</name>
     <message>
         <source>ORNA Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda de ORNA</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Close this window</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar esta ventana</translation>
     </message>
     <message>
         <source>Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Manual</translation>
     </message>
     <message>
         <source>Sections of the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Apartados del manual</translation>
     </message>
     <message>
         <source>Search the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en el manual</translation>
     </message>
     <message>
         <source>Words to find; Enter goes to the next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Palabras que buscar; Intro va a la siguiente coincidencia</translation>
     </message>
     <message>
         <source>Previous place</source>
-        <translation type="unfinished"></translation>
+        <translation>Coincidencia anterior</translation>
     </message>
     <message>
         <source>Next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Coincidencia siguiente</translation>
     </message>
 </context>
 <context>
     <name>ExportCan</name>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir «%1»: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir «%1»: %2</translation>
     </message>
 </context>
 <context>
     <name>ExportCsv</name>
     <message>
         <source>The first sample is at %1 s, the last at %2 s, the export ends at %3 s. Choose a shorter time range or a coarser resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>La primera muestra está en %1 s, la última en %2 s y la exportación termina en %3 s. Elija un intervalo de tiempo más corto o una resolución más gruesa.</translation>
     </message>
     <message>
         <source>The table would have too many rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla tendría demasiadas filas.</translation>
     </message>
     <message>
         <source>The table would have %1 rows, about %2 MB, more than is free in &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla tendría %1 filas, unos %2 MB, más que el espacio libre en «%3».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir «%1»: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir «%1»: %2</translation>
     </message>
     <message>
         <source>No parameter is selected, the file holds its title only.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún parámetro seleccionado; el archivo solo contiene el título.</translation>
     </message>
     <message>
         <source>No sample lies in the time range, the file holds its titles only.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna muestra en el intervalo de tiempo; el archivo solo contiene los títulos.</translation>
     </message>
 </context>
 <context>
     <name>ExportKml</name>
     <message>
         <source>&quot;%1&quot; could not be written. Check that the folder exists, may be written to and has room.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir «%1». Compruebe que la carpeta existe, que se puede escribir en ella y que tiene espacio.</translation>
     </message>
     <message>
         <source>No position lies in the time range, the flight path is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna posición en el intervalo de tiempo; la trayectoria de vuelo está vacía.</translation>
     </message>
 </context>
 <context>
     <name>ExportTarget</name>
     <message>
         <source>Type a file name, without a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escriba un nombre de archivo, sin carpeta.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta «%1» no existe. Elija otra.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se permite escribir en la carpeta «%1». Elija otra.</translation>
     </message>
     <message>
         <source>ORNA Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso de ORNA</translation>
     </message>
     <message>
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ya existe en esta carpeta. ¿Reemplazarlo?</translation>
     </message>
 </context>
 <context>
     <name>Record</name>
     <message>
         <source>not enough memory for %1 samples; load fewer recordings at once</source>
-        <translation type="unfinished"></translation>
+        <translation>memoria insuficiente para %1 muestras; cargue menos grabaciones a la vez</translation>
     </message>
     <message>
         <source>could not open the recording &quot;%1&quot;; check that the card is still in place</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo abrir la grabación «%1»; compruebe que la tarjeta sigue insertada</translation>
     </message>
     <message>
         <source>not enough memory to read the recording; load fewer at once</source>
-        <translation type="unfinished"></translation>
+        <translation>memoria insuficiente para leer la grabación; cargue menos a la vez</translation>
     </message>
 </context>
 <context>
     <name>RecordText</name>
     <message>
         <source>Remarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Observaciones</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguna</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Observación</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Start Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>Stop Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Bus Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de bus</translation>
     </message>
     <message>
         <source>ECU Serial Number</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º de serie de la ECU</translation>
     </message>
     <message>
         <source>Software Part Nr. A</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º de parte software A</translation>
     </message>
     <message>
         <source>Software Part Nr. B</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º de parte software B</translation>
     </message>
     <message>
         <source>ECU Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de ECU</translation>
     </message>
     <message>
         <source>EMU SW Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión SW de la EMU</translation>
     </message>
     <message>
         <source>Engine Serial Nr.</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º de serie del motor</translation>
     </message>
     <message>
         <source>Engine Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de motor</translation>
     </message>
     <message>
         <source>Samples Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total de muestras</translation>
     </message>
     <message>
         <source>The file could not be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir el archivo</translation>
     </message>
     <message>
         <source>The header is cut short, bytes missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cabecera incompleta, bytes que faltan: %1</translation>
     </message>
     <message>
         <source>Ignored at the end, bytes that are no whole sample: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorados al final, bytes que no forman una muestra completa: %1</translation>
     </message>
     <message>
         <source>Samples that could not be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestras que no se pudieron leer: %1</translation>
     </message>
     <message>
         <source>Samples with an impossible time: %1, the first is number %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestras con un tiempo imposible: %1, la primera es la número %2</translation>
     </message>
     <message>
         <source>Samples of channels other than 0 and 1: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestras de canales distintos de 0 y 1: %1</translation>
     </message>
     <message>
         <source>Gaps of more than 10 s: %1, the longest is %2 s from %3 on</source>
-        <translation type="unfinished"></translation>
+        <translation>Huecos de más de 10 s: %1, el más largo es de %2 s a partir de %3</translation>
     </message>
     <message>
         <source>The time offset could not be read: &quot;%1&quot; is damaged. Setting another offset keeps that file aside</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer el desfase de tiempo: «%1» está dañado. Al fijar otro desfase, ese archivo se conserva aparte</translation>
     </message>
     <message>
         <source>Samples Read</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestras leídas</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabación</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos</translation>
     </message>
 </context>
 <context>
     <name>StartUp</name>
     <message>
         <source>Creating Dialogs ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Creando ventanas ...</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
     <message>
         <source>No card opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna tarjeta abierta</translation>
     </message>
     <message>
         <source>Folder of the recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de las grabaciones</translation>
     </message>
     <message>
         <source>Card folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de la tarjeta</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones</translation>
     </message>
     <message>
         <source>Start Time: </source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio: </translation>
     </message>
     <message>
         <source>Stop Time: </source>
-        <translation type="unfinished"></translation>
+        <translation>Fin: </translation>
     </message>
     <message>
         <source>Recording Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalles de la grabación</translation>
     </message>
     <message>
         <source>Header of the recording and what could be read of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Cabecera de la grabación y lo que se pudo leer de ella</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogData</name>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos</translation>
     </message>
     <message>
         <source>Limit/Warning Exceed</source>
-        <translation type="unfinished"></translation>
+        <translation>Límites/avisos superados</translation>
     </message>
     <message>
         <source>Graph</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráfica</translation>
     </message>
     <message>
         <source>Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Luces de aviso</translation>
     </message>
     <message>
         <source>Fault Matrix</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz de fallos</translation>
     </message>
     <message>
         <source>Date and time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha y hora del día</translation>
     </message>
     <message>
         <source>Time on the recording&apos;s clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo del reloj de la grabación</translation>
     </message>
     <message>
         <source>Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfase:</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos que se suman a los tiempos de las unidades cuyo reloj difiere; se guardan con la carpeta de la tarjeta</translation>
     </message>
     <message>
         <source>Current time, from the recording&apos;s start to its stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Instante actual, desde el inicio hasta el fin de la grabación</translation>
     </message>
     <message>
         <source>Current time</source>
-        <translation type="unfinished"></translation>
+        <translation>Instante actual</translation>
     </message>
     <message>
         <source>Current time; type a time and press Enter to go there</source>
-        <translation type="unfinished"></translation>
+        <translation>Instante actual; escriba un tiempo y pulse Intro para ir a él</translation>
     </message>
     <message>
         <source>Go to time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ir al instante</translation>
     </message>
     <message>
         <source>Previous event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento anterior</translation>
     </message>
     <message>
         <source>Next event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento siguiente</translation>
     </message>
     <message>
         <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar el desfase en la tarjeta (¿está protegida contra escritura?); es válido hasta que se cierre el programa.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
     <message>
         <source>The profile describes no error matrix.</source>
-        <translation type="unfinished"></translation>
+        <translation>El perfil no describe ninguna matriz de fallos.</translation>
     </message>
     <message>
         <source>Error matrices</source>
-        <translation type="unfinished"></translation>
+        <translation>Matrices de fallos</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
         <source>%1 of %2 selected parameters shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Se muestran %1 de %2 parámetros seleccionados</translation>
     </message>
     <message>
         <source>No parameter is selected.
 Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún parámetro seleccionado.
+Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».</translation>
     </message>
     <message>
         <source>No recording is loaded.
 Open a card and pick one or more recordings in the list on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna grabación cargada.
+Abra una tarjeta y elija una o varias grabaciones en la lista de la izquierda.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>La grabación no contiene ninguna muestra de los parámetros seleccionados.</translation>
     </message>
     <message>
         <source>Save Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar captura</translation>
     </message>
     <message>
         <source>BMP File (*.bmp);;All Files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo BMP (*.bmp);;Todos los archivos (*.*)</translation>
     </message>
     <message>
         <source>The snapshot could not be saved as
 %1
 Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png or .jpg.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar la captura como
+%1
+Elija una carpeta en la que se pueda escribir, con suficiente espacio libre, y un nombre que termine en .bmp, .png o .jpg.</translation>
     </message>
     <message>
         <source>Zoom In</source>
-        <translation type="unfinished"></translation>
+        <translation>Acercar</translation>
     </message>
     <message>
         <source>Zoom Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Alejar</translation>
     </message>
     <message>
         <source>Zoom 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom 1:1</translation>
     </message>
     <message>
         <source>Zoom Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom a marcadores</translation>
     </message>
     <message>
         <source>Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaciar todo</translation>
     </message>
     <message>
         <source>Automatic Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo automático</translation>
     </message>
     <message>
         <source>Split Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo dividido</translation>
     </message>
     <message>
         <source>Single Graph Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de gráfica única</translation>
     </message>
     <message>
         <source>Reset all to default</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer todo</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede dibujar la gráfica: esta pantalla no ofrece OpenGL.
+Las demás vistas funcionan; la gráfica requiere un controlador gráfico con OpenGL 2.1, o el de software de Mesa.</translation>
     </message>
     <message>
         <source>The graph was cleared.
 Press &quot;Confirm Selection&quot; to fill it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha vaciado la gráfica.
+Pulse «Confirmar selección» para volver a llenarla.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataLimit</name>
     <message>
         <source>Warning/Limit Exceed</source>
-        <translation type="unfinished"></translation>
+        <translation>Avisos/límites superados</translation>
     </message>
     <message>
-        <source>No limit exceeded in this recording.</source>
-        <translation type="unfinished"></translation>
+        <source>No parameter left its normal range in this recording.</source>
+        <translation>Ningún parámetro salió de su rango normal en esta grabación.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataTable</name>
     <message>
         <source>Values of the selected parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores de los parámetros seleccionados</translation>
     </message>
     <message>
         <source>No parameter is selected.
 Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún parámetro seleccionado.
+Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».</translation>
     </message>
     <message>
         <source>No recording is loaded.
 Open a card and pick one or more recordings in the list on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna grabación cargada.
+Abra una tarjeta y elija una o varias grabaciones en la lista de la izquierda.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>La grabación no contiene ninguna muestra de los parámetros seleccionados.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataWarning</name>
     <message>
         <source>Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Luces de aviso</translation>
     </message>
     <message>
         <source>No warning lamp came on in this recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encendió ninguna luz de aviso en esta grabación.</translation>
     </message>
 </context>
 <context>
@@ -534,838 +542,850 @@ Open a card and pick one or more recordings in the list on the left.</source>
     <message>
         <source>No recording is loaded.
 Open a card and pick one or more recordings in the list on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna grabación cargada.
+Abra una tarjeta y elija una o varias grabaciones en la lista de la izquierda.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportCsv</name>
     <message>
         <source>CSV Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportación CSV</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvOptions</name>
     <message>
         <source>CSV/CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportación CSV/CAN</translation>
     </message>
     <message>
         <source>Select CSV/CAN Option</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija las opciones CSV/CAN</translation>
     </message>
     <message>
         <source>Limiter</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador</translation>
     </message>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Resolución</translation>
     </message>
     <message>
         <source>Parameter Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Selección de parámetros</translation>
     </message>
     <message>
         <source>Semikolon ;</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto y coma ;</translation>
     </message>
     <message>
         <source>Comma ,</source>
-        <translation type="unfinished"></translation>
+        <translation>Coma ,</translation>
     </message>
     <message>
         <source>Tabstop</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulador</translation>
     </message>
     <message>
         <source>Stands between two columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Va entre dos columnas</translation>
     </message>
     <message>
         <source>100 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>100 ms</translation>
     </message>
     <message>
         <source>10 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>10 ms</translation>
     </message>
     <message>
         <source>1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ms</translation>
     </message>
     <message>
         <source>Time from row to row</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo entre una fila y la siguiente</translation>
     </message>
     <message>
         <source>All Parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los parámetros</translation>
     </message>
     <message>
         <source>Selected Parameter only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo los seleccionados</translation>
     </message>
     <message>
         <source>Columns of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas de la tabla</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvPath</name>
     <message>
         <source>Save CSV/CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar exportación CSV/CAN</translation>
     </message>
     <message>
         <source>CSV/CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportación CSV/CAN</translation>
     </message>
     <message>
         <source>Select the output directory and file</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija la carpeta y el archivo de destino</translation>
     </message>
     <message>
         <source>.CSV Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportación .CSV</translation>
     </message>
     <message>
         <source>.CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportación .CAN</translation>
     </message>
     <message>
         <source>A table of decoded values, or a recording that can be opened again</source>
-        <translation type="unfinished"></translation>
+        <translation>Una tabla de valores decodificados o una grabación que se puede volver a abrir</translation>
     </message>
     <message>
         <source>Name of the file in this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del archivo en esta carpeta</translation>
     </message>
     <message>
         <source>Export Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta</translation>
     </message>
     <message>
         <source>Export Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Export Filename</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de archivo</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKml</name>
     <message>
         <source>Google Earth KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportación KML de Google Earth</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlOptions</name>
     <message>
         <source> ms</source>
-        <translation type="unfinished"></translation>
+        <translation> ms</translation>
     </message>
     <message>
         <source>One point of the path for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalo entre puntos de la trayectoria</translation>
     </message>
     <message>
         <source>KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportación KML</translation>
     </message>
     <message>
         <source>Select KML Option</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija las opciones KML</translation>
     </message>
     <message>
         <source>Timestamp every :</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca de tiempo cada :</translation>
     </message>
     <message>
         <source>Width of the flight path</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancho de la trayectoria de vuelo</translation>
     </message>
     <message>
         <source>Select Line Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir color de línea</translation>
     </message>
     <message>
         <source>Line Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de línea</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancho de línea</translation>
     </message>
     <message>
         <source>Line color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de línea</translation>
     </message>
     <message>
         <source>Select Polygon Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir color de polígono</translation>
     </message>
     <message>
         <source>Draw Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar polígono</translation>
     </message>
     <message>
         <source>A curtain from the flight path to the ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Una cortina desde la trayectoria de vuelo hasta el suelo</translation>
     </message>
     <message>
         <source>Polygon color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de polígono</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPath</name>
     <message>
         <source>Save KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar exportación KML</translation>
     </message>
     <message>
         <source>KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportación KML</translation>
     </message>
     <message>
         <source>Select the output directory and file</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija la carpeta y el archivo de destino</translation>
     </message>
     <message>
         <source>Name of the file in this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del archivo en esta carpeta</translation>
     </message>
     <message>
         <source>Export Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta</translation>
     </message>
     <message>
         <source>Export Filename</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de archivo</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPlacemark</name>
     <message>
         <source>KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportación KML</translation>
     </message>
     <message>
         <source>Select KML Placemarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija las marcas de posición KML</translation>
     </message>
     <message>
         <source> samples</source>
-        <translation type="unfinished"></translation>
+        <translation> puntos</translation>
     </message>
     <message>
         <source>Points of the path from mark to mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Puntos de la trayectoria entre una marca y la siguiente</translation>
     </message>
     <message>
         <source>Select Placemark Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir color de marca</translation>
     </message>
     <message>
         <source>Draw selected parameters as placemarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetros seleccionados como marcas de posición</translation>
     </message>
     <message>
         <source>Placemark every</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca de posición cada</translation>
     </message>
     <message>
         <source>Placemark Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de marca</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar</translation>
     </message>
     <message>
         <source>Select Exceedance Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir color de superación</translation>
     </message>
     <message>
         <source>Show Limit exceedance / Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar superación de límites / luces de aviso</translation>
     </message>
     <message>
         <source>Limit Exceedance</source>
-        <translation type="unfinished"></translation>
+        <translation>Superación de límites</translation>
     </message>
     <message>
         <source>Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Luces de aviso</translation>
     </message>
     <message>
         <source>Exceedance Placemark Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de marca de superación</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogGraphSetup</name>
     <message>
         <source>Background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de fondo</translation>
     </message>
     <message>
         <source>Grid On</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver rejilla</translation>
     </message>
     <message>
         <source>Grid color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de rejilla</translation>
     </message>
     <message>
         <source>Label color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de etiquetas</translation>
     </message>
     <message>
         <source>Label background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo de etiquetas</translation>
     </message>
     <message>
         <source>Cursor On</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver cursor</translation>
     </message>
     <message>
         <source>Legend On</source>
-        <translation type="unfinished"></translation>
+        <translation>Ver leyenda</translation>
     </message>
     <message>
         <source>Autoscale On</source>
-        <translation type="unfinished"></translation>
+        <translation>Autoescala</translation>
     </message>
     <message>
         <source>Y minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Mínimo de Y</translation>
     </message>
     <message>
         <source>Y maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo de Y</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Oscilloscope Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes del osciloscopio</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir</translation>
     </message>
     <message>
         <source>%1, used while autoscale is off</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, con la autoescala desactivada</translation>
     </message>
     <message>
         <source>Floating</source>
-        <translation type="unfinished"></translation>
+        <translation>Flotante</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Final</translation>
     </message>
     <message>
         <source>Cursor mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo del cursor</translation>
     </message>
     <message>
         <source>Background Color :</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de fondo :</translation>
     </message>
     <message>
         <source>Grid On/Color :</source>
-        <translation type="unfinished"></translation>
+        <translation>Rejilla/color :</translation>
     </message>
     <message>
         <source>Label Color :</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de etiquetas :</translation>
     </message>
     <message>
         <source>Label Background :</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo de etiquetas :</translation>
     </message>
     <message>
         <source>Cursor On/Mode :</source>
-        <translation type="unfinished"></translation>
+        <translation>Cursor/modo :</translation>
     </message>
     <message>
         <source>Legend :</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyenda :</translation>
     </message>
     <message>
         <source>Y-Scale :</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala Y :</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogMain</name>
     <message>
         <source>Samples loaded: %L1</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestras cargadas: %L1</translation>
     </message>
     <message>
         <source>[edited]</source>
-        <translation type="unfinished"></translation>
+        <translation>[modificado]</translation>
     </message>
     <message>
         <source>&amp;New Project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo proyecto</translation>
     </message>
     <message>
         <source>Create new Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear un proyecto nuevo</translation>
     </message>
     <message>
         <source>&amp;Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir proyecto</translation>
     </message>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir proyecto</translation>
     </message>
     <message>
         <source>Open Project File</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir archivo de proyecto</translation>
     </message>
     <message>
         <source>&amp;Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar proyecto</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar proyecto</translation>
     </message>
     <message>
         <source>Save Project File</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar archivo de proyecto</translation>
     </message>
     <message>
         <source>&amp;Save Project as</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar proyecto &amp;como</translation>
     </message>
     <message>
         <source>Save Project as</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar proyecto como</translation>
     </message>
     <message>
         <source>Save Project File as</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar archivo de proyecto como</translation>
     </message>
     <message>
         <source>&amp;Open Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir &amp;tarjeta</translation>
     </message>
     <message>
         <source>Open Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir tarjeta</translation>
     </message>
     <message>
         <source>Open SD Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir tarjeta SD</translation>
     </message>
     <message>
         <source>Export Google KML File</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar archivo KML de Google</translation>
     </message>
     <message>
         <source>Export Google Earth KML File</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar archivo KML de Google Earth</translation>
     </message>
     <message>
         <source>Export CSV/CAN File</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar archivo CSV/CAN</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>Quit Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir de la aplicación</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Archivo</translation>
     </message>
     <message>
         <source>Main Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra principal</translation>
     </message>
     <message>
         <source>Open TARN Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir proyecto TARN</translation>
     </message>
     <message>
         <source>Project Files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de proyecto (*.xml)</translation>
     </message>
     <message>
         <source>ORNA Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso de ORNA</translation>
     </message>
     <message>
         <source>The project &quot;%1&quot; could not be read.
 Check that it is a project file saved by this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer el proyecto «%1».
+Compruebe que es un archivo de proyecto guardado por este programa.</translation>
     </message>
     <message>
         <source>Recordings found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabaciones encontradas: %1</translation>
     </message>
     <message>
         <source>TARN Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso de TARN</translation>
     </message>
     <message>
         <source>Current Project not saved !
 Save it now ?</source>
-        <translation type="unfinished"></translation>
+        <translation>¡El proyecto actual no está guardado!
+¿Guardarlo ahora?</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>The project could not be written to &quot;%1&quot;.
 The old file is unchanged; save it in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir el proyecto en «%1».
+El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
     </message>
     <message>
         <source>Save TARN Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar proyecto TARN</translation>
     </message>
     <message>
         <source>Exporting KML file failed !</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Error al exportar el archivo KML!</translation>
     </message>
     <message>
         <source>ORNA Viewer Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso de ORNA Viewer</translation>
     </message>
     <message>
         <source>Exporting CSV/CAN file failed !</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Error al exportar el archivo CSV/CAN!</translation>
     </message>
     <message>
         <source>Written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Escrito: %1</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown. Choose another under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cargar el perfil «%1»: no se puede mostrar ningún parámetro. Elija otro en Extras, Preferencias.</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
     <message>
         <source>Open Preferences Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir la ventana de preferencias</translation>
     </message>
     <message>
         <source>Recording Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalles de la grabación</translation>
     </message>
     <message>
         <source>Show the Header and the Damages of the Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la cabecera y los daños de la grabación</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Show License Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar información de licencia</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Help Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventana de ayuda</translation>
     </message>
     <message>
         <source>&amp;Extras</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Extras</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;yuda</translation>
     </message>
     <message>
         <source>Not everything could be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer todo: %1</translation>
     </message>
     <message>
         <source>. Remarks (see Recording Details): %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>. Observaciones (véase Detalles de la grabación): %1. </translation>
     </message>
     <message>
         <source>There is not enough memory to show the recording; load fewer at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para mostrar la grabación; cargue menos a la vez.</translation>
     </message>
     <message>
         <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron leer los ajustes; el programa arranca con los valores predeterminados. El archivo dañado se conserva como «%1».</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogPreferences</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas</translation>
     </message>
     <message>
         <source>Pages of the preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Páginas de las preferencias</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Close; every change holds already</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar; los cambios ya están aplicados</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Choose a profile file</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir un archivo de perfil</translation>
     </message>
     <message>
         <source>Profile File :</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de perfil :</translation>
     </message>
     <message>
         <source>Language :</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma :</translation>
     </message>
     <message>
         <source>Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicación</translation>
     </message>
     <message>
         <source>The XML file that says how the samples are decoded</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo XML que indica cómo se decodifican las muestras</translation>
     </message>
     <message>
         <source>Profile file</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de perfil</translation>
     </message>
     <message>
         <source>Language of the program from its next start on</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma del programa a partir del próximo inicio</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Perfil</translation>
     </message>
     <message>
         <source>ORNA Profile (*.xml);;All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Perfil ORNA (*.xml);;Todos los archivos (*.*)</translation>
     </message>
     <message>
         <source>TARN Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Información de TARN</translation>
     </message>
     <message>
         <source>Please restart TARN to load new language !</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Reinicie TARN para cargar el nuevo idioma!</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogProfile</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpiar</translation>
     </message>
     <message>
         <source>Confirm Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmar selección</translation>
     </message>
     <message>
         <source>Selected Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetros seleccionados</translation>
     </message>
     <message>
         <source>Untick all parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Desmarcar todos los parámetros</translation>
     </message>
     <message>
         <source>Show the ticked parameters in all views</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los parámetros marcados en todas las vistas</translation>
     </message>
     <message>
         <source>Parameters of the profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetros del perfil</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogRecordDetails</name>
     <message>
         <source>Recording Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalles de la grabación</translation>
     </message>
     <message>
         <source>Recording details</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalles de la grabación</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Copy the selected lines, or all when none is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar las líneas seleccionadas, o todas si no hay ninguna seleccionada</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Close this window</source>
+        <translation>Cerrar esta ventana</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogStatusBar</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso</translation>
     </message>
 </context>
 <context>
     <name>TARN::DirectoryEdit</name>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Examinar...</translation>
     </message>
     <message>
         <source>Folder of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta del archivo</translation>
     </message>
 </context>
 <context>
     <name>TARN::EventModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
 </context>
 <context>
     <name>TARN::TableModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo</translation>
     </message>
 </context>
 <context>
     <name>TARN::WidgetErrorTime</name>
     <message>
         <source>When errors were active: from the top info, warning, fault. Click to go there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuándo hubo errores activos; de arriba abajo: información, aviso, fallo. Haga clic para ir a ese instante.</translation>
     </message>
     <message>
         <source>Fault timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Cronología de fallos</translation>
     </message>
 </context>
 <context>
     <name>TARN::WidgetTimeRange</name>
     <message>
         <source>Start/Stop Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio/fin</translation>
     </message>
     <message>
         <source>Start time</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>Stop time</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Cursor Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Pos. cursor</translation>
     </message>
     <message>
         <source>Start at the current time of the data window</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar en el instante actual de la ventana de datos</translation>
     </message>
     <message>
         <source>Stop at the current time of the data window</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminar en el instante actual de la ventana de datos</translation>
     </message>
     <message>
         <source>Start :</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio :</translation>
     </message>
     <message>
         <source>Stop :</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin :</translation>
     </message>
     <message>
         <source>ORNA Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso de ORNA</translation>
     </message>
     <message>
         <source>The start time is after the stop time: nothing would be exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>El inicio es posterior al fin: no se exportaría nada.</translation>
     </message>
 </context>
 <context>
     <name>UnknownIdentifiers</name>
     <message>
         <source>Identifiers that the profile does not describe: %1, their samples: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificadores que el perfil no describe: %1, sus muestras: %2</translation>
     </message>
 </context>
 <context>
     <name>WidgetGraph</name>
     <message>
         <source>Graph of the selected parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráfica de los parámetros seleccionados</translation>
     </message>
 </context>
 </TS>

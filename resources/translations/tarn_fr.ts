@@ -5,528 +5,536 @@
     <name>DialogAbout</name>
     <message>
         <source>About ORNA</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos d&apos;ORNA</translation>
     </message>
     <message>
         <source>Licence</source>
-        <translation type="unfinished"></translation>
+        <translation>Licence</translation>
     </message>
     <message>
         <source>Third-party notices</source>
-        <translation type="unfinished"></translation>
+        <translation>Composants tiers</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Close this window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer cette fenêtre</translation>
     </message>
     <message>
         <source>Reads engine and flight recordings of an aircraft&apos;s SD card</source>
-        <translation type="unfinished"></translation>
+        <translation>Lit les enregistrements moteur et de vol de la carte SD d&apos;un aéronef</translation>
     </message>
     <message>
         <source>Version %1, built %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1, compilée le %2</translation>
     </message>
 </context>
 <context>
     <name>DialogHelp</name>
     <message>
         <source>ORNA Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide d&apos;ORNA</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Close this window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer cette fenêtre</translation>
     </message>
     <message>
         <source>Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuel</translation>
     </message>
     <message>
         <source>Sections of the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Sections du manuel</translation>
     </message>
     <message>
         <source>Search the manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher dans le manuel</translation>
     </message>
     <message>
         <source>Words to find; Enter goes to the next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Mots à rechercher&#xa0;; Entrée passe à l&apos;occurrence suivante</translation>
     </message>
     <message>
         <source>Previous place</source>
-        <translation type="unfinished"></translation>
+        <translation>Occurrence précédente</translation>
     </message>
     <message>
         <source>Next place</source>
-        <translation type="unfinished"></translation>
+        <translation>Occurrence suivante</translation>
     </message>
 </context>
 <context>
     <name>ExportCan</name>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a pas pu être écrit&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>ExportCsv</name>
     <message>
         <source>The first sample is at %1 s, the last at %2 s, the export ends at %3 s. Choose a shorter time range or a coarser resolution.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le premier échantillon est à %1 s, le dernier à %2 s, l&apos;export se termine à %3 s. Choisissez une plage de temps plus courte ou une résolution moins fine.</translation>
     </message>
     <message>
         <source>The table would have too many rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau aurait trop de lignes.</translation>
     </message>
     <message>
         <source>The table would have %1 rows, about %2 MB, more than is free in &quot;%3&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau aurait %1 lignes, soit environ %2 Mo&#xa0;: plus que l&apos;espace libre dans «&#xa0;%3&#xa0;».</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d&apos;écrire «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; could not be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a pas pu être écrit&#xa0;: %2</translation>
     </message>
     <message>
         <source>No parameter is selected, the file holds its title only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun paramètre n&apos;est sélectionné, le fichier ne contient que son titre.</translation>
     </message>
     <message>
         <source>No sample lies in the time range, the file holds its titles only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun échantillon dans la plage de temps, le fichier ne contient que ses titres.</translation>
     </message>
 </context>
 <context>
     <name>ExportKml</name>
     <message>
         <source>&quot;%1&quot; could not be written. Check that the folder exists, may be written to and has room.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;a pas pu être écrit. Vérifiez que le dossier existe, qu&apos;il est accessible en écriture et qu&apos;il reste de la place.</translation>
     </message>
     <message>
         <source>No position lies in the time range, the flight path is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune position dans la plage de temps, la trajectoire de vol est vide.</translation>
     </message>
 </context>
 <context>
     <name>ExportTarget</name>
     <message>
         <source>Type a file name, without a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un nom de fichier, sans dossier.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;existe pas. Choisissez-en un autre.</translation>
     </message>
     <message>
         <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;est pas accessible en écriture. Choisissez-en un autre.</translation>
     </message>
     <message>
         <source>ORNA Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>ORNA - Avertissement</translation>
     </message>
     <message>
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» existe déjà dans ce dossier. Le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
     <name>Record</name>
     <message>
         <source>not enough memory for %1 samples; load fewer recordings at once</source>
-        <translation type="unfinished"></translation>
+        <translation>mémoire insuffisante pour %1 échantillons&#xa0;; chargez moins d&apos;enregistrements à la fois</translation>
     </message>
     <message>
         <source>could not open the recording &quot;%1&quot;; check that the card is still in place</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d&apos;ouvrir l&apos;enregistrement «&#xa0;%1&#xa0;»&#xa0;; vérifiez que la carte est toujours en place</translation>
     </message>
     <message>
         <source>not enough memory to read the recording; load fewer at once</source>
-        <translation type="unfinished"></translation>
+        <translation>mémoire insuffisante pour lire l&apos;enregistrement&#xa0;; chargez-en moins à la fois</translation>
     </message>
 </context>
 <context>
     <name>RecordText</name>
     <message>
         <source>Remarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Remarques</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune</translation>
     </message>
     <message>
         <source>Remark</source>
-        <translation type="unfinished"></translation>
+        <translation>Remarque</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Start Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure de début</translation>
     </message>
     <message>
         <source>Stop Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure de fin</translation>
     </message>
     <message>
         <source>Bus Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de bus</translation>
     </message>
     <message>
         <source>ECU Serial Number</source>
-        <translation type="unfinished"></translation>
+        <translation>N° de série ECU</translation>
     </message>
     <message>
         <source>Software Part Nr. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Réf. logiciel A</translation>
     </message>
     <message>
         <source>Software Part Nr. B</source>
-        <translation type="unfinished"></translation>
+        <translation>Réf. logiciel B</translation>
     </message>
     <message>
         <source>ECU Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type d&apos;ECU</translation>
     </message>
     <message>
         <source>EMU SW Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version logiciel EMU</translation>
     </message>
     <message>
         <source>Engine Serial Nr.</source>
-        <translation type="unfinished"></translation>
+        <translation>N° de série moteur</translation>
     </message>
     <message>
         <source>Engine Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type de moteur</translation>
     </message>
     <message>
         <source>Samples Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total des échantillons</translation>
     </message>
     <message>
         <source>The file could not be opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n&apos;a pas pu être ouvert</translation>
     </message>
     <message>
         <source>The header is cut short, bytes missing: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En-tête tronqué, octets manquants&#xa0;: %1</translation>
     </message>
     <message>
         <source>Ignored at the end, bytes that are no whole sample: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorés à la fin, octets ne formant pas un échantillon entier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Samples that could not be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échantillons qui n&apos;ont pas pu être lus&#xa0;: %1</translation>
     </message>
     <message>
         <source>Samples with an impossible time: %1, the first is number %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Échantillons à l&apos;heure impossible&#xa0;: %1, le premier est le n°&#xa0;%2</translation>
     </message>
     <message>
         <source>Samples of channels other than 0 and 1: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échantillons de canaux autres que 0 et 1&#xa0;: %1</translation>
     </message>
     <message>
         <source>Gaps of more than 10 s: %1, the longest is %2 s from %3 on</source>
-        <translation type="unfinished"></translation>
+        <translation>Interruptions de plus de 10 s&#xa0;: %1, la plus longue dure %2 s à partir de %3</translation>
     </message>
     <message>
         <source>The time offset could not be read: &quot;%1&quot; is damaged. Setting another offset keeps that file aside</source>
-        <translation type="unfinished"></translation>
+        <translation>Le décalage n&apos;a pas pu être lu&#xa0;: «&#xa0;%1&#xa0;» est endommagé. Si vous réglez un autre décalage, ce fichier est conservé à part</translation>
     </message>
     <message>
         <source>Samples Read</source>
-        <translation type="unfinished"></translation>
+        <translation>Échantillons lus</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers</translation>
     </message>
 </context>
 <context>
     <name>StartUp</name>
     <message>
         <source>Creating Dialogs ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Création des fenêtres ...</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
     <message>
         <source>No card opened</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune carte ouverte</translation>
     </message>
     <message>
         <source>Folder of the recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des enregistrements</translation>
     </message>
     <message>
         <source>Card folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier de la carte</translation>
     </message>
     <message>
         <source>Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements</translation>
     </message>
     <message>
         <source>Start Time: </source>
-        <translation type="unfinished"></translation>
+        <translation>Heure de début&#xa0;: </translation>
     </message>
     <message>
         <source>Stop Time: </source>
-        <translation type="unfinished"></translation>
+        <translation>Heure de fin&#xa0;: </translation>
     </message>
     <message>
         <source>Recording Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Détails de l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Header of the recording and what could be read of it</source>
-        <translation type="unfinished"></translation>
+        <translation>En-tête de l&apos;enregistrement et ce qui a pu en être lu</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogData</name>
     <message>
         <source>Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données</translation>
     </message>
     <message>
         <source>Limit/Warning Exceed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépassements limite/alerte</translation>
     </message>
     <message>
         <source>Graph</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphique</translation>
     </message>
     <message>
         <source>Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Voyants d&apos;alerte</translation>
     </message>
     <message>
         <source>Fault Matrix</source>
-        <translation type="unfinished"></translation>
+        <translation>Matrice de défauts</translation>
     </message>
     <message>
         <source>Date and time of day</source>
-        <translation type="unfinished"></translation>
+        <translation>Date et heure du jour</translation>
     </message>
     <message>
         <source>Time on the recording&apos;s clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure à l&apos;horloge de l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Offset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage&#xa0;:</translation>
     </message>
     <message>
         <source> s</source>
-        <translation type="unfinished"></translation>
+        <translation> s</translation>
     </message>
     <message>
         <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes ajoutées aux heures des boîtiers dont l&apos;horloge diffère&#xa0;; conservées avec le dossier de la carte</translation>
     </message>
     <message>
         <source>Current time, from the recording&apos;s start to its stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Instant courant, du début à la fin de l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Current time</source>
-        <translation type="unfinished"></translation>
+        <translation>Instant courant</translation>
     </message>
     <message>
         <source>Current time; type a time and press Enter to go there</source>
-        <translation type="unfinished"></translation>
+        <translation>Instant courant&#xa0;; saisissez une heure et appuyez sur Entrée pour y aller</translation>
     </message>
     <message>
         <source>Go to time</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller à l&apos;heure</translation>
     </message>
     <message>
         <source>Previous event</source>
-        <translation type="unfinished"></translation>
+        <translation>Événement précédent</translation>
     </message>
     <message>
         <source>Next event</source>
-        <translation type="unfinished"></translation>
+        <translation>Événement suivant</translation>
     </message>
     <message>
         <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le décalage n&apos;a pas pu être enregistré sur la carte (est-elle protégée en écriture&#xa0;?) et reste valable jusqu&apos;à la fermeture du programme.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
     <message>
         <source>The profile describes no error matrix.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le profil ne décrit aucune matrice de défauts.</translation>
     </message>
     <message>
         <source>Error matrices</source>
-        <translation type="unfinished"></translation>
+        <translation>Matrices de défauts</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
         <source>%1 of %2 selected parameters shown</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 paramètres affichés sur %2 sélectionnés</translation>
     </message>
     <message>
         <source>No parameter is selected.
 Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun paramètre n&apos;est sélectionné.
+Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirmer la sélection&#xa0;».</translation>
     </message>
     <message>
         <source>No recording is loaded.
 Open a card and pick one or more recordings in the list on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun enregistrement n&apos;est chargé.
+Ouvrez une carte et choisissez un ou plusieurs enregistrements dans la liste de gauche.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;enregistrement ne contient aucun échantillon des paramètres sélectionnés.</translation>
     </message>
     <message>
         <source>Save Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la capture</translation>
     </message>
     <message>
         <source>BMP File (*.bmp);;All Files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier BMP (*.bmp);;Tous les fichiers (*.*)</translation>
     </message>
     <message>
         <source>The snapshot could not be saved as
 %1
 Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png or .jpg.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capture n&apos;a pas pu être enregistrée sous
+%1
+Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, et un nom se terminant par .bmp, .png ou .jpg.</translation>
     </message>
     <message>
         <source>Zoom In</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom avant</translation>
     </message>
     <message>
         <source>Zoom Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom arrière</translation>
     </message>
     <message>
         <source>Zoom 1:1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom 1:1</translation>
     </message>
     <message>
         <source>Zoom Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom marqueurs</translation>
     </message>
     <message>
         <source>Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout effacer</translation>
     </message>
     <message>
         <source>Automatic Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode automatique</translation>
     </message>
     <message>
         <source>Split Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode séparé</translation>
     </message>
     <message>
         <source>Single Graph Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode graphique unique</translation>
     </message>
     <message>
         <source>Reset all to default</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout réinitialiser</translation>
     </message>
     <message>
         <source>Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Capture</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graphique ne peut pas être tracé&#xa0;: cet affichage n&apos;offre pas OpenGL.
+Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, ou le pilote logiciel de Mesa, rend le graphique disponible.</translation>
     </message>
     <message>
         <source>The graph was cleared.
 Press &quot;Confirm Selection&quot; to fill it again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graphique a été effacé.
+Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataLimit</name>
     <message>
         <source>Warning/Limit Exceed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépassements alerte/limite</translation>
     </message>
     <message>
-        <source>No limit exceeded in this recording.</source>
-        <translation type="unfinished"></translation>
+        <source>No parameter left its normal range in this recording.</source>
+        <translation>Aucun paramètre n&apos;est sorti de sa plage normale dans cet enregistrement.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataTable</name>
     <message>
         <source>Values of the selected parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs des paramètres sélectionnés</translation>
     </message>
     <message>
         <source>No parameter is selected.
 Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun paramètre n&apos;est sélectionné.
+Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirmer la sélection&#xa0;».</translation>
     </message>
     <message>
         <source>No recording is loaded.
 Open a card and pick one or more recordings in the list on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun enregistrement n&apos;est chargé.
+Ouvrez une carte et choisissez un ou plusieurs enregistrements dans la liste de gauche.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;enregistrement ne contient aucun échantillon des paramètres sélectionnés.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogDataWarning</name>
     <message>
         <source>Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Voyants d&apos;alerte</translation>
     </message>
     <message>
         <source>No warning lamp came on in this recording.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun voyant d&apos;alerte ne s&apos;est allumé dans cet enregistrement.</translation>
     </message>
 </context>
 <context>
@@ -534,838 +542,850 @@ Open a card and pick one or more recordings in the list on the left.</source>
     <message>
         <source>No recording is loaded.
 Open a card and pick one or more recordings in the list on the left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun enregistrement n&apos;est chargé.
+Ouvrez une carte et choisissez un ou plusieurs enregistrements dans la liste de gauche.</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportCsv</name>
     <message>
         <source>CSV Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export CSV</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvOptions</name>
     <message>
         <source>CSV/CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export CSV/CAN</translation>
     </message>
     <message>
         <source>Select CSV/CAN Option</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez les options CSV/CAN</translation>
     </message>
     <message>
         <source>Limiter</source>
-        <translation type="unfinished"></translation>
+        <translation>Séparateur</translation>
     </message>
     <message>
         <source>Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>Résolution</translation>
     </message>
     <message>
         <source>Parameter Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Choix des paramètres</translation>
     </message>
     <message>
         <source>Semikolon ;</source>
-        <translation type="unfinished"></translation>
+        <translation>Point-virgule ;</translation>
     </message>
     <message>
         <source>Comma ,</source>
-        <translation type="unfinished"></translation>
+        <translation>Virgule ,</translation>
     </message>
     <message>
         <source>Tabstop</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulation</translation>
     </message>
     <message>
         <source>Stands between two columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Placé entre deux colonnes</translation>
     </message>
     <message>
         <source>100 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>100 ms</translation>
     </message>
     <message>
         <source>10 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>10 ms</translation>
     </message>
     <message>
         <source>1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>1 ms</translation>
     </message>
     <message>
         <source>Time from row to row</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps d&apos;une ligne à l&apos;autre</translation>
     </message>
     <message>
         <source>All Parameter</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les paramètres</translation>
     </message>
     <message>
         <source>Selected Parameter only</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres sélectionnés</translation>
     </message>
     <message>
         <source>Columns of the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes du tableau</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvPath</name>
     <message>
         <source>Save CSV/CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer l&apos;export CSV/CAN</translation>
     </message>
     <message>
         <source>CSV/CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export CSV/CAN</translation>
     </message>
     <message>
         <source>Select the output directory and file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez le dossier et le fichier de sortie</translation>
     </message>
     <message>
         <source>.CSV Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export .CSV</translation>
     </message>
     <message>
         <source>.CAN Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export .CAN</translation>
     </message>
     <message>
         <source>A table of decoded values, or a recording that can be opened again</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tableau de valeurs décodées, ou un enregistrement qui peut être rouvert</translation>
     </message>
     <message>
         <source>Name of the file in this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du fichier dans ce dossier</translation>
     </message>
     <message>
         <source>Export Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier d&apos;export</translation>
     </message>
     <message>
         <source>Export Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type d&apos;export</translation>
     </message>
     <message>
         <source>Export Filename</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du fichier</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKml</name>
     <message>
         <source>Google Earth KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export KML Google Earth</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlOptions</name>
     <message>
         <source> ms</source>
-        <translation type="unfinished"></translation>
+        <translation> ms</translation>
     </message>
     <message>
         <source>One point of the path for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Un point de la trajectoire par intervalle</translation>
     </message>
     <message>
         <source>KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export KML</translation>
     </message>
     <message>
         <source>Select KML Option</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez les options KML</translation>
     </message>
     <message>
         <source>Timestamp every :</source>
-        <translation type="unfinished"></translation>
+        <translation>Horodatage toutes les :</translation>
     </message>
     <message>
         <source>Width of the flight path</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de la trajectoire de vol</translation>
     </message>
     <message>
         <source>Select Line Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la couleur de ligne</translation>
     </message>
     <message>
         <source>Line Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Style de ligne</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de ligne</translation>
     </message>
     <message>
         <source>Line color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de ligne</translation>
     </message>
     <message>
         <source>Select Polygon Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la couleur du polygone</translation>
     </message>
     <message>
         <source>Draw Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Tracer le polygone</translation>
     </message>
     <message>
         <source>A curtain from the flight path to the ground</source>
-        <translation type="unfinished"></translation>
+        <translation>Un rideau de la trajectoire de vol jusqu&apos;au sol</translation>
     </message>
     <message>
         <source>Polygon color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du polygone</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPath</name>
     <message>
         <source>Save KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer l&apos;export KML</translation>
     </message>
     <message>
         <source>KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export KML</translation>
     </message>
     <message>
         <source>Select the output directory and file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez le dossier et le fichier de sortie</translation>
     </message>
     <message>
         <source>Name of the file in this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du fichier dans ce dossier</translation>
     </message>
     <message>
         <source>Export Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier d&apos;export</translation>
     </message>
     <message>
         <source>Export Filename</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du fichier</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPlacemark</name>
     <message>
         <source>KML Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export KML</translation>
     </message>
     <message>
         <source>Select KML Placemarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez les repères KML</translation>
     </message>
     <message>
         <source> samples</source>
-        <translation type="unfinished"></translation>
+        <translation> échantillons</translation>
     </message>
     <message>
         <source>Points of the path from mark to mark</source>
-        <translation type="unfinished"></translation>
+        <translation>Points de la trajectoire d&apos;un repère au suivant</translation>
     </message>
     <message>
         <source>Select Placemark Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la couleur des repères</translation>
     </message>
     <message>
         <source>Draw selected parameters as placemarks</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les paramètres sélectionnés en repères</translation>
     </message>
     <message>
         <source>Placemark every</source>
-        <translation type="unfinished"></translation>
+        <translation>Repère tous les</translation>
     </message>
     <message>
         <source>Placemark Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur des repères</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Select Exceedance Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir la couleur des dépassements</translation>
     </message>
     <message>
         <source>Show Limit exceedance / Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher dépassements de limite / voyants d&apos;alerte</translation>
     </message>
     <message>
         <source>Limit Exceedance</source>
-        <translation type="unfinished"></translation>
+        <translation>Dépassements de limite</translation>
     </message>
     <message>
         <source>Warning Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Voyants d&apos;alerte</translation>
     </message>
     <message>
         <source>Exceedance Placemark Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur des repères de dépassement</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogGraphSetup</name>
     <message>
         <source>Background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du fond</translation>
     </message>
     <message>
         <source>Grid On</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la grille</translation>
     </message>
     <message>
         <source>Grid color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur de la grille</translation>
     </message>
     <message>
         <source>Label color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur des libellés</translation>
     </message>
     <message>
         <source>Label background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fond des libellés</translation>
     </message>
     <message>
         <source>Cursor On</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher le curseur</translation>
     </message>
     <message>
         <source>Legend On</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la légende</translation>
     </message>
     <message>
         <source>Autoscale On</source>
-        <translation type="unfinished"></translation>
+        <translation>Échelle automatique</translation>
     </message>
     <message>
         <source>Y minimum</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum Y</translation>
     </message>
     <message>
         <source>Y maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum Y</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Oscilloscope Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages de l&apos;oscilloscope</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir</translation>
     </message>
     <message>
         <source>%1, used while autoscale is off</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, utilisé quand l&apos;échelle automatique est désactivée</translation>
     </message>
     <message>
         <source>Floating</source>
-        <translation type="unfinished"></translation>
+        <translation>Flottant</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Centré</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Cursor mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode du curseur</translation>
     </message>
     <message>
         <source>Background Color :</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du fond :</translation>
     </message>
     <message>
         <source>Grid On/Color :</source>
-        <translation type="unfinished"></translation>
+        <translation>Grille/Couleur :</translation>
     </message>
     <message>
         <source>Label Color :</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur des libellés :</translation>
     </message>
     <message>
         <source>Label Background :</source>
-        <translation type="unfinished"></translation>
+        <translation>Fond des libellés :</translation>
     </message>
     <message>
         <source>Cursor On/Mode :</source>
-        <translation type="unfinished"></translation>
+        <translation>Curseur/Mode :</translation>
     </message>
     <message>
         <source>Legend :</source>
-        <translation type="unfinished"></translation>
+        <translation>Légende :</translation>
     </message>
     <message>
         <source>Y-Scale :</source>
-        <translation type="unfinished"></translation>
+        <translation>Échelle Y :</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogMain</name>
     <message>
         <source>Samples loaded: %L1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échantillons chargés&#xa0;: %L1</translation>
     </message>
     <message>
         <source>[edited]</source>
-        <translation type="unfinished"></translation>
+        <translation>[modifié]</translation>
     </message>
     <message>
         <source>&amp;New Project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nouveau projet</translation>
     </message>
     <message>
         <source>Create new Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un nouveau projet</translation>
     </message>
     <message>
         <source>&amp;Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir un projet</translation>
     </message>
     <message>
         <source>Open Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un projet</translation>
     </message>
     <message>
         <source>Open Project File</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un fichier de projet</translation>
     </message>
     <message>
         <source>&amp;Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer le projet</translation>
     </message>
     <message>
         <source>Save Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le projet</translation>
     </message>
     <message>
         <source>Save Project File</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le fichier de projet</translation>
     </message>
     <message>
         <source>&amp;Save Project as</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le projet &amp;sous</translation>
     </message>
     <message>
         <source>Save Project as</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le projet sous</translation>
     </message>
     <message>
         <source>Save Project File as</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le fichier de projet sous</translation>
     </message>
     <message>
         <source>&amp;Open Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une &amp;carte</translation>
     </message>
     <message>
         <source>Open Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une carte</translation>
     </message>
     <message>
         <source>Open SD Card</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une carte SD</translation>
     </message>
     <message>
         <source>Export Google KML File</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter un fichier Google KML</translation>
     </message>
     <message>
         <source>Export Google Earth KML File</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter un fichier KML Google Earth</translation>
     </message>
     <message>
         <source>Export CSV/CAN File</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter un fichier CSV/CAN</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>Quit Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter l&apos;application</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>Main Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre d&apos;outils principale</translation>
     </message>
     <message>
         <source>Open TARN Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un projet TARN</translation>
     </message>
     <message>
         <source>Project Files (*.xml)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers de projet (*.xml)</translation>
     </message>
     <message>
         <source>ORNA Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>ORNA - Avertissement</translation>
     </message>
     <message>
         <source>The project &quot;%1&quot; could not be read.
 Check that it is a project file saved by this program.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le projet «&#xa0;%1&#xa0;» n&apos;a pas pu être lu.
+Vérifiez qu&apos;il s&apos;agit d&apos;un fichier de projet enregistré par ce programme.</translation>
     </message>
     <message>
         <source>Recordings found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements trouvés&#xa0;: %1</translation>
     </message>
     <message>
         <source>TARN Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>TARN - Avertissement</translation>
     </message>
     <message>
         <source>Current Project not saved !
 Save it now ?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le projet en cours n&apos;est pas enregistré !
+L&apos;enregistrer maintenant ?</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>The project could not be written to &quot;%1&quot;.
 The old file is unchanged; save it in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le projet n&apos;a pas pu être écrit dans «&#xa0;%1&#xa0;».
+L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre dossier.</translation>
     </message>
     <message>
         <source>Save TARN Project</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le projet TARN</translation>
     </message>
     <message>
         <source>Exporting KML file failed !</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l&apos;export du fichier KML !</translation>
     </message>
     <message>
         <source>ORNA Viewer Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualiseur ORNA - Avertissement</translation>
     </message>
     <message>
         <source>Exporting CSV/CAN file failed !</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l&apos;export du fichier CSV/CAN !</translation>
     </message>
     <message>
         <source>Written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrit&#xa0;: %1</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown. Choose another under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le profil «&#xa0;%1&#xa0;» n&apos;a pas pu être chargé&#xa0;: aucun paramètre ne peut être affiché. Choisissez-en un autre sous Outils, Préférences.</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>Open Preferences Dialog</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les préférences</translation>
     </message>
     <message>
         <source>Recording Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Détails de l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Show the Header and the Damages of the Recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l&apos;en-tête et les anomalies de l&apos;enregistrement</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>Show License Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les informations de licence</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>Help Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtre d&apos;aide</translation>
     </message>
     <message>
         <source>&amp;Extras</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Outils</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aide</translation>
     </message>
     <message>
         <source>Not everything could be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout n&apos;a pas pu être lu&#xa0;: %1</translation>
     </message>
     <message>
         <source>. Remarks (see Recording Details): %1. </source>
-        <translation type="unfinished"></translation>
+        <translation>. Remarques (voir Détails de l&apos;enregistrement)&#xa0;: %1. </translation>
     </message>
     <message>
         <source>There is not enough memory to show the recording; load fewer at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire insuffisante pour afficher l&apos;enregistrement&#xa0;; chargez-en moins à la fois.</translation>
     </message>
     <message>
         <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages n&apos;ont pas pu être lus, le programme démarre avec ses valeurs par défaut. Le fichier endommagé est conservé sous «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogPreferences</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>Pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages</translation>
     </message>
     <message>
         <source>Pages of the preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Pages des préférences</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Ok</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Close; every change holds already</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer&#xa0;; chaque modification est déjà appliquée</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Choose a profile file</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier de profil</translation>
     </message>
     <message>
         <source>Profile File :</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de profil :</translation>
     </message>
     <message>
         <source>Language :</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue :</translation>
     </message>
     <message>
         <source>Application</source>
-        <translation type="unfinished"></translation>
+        <translation>Application</translation>
     </message>
     <message>
         <source>The XML file that says how the samples are decoded</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier XML qui indique comment décoder les échantillons</translation>
     </message>
     <message>
         <source>Profile file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de profil</translation>
     </message>
     <message>
         <source>Language of the program from its next start on</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue du programme à partir du prochain démarrage</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil</translation>
     </message>
     <message>
         <source>ORNA Profile (*.xml);;All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Profil ORNA (*.xml);;Tous les fichiers (*.*)</translation>
     </message>
     <message>
         <source>TARN Info</source>
-        <translation type="unfinished"></translation>
+        <translation>TARN - Information</translation>
     </message>
     <message>
         <source>Please restart TARN to load new language !</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez redémarrer TARN pour charger la nouvelle langue !</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogProfile</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Décocher</translation>
     </message>
     <message>
         <source>Confirm Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Confirmer la sélection</translation>
     </message>
     <message>
         <source>Selected Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres sélectionnés</translation>
     </message>
     <message>
         <source>Untick all parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Décocher tous les paramètres</translation>
     </message>
     <message>
         <source>Show the ticked parameters in all views</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les paramètres cochés dans toutes les vues</translation>
     </message>
     <message>
         <source>Parameters of the profile</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres du profil</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogRecordDetails</name>
     <message>
         <source>Recording Details</source>
-        <translation type="unfinished"></translation>
+        <translation>Détails de l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Recording details</source>
-        <translation type="unfinished"></translation>
+        <translation>Détails de l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Champ</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Copy the selected lines, or all when none is selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier les lignes sélectionnées, ou toutes si aucune ne l&apos;est</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Close this window</source>
+        <translation>Fermer cette fenêtre</translation>
     </message>
 </context>
 <context>
     <name>TARN::DialogStatusBar</name>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression</translation>
     </message>
 </context>
 <context>
     <name>TARN::DirectoryEdit</name>
     <message>
         <source>Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>Parcourir...</translation>
     </message>
     <message>
         <source>Folder of the file</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier du fichier</translation>
     </message>
 </context>
 <context>
     <name>TARN::EventModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
 </context>
 <context>
     <name>TARN::TableModel</name>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
 </context>
 <context>
     <name>TARN::WidgetErrorTime</name>
     <message>
         <source>When errors were active: from the top info, warning, fault. Click to go there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Périodes où des erreurs étaient actives, de haut en bas&#xa0;: information, alerte, défaut. Cliquez pour y aller.</translation>
     </message>
     <message>
         <source>Fault timeline</source>
-        <translation type="unfinished"></translation>
+        <translation>Chronologie des défauts</translation>
     </message>
 </context>
 <context>
     <name>TARN::WidgetTimeRange</name>
     <message>
         <source>Start/Stop Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure de début/fin</translation>
     </message>
     <message>
         <source>Start time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure de début</translation>
     </message>
     <message>
         <source>Stop time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure de fin</translation>
     </message>
     <message>
         <source>Cursor Pos</source>
-        <translation type="unfinished"></translation>
+        <translation>Pos. curseur</translation>
     </message>
     <message>
         <source>Start at the current time of the data window</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer à l&apos;instant courant de la fenêtre de données</translation>
     </message>
     <message>
         <source>Stop at the current time of the data window</source>
-        <translation type="unfinished"></translation>
+        <translation>Finir à l&apos;instant courant de la fenêtre de données</translation>
     </message>
     <message>
         <source>Start :</source>
-        <translation type="unfinished"></translation>
+        <translation>Début :</translation>
     </message>
     <message>
         <source>Stop :</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin :</translation>
     </message>
     <message>
         <source>ORNA Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>ORNA - Avertissement</translation>
     </message>
     <message>
         <source>The start time is after the stop time: nothing would be exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;heure de début est postérieure à l&apos;heure de fin&#xa0;: rien ne serait exporté.</translation>
     </message>
 </context>
 <context>
     <name>UnknownIdentifiers</name>
     <message>
         <source>Identifiers that the profile does not describe: %1, their samples: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiants que le profil ne décrit pas&#xa0;: %1, leurs échantillons&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>WidgetGraph</name>
     <message>
         <source>Graph of the selected parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphique des paramètres sélectionnés</translation>
     </message>
 </context>
 </TS>

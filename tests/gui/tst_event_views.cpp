@@ -217,7 +217,7 @@ void EventViews::profileDecidesWhichTabsAreThere()
     QVERIFY(!views->isTabVisible(3) && !views->isTabVisible(4));
     plain.loadRecordings({0});
     auto* list = plain.window().findChild<DialogDataLimit*>()->findChild<DataTableView*>();
-    QCOMPARE(list->emptyText(), "No limit exceeded in this recording.");
+    QCOMPARE(list->emptyText(), "No parameter left its normal range in this recording.");
     Profile::instance()->loadProfile(ORNA_RESOURCES "/Tolvane_Profile.xml");
 }
 
