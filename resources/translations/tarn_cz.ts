@@ -1146,6 +1146,10 @@ Původní soubor zůstal beze změny; uložte projekt do jiné složky.</transla
         <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
         <translation>Nastavení se nepodařilo přečíst, program se spouští s výchozími hodnotami. Poškozený soubor je uschován jako „%1“.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export; choose a shorter time range.</source>
+        <translation>Pro tento export není dost paměti; zvolte kratší časový rozsah.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogPreferences</name>

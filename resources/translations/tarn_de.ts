@@ -1146,6 +1146,10 @@ Die alte Datei ist unverändert; speichern Sie das Projekt in einem anderen Ordn
         <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
         <translation>Die Einstellungen konnten nicht gelesen werden, das Programm startet mit den Standardwerten. Die beschädigte Datei bleibt als „%1“ erhalten.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export; choose a shorter time range.</source>
+        <translation>Der Speicher reicht für diesen Export nicht aus; wählen Sie einen kürzeren Zeitbereich.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogPreferences</name>

@@ -1146,6 +1146,10 @@ El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
         <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
         <translation>No se pudieron leer los ajustes; el programa arranca con los valores predeterminados. El archivo dañado se conserva como «%1».</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export; choose a shorter time range.</source>
+        <translation>No hay memoria suficiente para esta exportación; elija un intervalo de tiempo más corto.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogPreferences</name>

@@ -1146,6 +1146,10 @@ L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre d
         <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
         <translation>Les réglages n&apos;ont pas pu être lus, le programme démarre avec ses valeurs par défaut. Le fichier endommagé est conservé sous «&#xa0;%1&#xa0;».</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export; choose a shorter time range.</source>
+        <translation>Mémoire insuffisante pour cet export ; choisissez une plage de temps plus courte.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogPreferences</name>

@@ -1146,6 +1146,10 @@ O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translat
         <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
         <translation>Não foi possível ler as configurações; o programa inicia com os valores padrão. O arquivo danificado é mantido como &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for this export; choose a shorter time range.</source>
+        <translation>Não há memória suficiente para esta exportação; escolha um intervalo de tempo menor.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogPreferences</name>

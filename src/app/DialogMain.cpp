@@ -146,7 +146,7 @@ void DialogMain::slotProfileChanged()
 {
     {
         const WaitCursor waitCursor;
-        mData->updateProfile();
+        updateViews([this] { mData->updateProfile(); });
     }
     setEdited(true);
 }
@@ -161,7 +161,7 @@ void DialogMain::slotProfileFileChanged()
     loadProfile();
     Project::instance()->setProfileData();
     mProfile->updateProject();
-    mData->updateProfile();
+    updateViews([this] { mData->updateProfile(); });
     if (hasSamples) {
         showRecord();
         mData->goTo(time);

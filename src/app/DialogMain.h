@@ -89,6 +89,7 @@ private Q_SLOTS:
 private:
     void reportLoaded(bool complete);
     void showRecord();
+    void updateViews(const std::function<void()>& work);
     void reportDamagedSettings();
     void createPanes();
     void createActions();
@@ -126,6 +127,7 @@ private:
     void presetOptions(Options& options) const;
     void exportKml();
     void exportCsv();
+    ExportResult runExport(const std::function<ExportResult()>& work);
     void reportExport(const ExportResult& result, const QString& path, const QString& title,
                       const QString& failure);
 

@@ -12,6 +12,8 @@
 
 #include <QtWidgets/QMessageBox>
 
+#include <new>
+
 namespace TARN {
 
 /// What every export starts from: the recording, the range marked in it, all of it when nothing
@@ -35,11 +37,8 @@ void DialogMain::exportKml()
     if (mKmlWizard->getOptions(mKmlOptions) != QDialog::Accepted) {
         return;
     }
-    const ExportResult result = [this] {
-        const WaitCursor waitCursor;
-        setProgress(0);
-        return ExportKml(*Profile::instance()).exportData(mRecord, mKmlOptions);
-    }();
+    const ExportResult result = runExport(
+        [this] { return ExportKml(*Profile::instance()).exportData(mRecord, mKmlOptions); });
     reportExport(result, mKmlOptions.path(), tr("ORNA Warning"), tr("Exporting KML file failed !"));
 }
 
@@ -49,9 +48,7 @@ void DialogMain::exportCsv()
     if (mCsvWizard->getOptions(mCsvOptions) != QDialog::Accepted) {
         return;
     }
-    const ExportResult result = [this] {
-        const WaitCursor waitCursor;
-        setProgress(0);
+    const ExportResult result = runExport([this] {
         const auto progress = [this](int percent) { setProgress(percent); };
         if (mCsvOptions.fileType == CsvExportOptions::Can) {
             ExportCan exporter;
@@ -61,9 +58,21 @@ void DialogMain::exportCsv()
         ExportCsv exporter(*Profile::instance());
         exporter.setProgress(progress);
         return exporter.exportData(mRecord, mCsvOptions);
-    }();
+    });
     reportExport(result, mCsvOptions.path(), tr("ORNA Viewer Warning"),
                  tr("Exporting CSV/CAN file failed !"));
+}
+
+ExportResult DialogMain::runExport(const std::function<ExportResult()>& work)
+{
+    const WaitCursor waitCursor;
+    setProgress(0);
+    try {
+        return work();
+    } catch (const std::bad_alloc&) {
+        return ExportResult::failure(
+            tr("There is not enough memory for this export; choose a shorter time range."));
+    }
 }
 
 void DialogMain::reportExport(const ExportResult& result, const QString& path, const QString& title,

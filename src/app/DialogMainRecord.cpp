@@ -25,12 +25,20 @@ void DialogMain::reportLoaded(bool complete)
     mStatusBar->setToolTip(remarks.join('\n')); // the bar may be too short
 }
 
-/// Hands the recording to the views; with nothing loaded where memory does not suffice.
+/// Hands the recording with its events to the views.
 void DialogMain::showRecord()
 {
-    try {
+    updateViews([this] {
         detectEvents(mRecord, *Profile::instance());
         mData->updateRecord(&mRecord);
+    });
+}
+
+/// Lets the views work; with nothing loaded where memory does not suffice.
+void DialogMain::updateViews(const std::function<void()>& work)
+{
+    try {
+        work();
     } catch (const std::bad_alloc&) {
         mRecord.clear();
         mData->updateRecord(&mRecord);
