@@ -117,12 +117,24 @@ double rebuildRatio()
     return ratioOf(rebuild, scan, 9);
 }
 
+/// A step takes a few milliseconds: whatever else runs doubles one of them or none.
+Measurement quickestOf(const Measurement& step)
+{
+    return [step] {
+        double seconds = step();
+        for (int i = 1; i < 5; ++i) {
+            seconds = std::min(seconds, step());
+        }
+        return seconds;
+    };
+}
+
 double zoomGrowth()
 {
     std::vector<CurveBuffer> large = makeCurves(1'000'000);
     std::vector<CurveBuffer> small = makeCurves(10'000);
-    return ratioOf(rebuildOf(large, 0.05 * Hour, 0.95 * Hour),
-                   rebuildOf(small, 0.05 * Hour, 0.95 * Hour), 15);
+    return ratioOf(quickestOf(rebuildOf(large, 0.05 * Hour, 0.95 * Hour)),
+                   quickestOf(rebuildOf(small, 0.05 * Hour, 0.95 * Hour)), 15);
 }
 
 } // namespace

@@ -14,8 +14,8 @@ namespace {
 
 __extension__ using Wide = unsigned __int128;
 
-constexpr int MostDigits = 17;      ///< printed in integers; products of them fit Wide
-constexpr int LowestExponent = -4;  ///< of ten; smaller numbers are printed as "1e-05"
+constexpr int MostDigits = 17;     ///< printed in integers; products of them fit Wide
+constexpr int LowestExponent = -4; ///< of ten; smaller numbers are printed as "1e-05"
 constexpr double LowestValue = 1e-4;
 constexpr double LimitValue = 1e17; ///< no number of MostDigits digits before the point is larger
 
@@ -65,7 +65,7 @@ char* placePoint(std::string_view digits, int exponent, char* out)
     return out;
 }
 
-/// Prints a number that needs no exponent, in a third of the library's time: tables and exports
+/// Prints a number that needs no exponent, in half the library's time: tables and exports
 /// are made of millions of them. Null when the number does need one, or is zero.
 char* printPlain(double value, int digits, char* out)
 {
@@ -105,8 +105,8 @@ void appendGeneral(double value, int digits, std::string& out)
     char buffer[64];
     const char* end = printPlain(value, digits, buffer);
     if (end == nullptr) {
-        end = std::to_chars(buffer, std::end(buffer), value, std::chars_format::general, digits)
-                  .ptr;
+        end =
+            std::to_chars(buffer, std::end(buffer), value, std::chars_format::general, digits).ptr;
     }
     out.append(buffer, static_cast<std::size_t>(end - buffer));
 }

@@ -43,9 +43,15 @@ ValueRange scan(const double* begin, const double* end)
 ValueRange scan(const ValueRange* begin, const ValueRange* end)
 {
     ValueRange result;
-    for (; begin < end; ++begin) {
+    ValueRange other; // two are quicker than one, as above, and here than four
+    for (; end - begin >= 2; begin += 2) {
+        result.widen(begin[0]);
+        other.widen(begin[1]);
+    }
+    if (begin < end) {
         result.widen(*begin);
     }
+    result.widen(other);
     return result;
 }
 

@@ -35,14 +35,27 @@ private Q_SLOTS:
         std::mt19937_64 random(7);
         std::uniform_real_distribution<double> exponent(-20, 20);
         for (int i = 0; i < 50000; ++i) {
-            const double value = i % 2 == 0 ? std::bit_cast<double>(random())
-                                            : std::pow(10.0, exponent(random)) * (i % 4 - 2);
-            const int digits = i % 3 == 0 ? 6 : 12;
-            char expected[64];
-            std::snprintf(expected, sizeof expected, "%.*g", digits, value);
-            std::string text;
-            appendGeneral(value, digits, text);
-            QCOMPARE(text, std::string(expected));
+            const double anySize = std::pow(10.0, exponent(random));
+            const double half = static_cast<double>(random() % 10'000'000'000'000) + 0.5;
+            const double ten = std::pow(10.0, i % 26 - 6);
+            const double values[] = {std::bit_cast<double>(random()),
+                                     -anySize,
+                                     static_cast<float>(anySize),
+                                     half,
+                                     half / 1024, // a tie where it has thirteen digits
+                                     half / 1000,
+                                     std::nextafter(ten, random() % 2 == 0 ? 0.0 : 1e300),
+                                     ten,
+                                     i * -0.25};
+            const int digits[] = {12, 6, 1, 17, 18};
+            for (const double value : values) {
+                const int precision = digits[random() % std::size(digits)];
+                char expected[64];
+                std::snprintf(expected, sizeof expected, "%.*g", precision, value);
+                std::string text;
+                appendGeneral(value, precision, text);
+                QCOMPARE(text, std::string(expected));
+            }
         }
         QCOMPARE(fixedText(-std::numeric_limits<double>::max(), 12).size(), 1U + 309 + 1 + 12);
     }
