@@ -310,6 +310,12 @@
         <source>Header of the recording and what could be read of it</source>
         <translation>Hlavička záznamu a co se z něj podařilo přečíst</translation>
     </message>
+    <message>
+        <source>No recordings here.
+Open a card (Ctrl+C) or drop its folder on the window.</source>
+        <translation>Nejsou zde žádné záznamy.
+Otevřete kartu (Ctrl+C) nebo přetáhněte její složku do okna.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>

@@ -310,6 +310,12 @@
         <source>Header of the recording and what could be read of it</source>
         <translation>Dateikopf der Aufzeichnung und was aus ihr gelesen werden konnte</translation>
     </message>
+    <message>
+        <source>No recordings here.
+Open a card (Ctrl+C) or drop its folder on the window.</source>
+        <translation>Hier sind keine Aufzeichnungen.
+Öffnen Sie eine Karte (Strg+C) oder ziehen Sie ihren Ordner auf das Fenster.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>

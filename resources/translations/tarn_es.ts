@@ -310,6 +310,12 @@
         <source>Header of the recording and what could be read of it</source>
         <translation>Cabecera de la grabación y lo que se pudo leer de ella</translation>
     </message>
+    <message>
+        <source>No recordings here.
+Open a card (Ctrl+C) or drop its folder on the window.</source>
+        <translation>No hay grabaciones aquí.
+Abra una tarjeta (Ctrl+C) o suelte su carpeta en la ventana.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>

@@ -310,6 +310,12 @@
         <source>Header of the recording and what could be read of it</source>
         <translation>En-tête de l&apos;enregistrement et ce qui a pu en être lu</translation>
     </message>
+    <message>
+        <source>No recordings here.
+Open a card (Ctrl+C) or drop its folder on the window.</source>
+        <translation>Aucun enregistrement ici.
+Ouvrez une carte (Ctrl+C) ou déposez son dossier sur la fenêtre.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>

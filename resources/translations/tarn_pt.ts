@@ -310,6 +310,12 @@
         <source>Header of the recording and what could be read of it</source>
         <translation>Cabeçalho da gravação e o que foi possível ler dela</translation>
     </message>
+    <message>
+        <source>No recordings here.
+Open a card (Ctrl+C) or drop its folder on the window.</source>
+        <translation>Não há gravações aqui.
+Abra um cartão (Ctrl+C) ou solte a pasta dele na janela.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>

@@ -4,6 +4,7 @@
 #include "record/RecordText.h"
 
 #include <QtGui/QAction>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QVBoxLayout>
@@ -11,7 +12,9 @@
 namespace TARN {
 
 DialogCard::DialogCard(QWidget* parent)
-    : QWidget(parent), mFolder(new QLineEdit), mTree(new QTreeWidget)
+    : QWidget(parent), mFolder(new QLineEdit), mTree(new QTreeWidget),
+      mHint(new QLabel(tr("No recordings here.\nOpen a card (Ctrl+C) or drop its folder on the "
+                          "window.")))
 {
     mFolder->setReadOnly(true);
     mFolder->setPlaceholderText(tr("No card opened"));
@@ -28,6 +31,12 @@ DialogCard::DialogCard(QWidget* parent)
     connect(details, &QAction::triggered, this, &DialogCard::askDetails);
     mTree->addAction(details);
     mTree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    mHint->setAlignment(Qt::AlignCenter);
+    mHint->setWordWrap(true);
+    mHint->setForegroundRole(QPalette::PlaceholderText);
+    mHint->setAttribute(Qt::WA_TransparentForMouseEvents); // what is dropped goes to the window
+    auto* inside = new QVBoxLayout(mTree->viewport());
+    inside->addWidget(mHint);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(3, 3, 3, 3);
     layout->addWidget(mFolder);
@@ -46,6 +55,8 @@ void DialogCard::setCardInfo(const CardInfo& info)
 void DialogCard::updateInfo()
 {
     mFolder->setText(mCardInfo.path.section('/', -1));
+    mFolder->setToolTip(tr("Folder of the recordings") + "\n" + mCardInfo.path);
+    mHint->setVisible(mCardInfo.records.empty());
     mTree->clear();
     for (const auto& [path, info] : mCardInfo.records) {
         addRecord(path, info);

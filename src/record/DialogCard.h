@@ -8,6 +8,7 @@
 
 #include <list>
 
+class QLabel;
 class QLineEdit;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -55,6 +56,7 @@ private:
     QTimer mTimer;
     QLineEdit* mFolder;
     QTreeWidget* mTree;
+    QLabel* mHint; ///< where there are no recordings: how to get some
 };
 
 } // namespace TARN
