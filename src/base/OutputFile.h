@@ -37,7 +37,7 @@ public:
     const QString& errorText() const { return mErrorText; }
 
 private:
-    static constexpr std::size_t BufferSize = 1 << 17;
+    static constexpr std::size_t BufferSize = 1 << 20;
 
     void flush();
     bool fail();
