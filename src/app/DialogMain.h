@@ -1,6 +1,7 @@
 #pragma once
 
 #include "export/CsvExportOptions.h"
+#include "export/ExportResult.h"
 #include "export/KmlExportOptions.h"
 #include "record/CardInfo.h"
 #include "record/Record.h"
@@ -27,7 +28,6 @@ class DialogPreferences;
 class DialogProfile;
 class DialogRecordDetails;
 class DialogStatusBar;
-struct ExportResult;
 
 /// The numbers by which commands are dispatched.
 enum class ActionType
@@ -127,7 +127,7 @@ private:
     void presetOptions(Options& options) const;
     void exportKml();
     void exportCsv();
-    ExportResult runExport(const std::function<ExportResult()>& work);
+    ExportResult runExport(const std::function<ExportResult(const ExportProgress&)>& work);
     void reportExport(const ExportResult& result, const QString& path, const QString& title,
                       const QString& failure);
 

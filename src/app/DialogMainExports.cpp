@@ -37,8 +37,11 @@ void DialogMain::exportKml()
     if (mKmlWizard->getOptions(mKmlOptions) != QDialog::Accepted) {
         return;
     }
-    const ExportResult result = runExport(
-        [this] { return ExportKml(*Profile::instance()).exportData(mRecord, mKmlOptions); });
+    const ExportResult result = runExport([this](const ExportProgress& progress) {
+        ExportKml exporter(*Profile::instance());
+        exporter.setProgress(progress);
+        return exporter.exportData(mRecord, mKmlOptions);
+    });
     reportExport(result, mKmlOptions.path(), tr("ORNA Warning"), tr("Exporting KML file failed !"));
 }
 
@@ -48,8 +51,7 @@ void DialogMain::exportCsv()
     if (mCsvWizard->getOptions(mCsvOptions) != QDialog::Accepted) {
         return;
     }
-    const ExportResult result = runExport([this] {
-        const auto progress = [this](int percent) { setProgress(percent); };
+    const ExportResult result = runExport([this](const ExportProgress& progress) {
         if (mCsvOptions.fileType == CsvExportOptions::Can) {
             ExportCan exporter;
             exporter.setProgress(progress);
@@ -63,12 +65,12 @@ void DialogMain::exportCsv()
                  tr("Exporting CSV/CAN file failed !"));
 }
 
-ExportResult DialogMain::runExport(const std::function<ExportResult()>& work)
+ExportResult DialogMain::runExport(const std::function<ExportResult(const ExportProgress&)>& work)
 {
     const WaitCursor waitCursor;
     setProgress(0);
     try {
-        return work();
+        return work([this](int percent) { setProgress(percent); });
     } catch (const std::bad_alloc&) {
         return ExportResult::failure(
             tr("There is not enough memory for this export; choose a shorter time range."));

@@ -55,7 +55,8 @@ ExportResult ExportKml::exportData(const Record& record, const KmlExportOptions&
             "ORNA Flightpath " + record.recordInfo().dateTimeText().toStdString());
     addStyle(document, "normalPlacemark", options.placeMarkColor);
     addStyle(document, "errorPlacemark", options.errorMarkColor);
-    addMarks(document, placeMarks(mProfile, data, path, options), "normalPlacemark");
+    const auto halfway = [this](int percent) { report(percent / 2); };
+    addMarks(document, placeMarks(mProfile, data, path, options, halfway), "normalPlacemark");
     if (options.errorMarkOn && options.showLimit) {
         addMarks(document, errorMarks(data.limits, path), "errorPlacemark");
     }
@@ -77,6 +78,13 @@ ExportResult ExportKml::exportData(const Record& record, const KmlExportOptions&
             : QString());
 }
 
+void ExportKml::report(int percent) const
+{
+    if (mProgress) {
+        mProgress(percent);
+    }
+}
+
 void ExportKml::addStyle(QDomElement& parent, const QString& id, const std::string& color)
 {
     QDomElement style = addElement(parent, "Style");
@@ -89,7 +97,13 @@ void ExportKml::addStyle(QDomElement& parent, const QString& id, const std::stri
 
 void ExportKml::addMarks(QDomElement& parent, const KmlMarks& marks, const QString& style)
 {
+    constexpr std::size_t Collected = 50; // percent done before
+    constexpr std::size_t Marked = 90;
+    std::size_t done = 0;
     for (const auto& [number, mark] : marks) {
+        if (done++ % 64 == 0) {
+            report(static_cast<int>(Collected + (Marked - Collected) * done / marks.size()));
+        }
         QDomElement placemark = addElement(parent, "Placemark");
         addData(placemark, "name", mark.time.toStdString());
         addData(placemark, "styleUrl", style.toStdString());

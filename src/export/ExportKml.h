@@ -17,9 +17,12 @@ class ExportKml
 public:
     explicit ExportKml(const Profile& profile) : mProfile(profile) {}
 
+    void setProgress(ExportProgress progress) { mProgress = std::move(progress); }
+
     ExportResult exportData(const Record& record, const KmlExportOptions& options);
 
 private:
+    void report(int percent) const;
     void addStyle(QDomElement& parent, const QString& id, const std::string& color);
     void addMarks(QDomElement& parent, const KmlMarks& marks, const QString& style);
     void addPath(QDomElement& parent, const FlightPath& path, const KmlExportOptions& options);
@@ -29,6 +32,7 @@ private:
     const Profile& mProfile;
     XmlHandler mXml;
     QDomDocument mDocument;
+    ExportProgress mProgress;
 };
 
 } // namespace TARN

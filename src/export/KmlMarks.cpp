@@ -9,31 +9,39 @@ namespace TARN {
 
 namespace {
 
-/// Marks while they are collected: items by parameter.
+/// Marks while they are collected: the last sample of each parameter, by its uid. Only what stays
+/// is turned into text.
 struct Collected
 {
     PathPosition position;
-    std::map<int, KmlMark::Item> items; ///< by the parameter's uid
+    std::map<int, const RecordEntry*> items;
 };
 
-void collect(const Decoder& decoder, const ProfileParameter& parameter, const RecordIdList& list,
-             double offset, const FlightPath& path, int interval, std::map<int, Collected>& marks)
+void collect(int uid, const RecordIdList& list, double offset, const FlightPath& path, int interval,
+             std::map<int, Collected>& marks)
 {
-    const std::string name = parameter.title().toStdString();
+    // Neighbouring samples mostly lie in one slot, and its mark need not be searched again.
+    int lastSlot = 0;
+    int lastNumber = 0;
+    const RecordEntry** last = nullptr;
     for (const RecordEntry& entry : list.entries) {
-        const double slot = (entry.time() + list.shift(offset)) / path.slotWidth();
-        const int number = truncatedTo<int>(slot / interval);
-        const PathPosition* position = path.position(truncatedTo<int>(slot));
-        if (position == nullptr) {
-            marks.erase(number);
-            continue;
+        const double time = (entry.time() + list.shift(offset)) / path.slotWidth();
+        const int slot = truncatedTo<int>(time);
+        const int number = truncatedTo<int>(time / interval);
+        if (last == nullptr || slot != lastSlot || number != lastNumber) {
+            const PathPosition* position = path.position(slot);
+            if (position == nullptr) {
+                marks.erase(number);
+                last = nullptr;
+                continue;
+            }
+            Collected& mark = marks[number];
+            mark.position = *position;
+            last = &mark.items[uid];
+            lastSlot = slot;
+            lastNumber = number;
         }
-        Collected& mark = marks[number];
-        mark.position = *position;
-        KmlMark::Item& item = mark.items[parameter.uid];
-        item.name = name;
-        item.value.clear();
-        decoder.appendText(entry, item.value);
+        *last = &entry;
     }
 }
 
@@ -47,27 +55,35 @@ QString markTime(int number, double slotWidth, int interval)
 } // namespace
 
 KmlMarks placeMarks(const Profile& profile, const RecordData& data, const FlightPath& path,
-                    const KmlExportOptions& options)
+                    const KmlExportOptions& options, const ExportProgress& progress)
 {
     KmlMarks marks;
     if (!options.placeMarkOn) {
         return marks;
     }
     std::map<int, Collected> collected;
-    for (const ProfileParameter* parameter : profile.selectedParameters()) {
+    std::map<int, std::pair<std::string, Decoder>> sources; // by the parameter's uid
+    const std::vector<const ProfileParameter*> parameters = profile.selectedParameters();
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+        const ProfileParameter* parameter = parameters[i];
         const RecordIdList* list = data.find(static_cast<unsigned>(parameter->channel),
                                              static_cast<unsigned>(parameter->id));
         if (list != nullptr) {
-            collect(Decoder(profile.data(), *parameter), *parameter, *list, data.offset, path,
-                    options.placeMarkInterval, collected);
+            collect(parameter->uid, *list, data.offset, path, options.placeMarkInterval, collected);
+            sources.try_emplace(parameter->uid, parameter->title().toStdString(),
+                                Decoder(profile.data(), *parameter));
+        }
+        if (progress) {
+            progress(static_cast<int>(100 * (i + 1) / parameters.size()));
         }
     }
-    for (auto& [number, mark] : collected) {
+    for (const auto& [number, mark] : collected) {
         KmlMark& out = marks[number];
         out.position = mark.position;
         out.time = markTime(number, path.slotWidth(), options.placeMarkInterval);
-        for (auto& [uid, item] : mark.items) {
-            out.items.push_back(std::move(item));
+        for (const auto& [uid, entry] : mark.items) {
+            const auto& [name, decoder] = sources.at(uid);
+            decoder.appendText(*entry, out.items.emplace_back(name).value);
         }
     }
     diagnose("mExportPlacemark size %zu step %d\n", marks.size(), options.placeMarkInterval);

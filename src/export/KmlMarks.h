@@ -1,5 +1,6 @@
 #pragma once
 
+#include "export/ExportResult.h"
 #include "export/FlightPath.h"
 #include "export/KmlExportOptions.h"
 #include "record/Record.h"
@@ -29,9 +30,10 @@ struct KmlMark
 using KmlMarks = std::map<int, KmlMark>;
 
 /// A mark at every interval of slots, with the last value of each selected parameter in it. A
-/// sample in a slot without a position takes its mark away again.
+/// sample in a slot without a position takes its mark away again. \p progress hears how many
+/// percent of the parameters are done.
 KmlMarks placeMarks(const Profile& profile, const RecordData& data, const FlightPath& path,
-                    const KmlExportOptions& options);
+                    const KmlExportOptions& options, const ExportProgress& progress = {});
 
 /// A mark for each slot with events that has a position.
 KmlMarks errorMarks(const std::vector<RecordEvent>& events, const FlightPath& path);
