@@ -13,6 +13,7 @@
 #include "widgets/Kernel.h"
 #include "widgets/WaitCursor.h"
 
+#include <QtCore/QScopedValueRollback>
 #include <QtGui/QCloseEvent>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QVBoxLayout>
@@ -121,10 +122,15 @@ void DialogMain::slotLoadRecord(const std::list<QString>& files)
 {
     std::list<QString> paths = files;
     paths.remove(QString()); // detail lines name no file
-    if (paths.empty() || mLoading) {
+    if (paths.empty()) {
         return;
     }
-    mLoading = true;
+    if (mBusy) {                   // the last pick counts, once what runs has ended
+        constexpr int Later = 100; // ms
+        QTimer::singleShot(Later, this, [this, paths] { slotLoadRecord(paths); });
+        return;
+    }
+    const QScopedValueRollback busy(mBusy, true);
     const WaitCursor waitCursor;
     setProgress(0);
     mData->updateRecord(nullptr); // the samples shown are about to go
@@ -132,7 +138,6 @@ void DialogMain::slotLoadRecord(const std::list<QString>& files)
     mCard->setIntegrity(mRecord.integrity());
     showRecord();
     setProgress(100);
-    mLoading = false;
     updateEnabled();
 }
 

@@ -133,7 +133,7 @@ private:
 
     bool mClosing = false;
     bool mPainted = false;
-    bool mLoading = false;
+    bool mBusy = false;   ///< loading or exporting, while timers and drops still arrive
     bool mEdited = false; ///< the selection differs from the project file
     Record mRecord;
     KmlExportOptions mKmlOptions;

@@ -10,6 +10,7 @@
 #include "profile/Profile.h"
 #include "widgets/WaitCursor.h"
 
+#include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QMessageBox>
 
 #include <new>
@@ -67,6 +68,7 @@ void DialogMain::exportCsv()
 
 ExportResult DialogMain::runExport(const std::function<ExportResult(const ExportProgress&)>& work)
 {
+    const QScopedValueRollback busy(mBusy, true);
     const WaitCursor waitCursor;
     setProgress(0);
     try {

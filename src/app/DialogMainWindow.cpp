@@ -108,13 +108,16 @@ void DialogMain::restoreWindow()
 
 void DialogMain::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!mLoading && !openablePaths(event->mimeData()).isEmpty()) {
+    if (!mBusy && !openablePaths(event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
 
 void DialogMain::dropEvent(QDropEvent* event)
 {
+    if (mBusy) {
+        return;
+    }
     event->acceptProposedAction();
     for (const QString& path : openablePaths(event->mimeData())) {
         openDropped(path);
