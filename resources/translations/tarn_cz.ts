@@ -146,6 +146,10 @@
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
         <translation>Soubor „%1“ v této složce již existuje. Nahradit?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
+        <translation>Soubor „%1“ je sám záznam. Zvolte jiný název nebo složku.</translation>
+    </message>
 </context>
 <context>
     <name>Record</name>
@@ -1155,6 +1159,24 @@ Původní soubor zůstal beze změny; uložte projekt do jiné složky.</transla
     <message>
         <source>There is not enough memory for this export; choose a shorter time range.</source>
         <translation>Pro tento export není dost paměti; zvolte kratší časový rozsah.</translation>
+    </message>
+    <message>
+        <source>The project was not saved: no profile is loaded, so its parameters are not known.
+Choose a profile under Extras, Preferences.</source>
+        <translation>Projekt nebyl uložen: není načten žádný profil, a jeho parametry proto nejsou známy.
+Zvolte profil v nabídce Nástroje, Předvolby.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>Soubor „%1“ v této složce již existuje. Nahradit?</translation>
+    </message>
+    <message>
+        <source>No recording is listed. Open a card first.</source>
+        <translation>V seznamu není žádný záznam. Nejprve otevřete kartu.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a project nor a profile.</source>
+        <translation>Soubor „%1“ není projekt ani profil.</translation>
     </message>
 </context>
 <context>

@@ -146,6 +146,10 @@
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
         <translation>„%1“ ist in diesem Ordner bereits vorhanden. Ersetzen?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
+        <translation>„%1“ ist die Aufzeichnung selbst. Wählen Sie einen anderen Namen oder Ordner.</translation>
+    </message>
 </context>
 <context>
     <name>Record</name>
@@ -1155,6 +1159,24 @@ Die alte Datei ist unverändert; speichern Sie das Projekt in einem anderen Ordn
     <message>
         <source>There is not enough memory for this export; choose a shorter time range.</source>
         <translation>Der Speicher reicht für diesen Export nicht aus; wählen Sie einen kürzeren Zeitbereich.</translation>
+    </message>
+    <message>
+        <source>The project was not saved: no profile is loaded, so its parameters are not known.
+Choose a profile under Extras, Preferences.</source>
+        <translation>Das Projekt wurde nicht gespeichert: Es ist kein Profil geladen, seine Parameter sind daher nicht bekannt.
+Wählen Sie ein Profil unter Extras, Einstellungen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>„%1“ ist in diesem Ordner bereits vorhanden. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>No recording is listed. Open a card first.</source>
+        <translation>Es ist keine Aufzeichnung aufgeführt. Öffnen Sie zuerst eine Karte.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a project nor a profile.</source>
+        <translation>„%1“ ist weder ein Projekt noch ein Profil.</translation>
     </message>
 </context>
 <context>

@@ -146,6 +146,10 @@
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
         <translation>«%1» ya existe en esta carpeta. ¿Reemplazarlo?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
+        <translation>«%1» es la propia grabación. Elija otro nombre u otra carpeta.</translation>
+    </message>
 </context>
 <context>
     <name>Record</name>
@@ -1155,6 +1159,24 @@ El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
     <message>
         <source>There is not enough memory for this export; choose a shorter time range.</source>
         <translation>No hay memoria suficiente para esta exportación; elija un intervalo de tiempo más corto.</translation>
+    </message>
+    <message>
+        <source>The project was not saved: no profile is loaded, so its parameters are not known.
+Choose a profile under Extras, Preferences.</source>
+        <translation>El proyecto no se guardó: no hay ningún perfil cargado y no se conocen sus parámetros.
+Elija un perfil en Extras, Preferencias.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>«%1» ya existe en esta carpeta. ¿Reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>No recording is listed. Open a card first.</source>
+        <translation>No hay ninguna grabación en la lista. Abra primero una tarjeta.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a project nor a profile.</source>
+        <translation>«%1» no es un proyecto ni un perfil.</translation>
     </message>
 </context>
 <context>

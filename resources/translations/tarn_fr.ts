@@ -146,6 +146,10 @@
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
         <translation>«&#xa0;%1&#xa0;» existe déjà dans ce dossier. Le remplacer&#xa0;?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
+        <translation>« %1 » est l'enregistrement lui-même. Choisissez un autre nom ou un autre dossier.</translation>
+    </message>
 </context>
 <context>
     <name>Record</name>
@@ -1155,6 +1159,24 @@ L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre d
     <message>
         <source>There is not enough memory for this export; choose a shorter time range.</source>
         <translation>Mémoire insuffisante pour cet export ; choisissez une plage de temps plus courte.</translation>
+    </message>
+    <message>
+        <source>The project was not saved: no profile is loaded, so its parameters are not known.
+Choose a profile under Extras, Preferences.</source>
+        <translation>Le projet n'a pas été enregistré : aucun profil n'est chargé, ses paramètres ne sont donc pas connus.
+Choisissez un profil sous Outils, Préférences.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà dans ce dossier. Le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>No recording is listed. Open a card first.</source>
+        <translation>Aucun enregistrement dans la liste. Ouvrez d'abord une carte.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a project nor a profile.</source>
+        <translation>« %1 » n'est ni un projet ni un profil.</translation>
     </message>
 </context>
 <context>

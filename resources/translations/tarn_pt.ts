@@ -146,6 +146,10 @@
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
         <translation>&quot;%1&quot; já existe nesta pasta. Substituir?</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
+        <translation>&quot;%1&quot; é a própria gravação. Escolha outro nome ou outra pasta.</translation>
+    </message>
 </context>
 <context>
     <name>Record</name>
@@ -1155,6 +1159,24 @@ O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translat
     <message>
         <source>There is not enough memory for this export; choose a shorter time range.</source>
         <translation>Não há memória suficiente para esta exportação; escolha um intervalo de tempo menor.</translation>
+    </message>
+    <message>
+        <source>The project was not saved: no profile is loaded, so its parameters are not known.
+Choose a profile under Extras, Preferences.</source>
+        <translation>O projeto não foi salvo: nenhum perfil está carregado e seus parâmetros não são conhecidos.
+Escolha um perfil em Extras, Preferências.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>&quot;%1&quot; já existe nesta pasta. Substituir?</translation>
+    </message>
+    <message>
+        <source>No recording is listed. Open a card first.</source>
+        <translation>Não há gravação na lista. Abra primeiro um cartão.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither a project nor a profile.</source>
+        <translation>&quot;%1&quot; não é um projeto nem um perfil.</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,8 @@
 #include <QtWidgets/QTextBrowser>
 #include <QtWidgets/QToolButton>
 
+#include <algorithm>
+
 namespace {
 
 QString manual(const QString& language)

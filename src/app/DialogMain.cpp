@@ -19,6 +19,7 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include <cstdlib>
+#include <utility>
 
 namespace TARN {
 
@@ -125,11 +126,13 @@ void DialogMain::slotLoadRecord(const std::list<QString>& files)
     if (paths.empty()) {
         return;
     }
-    if (mBusy) {                   // the last pick counts, once what runs has ended
+    if (mBusy) {
         constexpr int Later = 100; // ms
-        QTimer::singleShot(Later, this, [this, paths] { slotLoadRecord(paths); });
+        mWaiting = paths;          // the last pick counts, once what runs has ended
+        QTimer::singleShot(Later, this, &DialogMain::slotLoadWaiting);
         return;
     }
+    mWaiting.clear();
     const QScopedValueRollback busy(mBusy, true);
     const WaitCursor waitCursor;
     setProgress(0);
@@ -139,6 +142,11 @@ void DialogMain::slotLoadRecord(const std::list<QString>& files)
     showRecord();
     setProgress(100);
     updateEnabled();
+}
+
+void DialogMain::slotLoadWaiting()
+{
+    slotLoadRecord(std::exchange(mWaiting, {}));
 }
 
 void DialogMain::setProgress(int percent)
@@ -161,6 +169,7 @@ void DialogMain::slotProfileFileChanged()
     const WaitCursor waitCursor;
     const double time = mData->time();
     const bool hasSamples = !mRecord.recordData().empty();
+    mStatusBar->say({}); // the old profile's failure
     Project::instance()->takeProfileData();
     mData->updateRecord(nullptr); // events and cells shown are those of the old profile
     loadProfile();

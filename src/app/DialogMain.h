@@ -76,6 +76,7 @@ protected:
 
 private Q_SLOTS:
     void slotLoadRecord(const std::list<QString>& files);
+    void slotLoadWaiting();
     void slotProfileChanged();
     void slotProfileFileChanged();
     void slotTimeout();
@@ -118,7 +119,8 @@ private:
     void showAbout();
     void showHelp();
     void showPreferences();
-    void openDropped(const QString& path);
+    void openDropped(const QStringList& paths);
+    void openDroppedXml(const QString& path);
     static void storeSetting(const char* key, const QString& value);
     void saveWindow() const;
     void restoreWindow();
@@ -136,6 +138,7 @@ private:
     bool mBusy = false;   ///< loading or exporting, while timers and drops still arrive
     bool mEdited = false; ///< the selection differs from the project file
     Record mRecord;
+    std::list<QString> mWaiting; ///< recordings picked while something ran
     KmlExportOptions mKmlOptions;
     CsvExportOptions mCsvOptions;
     CardInfo mCardInfo;

@@ -2,8 +2,10 @@
 #include "app/DialogStatusBar.h"
 #include "base/Property.h"
 #include "profile/DialogProfile.h"
+#include "profile/Profile.h"
 #include "profile/Project.h"
 
+#include <QtCore/QFileInfo>
 #include <QtGui/QAction>
 #include <QtGui/QActionGroup>
 #include <QtWidgets/QFileDialog>
@@ -247,6 +249,13 @@ bool DialogMain::askSaveProject()
 
 bool DialogMain::saveProject(bool askName)
 {
+    if (Profile::instance()->data().devices.empty()) {
+        QMessageBox::critical(this, tr("ORNA Warning"),
+                              tr("The project was not saved: no profile is loaded, so its "
+                                 "parameters are not known.\nChoose a profile under Extras, "
+                                 "Preferences."));
+        return false;
+    }
     // A profile opened as a project by mistake is not replaced without a question.
     if (askName || mProjectFile.isEmpty() || !Project::mayReplace(mProjectFile.toStdString())) {
         const QString file = askProjectName();
@@ -275,11 +284,18 @@ QString DialogMain::askProjectName()
         return {};
     }
     const QString folder = file.section('/', 0, -2);
-    QString name = file.section('/', -1);
-    if (!name.contains('.')) {
-        name += ".xml";
+    const QString name = file.section('/', -1);
+    if (name.contains('.')) {
+        return folder + "/" + name;
     }
-    return folder + "/" + name;
+    // The chooser has asked about the name without the ending.
+    const QString path = folder + "/" + name + ".xml";
+    const QString question = tr("\"%1\" exists in this folder. Replace it?").arg(name + ".xml");
+    const bool replaces = QFileInfo::exists(path);
+    return !replaces ||
+                   QMessageBox::question(this, tr("ORNA Warning"), question) == QMessageBox::Yes
+               ? path
+               : QString();
 }
 
 } // namespace TARN

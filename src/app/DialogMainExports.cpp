@@ -31,6 +31,8 @@ void DialogMain::presetOptions(Options& options) const
 
 void DialogMain::exportKml()
 {
+    // From the wizard on: what it shows is what is exported.
+    const QScopedValueRollback busy(mBusy, true);
     const QString path = mRecord.integrity().files.front().info.fileName;
     const QString name = path.section('/', -1).section('.', 0, 0);
     mKmlOptions.fileName = (name + ".kml").toStdString();
@@ -48,6 +50,7 @@ void DialogMain::exportKml()
 
 void DialogMain::exportCsv()
 {
+    const QScopedValueRollback busy(mBusy, true);
     presetOptions(mCsvOptions);
     if (mCsvWizard->getOptions(mCsvOptions) != QDialog::Accepted) {
         return;
@@ -68,7 +71,6 @@ void DialogMain::exportCsv()
 
 ExportResult DialogMain::runExport(const std::function<ExportResult(const ExportProgress&)>& work)
 {
-    const QScopedValueRollback busy(mBusy, true);
     const WaitCursor waitCursor;
     setProgress(0);
     try {

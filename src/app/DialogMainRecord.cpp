@@ -72,6 +72,10 @@ void DialogMain::slotRecordDetails()
             sections += recordSection(file);
         }
     }
+    if (sections.isEmpty()) {
+        mStatusBar->say(tr("No recording is listed. Open a card first."));
+        return;
+    }
     mDetails->showReport(sections);
 }
 

@@ -2,9 +2,11 @@
 #include "app/DialogHelp.h"
 #include "app/DialogMain.h"
 #include "app/DialogPreferences.h"
+#include "app/DialogStatusBar.h"
 #include "base/Property.h"
 #include "base/XmlHandler.h"
 #include "display/DialogData.h"
+#include "record/CardInfo.h"
 #include "record/DialogCard.h"
 
 #include <QtCore/QFileInfo>
@@ -33,17 +35,13 @@ void present(QDialog* dialog)
     dialog->activateWindow();
 }
 
-bool isRecording(const QString& path)
-{
-    return path.endsWith(".CAN") || path.endsWith(".can");
-}
-
-bool isProfile(const QString& path)
+/// Name of an XML file's root element; empty when it is none.
+QString rootName(const QString& path)
 {
     XmlHandler xml;
     QDomDocument document;
-    return xml.xmlReadFile(document, path) &&
-           document.documentElement().tagName() == "CanAerospaceProfile";
+    xml.xmlReadFile(document, path);
+    return document.documentElement().tagName();
 }
 
 /// The local files and folders dragged that the window can open.
@@ -52,8 +50,8 @@ QStringList openablePaths(const QMimeData* data)
     QStringList paths;
     for (const QUrl& url : data->urls()) {
         const QFileInfo file(url.toLocalFile());
-        if (url.isLocalFile() &&
-            (file.isDir() || isRecording(file.fileName()) || file.fileName().endsWith(".xml"))) {
+        if (url.isLocalFile() && (file.isDir() || isRecordingName(file.fileName()) ||
+                                  file.fileName().endsWith(".xml"))) {
             paths.append(file.absoluteFilePath());
         }
     }
@@ -115,25 +113,41 @@ void DialogMain::dragEnterEvent(QDragEnterEvent* event)
 
 void DialogMain::dropEvent(QDropEvent* event)
 {
-    if (mBusy) {
-        return;
-    }
     event->acceptProposedAction();
-    for (const QString& path : openablePaths(event->mimeData())) {
-        openDropped(path);
+    // Later, so that whoever dropped it need not wait for answers to questions.
+    QTimer::singleShot(0, this, [this, paths = openablePaths(event->mimeData())] {
+        if (!mBusy) {
+            openDropped(paths);
+        }
+    });
+}
+
+void DialogMain::openDropped(const QStringList& paths)
+{
+    std::list<QString> recordings;
+    for (const QString& path : paths) {
+        if (QFileInfo(path).isDir()) {
+            openCard(path);
+        } else if (isRecordingName(path)) {
+            recordings.push_back(path);
+        } else {
+            openDroppedXml(path);
+        }
+    }
+    if (!recordings.empty()) {
+        openCard(recordings.front().section('/', 0, -2));
+        mCard->selectRecords(recordings);
     }
 }
 
-void DialogMain::openDropped(const QString& path)
+void DialogMain::openDroppedXml(const QString& path)
 {
-    if (QFileInfo(path).isDir()) {
-        openCard(path);
-    } else if (isRecording(path)) {
-        openCard(path.section('/', 0, -2));
-        mCard->selectRecord(path);
-    } else if (isProfile(path)) {
+    const QString root = rootName(path);
+    if (root == "CanAerospaceProfile") {
         storeSetting("Profile", path);
         slotProfileFileChanged();
+    } else if (root != "TarnProject") {
+        mStatusBar->say(tr("\"%1\" is neither a project nor a profile.").arg(path));
     } else if (cleanup()) {
         openProject(path);
     }

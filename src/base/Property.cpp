@@ -24,9 +24,12 @@ bool Property::readXmlFile()
 {
     mDamagedFile.clear();
     const QString file = QString::fromStdString(mConfigFile);
-    if (!merge(mConfigFile) && QFileInfo(file).isFile()) {
+    if (!merge(mConfigFile) && QFileInfo(file).isFile() && QFileInfo(file).isReadable()) {
         const QString kept = keepAside(file);
         mDamagedFile = (kept.isEmpty() ? file : kept).toStdString();
+        if (kept.isEmpty()) {
+            mConfigFile.clear(); // where it can't be moved away it is not written over
+        }
     }
     return true;
 }

@@ -117,14 +117,14 @@ void DialogDataGraph::updateControls()
 
 void DialogDataGraph::slotGraphSetup()
 {
-    const auto apply = [this](void (WidgetGraph::*setColor)(float, float, float),
-                              const QString& name) {
-        const QColor color(name);
-        (mGraph->*setColor)(color.redF(), color.greenF(), color.blueF());
-    };
     if (mGraph == nullptr) {
         return;
     }
+    const auto apply = [graph = mGraph](void (WidgetGraph::*setColor)(float, float, float),
+                                        const QString& name) {
+        const QColor color(name);
+        (graph->*setColor)(color.redF(), color.greenF(), color.blueF());
+    };
     mGraph->setXrange(static_cast<float>(mData.xRange));
     mGraph->setDisplayMode(static_cast<eDisplayMode>(mData.displayMode));
     mGraph->setGraphMode(static_cast<eGraphMode>(mData.graphMode));

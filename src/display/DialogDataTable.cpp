@@ -30,7 +30,7 @@ void DialogDataTable::updateProfile()
     {
         const QScopedValueRollback updating(mUpdating, true);
         mModel->updateProfile(*Profile::instance());
-        mTable->resizeColumnsToContents();
+        mTable->fitColumns();
         mTable->setColumnWidth(0, TimeColumnWidth);
     }
     updateRecord(mRecord);

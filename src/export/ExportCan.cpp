@@ -4,6 +4,7 @@
 #include "base/Diagnostics.h"
 #include "base/Numbers.h"
 #include "base/OutputFile.h"
+#include "export/ExportSource.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -63,6 +64,9 @@ std::string_view asText(const unsigned char* bytes, std::size_t size)
 
 ExportResult ExportCan::exportData(Record& record, const CsvExportOptions& options)
 {
+    if (const QString refusal = sourceRefusal(record, options.path()); !refusal.isEmpty()) {
+        return ExportResult::failure(refusal);
+    }
     const QString path = options.path();
     OutputFile file(path);
     if (!file.open()) {

@@ -3,6 +3,7 @@
 #include "base/ClockTime.h"
 #include "base/Diagnostics.h"
 #include "base/OutputFile.h"
+#include "export/ExportSource.h"
 #include "profile/Profile.h"
 
 #include <QtCore/QCoreApplication>
@@ -42,6 +43,9 @@ void appendPadded(std::int64_t value, int digits, std::string& out)
 
 ExportResult ExportCsv::exportData(Record& record, const CsvExportOptions& options)
 {
+    if (const QString source = sourceRefusal(record, options.path()); !source.isEmpty()) {
+        return ExportResult::failure(source);
+    }
     mColumns.clear();
     mCells.clear();
     mEarliest = NoSample;
@@ -52,6 +56,9 @@ ExportResult ExportCsv::exportData(Record& record, const CsvExportOptions& optio
         for (const auto& [uid, parameter] : device.parameters) {
             if (parameter.selected || options.allParameters) {
                 addColumn(record, parameter, options);
+                if (mProgress) {
+                    mProgress(0); // each looks at all its samples; the window stays painted
+                }
             }
         }
     }

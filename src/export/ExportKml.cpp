@@ -1,6 +1,7 @@
 #include "export/ExportKml.h"
 
 #include "base/Numbers.h"
+#include "export/ExportSource.h"
 #include "profile/Profile.h"
 #include "record/Record.h"
 
@@ -43,6 +44,9 @@ constexpr int Opaque = 255;
 
 ExportResult ExportKml::exportData(const Record& record, const KmlExportOptions& options)
 {
+    if (const QString refusal = sourceRefusal(record, options.path()); !refusal.isEmpty()) {
+        return ExportResult::failure(refusal);
+    }
     const RecordData& data = record.recordData();
     const FlightPath path(mProfile, data, options.timeStamp * 0.001, options.startTime,
                           options.stopTime);

@@ -7,14 +7,10 @@
 
 namespace TARN {
 
-namespace {
-
 bool isRecordingName(const QString& name)
 {
     return name.endsWith(".CAN") || name.endsWith(".can");
 }
-
-} // namespace
 
 std::vector<QString> cardFiles(const QString& folder)
 {

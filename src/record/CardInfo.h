@@ -16,6 +16,9 @@ struct CardInfo
     std::map<QString, RecordInfo> records; ///< by full path
 };
 
+/// Whether a file of this name is a recording: it ends in ".CAN" or ".can".
+bool isRecordingName(const QString& name);
+
 /// Full paths of the recordings of a folder, sorted.
 std::vector<QString> cardFiles(const QString& folder);
 

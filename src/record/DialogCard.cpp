@@ -9,6 +9,8 @@
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
 namespace TARN {
 
 DialogCard::DialogCard(QWidget* parent)
@@ -63,13 +65,12 @@ void DialogCard::updateInfo()
     }
 }
 
-void DialogCard::selectRecord(const QString& path)
+void DialogCard::selectRecords(const std::list<QString>& paths)
 {
     for (int row = 0; row < mTree->topLevelItemCount(); ++row) {
         QTreeWidgetItem* item = mTree->topLevelItem(row);
-        if (item->data(0, Qt::UserRole).toString() == path) {
-            mTree->setCurrentItem(item);
-        }
+        const QString path = item->data(0, Qt::UserRole).toString();
+        item->setSelected(std::ranges::find(paths, path) != paths.end());
     }
 }
 

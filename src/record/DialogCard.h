@@ -27,8 +27,8 @@ public:
     void setCardInfo(const CardInfo& info);
     void updateInfo();
 
-    /// Picks one recording as a click on it does.
-    void selectRecord(const QString& path);
+    /// Picks recordings as clicks on them do; those that are not listed are left out.
+    void selectRecords(const std::list<QString>& paths);
 
     /// Adds what reading their samples has shown to the tool tips of the files read.
     void setIntegrity(const RecordIntegrity& integrity);

@@ -53,20 +53,20 @@ void RecordFile::describe(RecordInfo& info)
     info.ignoredBytes = mIgnoredBytes;
     info.startTime = facts.startTime;
     if (mSamples > 0) {
-        info.startTime = sampleTime(0, facts.swapped);
-        info.stopTime = sampleTime(mSamples - 1, facts.swapped);
+        info.startTime = sampleTime(0, facts.swapped).value_or(facts.startTime);
+        info.stopTime = sampleTime(mSamples - 1, facts.swapped).value_or(info.startTime);
     }
     mNext = mSamples;
 }
 
-/// Seconds of sample \p index (from 0); 0 when it can't be read.
-double RecordFile::sampleTime(qint64 index, bool swapped)
+/// Seconds of sample \p index (from 0); nothing when it can't be read.
+std::optional<double> RecordFile::sampleTime(qint64 index, bool swapped)
 {
     unsigned char words[8];
     constexpr qint64 TimeInSample = 20;
     if (!mFile.seek(RecordHeaderSize + index * RecordSampleSize + TimeInSample) ||
         readFully(words, sizeof words) != sizeof words) {
-        return 0.0;
+        return std::nullopt;
     }
     const auto load = swapped ? loadBig<std::uint32_t> : loadLittle<std::uint32_t>;
     return RecordEntry::secondsOf(load(words), load(words + 4));

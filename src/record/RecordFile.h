@@ -6,6 +6,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QString>
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -36,7 +37,7 @@ public:
     void describe(RecordInfo& info);
 
 private:
-    double sampleTime(qint64 index, bool swapped);
+    std::optional<double> sampleTime(qint64 index, bool swapped);
     std::size_t readFully(unsigned char* to, std::size_t bytes);
 
     QFile mFile;

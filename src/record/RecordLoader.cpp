@@ -180,8 +180,6 @@ private:
         }
         integrity.info.fileName = part.path;
         file.describe(integrity.info);
-        mRecord.mRecordInfo.missingHeaderBytes = integrity.info.missingHeaderBytes;
-        mRecord.mRecordInfo.ignoredBytes = integrity.info.ignoredBytes;
         mRecord.mIntegrity.files.push_back(integrity);
     }
 

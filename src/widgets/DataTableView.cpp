@@ -1,5 +1,7 @@
 #include "widgets/DataTableView.h"
 
+#include <QtCore/QScopedValueRollback>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QStyle>
@@ -27,6 +29,11 @@ DataTableView::DataTableView(QWidget* parent) : QTableView(parent)
         header->setFont(font); // a style sheet keeps them from inheriting it
         header->setHighlightSections(false);
     }
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+        if (!mFitting && QGuiApplication::mouseButtons() != Qt::NoButton) {
+            mSizedByUser.insert(column);
+        }
+    });
     mWidening.setSingleShot(true);
     connect(&mWidening, &QTimer::timeout, this, &DataTableView::widenVisible);
     // Measuring a cell costs more than showing it; a thousand rows of a hundred columns, as is
@@ -41,6 +48,13 @@ void DataTableView::setEmptyText(const QString& text)
 {
     mEmptyText = text;
     viewport()->update();
+}
+
+void DataTableView::fitColumns()
+{
+    const QScopedValueRollback fitting(mFitting, true);
+    mSizedByUser.clear();
+    resizeColumnsToContents();
 }
 
 void DataTableView::widenColumns()
@@ -62,7 +76,8 @@ void DataTableView::widenVisible()
 void DataTableView::widen(int column, int width)
 {
     constexpr int Padding = 8;
-    if (width + Padding > columnWidth(column)) {
+    const QScopedValueRollback fitting(mFitting, true);
+    if (!mSizedByUser.contains(column) && width + Padding > columnWidth(column)) {
         setColumnWidth(column, width + Padding);
     }
 }

@@ -3,6 +3,8 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QTableView>
 
+#include <set>
+
 namespace TARN {
 
 /// The table that all data views use: rows of 15 pixels, one row selected at a time, and where
@@ -17,8 +19,10 @@ public:
     void setEmptyText(const QString& text);
     QString emptyText() const { return mEmptyText; }
 
+    /// Gives every column the width that its title and visible values need.
+    void fitColumns();
     /// Gives columns the width that their visible values and a hundred others need; none gets
-    /// narrower.
+    /// narrower, and those that the user has sized stay as they are.
     void widenColumns();
 
 protected:
@@ -33,6 +37,8 @@ private:
 
     QString mEmptyText;
     QTimer mWidening;
+    bool mFitting = false; ///< widths are changed by the program, not by the user
+    std::set<int> mSizedByUser;
 };
 
 } // namespace TARN
