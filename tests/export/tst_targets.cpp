@@ -76,6 +76,9 @@ private Q_SLOTS:
             QTest::addRow("%s, a file for a folder", format) << QByteArray(format) << "file/out";
             QTest::addRow("%s, a folder for a file", format) << QByteArray(format) << "folder";
             QTest::addRow("%s, no name", format) << QByteArray(format) << "folder/";
+            QTest::addRow("%s, the recording", format) << QByteArray(format) << "REC_0000.CAN";
+            QTest::addRow("%s, the recording by another name", format)
+                << QByteArray(format) << "link";
         }
     }
 
@@ -85,11 +88,13 @@ private Q_SLOTS:
         QFETCH(const QString, target);
         write("file", "old");
         QVERIFY(QDir(folder()).mkdir("folder"));
+        QVERIFY(QFile::link(path("REC_0000.CAN"), path("link")));
         const ExportResult result = exportAs(format, path(target), 3);
         QVERIFY(!result.done);
         QVERIFY2(result.message.contains(path(target)), qUtf8Printable(result.message));
         QCOMPARE(read("file"), "old");
         QVERIFY(QDir(path("folder")).isEmpty());
+        QCOMPARE(read("REC_0000.CAN").size(), 128 + 3 * 28);
     }
 
     void diskThatFillsUp_data()

@@ -99,6 +99,13 @@ void Application::anotherProfileKeepsSelectionAndTime()
     QCOMPARE(viewer.parameters()->topLevelItemCount(), 0);
     QCOMPARE(viewer.table()->model()->columnCount(), 1);
     QCOMPARE(viewer.window().record().recordData().limits.size(), 0U);
+    QFile project(viewer.projectPath());
+    const qint64 size = project.size();
+    viewer.answerBox("OK");
+    viewer.action("&Save Project")->trigger(); // would save a project without parameters
+    QVERIFY(viewer.boxWasShown());
+    QCOMPARE(project.size(), size);
+    path->window()->activateWindow();
     QTest::keyClick(path, Qt::Key_Backspace);
     QCOMPARE(viewer.parameter("CHT 1 [°C]")->checkState(0), Qt::Checked);
     QCOMPARE(viewer.parameter("CHT 2 [°C]")->checkState(0), Qt::Unchecked);
@@ -166,36 +173,46 @@ void Application::manualIsSearched()
 
 void Application::opensWhatIsDropped_data()
 {
-    QTest::addColumn<QString>("file");
+    QTest::addColumn<QStringList>("files");
     QTest::addColumn<bool>("taken");
-    QTest::addRow("card folder") << "other" << true;
-    QTest::addRow("recording") << "other/LOG_0002.CAN" << true;
-    QTest::addRow("project") << "other/Two.xml" << true;
-    QTest::addRow("profile") << "other/Profile.xml" << true;
-    QTest::addRow("anything else") << "other/readme.txt" << false;
+    QTest::addColumn<int>("loaded"); // recordings; -1 where the card is not opened
+    QTest::addRow("card folder") << QStringList("") << true << 0;
+    QTest::addRow("recording") << QStringList("LOG_0002.CAN") << true << 1;
+    QTest::addRow("recordings") << QStringList{"LOG_0002.CAN", "LOG_0001.CAN"} << true << 2;
+    QTest::addRow("project") << QStringList("Two.xml") << true << -1;
+    QTest::addRow("profile") << QStringList("Profile.xml") << true << -1;
+    QTest::addRow("other XML") << QStringList("Offset.xml") << true << -1;
+    QTest::addRow("anything else") << QStringList("readme.txt") << false << -1;
 }
 
 void Application::opensWhatIsDropped()
 {
-    QFETCH(QString, file);
-    QFETCH(bool, taken);
+    QFETCH(const QStringList, files);
+    QFETCH(const bool, taken);
+    QFETCH(const int, loaded);
     Viewer viewer;
-    const QString home = viewer.cardPath().section('/', 0, -2);
-    QVERIFY(QFile::rename(viewer.cardPath(), home + "/other"));
-    QVERIFY(QFile::copy(ORNA_RESOURCES "/Tolvane_Profile.xml", home + "/other/Profile.xml"));
-    QVERIFY(QFile::copy(viewer.projectPath(), home + "/other/Two.xml"));
-    QVERIFY(QFile::copy(viewer.projectPath(), home + "/other/readme.txt"));
+    const QString card = viewer.cardPath().section('/', 0, -2) + "/other";
+    QVERIFY(QFile::rename(viewer.cardPath(), card));
+    QVERIFY(QFile::copy(ORNA_RESOURCES "/Tolvane_Profile.xml", card + "/Profile.xml"));
+    QVERIFY(QFile::copy(viewer.projectPath(), card + "/Two.xml"));
+    QVERIFY(QFile::copy(viewer.projectPath(), card + "/readme.txt"));
+    QFile offset(card + "/Offset.xml");
+    QVERIFY(offset.open(QIODevice::WriteOnly) && offset.write("<TarnOffset/>") > 0);
+    offset.close();
     viewer.writeSettings("", "no profile", "");
     viewer.start();
-    const QString path = home + "/" + file;
-    QCOMPARE(drop(&viewer.window(), {path}), taken);
+    QStringList paths;
+    for (const QString& file : files) {
+        paths.append(file.isEmpty() ? card : card + "/" + file);
+    }
+    QCOMPARE(drop(&viewer.window(), paths), taken);
     QTest::qWait(700);
-    const bool isCard = !file.contains('.') || file.endsWith("CAN");
-    QCOMPARE(viewer.recordings()->topLevelItemCount(), isCard ? 2 : 0);
-    QCOMPARE(setting("LastPath"), isCard ? home + "/other" : QString());
-    QCOMPARE(!viewer.window().record().recordData().empty(), file.endsWith("CAN"));
-    QCOMPARE(setting("LastProjectPath") == path, file.endsWith("Two.xml"));
-    QCOMPARE(viewer.parameters()->topLevelItemCount() > 0, file.endsWith("Profile.xml"));
+    QCOMPARE(viewer.recordings()->topLevelItemCount(), loaded < 0 ? 0 : 2);
+    QCOMPARE(setting("LastPath"), loaded < 0 ? QString() : card);
+    QCOMPARE(viewer.window().record().integrity().files.size(),
+             static_cast<std::size_t>(std::max(0, loaded)));
+    QCOMPARE(setting("LastProjectPath") == paths.first(), files.contains("Two.xml"));
+    QCOMPARE(viewer.parameters()->topLevelItemCount() > 0, files.contains("Profile.xml"));
 }
 
 void Application::profileOpenedAsProjectIsNotReplaced()
