@@ -3,11 +3,12 @@
 #include "base/Diagnostics.h"
 #include "base/Numbers.h"
 #include "base/OutputFile.h"
+#include "base/XmlSafety.h"
 #include "base/XmlText.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QXmlStreamReader>
+#include <QtCore/QStringDecoder>
 
 #include <algorithm>
 
@@ -16,7 +17,6 @@ namespace TARN {
 namespace {
 
 constexpr qint64 LargestFile = 16 << 20;
-constexpr int DeepestNesting = 256;
 
 enum class ReadResult
 {
@@ -24,26 +24,6 @@ enum class ReadResult
     NotOpened,
     NotParsed
 };
-
-/// Parses once without building a tree: deep nesting is met before it can overflow the stack of
-/// the tree's recursive destructor.
-bool isSafeXml(const QByteArray& content, QString& reason)
-{
-    QXmlStreamReader reader(content);
-    reader.setNamespaceProcessing(false);
-    int depth = 0;
-    while (!reader.atEnd() && depth <= DeepestNesting) {
-        const auto token = reader.readNext();
-        depth +=
-            (token == QXmlStreamReader::StartElement) - (token == QXmlStreamReader::EndElement);
-    }
-    if (reader.hasError()) {
-        reason = QString("line %1: %2").arg(reader.lineNumber()).arg(reader.errorString());
-    } else if (depth > DeepestNesting) {
-        reason = QString("line %1: nested too deeply").arg(reader.lineNumber());
-    }
-    return reason.isEmpty();
-}
 
 ReadResult readDocument(QDomDocument& document, const QString& name, QString& reason)
 {
@@ -59,7 +39,8 @@ ReadResult readDocument(QDomDocument& document, const QString& name, QString& re
         reason = "larger than 16 MiB";
         return ReadResult::NotParsed;
     }
-    if (!isSafeXml(content, reason)) {
+    reason = xmlObjection(content);
+    if (!reason.isEmpty()) {
         return ReadResult::NotParsed;
     }
     if (!document.setContent(content, false, &reason)) {
@@ -72,6 +53,14 @@ ReadResult readDocument(QDomDocument& document, const QString& name, QString& re
 const QDomAttr attributeOf(const QDomNamedNodeMap& map, const QString& name)
 {
     return map.namedItem(name).toAttr();
+}
+
+/// Unlike the toolkit's own conversion this keeps a byte order mark that a text begins with.
+QString fromUtf8(const std::string& text)
+{
+    using Decoder = QStringDecoder;
+    Decoder decoder(Decoder::Utf8, Decoder::Flag::Stateless | Decoder::Flag::ConvertInitialBom);
+    return decoder(QByteArrayView(text));
 }
 
 /// The toolkit also takes "0b" for binary numbers, which no writer of these files means.
@@ -115,7 +104,7 @@ QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& ele
 QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& element,
                                         const QString& name, const std::string& value)
 {
-    return xmlCreateAttribute(document, element, name, QString::fromStdString(value));
+    return xmlCreateAttribute(document, element, name, fromUtf8(value));
 }
 
 QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& element,
@@ -145,7 +134,7 @@ QDomAttr XmlHandler::xmlCreateAttribute(QDomDocument& document, QDomElement& ele
 void XmlHandler::xmlCreateParameter(QDomElement& element, const QString& name,
                                     const std::string& value)
 {
-    element.setAttribute(name, QString::fromStdString(value));
+    element.setAttribute(name, fromUtf8(value));
 }
 
 QString XmlHandler::xmlGetStringAttribute(const QDomNamedNodeMap& map, const QString& name,

@@ -44,8 +44,7 @@ public:
     bool xmlGetBoolAttribute(const QDomNamedNodeMap& map, const QString& name, bool def);
 
     /// Reads and parses a file; says on the diagnostic stream what failed. On failure the
-    /// document is empty. Files above 16 MiB and nesting deeper than 256 elements are refused:
-    /// no file of ours comes near, and both could exhaust memory or the stack.
+    /// document is empty. Files above 16 MiB are refused, and those that XmlSafety objects to.
     bool xmlReadFile(QDomDocument& document, const QString& file);
     /// The same for folder + "/" + file, silent.
     bool xmlReadFile(QDomDocument& document, const QString& folder, const QString& file);

@@ -143,6 +143,15 @@ private Q_SLOTS:
         QTest::addRow("never closed") << QByteArray("<e>").repeated(1000000);
         QTest::addRow("deep through an entity")
             << "<!DOCTYPE r [<!ENTITY d '" + nested(400) + "'>]><r>&d;</r>";
+        QTest::addRow("long through entities")
+            << "<!DOCTYPE r [<!ENTITY e 'x'>]><r>" + QByteArray("&e;").repeated(70000) + "</r>";
+        QTest::addRow("many attributes by default")
+            << "<!DOCTYPE r [" + QByteArray("<!ATTLIST r a CDATA ''>").repeated(200) + "]><r/>";
+        QByteArray attributes;
+        for (int i = 0; i < 300; ++i) {
+            attributes += " a" + QByteArray::number(i) + " = ''";
+        }
+        QTest::addRow("many attributes") << "<r" + attributes + "/>";
         QTest::addRow("too large") << "<r>" + QByteArray(16 << 20, ' ') + "</r>";
         QTest::addRow("deepest allowed") << nested(256);
     }

@@ -10,6 +10,16 @@
 
 namespace Fuzz {
 
+namespace {
+
+/// What is diagnosed of thousands of damaged inputs a second would only be in the way.
+[[maybe_unused]] const bool IsSilent = [] {
+    TARN::setDiagnosticStream(std::fopen("/dev/null", "w"));
+    return true;
+}();
+
+} // namespace
+
 void require(bool holds, const char* promise)
 {
     if (!holds) {
@@ -20,10 +30,7 @@ void require(bool holds, const char* promise)
 
 QString path(const QString& name)
 {
-    static const QTemporaryDir folder = [] {
-        TARN::setDiagnosticStream(std::fopen("/dev/null", "w"));
-        return QTemporaryDir();
-    }();
+    static const QTemporaryDir folder;
     return folder.filePath(name);
 }
 

@@ -17,8 +17,7 @@ using Bytes = std::span<const std::uint8_t>;
 /// Ends the process with a message when a promise is broken; fuzzer and replay both notice.
 void require(bool holds, const char* promise);
 
-/// Path of a file of this process's own folder, which is new for each process. Silences the
-/// diagnostics with the first call.
+/// Path of a file of this process's own folder, which is new for each process.
 QString path(const QString& name);
 QString write(const QString& name, Bytes content);
 QByteArray read(const QString& name);

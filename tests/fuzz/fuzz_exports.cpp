@@ -13,6 +13,7 @@
 #include "faults/FaultHistory.h"
 #include "fuzz/Fuzz.h"
 #include "profile/Profile.h"
+#include "profile/UnknownIdentifiers.h"
 
 #include <algorithm>
 #include <cmath>
@@ -68,6 +69,14 @@ void checkEvents(Record& record, const Profile& profile)
         Fuzz::require(!next || *next > *time, "from event to event time goes on");
         time = next;
     }
+}
+
+void checkUnknown(const RecordData& data, const Profile& profile)
+{
+    const UnknownIdentifiers unknown = unknownIdentifiers(data, profile);
+    Fuzz::require(unknown.identifiers <= data.lists().size() && unknown.samples <= data.count() &&
+                      unknown.remark().isEmpty() == (unknown.identifiers == 0),
+                  "unknown identifiers are among those that are there");
 }
 
 void checkFaults(const Record& record, const Profile& profile)
@@ -211,16 +220,23 @@ CsvExportOptions takeOptions(Fuzz::Input& input, const RecordInfo& info)
     return options;
 }
 
-void load(Fuzz::Input& input, Record& record, Profile& profile)
+/// Loads the input's profile, or the fixed one where it brings none. That is most inputs, and
+/// reading it takes longer than all the rest, so it is kept until another is loaded.
+void loadProfile(Profile& profile, Fuzz::Bytes xml)
 {
-    const bool highFile = (input.take<std::uint8_t>() & 1) != 0;
-    const double offset = input.take<float>();
-    const Fuzz::Bytes xml = input.take(input.take<std::uint16_t>());
-    const auto* fixed = reinterpret_cast<const std::uint8_t*>(FixedProfile);
-    profile.loadProfile(Fuzz::write(
-        "profile.xml", xml.empty() ? Fuzz::Bytes(fixed, std::strlen(FixedProfile)) : xml));
-    profile.forEachParameter(
-        [](const ProfileDevice&, ProfileParameter& parameter) { parameter.selected = true; });
+    static bool isFixed = false;
+    if (!xml.empty() || !isFixed) {
+        const auto* fixed = reinterpret_cast<const std::uint8_t*>(FixedProfile);
+        profile.loadProfile(Fuzz::write(
+            "profile.xml", xml.empty() ? Fuzz::Bytes(fixed, std::strlen(FixedProfile)) : xml));
+        profile.forEachParameter(
+            [](const ProfileDevice&, ProfileParameter& parameter) { parameter.selected = true; });
+    }
+    isFixed = xml.empty();
+}
+
+void loadRecord(Fuzz::Input& input, Record& record, bool highFile, double offset)
+{
     record.readRecordData({Fuzz::write(highFile ? "REC_8000.CAN" : "REC_0000.CAN", input.rest())});
     record.recordData().offset = std::isfinite(offset) ? offset : 0.0;
 }
@@ -235,8 +251,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Fuzz::Input choices(input.take(4));
     Record record;
     Profile& profile = *Profile::instance();
-    load(input, record, profile);
+    const bool highFile = (input.take<std::uint8_t>() & 1) != 0;
+    const double offset = input.take<float>();
+    loadProfile(profile, input.take(input.take<std::uint16_t>()));
+    loadRecord(input, record, highFile, offset);
     CsvExportOptions options = takeOptions(choices, record.recordInfo());
+    checkUnknown(record.recordData(), profile);
     checkEvents(record, profile);
     checkFaults(record, profile);
     checkTable(record, profile);

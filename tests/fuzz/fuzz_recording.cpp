@@ -2,9 +2,11 @@
 
 #include "fuzz/Fuzz.h"
 #include "record/Record.h"
+#include "record/RecordText.h"
 
 #include <algorithm>
 #include <map>
+#include <utility>
 #include <vector>
 
 using namespace TARN;
@@ -147,6 +149,26 @@ void checkOrders(const RecordData& data, std::vector<RecordEntry> samples)
     }
 }
 
+/// What is told of a file that could be read to its end.
+void checkIntegrity(const FileIntegrity& told, const PlainFile& file)
+{
+    const std::size_t size = file.bytes.size();
+    const auto others = std::ranges::count_if(
+        file.samples, [](const RecordEntry& entry) { return entry.channel > 1; });
+    Fuzz::require(told.samples == file.samples.size() && told.unread == 0, "every sample is read");
+    Fuzz::require(std::cmp_equal(told.otherChannels, others), "samples of other channels");
+    Fuzz::require(std::cmp_equal(told.info.missingHeaderBytes, size < 128 ? 128 - size : 0),
+                  "a header cut short");
+    Fuzz::require(std::cmp_equal(told.info.ignoredBytes, size < 128 ? 0 : (size - 128) % 28),
+                  "bytes at the end");
+    const TimeFindings& found = told.found;
+    Fuzz::require(found.impossibleTimes + found.gaps <= told.samples &&
+                      found.firstImpossible <= told.samples &&
+                      (found.longestGap > 0.0) == (found.gaps > 0),
+                  "findings are of samples that are there");
+    recordSection(told);
+}
+
 } // namespace
 
 /// The first byte says whether there are two files and the next two where the second begins.
@@ -171,6 +193,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Fuzz::require(record.readRecordData(paths), "two files are read");
         checkOrders(record.recordData(), samples);
     }
+    checkIntegrity(record.integrity().files.front(), first);
+    checkIntegrity(record.integrity().files.back(), hasTwo ? second : first);
     checkLists(record.recordData(), samples, first.samples.size());
     if (!samples.empty()) {
         const auto [earliest, latest] = std::ranges::minmax(samples, {}, &RecordEntry::time);

@@ -7,6 +7,9 @@
 #include "profile/Project.h"
 #include "record/Record.h"
 
+#include <QtCore/QFile>
+
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <vector>
@@ -30,11 +33,31 @@ std::vector<QString> attributesOf(const QString& path, const QString& element, c
     return values;
 }
 
-void checkConfiguration(const QString& path)
+bool isReadable(const QString& path)
+{
+    QDomDocument document;
+    return XmlHandler().xmlReadFile(document, path);
+}
+
+/// What could not be read lies beside its place, byte for byte. Takes it away, for the next run.
+void checkKeptAside(const QString& name, Fuzz::Bytes bytes)
+{
+    const QByteArray kept = Fuzz::read(name + ".damaged");
+    Fuzz::require(std::ranges::equal(kept, bytes, {}, [](char c) { return std::uint8_t(c); }),
+                  "a damaged file is kept aside");
+    Fuzz::require(QFile::remove(Fuzz::path(name + ".damaged")), "what is kept aside is a file");
+}
+
+void checkConfiguration(const QString& path, Fuzz::Bytes bytes)
 {
     Property& property = *Property::instance();
     property.clear();
-    property.readXmlFile(path.toStdString());
+    const QString config = Fuzz::write("config.xml", bytes);
+    property.setConfigFile(config.toStdString());
+    property.readXmlFile();
+    if (!isReadable(path)) {
+        checkKeptAside("config.xml", bytes);
+    }
     std::map<std::string, std::string> settings;
     for (const QString& key : attributesOf(path, "Property", "id")) {
         const std::string id = key.toStdString();
@@ -90,6 +113,7 @@ void checkProject(const QString& path)
                   "a project that can't be read marks nothing");
     const std::string copy = Fuzz::path("project.xml").toStdString();
     Fuzz::require(project.saveProject(copy), "a project is written");
+    Fuzz::require(Project::mayReplace(copy), "a project may be replaced by another");
     project.clear();
     Fuzz::require(project.readProject(copy) && marks() == selected, "a project is kept");
 }
@@ -103,7 +127,12 @@ void checkOffset(Fuzz::Bytes bytes)
     Fuzz::require(record.readRecordData({recording}), "a recording without samples is read");
     const double offset = record.recordData().offset;
     Fuzz::require(std::isfinite(offset), "an offset is a number");
+    const bool isDamaged = !isReadable(Fuzz::path("Offset.xml"));
+    Fuzz::require(record.integrity().damagedOffset.isEmpty() != isDamaged, "damage is told");
     Fuzz::require(record.saveOffset(), "an offset is written");
+    if (isDamaged) {
+        checkKeptAside("Offset.xml", bytes);
+    }
     Record again;
     Fuzz::require(again.readRecordData({recording}), "a recording without samples is read");
     // Kept with twelve decimals.
@@ -115,7 +144,7 @@ void checkOffset(Fuzz::Bytes bytes)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QString path = Fuzz::write("input.xml", {data, size});
-    checkConfiguration(path);
+    checkConfiguration(path, {data, size});
     checkProject(path);
     checkOffset({data, size});
     return 0;
