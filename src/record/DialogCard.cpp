@@ -19,6 +19,7 @@ DialogCard::DialogCard(QWidget* parent)
                           "window.")))
 {
     mFolder->setReadOnly(true);
+    mFolder->setFocusPolicy(Qt::ClickFocus); // a text field keeps Ctrl+C, which opens a card
     mFolder->setPlaceholderText(tr("No card opened"));
     mFolder->setToolTip(tr("Folder of the recordings"));
     mFolder->setAccessibleName(tr("Card folder"));

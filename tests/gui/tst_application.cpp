@@ -34,6 +34,7 @@ private Q_SLOTS:
     void manualIsSearched();
     void opensWhatIsDropped_data();
     void opensWhatIsDropped();
+    void keyOpensACardFromTheStart();
     void profileOpenedAsProjectIsNotReplaced();
     void windowComesBackAsItWas();
     void everyControlSaysWhatItIs();
@@ -68,6 +69,23 @@ bool drop(QWidget* window, const QStringList& paths)
     QApplication::sendEvent(window, &fall);
     return true;
 }
+
+/// Dismisses the file chooser that opens next.
+struct FileChooser
+{
+    FileChooser()
+    {
+        QTimer::singleShot(200, qApp, [this] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            came = dialog != nullptr;
+            if (came) {
+                dialog->reject();
+            }
+        });
+    }
+
+    bool came = false;
+};
 
 QString setting(const char* key)
 {
@@ -215,6 +233,16 @@ void Application::opensWhatIsDropped()
     QCOMPARE(viewer.parameters()->topLevelItemCount() > 0, files.contains("Profile.xml"));
 }
 
+void Application::keyOpensACardFromTheStart()
+{
+    Viewer viewer;
+    viewer.start();
+    const FileChooser chooser;
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+    QTest::qWait(400);
+    QVERIFY(chooser.came);
+}
+
 void Application::profileOpenedAsProjectIsNotReplaced()
 {
     Viewer viewer;
@@ -223,16 +251,9 @@ void Application::profileOpenedAsProjectIsNotReplaced()
     viewer.writeSettings(viewer.cardPath(), profile, profile);
     viewer.start();
     viewer.clickCheckBox(viewer.parameter("CHT 1 [°C]"));
-    bool asked = false;
-    QTimer::singleShot(200, this, [&] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        asked = dialog != nullptr;
-        if (dialog != nullptr) {
-            dialog->reject();
-        }
-    });
+    const FileChooser chooser;
     viewer.action("&Save Project")->trigger();
-    QVERIFY(asked);
+    QVERIFY(chooser.came);
     QFile file(profile);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QVERIFY(file.readAll().contains("<CanAerospaceProfile"));
