@@ -25,7 +25,7 @@ kept=$PWD/tests/fuzz/corpus/$target
 found=$build/corpus/$target
 mkdir -p "$kept" "$found" "$build/finds"
 if [ "$seconds" = merge ]; then
-    exec "$build/bin/fuzz_$target" -merge=1 "$kept" "$found"
+    exec "$build/bin/fuzz_$target" -merge=1 -use_counters=0 "$kept" "$found"
 fi
 
 case $target in
