@@ -46,7 +46,7 @@ done
 (cd "$work" && cpack -G DEB --config "$build/CPackConfig.cmake" >"$work/cpack" 2>&1) ||
     fail "$(cat "$work/cpack")"
 dpkg-deb -c "$work"/orna_*.deb | awk '{print $6}' >"$work/files"
-dpkg-deb -f "$work"/orna_*.deb Depends | grep -q 'libqt6widgets6' || fail "no library dependencies"
+[[ $(dpkg-deb -f "$work"/orna_*.deb Depends) == *libqt6widgets6* ]] || fail "no library dependencies"
 resources=lib/orna/orna.app/Contents/Resources
 for file in bin/orna{,-cli,-demo} lib/orna/orna.app/Contents/MacOS/orna \
     $resources/{Tolvane_Profile.xml,{tarn,qt}_{de,es,fr,pt,cz}.qm} \

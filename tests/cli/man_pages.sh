@@ -12,7 +12,8 @@ check() { # page, command, what the help says
     page=$(sed 's/\\-/-/g' "$pages/$1.1.in")
     synopsis=$(awk -v command="$2" '
         $1 == ".SY" { name = $0; gsub(/^\.SY |"/, "", name); inside = name == command }
-        inside' <<<"$page" | sed '/^\.YS/q')
+        $1 == ".YS" { inside = 0 }
+        inside' <<<"$page")
     entries=$(sed -n '/^\.SH OPTIONS/,/^\.SH EXIT/p' <<<"$page" | grep -A1 '^\.TP')
     if ! diff <(options <<<"$3") <(options <<<"$synopsis"); then
         echo "$1(1): the synopsis of \"$2\" (>) is not what its help says (<)"
