@@ -4,36 +4,14 @@
 #include "export/ExportKml.h"
 #include "export/RecordTest.h"
 #include "profile/Project.h"
+#include "support/ResourceLimit.h"
 
 #include <QtCore/QDir>
 
 #include <cerrno>
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace TARN;
-
-namespace {
-
-/// While it lives, no file of this process can grow beyond a size, as on a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &mBefore);
-        const rlimit limit{bytes, mBefore.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &mBefore); }
-
-private:
-    rlimit mBefore{};
-};
-
-} // namespace
 
 /// Where an export can't be written, it says so and nothing is changed.
 class TestTargets : public RecordTest
@@ -59,7 +37,7 @@ class TestTargets : public RecordTest
         };
         CsvExportOptions options = complete(CsvExportOptions());
         options.allParameters = true;
-        const FullDisk limit(room);
+        const ResourceLimit limit = ResourceLimit::fullDisk(room);
         return format == "csv" ? ExportCsv(profile).exportData(record, options)
                : format == "can"
                    ? ExportCan().exportData(record, options)
@@ -147,7 +125,7 @@ private Q_SLOTS:
         const QStringList files = QDir(folder()).entryList();
         const QList<QByteArray> before = {read("ORNA.ini"), read("Offset.xml"), read("p.xml")};
         for (const rlim_t room : {0, 20}) {
-            const FullDisk limit(room);
+            const ResourceLimit limit = ResourceLimit::fullDisk(room);
             QCOMPARE(saveAll(2), 0);
             QCOMPARE(QDir(folder()).entryList(), files);
             QCOMPARE(QList({read("ORNA.ini"), read("Offset.xml"), read("p.xml")}), before);
