@@ -92,8 +92,8 @@ void EventViews::listsTellTheStory()
     }
     const QStringList story = {"Engine CHT 3",          "Engine CHT 3",      "Engine Oil Pressure",
                                "Engine Oil Pressure",   "Engine EGT 5",      "Warnings Lamp LOW",
-                               "Warnings Lamp STARTER", "Warnings Lamp CHT", "Warnings Lamp CHT",
-                               "Warnings Lamp OIL"};
+                               "Warnings Lamp Starter", "Warnings Lamp Cylinder", "Warnings Lamp Cylinder",
+                               "Warnings Lamp Oil"};
     QCOMPARE(told, story);
     QCOMPARE(limits()->model()->index(0, 0).data().toString(), "09:23:38.706");
     QCOMPARE(limits()->model()->headerData(1, Qt::Horizontal), "Warning/Limit Exceed");

@@ -21,16 +21,19 @@ std::uint64_t startTicks()
     return static_cast<std::uint64_t>(day.hour * 3600 + day.minute * 60) * kTicksPerSecond;
 }
 
-CanHeader header()
+/// The header of a file whose recording begins at \p ticks since midnight.
+CanHeader headerAt(std::uint64_t ticks)
 {
     FlightDay day;
     CanHeader header;
     header.year = day.year;
     header.month = day.month;
     header.day = day.day;
-    header.hour = day.hour;
-    header.minute = day.minute;
-    header.startTicks = startTicks();
+    int second = static_cast<int>(ticks / kTicksPerSecond);
+    header.hour = second / 3600;
+    header.minute = second / 60 % 60;
+    header.second = second % 60;
+    header.startTicks = ticks;
     header.busType = 1;
     header.ecuSerialNumber = 20417;
     header.softwarePartA = "TLV-7310-A04";
@@ -93,13 +96,14 @@ private:
         int number = static_cast<int>(mFiles.size()) + 1;
         auto path = std::filesystem::path(mOptions.folder) / fileName(number);
         mFiles.push_back(std::make_unique<CanWriter>(path.string(), mOptions.littleEndian));
+        std::uint64_t begin = number == 1 ? startTicks() : mFileEnd;
         std::uint64_t whole = static_cast<std::uint64_t>(mOptions.minutes) * 60 * kTicksPerSecond;
         auto count = static_cast<std::uint64_t>(mOptions.files);
         mFileEnd = startTicks() + whole / count * static_cast<std::uint64_t>(number);
         // What the bus delays beyond the end of the flight still belongs to the last file.
         if (number == mOptions.files)
             mFileEnd = UINT64_MAX;
-        return mFiles.back()->open(header());
+        return mFiles.back()->open(headerAt(begin));
     }
 
     bool finish() { return mFiles.back()->close(); }

@@ -51,9 +51,10 @@ constexpr MessageRow kTable[] = {
     row(325, AirData, Float, 5, 0.01, 0.02, S::ImpactPressure),
     row(326, AirData, Float, 2, 0.01, 0.02, S::StaticPressure),
 
-    row(1036, Gps, Float, 5, 1e-6, 0.0, S::Latitude),
-    row(1037, Gps, Float, 5, 1e-6, 0.0, S::Longitude),
-    row(1038, Gps, Float, 5, 0.1, 0.15, S::GpsAltitude),
+    // Twice as often as the shortest position slot of a flight path: none of them stays empty.
+    row(1036, Gps, Float, 20, 1e-6, 0.0, S::Latitude),
+    row(1037, Gps, Float, 20, 1e-6, 0.0, S::Longitude),
+    row(1038, Gps, Float, 10, 0.1, 0.15, S::GpsAltitude),
     row(1039, Gps, Float, 5, 0.1, 0.05, S::GroundSpeed),
     row(1040, Gps, FloatAngle, 5, 0.1, 0.05, S::Track),
     row(1044, Gps, FloatMinutes, 1, 0.001, 0.0, S::Latitude),
