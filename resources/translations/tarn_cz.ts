@@ -72,6 +72,46 @@
     </message>
 </context>
 <context>
+    <name>EmptyText</name>
+    <message>
+        <source>No profile is loaded, so nothing can be decoded and nothing was checked.
+Choose one in the &lt;a href=&quot;preferences&quot;&gt;preferences&lt;/a&gt;.</source>
+        <translation>Není načten žádný profil, proto nelze nic dekódovat a nic nebylo zkontrolováno.
+Zvolte jej v &lt;a href=&quot;preferences&quot;&gt;předvolbách&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The recording is being loaded.</source>
+        <translation>Záznam se načítá.</translation>
+    </message>
+    <message>
+        <source>No recording is loaded.
+Open a card and pick one or more recordings in the list on the left.</source>
+        <translation>Není načten žádný záznam.
+Otevřete kartu a vyberte v seznamu vlevo jeden nebo více záznamů.</translation>
+    </message>
+    <message>
+        <source>The recording holds no samples, so nothing was checked.</source>
+        <translation>Záznam neobsahuje žádné vzorky, proto nebylo nic zkontrolováno.</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.
+Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
+        <translation>Není vybrán žádný parametr.
+Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</translation>
+    </message>
+</context>
+<context>
+    <name>EventMarks</name>
+    <message>
+        <source>%1 came</source>
+        <translation>vznik %1</translation>
+    </message>
+    <message>
+        <source>%1 went</source>
+        <translation>zánik %1</translation>
+    </message>
+</context>
+<context>
     <name>ExportCan</name>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
@@ -123,32 +163,27 @@
         <source>No position lies in the time range, the flight path is empty.</source>
         <translation>V časovém rozsahu není žádná poloha, dráha letu je prázdná.</translation>
     </message>
+    <message>
+        <source>Left out, because no position lies in their time slot: %1 values, %2 events. A longer &quot;Timestamp every&quot; keeps them.</source>
+        <translation>Vynecháno, protože v jejich časovém úseku není žádná poloha – hodnoty: %1, události: %2. S delším intervalem „Časový údaj každých“ zůstanou zachovány.</translation>
+    </message>
 </context>
 <context>
-    <name>ExportTarget</name>
-    <message>
-        <source>Type a file name, without a folder.</source>
-        <translation>Zadejte název souboru bez složky.</translation>
-    </message>
-    <message>
-        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
-        <translation>Složka „%1“ neexistuje. Zvolte jinou.</translation>
-    </message>
-    <message>
-        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
-        <translation>Do složky „%1“ nelze zapisovat. Zvolte jinou.</translation>
-    </message>
-    <message>
-        <source>ORNA Warning</source>
-        <translation>ORNA – upozornění</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation>Soubor „%1“ v této složce již existuje. Nahradit?</translation>
-    </message>
+    <name>Exporter</name>
     <message>
         <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
         <translation>Soubor „%1“ je sám záznam. Zvolte jiný název nebo složku.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this export; choose a shorter time range.</source>
+        <translation>Pro tento export není dost paměti; zvolte kratší časový rozsah.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFile</name>
+    <message>
+        <source>it is no file</source>
+        <translation>není to běžný soubor</translation>
     </message>
 </context>
 <context>
@@ -164,6 +199,10 @@
     <message>
         <source>not enough memory to read the recording; load fewer at once</source>
         <translation>nedostatek paměti pro načtení záznamu; načtěte méně záznamů najednou</translation>
+    </message>
+    <message>
+        <source>could not read the recording &quot;%1&quot; to its end; check that the card is still in place</source>
+        <translation>záznam „%1“ se nepodařilo přečíst do konce; zkontrolujte, zda je karta stále vložena</translation>
     </message>
 </context>
 <context>
@@ -272,12 +311,185 @@
         <source>Files</source>
         <translation>Soubory</translation>
     </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 a %2</translation>
+    </message>
+    <message>
+        <source>Files that overlap in time: %1, the first are %2. They do not belong together</source>
+        <translation>Soubory, které se časově překrývají: %1, první jsou %2. Nepatří k sobě</translation>
+    </message>
+    <message>
+        <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
+        <translation>Datum v hlavičkách od %1 do %2, vzorky však pokrývají jen %3 s: soubory nejsou z jednoho letu</translation>
+    </message>
+</context>
+<context>
+    <name>StartMessages</name>
+    <message>
+        <source>HOME is not set: settings are kept in &quot;%1&quot;.</source>
+        <translation>Proměnná HOME není definována: nastavení se ukládá do složky „%1“.</translation>
+    </message>
+    <message>
+        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>Nastavení se nepodařilo přečíst, program se spouští s výchozími hodnotami. Poškozený soubor je uschován jako „%1“.</translation>
+    </message>
+    <message>
+        <source>Samples loaded: %1</source>
+        <translation>Načteno vzorků: %1</translation>
+    </message>
+    <message>
+        <source>. Remarks (see Recording Details): %1. </source>
+        <translation>. Poznámky (viz Podrobnosti záznamu): %1. </translation>
+    </message>
 </context>
 <context>
     <name>StartUp</name>
     <message>
         <source>Creating Dialogs ...</source>
         <translation>Vytváření oken ...</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ActivityBar</name>
+    <message>
+        <source>Progress</source>
+        <translation>Průběh</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+    <message>
+        <source>, %1 s left</source>
+        <translation>, zbývá %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::CommandSet</name>
+    <message>
+        <source>&amp;New Project</source>
+        <translation>&amp;Nový projekt</translation>
+    </message>
+    <message>
+        <source>Create new Project</source>
+        <translation>Vytvořit nový projekt</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project</source>
+        <translation>&amp;Otevřít projekt</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Otevřít projekt</translation>
+    </message>
+    <message>
+        <source>Open Project File</source>
+        <translation>Otevřít soubor projektu</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project</source>
+        <translation>&amp;Uložit projekt</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Uložit projekt</translation>
+    </message>
+    <message>
+        <source>Save Project File</source>
+        <translation>Uložit soubor projektu</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project as</source>
+        <translation>Uložit projekt &amp;jako</translation>
+    </message>
+    <message>
+        <source>Save Project as</source>
+        <translation>Uložit projekt jako</translation>
+    </message>
+    <message>
+        <source>Save Project File as</source>
+        <translation>Uložit soubor projektu jako</translation>
+    </message>
+    <message>
+        <source>&amp;Open Card</source>
+        <translation>Otevřít k&amp;artu</translation>
+    </message>
+    <message>
+        <source>Open Card</source>
+        <translation>Otevřít kartu</translation>
+    </message>
+    <message>
+        <source>Open SD Card</source>
+        <translation>Otevřít SD kartu</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Předvolby</translation>
+    </message>
+    <message>
+        <source>Open Preferences Dialog</source>
+        <translation>Otevřít okno předvoleb</translation>
+    </message>
+    <message>
+        <source>Recording Details</source>
+        <translation>Podrobnosti záznamu</translation>
+    </message>
+    <message>
+        <source>Show the Header and the Damages of the Recording</source>
+        <translation>Zobrazit hlavičku a poškození záznamu</translation>
+    </message>
+    <message>
+        <source>Export Google KML File</source>
+        <translation>Exportovat soubor Google KML</translation>
+    </message>
+    <message>
+        <source>Export Google Earth KML File</source>
+        <translation>Exportovat soubor Google Earth KML</translation>
+    </message>
+    <message>
+        <source>Export CSV/CAN File</source>
+        <translation>Exportovat soubor CSV/CAN</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>U&amp;končit</translation>
+    </message>
+    <message>
+        <source>Quit Application</source>
+        <translation>Ukončit aplikaci</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>O programu</translation>
+    </message>
+    <message>
+        <source>Show License Information</source>
+        <translation>Zobrazit informace o licenci</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Nápověda</translation>
+    </message>
+    <message>
+        <source>Help Window</source>
+        <translation>Okno nápovědy</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Soubor</translation>
+    </message>
+    <message>
+        <source>&amp;Extras</source>
+        <translation>&amp;Nástroje</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ná&amp;pověda</translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Hlavní panel nástrojů</translation>
     </message>
 </context>
 <context>
@@ -343,54 +555,6 @@ Otevřete kartu (Ctrl+C) nebo přetáhněte její složku do okna.</translation>
         <source>Fault Matrix</source>
         <translation>Matice poruch</translation>
     </message>
-    <message>
-        <source>Date and time of day</source>
-        <translation>Datum a denní čas</translation>
-    </message>
-    <message>
-        <source>Time on the recording&apos;s clock</source>
-        <translation>Čas podle hodin záznamu</translation>
-    </message>
-    <message>
-        <source>Offset:</source>
-        <translation>Posun:</translation>
-    </message>
-    <message>
-        <source> s</source>
-        <translation> s</translation>
-    </message>
-    <message>
-        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
-        <translation>Sekundy přičítané k časům jednotek, jejichž hodiny jdou jinak; ukládají se do složky karty</translation>
-    </message>
-    <message>
-        <source>Current time, from the recording&apos;s start to its stop</source>
-        <translation>Aktuální čas, od začátku do konce záznamu</translation>
-    </message>
-    <message>
-        <source>Current time</source>
-        <translation>Aktuální čas</translation>
-    </message>
-    <message>
-        <source>Current time; type a time and press Enter to go there</source>
-        <translation>Aktuální čas; chcete-li přejít jinam, zadejte čas a stiskněte Enter</translation>
-    </message>
-    <message>
-        <source>Go to time</source>
-        <translation>Přejít na čas</translation>
-    </message>
-    <message>
-        <source>Previous event</source>
-        <translation>Předchozí událost</translation>
-    </message>
-    <message>
-        <source>Next event</source>
-        <translation>Další událost</translation>
-    </message>
-    <message>
-        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
-        <translation>Posun se nepodařilo uložit na kartu (není chráněna proti zápisu?) a platí do ukončení programu.</translation>
-    </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
@@ -408,18 +572,6 @@ Otevřete kartu (Ctrl+C) nebo přetáhněte její složku do okna.</translation>
     <message>
         <source>%1 of %2 selected parameters shown</source>
         <translation>Zobrazené parametry: %1 z %2 vybraných</translation>
-    </message>
-    <message>
-        <source>No parameter is selected.
-Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation>Není vybrán žádný parametr.
-Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</translation>
-    </message>
-    <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Není načten žádný záznam.
-Otevřete kartu a vyberte v seznamu vlevo jeden nebo více záznamů.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
@@ -442,54 +594,6 @@ Choose a folder that can be written, with enough free space, and a name that end
 Zvolte složku, do které lze zapisovat a kde je dost volného místa, a název s příponou .bmp, .png nebo .jpg.</translation>
     </message>
     <message>
-        <source>Zoom In</source>
-        <translation>Přiblížit</translation>
-    </message>
-    <message>
-        <source>Zoom Out</source>
-        <translation>Oddálit</translation>
-    </message>
-    <message>
-        <source>Zoom 1:1</source>
-        <translation>Zoom 1:1</translation>
-    </message>
-    <message>
-        <source>Zoom Marker</source>
-        <translation>Zoom na značky</translation>
-    </message>
-    <message>
-        <source>Clear All</source>
-        <translation>Vymazat vše</translation>
-    </message>
-    <message>
-        <source>Automatic Mode</source>
-        <translation>Automatický režim</translation>
-    </message>
-    <message>
-        <source>Split Mode</source>
-        <translation>Dělený režim</translation>
-    </message>
-    <message>
-        <source>Single Graph Mode</source>
-        <translation>Režim jednoho grafu</translation>
-    </message>
-    <message>
-        <source>Reset all to default</source>
-        <translation>Obnovit výchozí stav</translation>
-    </message>
-    <message>
-        <source>Setup</source>
-        <translation>Nastavení</translation>
-    </message>
-    <message>
-        <source>Snapshot</source>
-        <translation>Snímek</translation>
-    </message>
-    <message>
-        <source>Auto</source>
-        <translation>Auto</translation>
-    </message>
-    <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Graf nelze vykreslit: tento displej nepodporuje OpenGL.
@@ -501,6 +605,18 @@ Press &quot;Confirm Selection&quot; to fill it again.</source>
         <translation>Graf byl vymazán.
 Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for these curves; select fewer parameters.</source>
+        <translation>Pro tyto křivky není dost paměti; vyberte méně parametrů.</translation>
+    </message>
+    <message>
+        <source>Left out of the graph, because their time falls: %1 samples</source>
+        <translation>Vzorky vynechané z grafu, protože jejich čas jde zpět: %1</translation>
+    </message>
+    <message>
+        <source>The graph is being filled.</source>
+        <translation>Graf se naplňuje.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataLimit</name>
@@ -509,8 +625,12 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
         <translation>Překročení výstrah/limitů</translation>
     </message>
     <message>
-        <source>No parameter left its normal range in this recording.</source>
-        <translation>Žádný parametr v tomto záznamu neopustil svůj normální rozsah.</translation>
+        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
+        <translation>Záznam neobsahuje žádnou zprávu FLOAT parametru s prahovou hodnotou, proto se žádné limity nesledovaly.</translation>
+    </message>
+    <message>
+        <source>No limit event in %1 samples of %2 watched parameters.</source>
+        <translation>Žádná limitní událost. Zkontrolované vzorky: %1, sledované parametry: %2.</translation>
     </message>
 </context>
 <context>
@@ -520,20 +640,16 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
         <translation>Hodnoty vybraných parametrů</translation>
     </message>
     <message>
-        <source>No parameter is selected.
-Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation>Není vybrán žádný parametr.
-Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</translation>
-    </message>
-    <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Není načten žádný záznam.
-Otevřete kartu a vyberte v seznamu vlevo jeden nebo více záznamů.</translation>
-    </message>
-    <message>
         <source>The recording holds no sample of the selected parameters.</source>
         <translation>Záznam neobsahuje žádný vzorek vybraných parametrů.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this table; load fewer recordings.</source>
+        <translation>Pro tuto tabulku není dost paměti; načtěte méně záznamů.</translation>
+    </message>
+    <message>
+        <source>The table is being filled.</source>
+        <translation>Tabulka se naplňuje.</translation>
     </message>
 </context>
 <context>
@@ -543,17 +659,12 @@ Otevřete kartu a vyberte v seznamu vlevo jeden nebo více záznamů.</translati
         <translation>Výstražné kontrolky</translation>
     </message>
     <message>
-        <source>No warning lamp came on in this recording.</source>
-        <translation>V tomto záznamu se nerozsvítila žádná výstražná kontrolka.</translation>
+        <source>The recording holds no message of a warning lamp, so none was watched.</source>
+        <translation>Záznam neobsahuje žádnou zprávu výstražné kontrolky, proto se žádná nesledovala.</translation>
     </message>
-</context>
-<context>
-    <name>TARN::DialogEventList</name>
     <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Není načten žádný záznam.
-Otevřete kartu a vyberte v seznamu vlevo jeden nebo více záznamů.</translation>
+        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
+        <translation>Nerozsvítila se žádná výstražná kontrolka. Zkontrolované vzorky: %1, sledované kontrolky: %2.</translation>
     </message>
 </context>
 <context>
@@ -931,244 +1042,28 @@ Otevřete kartu a vyberte v seznamu vlevo jeden nebo více záznamů.</translati
 <context>
     <name>TARN::DialogMain</name>
     <message>
-        <source>Samples loaded: %L1</source>
-        <translation>Načteno vzorků: %L1</translation>
-    </message>
-    <message>
         <source>[edited]</source>
         <translation>[změněno]</translation>
-    </message>
-    <message>
-        <source>&amp;New Project</source>
-        <translation>&amp;Nový projekt</translation>
-    </message>
-    <message>
-        <source>Create new Project</source>
-        <translation>Vytvořit nový projekt</translation>
-    </message>
-    <message>
-        <source>&amp;Open Project</source>
-        <translation>&amp;Otevřít projekt</translation>
-    </message>
-    <message>
-        <source>Open Project</source>
-        <translation>Otevřít projekt</translation>
-    </message>
-    <message>
-        <source>Open Project File</source>
-        <translation>Otevřít soubor projektu</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project</source>
-        <translation>&amp;Uložit projekt</translation>
-    </message>
-    <message>
-        <source>Save Project</source>
-        <translation>Uložit projekt</translation>
-    </message>
-    <message>
-        <source>Save Project File</source>
-        <translation>Uložit soubor projektu</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project as</source>
-        <translation>Uložit projekt &amp;jako</translation>
-    </message>
-    <message>
-        <source>Save Project as</source>
-        <translation>Uložit projekt jako</translation>
-    </message>
-    <message>
-        <source>Save Project File as</source>
-        <translation>Uložit soubor projektu jako</translation>
-    </message>
-    <message>
-        <source>&amp;Open Card</source>
-        <translation>Otevřít k&amp;artu</translation>
-    </message>
-    <message>
-        <source>Open Card</source>
-        <translation>Otevřít kartu</translation>
     </message>
     <message>
         <source>Open SD Card</source>
         <translation>Otevřít SD kartu</translation>
     </message>
     <message>
-        <source>Export Google KML File</source>
-        <translation>Exportovat soubor Google KML</translation>
-    </message>
-    <message>
-        <source>Export Google Earth KML File</source>
-        <translation>Exportovat soubor Google Earth KML</translation>
-    </message>
-    <message>
-        <source>Export CSV/CAN File</source>
-        <translation>Exportovat soubor CSV/CAN</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>U&amp;končit</translation>
-    </message>
-    <message>
-        <source>Quit Application</source>
-        <translation>Ukončit aplikaci</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Soubor</translation>
-    </message>
-    <message>
-        <source>Main Toolbar</source>
-        <translation>Hlavní panel nástrojů</translation>
-    </message>
-    <message>
-        <source>Open TARN Project</source>
-        <translation>Otevřít projekt TARN</translation>
-    </message>
-    <message>
-        <source>Project Files (*.xml)</source>
-        <translation>Soubory projektů (*.xml)</translation>
-    </message>
-    <message>
         <source>ORNA Warning</source>
         <translation>ORNA – upozornění</translation>
-    </message>
-    <message>
-        <source>The project &quot;%1&quot; could not be read.
-Check that it is a project file saved by this program.</source>
-        <translation>Projekt „%1“ se nepodařilo načíst.
-Zkontrolujte, zda jde o soubor projektu uložený tímto programem.</translation>
     </message>
     <message>
         <source>Recordings found: %1</source>
         <translation>Nalezeno záznamů: %1</translation>
     </message>
     <message>
-        <source>TARN Warning</source>
-        <translation>TARN – upozornění</translation>
-    </message>
-    <message>
-        <source>Current Project not saved !
-Save it now ?</source>
-        <translation>Aktuální projekt není uložen !
-Uložit nyní ?</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Ano</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Ne</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Zrušit</translation>
     </message>
     <message>
-        <source>The project could not be written to &quot;%1&quot;.
-The old file is unchanged; save it in another folder.</source>
-        <translation>Projekt se nepodařilo zapsat do „%1“.
-Původní soubor zůstal beze změny; uložte projekt do jiné složky.</translation>
-    </message>
-    <message>
-        <source>Save TARN Project</source>
-        <translation>Uložit projekt TARN</translation>
-    </message>
-    <message>
-        <source>Exporting KML file failed !</source>
-        <translation>Export souboru KML se nezdařil !</translation>
-    </message>
-    <message>
-        <source>ORNA Viewer Warning</source>
-        <translation>Prohlížeč ORNA – upozornění</translation>
-    </message>
-    <message>
-        <source>Exporting CSV/CAN file failed !</source>
-        <translation>Export souboru CSV/CAN se nezdařil !</translation>
-    </message>
-    <message>
-        <source>Written: %1</source>
-        <translation>Zapsáno: %1</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown. Choose another under Extras, Preferences.</source>
         <translation>Profil „%1“ se nepodařilo načíst: nelze zobrazit žádné parametry. Zvolte jiný v nabídce Nástroje, Předvolby.</translation>
-    </message>
-    <message>
-        <source>Preferences</source>
-        <translation>Předvolby</translation>
-    </message>
-    <message>
-        <source>Open Preferences Dialog</source>
-        <translation>Otevřít okno předvoleb</translation>
-    </message>
-    <message>
-        <source>Recording Details</source>
-        <translation>Podrobnosti záznamu</translation>
-    </message>
-    <message>
-        <source>Show the Header and the Damages of the Recording</source>
-        <translation>Zobrazit hlavičku a poškození záznamu</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>O programu</translation>
-    </message>
-    <message>
-        <source>Show License Information</source>
-        <translation>Zobrazit informace o licenci</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Nápověda</translation>
-    </message>
-    <message>
-        <source>Help Window</source>
-        <translation>Okno nápovědy</translation>
-    </message>
-    <message>
-        <source>&amp;Extras</source>
-        <translation>&amp;Nástroje</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>Ná&amp;pověda</translation>
-    </message>
-    <message>
-        <source>Not everything could be read: %1</source>
-        <translation>Nepodařilo se přečíst vše: %1</translation>
-    </message>
-    <message>
-        <source>. Remarks (see Recording Details): %1. </source>
-        <translation>. Poznámky (viz Podrobnosti záznamu): %1. </translation>
-    </message>
-    <message>
-        <source>There is not enough memory to show the recording; load fewer at once.</source>
-        <translation>K zobrazení záznamu není dost paměti; načtěte méně záznamů najednou.</translation>
-    </message>
-    <message>
-        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
-        <translation>Nastavení se nepodařilo přečíst, program se spouští s výchozími hodnotami. Poškozený soubor je uschován jako „%1“.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for this export; choose a shorter time range.</source>
-        <translation>Pro tento export není dost paměti; zvolte kratší časový rozsah.</translation>
-    </message>
-    <message>
-        <source>The project was not saved: no profile is loaded, so its parameters are not known.
-Choose a profile under Extras, Preferences.</source>
-        <translation>Projekt nebyl uložen: není načten žádný profil, a jeho parametry proto nejsou známy.
-Zvolte profil v nabídce Nástroje, Předvolby.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation>Soubor „%1“ v této složce již existuje. Nahradit?</translation>
     </message>
     <message>
         <source>No recording is listed. Open a card first.</source>
@@ -1177,6 +1072,44 @@ Zvolte profil v nabídce Nástroje, Předvolby.</translation>
     <message>
         <source>&quot;%1&quot; is neither a project nor a profile.</source>
         <translation>Soubor „%1“ není projekt ani profil.</translation>
+    </message>
+    <message>
+        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
+        <translation>Posun se nepodařilo uložit na kartu (není chráněna proti zápisu?) a platí do ukončení programu.</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Načítání</translation>
+    </message>
+    <message>
+        <source>%1 samples/s</source>
+        <translation>%1 vzorků/s</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Načítání bylo zrušeno.</translation>
+    </message>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation>Nenačteno: %1</translation>
+    </message>
+    <message>
+        <source>Exporting %1</source>
+        <translation>Export %1</translation>
+    </message>
+    <message>
+        <source>An export is running.
+Wait until it is complete, or stop it? A stopped export leaves the old file.</source>
+        <translation>Probíhá export.
+Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá původní soubor beze změny.</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Počkat</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Zastavit</translation>
     </message>
 </context>
 <context>
@@ -1257,6 +1190,14 @@ Zvolte profil v nabídce Nástroje, Předvolby.</translation>
         <source>Please restart TARN to load new language !</source>
         <translation>Pro načtení nového jazyka restartujte TARN !</translation>
     </message>
+    <message>
+        <source>All recorded digits</source>
+        <translation>Všechny zaznamenané číslice</translation>
+    </message>
+    <message>
+        <source>Numbers on the screen with all the digits that were recorded, instead of the fewest that read back as the same number; exports have them always</source>
+        <translation>Čísla na obrazovce se všemi zaznamenanými číslicemi místo nejmenšího počtu, který určuje totéž číslo; exporty je obsahují vždy</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogProfile</name>
@@ -1283,6 +1224,14 @@ Zvolte profil v nabídce Nástroje, Předvolby.</translation>
     <message>
         <source>Parameters of the profile</source>
         <translation>Parametry profilu</translation>
+    </message>
+    <message>
+        <source>Not in this profile</source>
+        <translation>Chybí v tomto profilu</translation>
+    </message>
+    <message>
+        <source>The project selects these too; they are kept in its file</source>
+        <translation>Projekt vybírá i tyto parametry; v jeho souboru zůstávají zachovány</translation>
     </message>
 </context>
 <context>
@@ -1323,8 +1272,12 @@ Zvolte profil v nabídce Nástroje, Předvolby.</translation>
 <context>
     <name>TARN::DialogStatusBar</name>
     <message>
-        <source>Progress</source>
-        <translation>Průběh</translation>
+        <source>Stop loading (Escape)</source>
+        <translation>Zrušit načítání (Esc)</translation>
+    </message>
+    <message>
+        <source>Stop the export</source>
+        <translation>Zastavit export</translation>
     </message>
 </context>
 <context>
@@ -1344,12 +1297,273 @@ Zvolte profil v nabídce Nástroje, Předvolby.</translation>
         <source>Time</source>
         <translation>Čas</translation>
     </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Out of range without an event</source>
+        <translation>Mimo rozsah bez události</translation>
+    </message>
+    <message>
+        <source>at its limit</source>
+        <translation>v pásmu limitu</translation>
+    </message>
+    <message>
+        <source>in warning</source>
+        <translation>v pásmu výstrahy</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Trvání</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Krajní hodnota</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Prahová hodnota</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ExportRunner</name>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA – upozornění</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>Export souboru KML se nezdařil !</translation>
+    </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation>Prohlížeč ORNA – upozornění</translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation>Export souboru CSV/CAN se nezdařil !</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Zapsáno: %1</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The export was stopped; the old file, if there was one, is unchanged.</source>
+        <translation>Export byl zastaven; původní soubor, pokud existoval, zůstal beze změny.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightLoader</name>
+    <message>
+        <source>There is not enough memory for the recording; load fewer at once.</source>
+        <translation>Pro záznam není dost paměti; načtěte méně záznamů najednou.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show the recording; load fewer at once.</source>
+        <translation>K zobrazení záznamu není dost paměti; načtěte méně záznamů najednou.</translation>
+    </message>
+    <message>
+        <source>Looking for events</source>
+        <translation>Hledání událostí</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::GraphButtons</name>
+    <message>
+        <source>Zoom In</source>
+        <translation>Přiblížit</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Oddálit</translation>
+    </message>
+    <message>
+        <source>Zoom 1:1</source>
+        <translation>Zoom 1:1</translation>
+    </message>
+    <message>
+        <source>Zoom Marker</source>
+        <translation>Zoom na značky</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Zobrazit vše</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Vymazat vše</translation>
+    </message>
+    <message>
+        <source>Automatic Mode</source>
+        <translation>Automatický režim</translation>
+    </message>
+    <message>
+        <source>Split Mode</source>
+        <translation>Dělený režim</translation>
+    </message>
+    <message>
+        <source>Single Graph Mode</source>
+        <translation>Režim jednoho grafu</translation>
+    </message>
+    <message>
+        <source>Reset all to default</source>
+        <translation>Obnovit výchozí stav</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Nastavení</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Snímek</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ProjectKeeper</name>
+    <message>
+        <source>Open TARN Project</source>
+        <translation>Otevřít projekt TARN</translation>
+    </message>
+    <message>
+        <source>Project Files (*.xml)</source>
+        <translation>Soubory projektů (*.xml)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project that can be read; the selection stays as it is.
+Open a project file saved by this program.</source>
+        <translation>Soubor „%1“ není čitelný projekt; výběr zůstává beze změny.
+Otevřete soubor projektu uložený tímto programem.</translation>
+    </message>
+    <message>
+        <source>TARN Warning</source>
+        <translation>TARN – upozornění</translation>
+    </message>
+    <message>
+        <source>Current Project not saved !
+Save it now ?</source>
+        <translation>Aktuální projekt není uložen !
+Uložit nyní ?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ano</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Ne</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+    <message>
+        <source>The project was not saved: no profile is loaded, so its parameters are not known.
+Choose a profile under Extras, Preferences.</source>
+        <translation>Projekt nebyl uložen: není načten žádný profil, a jeho parametry proto nejsou známy.
+Zvolte profil v nabídce Nástroje, Předvolby.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project and is not replaced.
+Choose another name for the project.</source>
+        <translation>Soubor „%1“ není projekt a nebude nahrazen.
+Zvolte pro projekt jiný název.</translation>
+    </message>
+    <message>
+        <source>The project could not be written to &quot;%1&quot;.
+The old file is unchanged; save it in another folder.</source>
+        <translation>Projekt se nepodařilo zapsat do „%1“.
+Původní soubor zůstal beze změny; uložte projekt do jiné složky.</translation>
+    </message>
+    <message>
+        <source>Project saved: %1</source>
+        <translation>Projekt uložen: %1</translation>
+    </message>
+    <message>
+        <source>Save TARN Project</source>
+        <translation>Uložit projekt TARN</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>Soubor „%1“ v této složce již existuje. Nahradit?</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA – upozornění</translation>
+    </message>
 </context>
 <context>
     <name>TARN::TableModel</name>
     <message>
         <source>Time</source>
         <translation>Čas</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::TimeControls</name>
+    <message>
+        <source>Date and time of day in UTC</source>
+        <translation>Datum a denní čas v UTC</translation>
+    </message>
+    <message>
+        <source>Time on the recording&apos;s clock</source>
+        <translation>Čas podle hodin záznamu</translation>
+    </message>
+    <message>
+        <source>Offset:</source>
+        <translation>Posun:</translation>
+    </message>
+    <message>
+        <source>UTC</source>
+        <translation>UTC</translation>
+    </message>
+    <message>
+        <source>Recording clock</source>
+        <translation>Hodiny záznamu</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
+        <translation>Sekundy přičítané k časům jednotek, jejichž hodiny jdou jinak; ukládají se do složky karty</translation>
+    </message>
+    <message>
+        <source>Current time, from the recording&apos;s start to its stop</source>
+        <translation>Aktuální čas, od začátku do konce záznamu</translation>
+    </message>
+    <message>
+        <source>Current time</source>
+        <translation>Aktuální čas</translation>
+    </message>
+    <message>
+        <source>Current time on the recording&apos;s clock; type a time and press Enter to go there</source>
+        <translation>Aktuální čas podle hodin záznamu; zadejte čas a stisknutím Enter na něj přejdete</translation>
+    </message>
+    <message>
+        <source>Go to time</source>
+        <translation>Přejít na čas</translation>
+    </message>
+    <message>
+        <source>Previous event</source>
+        <translation>Předchozí událost</translation>
+    </message>
+    <message>
+        <source>Next event</source>
+        <translation>Další událost</translation>
     </message>
 </context>
 <context>
@@ -1362,13 +1576,13 @@ Zvolte profil v nabídce Nástroje, Předvolby.</translation>
         <source>Fault timeline</source>
         <translation>Časová osa poruch</translation>
     </message>
+    <message>
+        <source>The recording holds no message of this matrix.</source>
+        <translation>Záznam neobsahuje žádnou zprávu této matice.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::WidgetTimeRange</name>
-    <message>
-        <source>Start/Stop Time</source>
-        <translation>Čas začátku/konce</translation>
-    </message>
     <message>
         <source>Start time</source>
         <translation>Čas začátku</translation>
@@ -1404,6 +1618,33 @@ Zvolte profil v nabídce Nástroje, Předvolby.</translation>
     <message>
         <source>The start time is after the stop time: nothing would be exported.</source>
         <translation>Čas začátku je až za časem konce: nic by se neexportovalo.</translation>
+    </message>
+    <message>
+        <source>Start/Stop Time (recording clock)</source>
+        <translation>Čas začátku/konce (hodiny záznamu)</translation>
+    </message>
+</context>
+<context>
+    <name>TargetQuestion</name>
+    <message>
+        <source>Type a file name, without a folder.</source>
+        <translation>Zadejte název souboru bez složky.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
+        <translation>Složka „%1“ neexistuje. Zvolte jinou.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
+        <translation>Do složky „%1“ nelze zapisovat. Zvolte jinou.</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA – upozornění</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>Soubor „%1“ v této složce již existuje. Nahradit?</translation>
     </message>
 </context>
 <context>

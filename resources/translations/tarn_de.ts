@@ -72,6 +72,46 @@
     </message>
 </context>
 <context>
+    <name>EmptyText</name>
+    <message>
+        <source>No profile is loaded, so nothing can be decoded and nothing was checked.
+Choose one in the &lt;a href=&quot;preferences&quot;&gt;preferences&lt;/a&gt;.</source>
+        <translation>Es ist kein Profil geladen, daher kann nichts dekodiert werden und es wurde nichts geprüft.
+Wählen Sie eines in den &lt;a href=&quot;preferences&quot;&gt;Einstellungen&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The recording is being loaded.</source>
+        <translation>Die Aufzeichnung wird geladen.</translation>
+    </message>
+    <message>
+        <source>No recording is loaded.
+Open a card and pick one or more recordings in the list on the left.</source>
+        <translation>Es ist keine Aufzeichnung geladen.
+Öffnen Sie eine Karte und wählen Sie links in der Liste eine oder mehrere Aufzeichnungen.</translation>
+    </message>
+    <message>
+        <source>The recording holds no samples, so nothing was checked.</source>
+        <translation>Die Aufzeichnung enthält keine Messwerte, daher wurde nichts geprüft.</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.
+Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
+        <translation>Es ist kein Parameter ausgewählt.
+Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestätigen“.</translation>
+    </message>
+</context>
+<context>
+    <name>EventMarks</name>
+    <message>
+        <source>%1 came</source>
+        <translation>%1 gekommen</translation>
+    </message>
+    <message>
+        <source>%1 went</source>
+        <translation>%1 gegangen</translation>
+    </message>
+</context>
+<context>
     <name>ExportCan</name>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
@@ -123,32 +163,27 @@
         <source>No position lies in the time range, the flight path is empty.</source>
         <translation>Im Zeitbereich liegt keine Position, der Flugweg ist leer.</translation>
     </message>
+    <message>
+        <source>Left out, because no position lies in their time slot: %1 values, %2 events. A longer &quot;Timestamp every&quot; keeps them.</source>
+        <translation>Weggelassen, da in ihrem Zeitabschnitt keine Position liegt – Werte: %1, Ereignisse: %2. Mit einem größeren Wert für „Zeitstempel alle“ bleiben sie erhalten.</translation>
+    </message>
 </context>
 <context>
-    <name>ExportTarget</name>
-    <message>
-        <source>Type a file name, without a folder.</source>
-        <translation>Geben Sie einen Dateinamen ohne Ordner ein.</translation>
-    </message>
-    <message>
-        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
-        <translation>Der Ordner „%1“ existiert nicht. Wählen Sie einen anderen.</translation>
-    </message>
-    <message>
-        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
-        <translation>Der Ordner „%1“ ist nicht beschreibbar. Wählen Sie einen anderen.</translation>
-    </message>
-    <message>
-        <source>ORNA Warning</source>
-        <translation>ORNA-Warnung</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation>„%1“ ist in diesem Ordner bereits vorhanden. Ersetzen?</translation>
-    </message>
+    <name>Exporter</name>
     <message>
         <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
         <translation>„%1“ ist die Aufzeichnung selbst. Wählen Sie einen anderen Namen oder Ordner.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this export; choose a shorter time range.</source>
+        <translation>Der Speicher reicht für diesen Export nicht aus; wählen Sie einen kürzeren Zeitbereich.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFile</name>
+    <message>
+        <source>it is no file</source>
+        <translation>das ist keine Datei</translation>
     </message>
 </context>
 <context>
@@ -164,6 +199,10 @@
     <message>
         <source>not enough memory to read the recording; load fewer at once</source>
         <translation>zu wenig Speicher zum Lesen der Aufzeichnung; laden Sie weniger auf einmal</translation>
+    </message>
+    <message>
+        <source>could not read the recording &quot;%1&quot; to its end; check that the card is still in place</source>
+        <translation>die Aufzeichnung „%1“ konnte nicht bis zum Ende gelesen werden; prüfen Sie, ob die Karte noch eingelegt ist</translation>
     </message>
 </context>
 <context>
@@ -272,12 +311,185 @@
         <source>Files</source>
         <translation>Dateien</translation>
     </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>Files that overlap in time: %1, the first are %2. They do not belong together</source>
+        <translation>Dateien, die sich zeitlich überschneiden: %1, die ersten sind %2. Sie gehören nicht zusammen</translation>
+    </message>
+    <message>
+        <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
+        <translation>Datumsangaben der Dateiköpfe von %1 bis %2, die Messwerte umfassen aber nur %3 s: Die Dateien stammen nicht von einem Flug</translation>
+    </message>
+</context>
+<context>
+    <name>StartMessages</name>
+    <message>
+        <source>HOME is not set: settings are kept in &quot;%1&quot;.</source>
+        <translation>HOME ist nicht gesetzt: Die Einstellungen werden in „%1“ gespeichert.</translation>
+    </message>
+    <message>
+        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>Die Einstellungen konnten nicht gelesen werden, das Programm startet mit den Standardwerten. Die beschädigte Datei bleibt als „%1“ erhalten.</translation>
+    </message>
+    <message>
+        <source>Samples loaded: %1</source>
+        <translation>Geladene Messwerte: %1</translation>
+    </message>
+    <message>
+        <source>. Remarks (see Recording Details): %1. </source>
+        <translation>. Anmerkungen (siehe Aufzeichnungsdetails): %1. </translation>
+    </message>
 </context>
 <context>
     <name>StartUp</name>
     <message>
         <source>Creating Dialogs ...</source>
         <translation>Dialoge werden erstellt ...</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ActivityBar</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>, %1 s left</source>
+        <translation>, noch %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::CommandSet</name>
+    <message>
+        <source>&amp;New Project</source>
+        <translation>&amp;Neues Projekt</translation>
+    </message>
+    <message>
+        <source>Create new Project</source>
+        <translation>Neues Projekt anlegen</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project</source>
+        <translation>Projekt ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Open Project File</source>
+        <translation>Projektdatei öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project</source>
+        <translation>Projekt &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Projekt speichern</translation>
+    </message>
+    <message>
+        <source>Save Project File</source>
+        <translation>Projektdatei speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project as</source>
+        <translation>Projekt speichern &amp;unter</translation>
+    </message>
+    <message>
+        <source>Save Project as</source>
+        <translation>Projekt speichern unter</translation>
+    </message>
+    <message>
+        <source>Save Project File as</source>
+        <translation>Projektdatei speichern unter</translation>
+    </message>
+    <message>
+        <source>&amp;Open Card</source>
+        <translation>&amp;Karte öffnen</translation>
+    </message>
+    <message>
+        <source>Open Card</source>
+        <translation>Karte öffnen</translation>
+    </message>
+    <message>
+        <source>Open SD Card</source>
+        <translation>SD-Karte öffnen</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Open Preferences Dialog</source>
+        <translation>Einstellungsdialog öffnen</translation>
+    </message>
+    <message>
+        <source>Recording Details</source>
+        <translation>Aufzeichnungsdetails</translation>
+    </message>
+    <message>
+        <source>Show the Header and the Damages of the Recording</source>
+        <translation>Dateikopf und Schäden der Aufzeichnung anzeigen</translation>
+    </message>
+    <message>
+        <source>Export Google KML File</source>
+        <translation>Google-KML-Datei exportieren</translation>
+    </message>
+    <message>
+        <source>Export Google Earth KML File</source>
+        <translation>Google-Earth-KML-Datei exportieren</translation>
+    </message>
+    <message>
+        <source>Export CSV/CAN File</source>
+        <translation>CSV/CAN-Datei exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Quit Application</source>
+        <translation>Programm beenden</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über ORNA</translation>
+    </message>
+    <message>
+        <source>Show License Information</source>
+        <translation>Lizenzinformationen anzeigen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Help Window</source>
+        <translation>Hilfefenster</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Extras</source>
+        <translation>&amp;Extras</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Hauptsymbolleiste</translation>
     </message>
 </context>
 <context>
@@ -343,54 +555,6 @@ Open a card (Ctrl+C) or drop its folder on the window.</source>
         <source>Fault Matrix</source>
         <translation>Fehlermatrix</translation>
     </message>
-    <message>
-        <source>Date and time of day</source>
-        <translation>Datum und Uhrzeit</translation>
-    </message>
-    <message>
-        <source>Time on the recording&apos;s clock</source>
-        <translation>Zeit auf der Uhr der Aufzeichnung</translation>
-    </message>
-    <message>
-        <source>Offset:</source>
-        <translation>Offset:</translation>
-    </message>
-    <message>
-        <source> s</source>
-        <translation> s</translation>
-    </message>
-    <message>
-        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
-        <translation>Sekunden, die zu den Zeiten von Geräten mit abweichender Uhr addiert werden; im Kartenordner gespeichert</translation>
-    </message>
-    <message>
-        <source>Current time, from the recording&apos;s start to its stop</source>
-        <translation>Aktuelle Zeit, vom Start bis zum Stopp der Aufzeichnung</translation>
-    </message>
-    <message>
-        <source>Current time</source>
-        <translation>Aktuelle Zeit</translation>
-    </message>
-    <message>
-        <source>Current time; type a time and press Enter to go there</source>
-        <translation>Aktuelle Zeit; Zeit eingeben und mit der Eingabetaste dorthin springen</translation>
-    </message>
-    <message>
-        <source>Go to time</source>
-        <translation>Zu Zeit springen</translation>
-    </message>
-    <message>
-        <source>Previous event</source>
-        <translation>Vorheriges Ereignis</translation>
-    </message>
-    <message>
-        <source>Next event</source>
-        <translation>Nächstes Ereignis</translation>
-    </message>
-    <message>
-        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
-        <translation>Der Offset konnte nicht auf der Karte gespeichert werden (ist sie schreibgeschützt?) und gilt nur bis zum Programmende.</translation>
-    </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
@@ -408,18 +572,6 @@ Open a card (Ctrl+C) or drop its folder on the window.</source>
     <message>
         <source>%1 of %2 selected parameters shown</source>
         <translation>%1 von %2 ausgewählten Parametern dargestellt</translation>
-    </message>
-    <message>
-        <source>No parameter is selected.
-Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation>Es ist kein Parameter ausgewählt.
-Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestätigen“.</translation>
-    </message>
-    <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Es ist keine Aufzeichnung geladen.
-Öffnen Sie eine Karte und wählen Sie links in der Liste eine oder mehrere Aufzeichnungen.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
@@ -442,54 +594,6 @@ Choose a folder that can be written, with enough free space, and a name that end
 Wählen Sie einen beschreibbaren Ordner mit genügend freiem Platz und einen Namen, der auf .bmp, .png oder .jpg endet.</translation>
     </message>
     <message>
-        <source>Zoom In</source>
-        <translation>Vergrößern</translation>
-    </message>
-    <message>
-        <source>Zoom Out</source>
-        <translation>Verkleinern</translation>
-    </message>
-    <message>
-        <source>Zoom 1:1</source>
-        <translation>Zoom 1:1</translation>
-    </message>
-    <message>
-        <source>Zoom Marker</source>
-        <translation>Zoom auf Marker</translation>
-    </message>
-    <message>
-        <source>Clear All</source>
-        <translation>Alles leeren</translation>
-    </message>
-    <message>
-        <source>Automatic Mode</source>
-        <translation>Automatikmodus</translation>
-    </message>
-    <message>
-        <source>Split Mode</source>
-        <translation>Geteiltes Diagramm</translation>
-    </message>
-    <message>
-        <source>Single Graph Mode</source>
-        <translation>Gemeinsames Diagramm</translation>
-    </message>
-    <message>
-        <source>Reset all to default</source>
-        <translation>Alles auf Standard zurücksetzen</translation>
-    </message>
-    <message>
-        <source>Setup</source>
-        <translation>Einrichten</translation>
-    </message>
-    <message>
-        <source>Snapshot</source>
-        <translation>Bild speichern</translation>
-    </message>
-    <message>
-        <source>Auto</source>
-        <translation>Auto</translation>
-    </message>
-    <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Das Diagramm kann nicht gezeichnet werden: Diese Anzeige bietet kein OpenGL.
@@ -501,6 +605,18 @@ Press &quot;Confirm Selection&quot; to fill it again.</source>
         <translation>Das Diagramm wurde geleert.
 Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for these curves; select fewer parameters.</source>
+        <translation>Zu wenig Speicher für diese Kurven; wählen Sie weniger Parameter aus.</translation>
+    </message>
+    <message>
+        <source>Left out of the graph, because their time falls: %1 samples</source>
+        <translation>Messwerte, die wegen rückläufiger Zeit im Diagramm fehlen: %1</translation>
+    </message>
+    <message>
+        <source>The graph is being filled.</source>
+        <translation>Das Diagramm wird gefüllt.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataLimit</name>
@@ -509,8 +625,12 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
         <translation>Warn-/Grenzwertverletzung</translation>
     </message>
     <message>
-        <source>No parameter left its normal range in this recording.</source>
-        <translation>Kein Parameter hat in dieser Aufzeichnung seinen Normalbereich verlassen.</translation>
+        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
+        <translation>Die Aufzeichnung enthält keine FLOAT-Nachricht eines Parameters mit Schwellenwert, daher wurde nichts auf Grenzwerte überwacht.</translation>
+    </message>
+    <message>
+        <source>No limit event in %1 samples of %2 watched parameters.</source>
+        <translation>Kein Grenzwertereignis. Geprüfte Messwerte: %1, überwachte Parameter: %2.</translation>
     </message>
 </context>
 <context>
@@ -520,20 +640,16 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
         <translation>Werte der ausgewählten Parameter</translation>
     </message>
     <message>
-        <source>No parameter is selected.
-Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation>Es ist kein Parameter ausgewählt.
-Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestätigen“.</translation>
-    </message>
-    <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Es ist keine Aufzeichnung geladen.
-Öffnen Sie eine Karte und wählen Sie links in der Liste eine oder mehrere Aufzeichnungen.</translation>
-    </message>
-    <message>
         <source>The recording holds no sample of the selected parameters.</source>
         <translation>Die Aufzeichnung enthält keinen Messwert der ausgewählten Parameter.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this table; load fewer recordings.</source>
+        <translation>Zu wenig Speicher für diese Tabelle; laden Sie weniger Aufzeichnungen.</translation>
+    </message>
+    <message>
+        <source>The table is being filled.</source>
+        <translation>Die Tabelle wird gefüllt.</translation>
     </message>
 </context>
 <context>
@@ -543,17 +659,12 @@ Open a card and pick one or more recordings in the list on the left.</source>
         <translation>Warnlampen</translation>
     </message>
     <message>
-        <source>No warning lamp came on in this recording.</source>
-        <translation>In dieser Aufzeichnung leuchtete keine Warnlampe auf.</translation>
+        <source>The recording holds no message of a warning lamp, so none was watched.</source>
+        <translation>Die Aufzeichnung enthält keine Nachricht einer Warnlampe, daher wurde keine überwacht.</translation>
     </message>
-</context>
-<context>
-    <name>TARN::DialogEventList</name>
     <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Es ist keine Aufzeichnung geladen.
-Öffnen Sie eine Karte und wählen Sie links in der Liste eine oder mehrere Aufzeichnungen.</translation>
+        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
+        <translation>Keine Warnlampe leuchtete auf. Geprüfte Messwerte: %1, überwachte Lampen: %2.</translation>
     </message>
 </context>
 <context>
@@ -931,244 +1042,28 @@ Open a card and pick one or more recordings in the list on the left.</source>
 <context>
     <name>TARN::DialogMain</name>
     <message>
-        <source>Samples loaded: %L1</source>
-        <translation>Geladene Messwerte: %L1</translation>
-    </message>
-    <message>
         <source>[edited]</source>
         <translation>[geändert]</translation>
-    </message>
-    <message>
-        <source>&amp;New Project</source>
-        <translation>&amp;Neues Projekt</translation>
-    </message>
-    <message>
-        <source>Create new Project</source>
-        <translation>Neues Projekt anlegen</translation>
-    </message>
-    <message>
-        <source>&amp;Open Project</source>
-        <translation>Projekt ö&amp;ffnen</translation>
-    </message>
-    <message>
-        <source>Open Project</source>
-        <translation>Projekt öffnen</translation>
-    </message>
-    <message>
-        <source>Open Project File</source>
-        <translation>Projektdatei öffnen</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project</source>
-        <translation>Projekt &amp;speichern</translation>
-    </message>
-    <message>
-        <source>Save Project</source>
-        <translation>Projekt speichern</translation>
-    </message>
-    <message>
-        <source>Save Project File</source>
-        <translation>Projektdatei speichern</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project as</source>
-        <translation>Projekt speichern &amp;unter</translation>
-    </message>
-    <message>
-        <source>Save Project as</source>
-        <translation>Projekt speichern unter</translation>
-    </message>
-    <message>
-        <source>Save Project File as</source>
-        <translation>Projektdatei speichern unter</translation>
-    </message>
-    <message>
-        <source>&amp;Open Card</source>
-        <translation>&amp;Karte öffnen</translation>
-    </message>
-    <message>
-        <source>Open Card</source>
-        <translation>Karte öffnen</translation>
     </message>
     <message>
         <source>Open SD Card</source>
         <translation>SD-Karte öffnen</translation>
     </message>
     <message>
-        <source>Export Google KML File</source>
-        <translation>Google-KML-Datei exportieren</translation>
-    </message>
-    <message>
-        <source>Export Google Earth KML File</source>
-        <translation>Google-Earth-KML-Datei exportieren</translation>
-    </message>
-    <message>
-        <source>Export CSV/CAN File</source>
-        <translation>CSV/CAN-Datei exportieren</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>Quit Application</source>
-        <translation>Programm beenden</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>Main Toolbar</source>
-        <translation>Hauptsymbolleiste</translation>
-    </message>
-    <message>
-        <source>Open TARN Project</source>
-        <translation>TARN-Projekt öffnen</translation>
-    </message>
-    <message>
-        <source>Project Files (*.xml)</source>
-        <translation>Projektdateien (*.xml)</translation>
-    </message>
-    <message>
         <source>ORNA Warning</source>
         <translation>ORNA-Warnung</translation>
-    </message>
-    <message>
-        <source>The project &quot;%1&quot; could not be read.
-Check that it is a project file saved by this program.</source>
-        <translation>Das Projekt „%1“ konnte nicht gelesen werden.
-Prüfen Sie, ob es eine mit diesem Programm gespeicherte Projektdatei ist.</translation>
     </message>
     <message>
         <source>Recordings found: %1</source>
         <translation>Gefundene Aufzeichnungen: %1</translation>
     </message>
     <message>
-        <source>TARN Warning</source>
-        <translation>TARN-Warnung</translation>
-    </message>
-    <message>
-        <source>Current Project not saved !
-Save it now ?</source>
-        <translation>Aktuelles Projekt nicht gespeichert !
-Jetzt speichern ?</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Ja</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Nein</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
     <message>
-        <source>The project could not be written to &quot;%1&quot;.
-The old file is unchanged; save it in another folder.</source>
-        <translation>Das Projekt konnte nicht nach „%1“ geschrieben werden.
-Die alte Datei ist unverändert; speichern Sie das Projekt in einem anderen Ordner.</translation>
-    </message>
-    <message>
-        <source>Save TARN Project</source>
-        <translation>TARN-Projekt speichern</translation>
-    </message>
-    <message>
-        <source>Exporting KML file failed !</source>
-        <translation>Export der KML-Datei fehlgeschlagen !</translation>
-    </message>
-    <message>
-        <source>ORNA Viewer Warning</source>
-        <translation>ORNA-Viewer-Warnung</translation>
-    </message>
-    <message>
-        <source>Exporting CSV/CAN file failed !</source>
-        <translation>Export der CSV/CAN-Datei fehlgeschlagen !</translation>
-    </message>
-    <message>
-        <source>Written: %1</source>
-        <translation>Geschrieben: %1</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown. Choose another under Extras, Preferences.</source>
         <translation>Das Profil „%1“ konnte nicht geladen werden: Es können keine Parameter angezeigt werden. Wählen Sie ein anderes unter Extras, Einstellungen.</translation>
-    </message>
-    <message>
-        <source>Preferences</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>Open Preferences Dialog</source>
-        <translation>Einstellungsdialog öffnen</translation>
-    </message>
-    <message>
-        <source>Recording Details</source>
-        <translation>Aufzeichnungsdetails</translation>
-    </message>
-    <message>
-        <source>Show the Header and the Damages of the Recording</source>
-        <translation>Dateikopf und Schäden der Aufzeichnung anzeigen</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Über ORNA</translation>
-    </message>
-    <message>
-        <source>Show License Information</source>
-        <translation>Lizenzinformationen anzeigen</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
-    <message>
-        <source>Help Window</source>
-        <translation>Hilfefenster</translation>
-    </message>
-    <message>
-        <source>&amp;Extras</source>
-        <translation>&amp;Extras</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>Not everything could be read: %1</source>
-        <translation>Es konnte nicht alles gelesen werden: %1</translation>
-    </message>
-    <message>
-        <source>. Remarks (see Recording Details): %1. </source>
-        <translation>. Anmerkungen (siehe Aufzeichnungsdetails): %1. </translation>
-    </message>
-    <message>
-        <source>There is not enough memory to show the recording; load fewer at once.</source>
-        <translation>Zu wenig Speicher zum Anzeigen der Aufzeichnung; laden Sie weniger auf einmal.</translation>
-    </message>
-    <message>
-        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
-        <translation>Die Einstellungen konnten nicht gelesen werden, das Programm startet mit den Standardwerten. Die beschädigte Datei bleibt als „%1“ erhalten.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for this export; choose a shorter time range.</source>
-        <translation>Der Speicher reicht für diesen Export nicht aus; wählen Sie einen kürzeren Zeitbereich.</translation>
-    </message>
-    <message>
-        <source>The project was not saved: no profile is loaded, so its parameters are not known.
-Choose a profile under Extras, Preferences.</source>
-        <translation>Das Projekt wurde nicht gespeichert: Es ist kein Profil geladen, seine Parameter sind daher nicht bekannt.
-Wählen Sie ein Profil unter Extras, Einstellungen.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation>„%1“ ist in diesem Ordner bereits vorhanden. Ersetzen?</translation>
     </message>
     <message>
         <source>No recording is listed. Open a card first.</source>
@@ -1177,6 +1072,44 @@ Wählen Sie ein Profil unter Extras, Einstellungen.</translation>
     <message>
         <source>&quot;%1&quot; is neither a project nor a profile.</source>
         <translation>„%1“ ist weder ein Projekt noch ein Profil.</translation>
+    </message>
+    <message>
+        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
+        <translation>Der Offset konnte nicht auf der Karte gespeichert werden (ist sie schreibgeschützt?) und gilt nur bis zum Programmende.</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>%1 samples/s</source>
+        <translation>%1 Messwerte/s</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Das Laden wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation>Nicht geladen: %1</translation>
+    </message>
+    <message>
+        <source>Exporting %1</source>
+        <translation>Export von %1</translation>
+    </message>
+    <message>
+        <source>An export is running.
+Wait until it is complete, or stop it? A stopped export leaves the old file.</source>
+        <translation>Ein Export läuft.
+Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt die alte Datei unverändert.</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Warten</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
     </message>
 </context>
 <context>
@@ -1257,6 +1190,14 @@ Wählen Sie ein Profil unter Extras, Einstellungen.</translation>
         <source>Please restart TARN to load new language !</source>
         <translation>Bitte starten Sie TARN neu, um die neue Sprache zu laden !</translation>
     </message>
+    <message>
+        <source>All recorded digits</source>
+        <translation>Alle aufgezeichneten Stellen</translation>
+    </message>
+    <message>
+        <source>Numbers on the screen with all the digits that were recorded, instead of the fewest that read back as the same number; exports have them always</source>
+        <translation>Zahlen auf dem Bildschirm mit allen aufgezeichneten Stellen statt mit den wenigsten, aus denen sich dieselbe Zahl ergibt; Exporte enthalten immer alle</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogProfile</name>
@@ -1283,6 +1224,14 @@ Wählen Sie ein Profil unter Extras, Einstellungen.</translation>
     <message>
         <source>Parameters of the profile</source>
         <translation>Parameter des Profils</translation>
+    </message>
+    <message>
+        <source>Not in this profile</source>
+        <translation>Nicht in diesem Profil</translation>
+    </message>
+    <message>
+        <source>The project selects these too; they are kept in its file</source>
+        <translation>Das Projekt wählt auch diese aus; sie bleiben in seiner Datei erhalten</translation>
     </message>
 </context>
 <context>
@@ -1323,8 +1272,12 @@ Wählen Sie ein Profil unter Extras, Einstellungen.</translation>
 <context>
     <name>TARN::DialogStatusBar</name>
     <message>
-        <source>Progress</source>
-        <translation>Fortschritt</translation>
+        <source>Stop loading (Escape)</source>
+        <translation>Laden abbrechen (Esc)</translation>
+    </message>
+    <message>
+        <source>Stop the export</source>
+        <translation>Export stoppen</translation>
     </message>
 </context>
 <context>
@@ -1344,12 +1297,273 @@ Wählen Sie ein Profil unter Extras, Einstellungen.</translation>
         <source>Time</source>
         <translation>Zeit</translation>
     </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Out of range without an event</source>
+        <translation>Außerhalb des Bereichs ohne Ereignis</translation>
+    </message>
+    <message>
+        <source>at its limit</source>
+        <translation>im Grenzbereich</translation>
+    </message>
+    <message>
+        <source>in warning</source>
+        <translation>im Warnbereich</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Extremwert</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Schwellenwert</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ExportRunner</name>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA-Warnung</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>Export der KML-Datei fehlgeschlagen !</translation>
+    </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation>ORNA-Viewer-Warnung</translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation>Export der CSV/CAN-Datei fehlgeschlagen !</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The export was stopped; the old file, if there was one, is unchanged.</source>
+        <translation>Der Export wurde gestoppt; die alte Datei, falls vorhanden, ist unverändert.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightLoader</name>
+    <message>
+        <source>There is not enough memory for the recording; load fewer at once.</source>
+        <translation>Zu wenig Speicher für die Aufzeichnung; laden Sie weniger auf einmal.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show the recording; load fewer at once.</source>
+        <translation>Zu wenig Speicher zum Anzeigen der Aufzeichnung; laden Sie weniger auf einmal.</translation>
+    </message>
+    <message>
+        <source>Looking for events</source>
+        <translation>Suche nach Ereignissen</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::GraphButtons</name>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom 1:1</source>
+        <translation>Zoom 1:1</translation>
+    </message>
+    <message>
+        <source>Zoom Marker</source>
+        <translation>Zoom auf Marker</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alles anzeigen</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Alles leeren</translation>
+    </message>
+    <message>
+        <source>Automatic Mode</source>
+        <translation>Automatikmodus</translation>
+    </message>
+    <message>
+        <source>Split Mode</source>
+        <translation>Geteiltes Diagramm</translation>
+    </message>
+    <message>
+        <source>Single Graph Mode</source>
+        <translation>Gemeinsames Diagramm</translation>
+    </message>
+    <message>
+        <source>Reset all to default</source>
+        <translation>Alles auf Standard zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Einrichten</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ProjectKeeper</name>
+    <message>
+        <source>Open TARN Project</source>
+        <translation>TARN-Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Project Files (*.xml)</source>
+        <translation>Projektdateien (*.xml)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project that can be read; the selection stays as it is.
+Open a project file saved by this program.</source>
+        <translation>„%1“ ist kein lesbares Projekt; die Auswahl bleibt, wie sie ist.
+Öffnen Sie eine mit diesem Programm gespeicherte Projektdatei.</translation>
+    </message>
+    <message>
+        <source>TARN Warning</source>
+        <translation>TARN-Warnung</translation>
+    </message>
+    <message>
+        <source>Current Project not saved !
+Save it now ?</source>
+        <translation>Aktuelles Projekt nicht gespeichert !
+Jetzt speichern ?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The project was not saved: no profile is loaded, so its parameters are not known.
+Choose a profile under Extras, Preferences.</source>
+        <translation>Das Projekt wurde nicht gespeichert: Es ist kein Profil geladen, seine Parameter sind daher nicht bekannt.
+Wählen Sie ein Profil unter Extras, Einstellungen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project and is not replaced.
+Choose another name for the project.</source>
+        <translation>„%1“ ist kein Projekt und wird nicht ersetzt.
+Wählen Sie einen anderen Namen für das Projekt.</translation>
+    </message>
+    <message>
+        <source>The project could not be written to &quot;%1&quot;.
+The old file is unchanged; save it in another folder.</source>
+        <translation>Das Projekt konnte nicht nach „%1“ geschrieben werden.
+Die alte Datei ist unverändert; speichern Sie das Projekt in einem anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>Project saved: %1</source>
+        <translation>Projekt gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Save TARN Project</source>
+        <translation>TARN-Projekt speichern</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>„%1“ ist in diesem Ordner bereits vorhanden. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA-Warnung</translation>
+    </message>
 </context>
 <context>
     <name>TARN::TableModel</name>
     <message>
         <source>Time</source>
         <translation>Zeit</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::TimeControls</name>
+    <message>
+        <source>Date and time of day in UTC</source>
+        <translation>Datum und Uhrzeit in UTC</translation>
+    </message>
+    <message>
+        <source>Time on the recording&apos;s clock</source>
+        <translation>Zeit auf der Uhr der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Offset:</source>
+        <translation>Offset:</translation>
+    </message>
+    <message>
+        <source>UTC</source>
+        <translation>UTC</translation>
+    </message>
+    <message>
+        <source>Recording clock</source>
+        <translation>Uhr der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
+        <translation>Sekunden, die zu den Zeiten von Geräten mit abweichender Uhr addiert werden; im Kartenordner gespeichert</translation>
+    </message>
+    <message>
+        <source>Current time, from the recording&apos;s start to its stop</source>
+        <translation>Aktuelle Zeit, vom Start bis zum Stopp der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Current time</source>
+        <translation>Aktuelle Zeit</translation>
+    </message>
+    <message>
+        <source>Current time on the recording&apos;s clock; type a time and press Enter to go there</source>
+        <translation>Aktuelle Zeit auf der Uhr der Aufzeichnung; geben Sie eine Zeit ein und drücken Sie die Eingabetaste, um dorthin zu springen</translation>
+    </message>
+    <message>
+        <source>Go to time</source>
+        <translation>Zu Zeit springen</translation>
+    </message>
+    <message>
+        <source>Previous event</source>
+        <translation>Vorheriges Ereignis</translation>
+    </message>
+    <message>
+        <source>Next event</source>
+        <translation>Nächstes Ereignis</translation>
     </message>
 </context>
 <context>
@@ -1362,13 +1576,13 @@ Wählen Sie ein Profil unter Extras, Einstellungen.</translation>
         <source>Fault timeline</source>
         <translation>Fehler-Zeitleiste</translation>
     </message>
+    <message>
+        <source>The recording holds no message of this matrix.</source>
+        <translation>Die Aufzeichnung enthält keine Nachricht dieser Matrix.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::WidgetTimeRange</name>
-    <message>
-        <source>Start/Stop Time</source>
-        <translation>Start-/Stoppzeit</translation>
-    </message>
     <message>
         <source>Start time</source>
         <translation>Startzeit</translation>
@@ -1404,6 +1618,33 @@ Wählen Sie ein Profil unter Extras, Einstellungen.</translation>
     <message>
         <source>The start time is after the stop time: nothing would be exported.</source>
         <translation>Die Startzeit liegt nach der Stoppzeit: Es würde nichts exportiert.</translation>
+    </message>
+    <message>
+        <source>Start/Stop Time (recording clock)</source>
+        <translation>Start-/Stoppzeit (Uhr der Aufzeichnung)</translation>
+    </message>
+</context>
+<context>
+    <name>TargetQuestion</name>
+    <message>
+        <source>Type a file name, without a folder.</source>
+        <translation>Geben Sie einen Dateinamen ohne Ordner ein.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
+        <translation>Der Ordner „%1“ existiert nicht. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
+        <translation>Der Ordner „%1“ ist nicht beschreibbar. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA-Warnung</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>„%1“ ist in diesem Ordner bereits vorhanden. Ersetzen?</translation>
     </message>
 </context>
 <context>

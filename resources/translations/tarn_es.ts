@@ -72,6 +72,46 @@
     </message>
 </context>
 <context>
+    <name>EmptyText</name>
+    <message>
+        <source>No profile is loaded, so nothing can be decoded and nothing was checked.
+Choose one in the &lt;a href=&quot;preferences&quot;&gt;preferences&lt;/a&gt;.</source>
+        <translation>No hay ningún perfil cargado: no se puede decodificar nada y no se ha comprobado nada.
+Elija uno en las &lt;a href=&quot;preferences&quot;&gt;preferencias&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The recording is being loaded.</source>
+        <translation>La grabación se está cargando.</translation>
+    </message>
+    <message>
+        <source>No recording is loaded.
+Open a card and pick one or more recordings in the list on the left.</source>
+        <translation>No hay ninguna grabación cargada.
+Abra una tarjeta y elija una o varias grabaciones en la lista de la izquierda.</translation>
+    </message>
+    <message>
+        <source>The recording holds no samples, so nothing was checked.</source>
+        <translation>La grabación no contiene ninguna muestra; no se ha comprobado nada.</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.
+Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
+        <translation>No hay ningún parámetro seleccionado.
+Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».</translation>
+    </message>
+</context>
+<context>
+    <name>EventMarks</name>
+    <message>
+        <source>%1 came</source>
+        <translation>activación de %1</translation>
+    </message>
+    <message>
+        <source>%1 went</source>
+        <translation>desactivación de %1</translation>
+    </message>
+</context>
+<context>
     <name>ExportCan</name>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
@@ -123,32 +163,27 @@
         <source>No position lies in the time range, the flight path is empty.</source>
         <translation>No hay ninguna posición en el intervalo de tiempo; la trayectoria de vuelo está vacía.</translation>
     </message>
+    <message>
+        <source>Left out, because no position lies in their time slot: %1 values, %2 events. A longer &quot;Timestamp every&quot; keeps them.</source>
+        <translation>Omitidos porque no hay ninguna posición en su intervalo de tiempo: %1 valores, %2 eventos. Un valor mayor de «Marca de tiempo cada» los conserva.</translation>
+    </message>
 </context>
 <context>
-    <name>ExportTarget</name>
-    <message>
-        <source>Type a file name, without a folder.</source>
-        <translation>Escriba un nombre de archivo, sin carpeta.</translation>
-    </message>
-    <message>
-        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
-        <translation>La carpeta «%1» no existe. Elija otra.</translation>
-    </message>
-    <message>
-        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
-        <translation>No se permite escribir en la carpeta «%1». Elija otra.</translation>
-    </message>
-    <message>
-        <source>ORNA Warning</source>
-        <translation>Aviso de ORNA</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation>«%1» ya existe en esta carpeta. ¿Reemplazarlo?</translation>
-    </message>
+    <name>Exporter</name>
     <message>
         <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
         <translation>«%1» es la propia grabación. Elija otro nombre u otra carpeta.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this export; choose a shorter time range.</source>
+        <translation>No hay memoria suficiente para esta exportación; elija un intervalo de tiempo más corto.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFile</name>
+    <message>
+        <source>it is no file</source>
+        <translation>no es un archivo</translation>
     </message>
 </context>
 <context>
@@ -164,6 +199,10 @@
     <message>
         <source>not enough memory to read the recording; load fewer at once</source>
         <translation>memoria insuficiente para leer la grabación; cargue menos a la vez</translation>
+    </message>
+    <message>
+        <source>could not read the recording &quot;%1&quot; to its end; check that the card is still in place</source>
+        <translation>no se pudo leer la grabación «%1» hasta el final; compruebe que la tarjeta sigue insertada</translation>
     </message>
 </context>
 <context>
@@ -272,12 +311,185 @@
         <source>Files</source>
         <translation>Archivos</translation>
     </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>Files that overlap in time: %1, the first are %2. They do not belong together</source>
+        <translation>Archivos que se solapan en el tiempo: %1, los primeros son %2. No van juntos</translation>
+    </message>
+    <message>
+        <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
+        <translation>Fechas de cabecera de %1 a %2, pero las muestras abarcan %3 s: los archivos no son de un mismo vuelo</translation>
+    </message>
+</context>
+<context>
+    <name>StartMessages</name>
+    <message>
+        <source>HOME is not set: settings are kept in &quot;%1&quot;.</source>
+        <translation>HOME no está definida: los ajustes se guardan en «%1».</translation>
+    </message>
+    <message>
+        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>No se pudieron leer los ajustes; el programa arranca con los valores predeterminados. El archivo dañado se conserva como «%1».</translation>
+    </message>
+    <message>
+        <source>Samples loaded: %1</source>
+        <translation>Muestras cargadas: %1</translation>
+    </message>
+    <message>
+        <source>. Remarks (see Recording Details): %1. </source>
+        <translation>. Observaciones (véase Detalles de la grabación): %1. </translation>
+    </message>
 </context>
 <context>
     <name>StartUp</name>
     <message>
         <source>Creating Dialogs ...</source>
         <translation>Creando ventanas ...</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ActivityBar</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>, %1 s left</source>
+        <translation>, quedan %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::CommandSet</name>
+    <message>
+        <source>&amp;New Project</source>
+        <translation>&amp;Nuevo proyecto</translation>
+    </message>
+    <message>
+        <source>Create new Project</source>
+        <translation>Crear un proyecto nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project</source>
+        <translation>&amp;Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>Open Project File</source>
+        <translation>Abrir archivo de proyecto</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project</source>
+        <translation>&amp;Guardar proyecto</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Guardar proyecto</translation>
+    </message>
+    <message>
+        <source>Save Project File</source>
+        <translation>Guardar archivo de proyecto</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project as</source>
+        <translation>Guardar proyecto &amp;como</translation>
+    </message>
+    <message>
+        <source>Save Project as</source>
+        <translation>Guardar proyecto como</translation>
+    </message>
+    <message>
+        <source>Save Project File as</source>
+        <translation>Guardar archivo de proyecto como</translation>
+    </message>
+    <message>
+        <source>&amp;Open Card</source>
+        <translation>Abrir &amp;tarjeta</translation>
+    </message>
+    <message>
+        <source>Open Card</source>
+        <translation>Abrir tarjeta</translation>
+    </message>
+    <message>
+        <source>Open SD Card</source>
+        <translation>Abrir tarjeta SD</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>Open Preferences Dialog</source>
+        <translation>Abrir la ventana de preferencias</translation>
+    </message>
+    <message>
+        <source>Recording Details</source>
+        <translation>Detalles de la grabación</translation>
+    </message>
+    <message>
+        <source>Show the Header and the Damages of the Recording</source>
+        <translation>Mostrar la cabecera y los daños de la grabación</translation>
+    </message>
+    <message>
+        <source>Export Google KML File</source>
+        <translation>Exportar archivo KML de Google</translation>
+    </message>
+    <message>
+        <source>Export Google Earth KML File</source>
+        <translation>Exportar archivo KML de Google Earth</translation>
+    </message>
+    <message>
+        <source>Export CSV/CAN File</source>
+        <translation>Exportar archivo CSV/CAN</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>Quit Application</source>
+        <translation>Salir de la aplicación</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Show License Information</source>
+        <translation>Mostrar información de licencia</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Help Window</source>
+        <translation>Ventana de ayuda</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Extras</source>
+        <translation>&amp;Extras</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Barra principal</translation>
     </message>
 </context>
 <context>
@@ -343,54 +555,6 @@ Abra una tarjeta (Ctrl+C) o suelte su carpeta en la ventana.</translation>
         <source>Fault Matrix</source>
         <translation>Matriz de fallos</translation>
     </message>
-    <message>
-        <source>Date and time of day</source>
-        <translation>Fecha y hora del día</translation>
-    </message>
-    <message>
-        <source>Time on the recording&apos;s clock</source>
-        <translation>Tiempo del reloj de la grabación</translation>
-    </message>
-    <message>
-        <source>Offset:</source>
-        <translation>Desfase:</translation>
-    </message>
-    <message>
-        <source> s</source>
-        <translation> s</translation>
-    </message>
-    <message>
-        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
-        <translation>Segundos que se suman a los tiempos de las unidades cuyo reloj difiere; se guardan con la carpeta de la tarjeta</translation>
-    </message>
-    <message>
-        <source>Current time, from the recording&apos;s start to its stop</source>
-        <translation>Instante actual, desde el inicio hasta el fin de la grabación</translation>
-    </message>
-    <message>
-        <source>Current time</source>
-        <translation>Instante actual</translation>
-    </message>
-    <message>
-        <source>Current time; type a time and press Enter to go there</source>
-        <translation>Instante actual; escriba un tiempo y pulse Intro para ir a él</translation>
-    </message>
-    <message>
-        <source>Go to time</source>
-        <translation>Ir al instante</translation>
-    </message>
-    <message>
-        <source>Previous event</source>
-        <translation>Evento anterior</translation>
-    </message>
-    <message>
-        <source>Next event</source>
-        <translation>Evento siguiente</translation>
-    </message>
-    <message>
-        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
-        <translation>No se pudo guardar el desfase en la tarjeta (¿está protegida contra escritura?); es válido hasta que se cierre el programa.</translation>
-    </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
@@ -408,18 +572,6 @@ Abra una tarjeta (Ctrl+C) o suelte su carpeta en la ventana.</translation>
     <message>
         <source>%1 of %2 selected parameters shown</source>
         <translation>Se muestran %1 de %2 parámetros seleccionados</translation>
-    </message>
-    <message>
-        <source>No parameter is selected.
-Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation>No hay ningún parámetro seleccionado.
-Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».</translation>
-    </message>
-    <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>No hay ninguna grabación cargada.
-Abra una tarjeta y elija una o varias grabaciones en la lista de la izquierda.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
@@ -442,54 +594,6 @@ Choose a folder that can be written, with enough free space, and a name that end
 Elija una carpeta en la que se pueda escribir, con suficiente espacio libre, y un nombre que termine en .bmp, .png o .jpg.</translation>
     </message>
     <message>
-        <source>Zoom In</source>
-        <translation>Acercar</translation>
-    </message>
-    <message>
-        <source>Zoom Out</source>
-        <translation>Alejar</translation>
-    </message>
-    <message>
-        <source>Zoom 1:1</source>
-        <translation>Zoom 1:1</translation>
-    </message>
-    <message>
-        <source>Zoom Marker</source>
-        <translation>Zoom a marcadores</translation>
-    </message>
-    <message>
-        <source>Clear All</source>
-        <translation>Vaciar todo</translation>
-    </message>
-    <message>
-        <source>Automatic Mode</source>
-        <translation>Modo automático</translation>
-    </message>
-    <message>
-        <source>Split Mode</source>
-        <translation>Modo dividido</translation>
-    </message>
-    <message>
-        <source>Single Graph Mode</source>
-        <translation>Modo de gráfica única</translation>
-    </message>
-    <message>
-        <source>Reset all to default</source>
-        <translation>Restablecer todo</translation>
-    </message>
-    <message>
-        <source>Setup</source>
-        <translation>Ajustes</translation>
-    </message>
-    <message>
-        <source>Snapshot</source>
-        <translation>Captura</translation>
-    </message>
-    <message>
-        <source>Auto</source>
-        <translation>Auto</translation>
-    </message>
-    <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>No se puede dibujar la gráfica: esta pantalla no ofrece OpenGL.
@@ -501,6 +605,18 @@ Press &quot;Confirm Selection&quot; to fill it again.</source>
         <translation>Se ha vaciado la gráfica.
 Pulse «Confirmar selección» para volver a llenarla.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for these curves; select fewer parameters.</source>
+        <translation>No hay memoria suficiente para estas curvas; seleccione menos parámetros.</translation>
+    </message>
+    <message>
+        <source>Left out of the graph, because their time falls: %1 samples</source>
+        <translation>Omitidas de la gráfica porque su tiempo retrocede: %1 muestras</translation>
+    </message>
+    <message>
+        <source>The graph is being filled.</source>
+        <translation>La gráfica se está llenando.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataLimit</name>
@@ -509,8 +625,12 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
         <translation>Avisos/límites superados</translation>
     </message>
     <message>
-        <source>No parameter left its normal range in this recording.</source>
-        <translation>Ningún parámetro salió de su rango normal en esta grabación.</translation>
+        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
+        <translation>La grabación no contiene ningún mensaje FLOAT de un parámetro con umbral; no se ha vigilado ningún límite.</translation>
+    </message>
+    <message>
+        <source>No limit event in %1 samples of %2 watched parameters.</source>
+        <translation>Ningún evento de límite en %1 muestras de %2 parámetros vigilados.</translation>
     </message>
 </context>
 <context>
@@ -520,20 +640,16 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
         <translation>Valores de los parámetros seleccionados</translation>
     </message>
     <message>
-        <source>No parameter is selected.
-Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation>No hay ningún parámetro seleccionado.
-Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».</translation>
-    </message>
-    <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>No hay ninguna grabación cargada.
-Abra una tarjeta y elija una o varias grabaciones en la lista de la izquierda.</translation>
-    </message>
-    <message>
         <source>The recording holds no sample of the selected parameters.</source>
         <translation>La grabación no contiene ninguna muestra de los parámetros seleccionados.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this table; load fewer recordings.</source>
+        <translation>No hay memoria suficiente para esta tabla; cargue menos grabaciones.</translation>
+    </message>
+    <message>
+        <source>The table is being filled.</source>
+        <translation>La tabla se está llenando.</translation>
     </message>
 </context>
 <context>
@@ -543,17 +659,12 @@ Abra una tarjeta y elija una o varias grabaciones en la lista de la izquierda.</
         <translation>Luces de aviso</translation>
     </message>
     <message>
-        <source>No warning lamp came on in this recording.</source>
-        <translation>No se encendió ninguna luz de aviso en esta grabación.</translation>
+        <source>The recording holds no message of a warning lamp, so none was watched.</source>
+        <translation>La grabación no contiene ningún mensaje de una luz de aviso; no se ha vigilado ninguna.</translation>
     </message>
-</context>
-<context>
-    <name>TARN::DialogEventList</name>
     <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>No hay ninguna grabación cargada.
-Abra una tarjeta y elija una o varias grabaciones en la lista de la izquierda.</translation>
+        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
+        <translation>No se encendió ninguna luz de aviso en %1 muestras de %2 luces.</translation>
     </message>
 </context>
 <context>
@@ -931,244 +1042,28 @@ Abra una tarjeta y elija una o varias grabaciones en la lista de la izquierda.</
 <context>
     <name>TARN::DialogMain</name>
     <message>
-        <source>Samples loaded: %L1</source>
-        <translation>Muestras cargadas: %L1</translation>
-    </message>
-    <message>
         <source>[edited]</source>
         <translation>[modificado]</translation>
-    </message>
-    <message>
-        <source>&amp;New Project</source>
-        <translation>&amp;Nuevo proyecto</translation>
-    </message>
-    <message>
-        <source>Create new Project</source>
-        <translation>Crear un proyecto nuevo</translation>
-    </message>
-    <message>
-        <source>&amp;Open Project</source>
-        <translation>&amp;Abrir proyecto</translation>
-    </message>
-    <message>
-        <source>Open Project</source>
-        <translation>Abrir proyecto</translation>
-    </message>
-    <message>
-        <source>Open Project File</source>
-        <translation>Abrir archivo de proyecto</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project</source>
-        <translation>&amp;Guardar proyecto</translation>
-    </message>
-    <message>
-        <source>Save Project</source>
-        <translation>Guardar proyecto</translation>
-    </message>
-    <message>
-        <source>Save Project File</source>
-        <translation>Guardar archivo de proyecto</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project as</source>
-        <translation>Guardar proyecto &amp;como</translation>
-    </message>
-    <message>
-        <source>Save Project as</source>
-        <translation>Guardar proyecto como</translation>
-    </message>
-    <message>
-        <source>Save Project File as</source>
-        <translation>Guardar archivo de proyecto como</translation>
-    </message>
-    <message>
-        <source>&amp;Open Card</source>
-        <translation>Abrir &amp;tarjeta</translation>
-    </message>
-    <message>
-        <source>Open Card</source>
-        <translation>Abrir tarjeta</translation>
     </message>
     <message>
         <source>Open SD Card</source>
         <translation>Abrir tarjeta SD</translation>
     </message>
     <message>
-        <source>Export Google KML File</source>
-        <translation>Exportar archivo KML de Google</translation>
-    </message>
-    <message>
-        <source>Export Google Earth KML File</source>
-        <translation>Exportar archivo KML de Google Earth</translation>
-    </message>
-    <message>
-        <source>Export CSV/CAN File</source>
-        <translation>Exportar archivo CSV/CAN</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Salir</translation>
-    </message>
-    <message>
-        <source>Quit Application</source>
-        <translation>Salir de la aplicación</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Archivo</translation>
-    </message>
-    <message>
-        <source>Main Toolbar</source>
-        <translation>Barra principal</translation>
-    </message>
-    <message>
-        <source>Open TARN Project</source>
-        <translation>Abrir proyecto TARN</translation>
-    </message>
-    <message>
-        <source>Project Files (*.xml)</source>
-        <translation>Archivos de proyecto (*.xml)</translation>
-    </message>
-    <message>
         <source>ORNA Warning</source>
         <translation>Aviso de ORNA</translation>
-    </message>
-    <message>
-        <source>The project &quot;%1&quot; could not be read.
-Check that it is a project file saved by this program.</source>
-        <translation>No se pudo leer el proyecto «%1».
-Compruebe que es un archivo de proyecto guardado por este programa.</translation>
     </message>
     <message>
         <source>Recordings found: %1</source>
         <translation>Grabaciones encontradas: %1</translation>
     </message>
     <message>
-        <source>TARN Warning</source>
-        <translation>Aviso de TARN</translation>
-    </message>
-    <message>
-        <source>Current Project not saved !
-Save it now ?</source>
-        <translation>¡El proyecto actual no está guardado!
-¿Guardarlo ahora?</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Sí</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>No</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
     <message>
-        <source>The project could not be written to &quot;%1&quot;.
-The old file is unchanged; save it in another folder.</source>
-        <translation>No se pudo escribir el proyecto en «%1».
-El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
-    </message>
-    <message>
-        <source>Save TARN Project</source>
-        <translation>Guardar proyecto TARN</translation>
-    </message>
-    <message>
-        <source>Exporting KML file failed !</source>
-        <translation>¡Error al exportar el archivo KML!</translation>
-    </message>
-    <message>
-        <source>ORNA Viewer Warning</source>
-        <translation>Aviso de ORNA Viewer</translation>
-    </message>
-    <message>
-        <source>Exporting CSV/CAN file failed !</source>
-        <translation>¡Error al exportar el archivo CSV/CAN!</translation>
-    </message>
-    <message>
-        <source>Written: %1</source>
-        <translation>Escrito: %1</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>Aceptar</translation>
-    </message>
-    <message>
         <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown. Choose another under Extras, Preferences.</source>
         <translation>No se pudo cargar el perfil «%1»: no se puede mostrar ningún parámetro. Elija otro en Extras, Preferencias.</translation>
-    </message>
-    <message>
-        <source>Preferences</source>
-        <translation>Preferencias</translation>
-    </message>
-    <message>
-        <source>Open Preferences Dialog</source>
-        <translation>Abrir la ventana de preferencias</translation>
-    </message>
-    <message>
-        <source>Recording Details</source>
-        <translation>Detalles de la grabación</translation>
-    </message>
-    <message>
-        <source>Show the Header and the Damages of the Recording</source>
-        <translation>Mostrar la cabecera y los daños de la grabación</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Acerca de</translation>
-    </message>
-    <message>
-        <source>Show License Information</source>
-        <translation>Mostrar información de licencia</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Ayuda</translation>
-    </message>
-    <message>
-        <source>Help Window</source>
-        <translation>Ventana de ayuda</translation>
-    </message>
-    <message>
-        <source>&amp;Extras</source>
-        <translation>&amp;Extras</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>A&amp;yuda</translation>
-    </message>
-    <message>
-        <source>Not everything could be read: %1</source>
-        <translation>No se pudo leer todo: %1</translation>
-    </message>
-    <message>
-        <source>. Remarks (see Recording Details): %1. </source>
-        <translation>. Observaciones (véase Detalles de la grabación): %1. </translation>
-    </message>
-    <message>
-        <source>There is not enough memory to show the recording; load fewer at once.</source>
-        <translation>No hay memoria suficiente para mostrar la grabación; cargue menos a la vez.</translation>
-    </message>
-    <message>
-        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
-        <translation>No se pudieron leer los ajustes; el programa arranca con los valores predeterminados. El archivo dañado se conserva como «%1».</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for this export; choose a shorter time range.</source>
-        <translation>No hay memoria suficiente para esta exportación; elija un intervalo de tiempo más corto.</translation>
-    </message>
-    <message>
-        <source>The project was not saved: no profile is loaded, so its parameters are not known.
-Choose a profile under Extras, Preferences.</source>
-        <translation>El proyecto no se guardó: no hay ningún perfil cargado y no se conocen sus parámetros.
-Elija un perfil en Extras, Preferencias.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation>«%1» ya existe en esta carpeta. ¿Reemplazarlo?</translation>
     </message>
     <message>
         <source>No recording is listed. Open a card first.</source>
@@ -1177,6 +1072,44 @@ Elija un perfil en Extras, Preferencias.</translation>
     <message>
         <source>&quot;%1&quot; is neither a project nor a profile.</source>
         <translation>«%1» no es un proyecto ni un perfil.</translation>
+    </message>
+    <message>
+        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
+        <translation>No se pudo guardar el desfase en la tarjeta (¿está protegida contra escritura?); es válido hasta que se cierre el programa.</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Cargando</translation>
+    </message>
+    <message>
+        <source>%1 samples/s</source>
+        <translation>%1 muestras/s</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>La carga se ha cancelado.</translation>
+    </message>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation>No se pudo cargar: %1</translation>
+    </message>
+    <message>
+        <source>Exporting %1</source>
+        <translation>Exportando %1</translation>
+    </message>
+    <message>
+        <source>An export is running.
+Wait until it is complete, or stop it? A stopped export leaves the old file.</source>
+        <translation>Hay una exportación en curso.
+¿Esperar a que termine o detenerla? Si se detiene, se conserva el archivo anterior.</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Esperar</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
     </message>
 </context>
 <context>
@@ -1257,6 +1190,14 @@ Elija un perfil en Extras, Preferencias.</translation>
         <source>Please restart TARN to load new language !</source>
         <translation>¡Reinicie TARN para cargar el nuevo idioma!</translation>
     </message>
+    <message>
+        <source>All recorded digits</source>
+        <translation>Todos los dígitos grabados</translation>
+    </message>
+    <message>
+        <source>Numbers on the screen with all the digits that were recorded, instead of the fewest that read back as the same number; exports have them always</source>
+        <translation>Números en pantalla con todos los dígitos grabados, en lugar de los mínimos que representan el mismo número; las exportaciones los incluyen siempre</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogProfile</name>
@@ -1283,6 +1224,14 @@ Elija un perfil en Extras, Preferencias.</translation>
     <message>
         <source>Parameters of the profile</source>
         <translation>Parámetros del perfil</translation>
+    </message>
+    <message>
+        <source>Not in this profile</source>
+        <translation>No incluidos en este perfil</translation>
+    </message>
+    <message>
+        <source>The project selects these too; they are kept in its file</source>
+        <translation>El proyecto también selecciona estos; se conservan en su archivo</translation>
     </message>
 </context>
 <context>
@@ -1323,8 +1272,12 @@ Elija un perfil en Extras, Preferencias.</translation>
 <context>
     <name>TARN::DialogStatusBar</name>
     <message>
-        <source>Progress</source>
-        <translation>Progreso</translation>
+        <source>Stop loading (Escape)</source>
+        <translation>Detener la carga (Esc)</translation>
+    </message>
+    <message>
+        <source>Stop the export</source>
+        <translation>Detener la exportación</translation>
     </message>
 </context>
 <context>
@@ -1344,12 +1297,273 @@ Elija un perfil en Extras, Preferencias.</translation>
         <source>Time</source>
         <translation>Tiempo</translation>
     </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Out of range without an event</source>
+        <translation>Fuera de rango sin evento</translation>
+    </message>
+    <message>
+        <source>at its limit</source>
+        <translation>en el límite</translation>
+    </message>
+    <message>
+        <source>in warning</source>
+        <translation>en aviso</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Hasta</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Valor extremo</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Umbral</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ExportRunner</name>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso de ORNA</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>¡Error al exportar el archivo KML!</translation>
+    </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation>Aviso de ORNA Viewer</translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation>¡Error al exportar el archivo CSV/CAN!</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Escrito: %1</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>The export was stopped; the old file, if there was one, is unchanged.</source>
+        <translation>La exportación se ha detenido; el archivo anterior, si lo había, no ha cambiado.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightLoader</name>
+    <message>
+        <source>There is not enough memory for the recording; load fewer at once.</source>
+        <translation>No hay memoria suficiente para la grabación; cargue menos a la vez.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show the recording; load fewer at once.</source>
+        <translation>No hay memoria suficiente para mostrar la grabación; cargue menos a la vez.</translation>
+    </message>
+    <message>
+        <source>Looking for events</source>
+        <translation>Buscando eventos</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::GraphButtons</name>
+    <message>
+        <source>Zoom In</source>
+        <translation>Acercar</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Alejar</translation>
+    </message>
+    <message>
+        <source>Zoom 1:1</source>
+        <translation>Zoom 1:1</translation>
+    </message>
+    <message>
+        <source>Zoom Marker</source>
+        <translation>Zoom a marcadores</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Mostrar todo</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Vaciar todo</translation>
+    </message>
+    <message>
+        <source>Automatic Mode</source>
+        <translation>Modo automático</translation>
+    </message>
+    <message>
+        <source>Split Mode</source>
+        <translation>Modo dividido</translation>
+    </message>
+    <message>
+        <source>Single Graph Mode</source>
+        <translation>Modo de gráfica única</translation>
+    </message>
+    <message>
+        <source>Reset all to default</source>
+        <translation>Restablecer todo</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Captura</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ProjectKeeper</name>
+    <message>
+        <source>Open TARN Project</source>
+        <translation>Abrir proyecto TARN</translation>
+    </message>
+    <message>
+        <source>Project Files (*.xml)</source>
+        <translation>Archivos de proyecto (*.xml)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project that can be read; the selection stays as it is.
+Open a project file saved by this program.</source>
+        <translation>«%1» no es un proyecto que se pueda leer; la selección no cambia.
+Abra un archivo de proyecto guardado por este programa.</translation>
+    </message>
+    <message>
+        <source>TARN Warning</source>
+        <translation>Aviso de TARN</translation>
+    </message>
+    <message>
+        <source>Current Project not saved !
+Save it now ?</source>
+        <translation>¡El proyecto actual no está guardado!
+¿Guardarlo ahora?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The project was not saved: no profile is loaded, so its parameters are not known.
+Choose a profile under Extras, Preferences.</source>
+        <translation>El proyecto no se guardó: no hay ningún perfil cargado y no se conocen sus parámetros.
+Elija un perfil en Extras, Preferencias.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project and is not replaced.
+Choose another name for the project.</source>
+        <translation>«%1» no es un proyecto y no se reemplaza.
+Elija otro nombre para el proyecto.</translation>
+    </message>
+    <message>
+        <source>The project could not be written to &quot;%1&quot;.
+The old file is unchanged; save it in another folder.</source>
+        <translation>No se pudo escribir el proyecto en «%1».
+El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
+    </message>
+    <message>
+        <source>Project saved: %1</source>
+        <translation>Proyecto guardado: %1</translation>
+    </message>
+    <message>
+        <source>Save TARN Project</source>
+        <translation>Guardar proyecto TARN</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>«%1» ya existe en esta carpeta. ¿Reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso de ORNA</translation>
+    </message>
 </context>
 <context>
     <name>TARN::TableModel</name>
     <message>
         <source>Time</source>
         <translation>Tiempo</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::TimeControls</name>
+    <message>
+        <source>Date and time of day in UTC</source>
+        <translation>Fecha y hora del día en UTC</translation>
+    </message>
+    <message>
+        <source>Time on the recording&apos;s clock</source>
+        <translation>Tiempo del reloj de la grabación</translation>
+    </message>
+    <message>
+        <source>Offset:</source>
+        <translation>Desfase:</translation>
+    </message>
+    <message>
+        <source>UTC</source>
+        <translation>UTC</translation>
+    </message>
+    <message>
+        <source>Recording clock</source>
+        <translation>Reloj de la grabación</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
+        <translation>Segundos que se suman a los tiempos de las unidades cuyo reloj difiere; se guardan con la carpeta de la tarjeta</translation>
+    </message>
+    <message>
+        <source>Current time, from the recording&apos;s start to its stop</source>
+        <translation>Instante actual, desde el inicio hasta el fin de la grabación</translation>
+    </message>
+    <message>
+        <source>Current time</source>
+        <translation>Instante actual</translation>
+    </message>
+    <message>
+        <source>Current time on the recording&apos;s clock; type a time and press Enter to go there</source>
+        <translation>Instante actual en el reloj de la grabación; escriba un tiempo y pulse Intro para ir a él</translation>
+    </message>
+    <message>
+        <source>Go to time</source>
+        <translation>Ir al instante</translation>
+    </message>
+    <message>
+        <source>Previous event</source>
+        <translation>Evento anterior</translation>
+    </message>
+    <message>
+        <source>Next event</source>
+        <translation>Evento siguiente</translation>
     </message>
 </context>
 <context>
@@ -1362,13 +1576,13 @@ Elija un perfil en Extras, Preferencias.</translation>
         <source>Fault timeline</source>
         <translation>Cronología de fallos</translation>
     </message>
+    <message>
+        <source>The recording holds no message of this matrix.</source>
+        <translation>La grabación no contiene ningún mensaje de esta matriz.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::WidgetTimeRange</name>
-    <message>
-        <source>Start/Stop Time</source>
-        <translation>Inicio/fin</translation>
-    </message>
     <message>
         <source>Start time</source>
         <translation>Inicio</translation>
@@ -1404,6 +1618,33 @@ Elija un perfil en Extras, Preferencias.</translation>
     <message>
         <source>The start time is after the stop time: nothing would be exported.</source>
         <translation>El inicio es posterior al fin: no se exportaría nada.</translation>
+    </message>
+    <message>
+        <source>Start/Stop Time (recording clock)</source>
+        <translation>Inicio/fin (reloj de la grabación)</translation>
+    </message>
+</context>
+<context>
+    <name>TargetQuestion</name>
+    <message>
+        <source>Type a file name, without a folder.</source>
+        <translation>Escriba un nombre de archivo, sin carpeta.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
+        <translation>La carpeta «%1» no existe. Elija otra.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
+        <translation>No se permite escribir en la carpeta «%1». Elija otra.</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso de ORNA</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>«%1» ya existe en esta carpeta. ¿Reemplazarlo?</translation>
     </message>
 </context>
 <context>

@@ -72,6 +72,46 @@
     </message>
 </context>
 <context>
+    <name>EmptyText</name>
+    <message>
+        <source>No profile is loaded, so nothing can be decoded and nothing was checked.
+Choose one in the &lt;a href=&quot;preferences&quot;&gt;preferences&lt;/a&gt;.</source>
+        <translation>Aucun profil n&apos;est chargé&#xa0;: rien ne peut être décodé et rien n&apos;a été vérifié.
+Choisissez-en un dans les &lt;a href=&quot;preferences&quot;&gt;préférences&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The recording is being loaded.</source>
+        <translation>L&apos;enregistrement est en cours de chargement.</translation>
+    </message>
+    <message>
+        <source>No recording is loaded.
+Open a card and pick one or more recordings in the list on the left.</source>
+        <translation>Aucun enregistrement n&apos;est chargé.
+Ouvrez une carte et choisissez un ou plusieurs enregistrements dans la liste de gauche.</translation>
+    </message>
+    <message>
+        <source>The recording holds no samples, so nothing was checked.</source>
+        <translation>L&apos;enregistrement ne contient aucun échantillon&#xa0;; rien n&apos;a été vérifié.</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.
+Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
+        <translation>Aucun paramètre n&apos;est sélectionné.
+Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirmer la sélection&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>EventMarks</name>
+    <message>
+        <source>%1 came</source>
+        <translation>apparition de %1</translation>
+    </message>
+    <message>
+        <source>%1 went</source>
+        <translation>disparition de %1</translation>
+    </message>
+</context>
+<context>
     <name>ExportCan</name>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
@@ -123,32 +163,27 @@
         <source>No position lies in the time range, the flight path is empty.</source>
         <translation>Aucune position dans la plage de temps, la trajectoire de vol est vide.</translation>
     </message>
+    <message>
+        <source>Left out, because no position lies in their time slot: %1 values, %2 events. A longer &quot;Timestamp every&quot; keeps them.</source>
+        <translation>Écartés, faute de position dans leur intervalle de temps&#xa0;: %1 valeurs, %2 événements. Un «&#xa0;Horodatage toutes les&#xa0;» plus long les conserve.</translation>
+    </message>
 </context>
 <context>
-    <name>ExportTarget</name>
-    <message>
-        <source>Type a file name, without a folder.</source>
-        <translation>Saisissez un nom de fichier, sans dossier.</translation>
-    </message>
-    <message>
-        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
-        <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;existe pas. Choisissez-en un autre.</translation>
-    </message>
-    <message>
-        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
-        <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;est pas accessible en écriture. Choisissez-en un autre.</translation>
-    </message>
-    <message>
-        <source>ORNA Warning</source>
-        <translation>ORNA - Avertissement</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation>«&#xa0;%1&#xa0;» existe déjà dans ce dossier. Le remplacer&#xa0;?</translation>
-    </message>
+    <name>Exporter</name>
     <message>
         <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
-        <translation>« %1 » est l'enregistrement lui-même. Choisissez un autre nom ou un autre dossier.</translation>
+        <translation>«&#xa0;%1&#xa0;» est l&apos;enregistrement lui-même. Choisissez un autre nom ou un autre dossier.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this export; choose a shorter time range.</source>
+        <translation>Mémoire insuffisante pour cet export&#xa0;; choisissez une plage de temps plus courte.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFile</name>
+    <message>
+        <source>it is no file</source>
+        <translation>ce n&apos;est pas un fichier</translation>
     </message>
 </context>
 <context>
@@ -164,6 +199,10 @@
     <message>
         <source>not enough memory to read the recording; load fewer at once</source>
         <translation>mémoire insuffisante pour lire l&apos;enregistrement&#xa0;; chargez-en moins à la fois</translation>
+    </message>
+    <message>
+        <source>could not read the recording &quot;%1&quot; to its end; check that the card is still in place</source>
+        <translation>impossible de lire l&apos;enregistrement «&#xa0;%1&#xa0;» jusqu&apos;à la fin&#xa0;; vérifiez que la carte est toujours en place</translation>
     </message>
 </context>
 <context>
@@ -272,12 +311,185 @@
         <source>Files</source>
         <translation>Fichiers</translation>
     </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>Files that overlap in time: %1, the first are %2. They do not belong together</source>
+        <translation>Fichiers qui se chevauchent dans le temps&#xa0;: %1, les premiers sont %2. Ils ne vont pas ensemble</translation>
+    </message>
+    <message>
+        <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
+        <translation>Dates d&apos;en-tête de %1 à %2, mais les échantillons couvrent %3 s&#xa0;: les fichiers ne sont pas d&apos;un même vol</translation>
+    </message>
+</context>
+<context>
+    <name>StartMessages</name>
+    <message>
+        <source>HOME is not set: settings are kept in &quot;%1&quot;.</source>
+        <translation>HOME n&apos;est pas définie&#xa0;: les réglages sont conservés dans «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>Les réglages n&apos;ont pas pu être lus, le programme démarre avec ses valeurs par défaut. Le fichier endommagé est conservé sous «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Samples loaded: %1</source>
+        <translation>Échantillons chargés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>. Remarks (see Recording Details): %1. </source>
+        <translation>. Remarques (voir Détails de l&apos;enregistrement)&#xa0;: %1. </translation>
+    </message>
 </context>
 <context>
     <name>StartUp</name>
     <message>
         <source>Creating Dialogs ...</source>
         <translation>Création des fenêtres ...</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ActivityBar</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>, %1 s left</source>
+        <translation>, encore %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::CommandSet</name>
+    <message>
+        <source>&amp;New Project</source>
+        <translation>&amp;Nouveau projet</translation>
+    </message>
+    <message>
+        <source>Create new Project</source>
+        <translation>Créer un nouveau projet</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project</source>
+        <translation>&amp;Ouvrir un projet</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Ouvrir un projet</translation>
+    </message>
+    <message>
+        <source>Open Project File</source>
+        <translation>Ouvrir un fichier de projet</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project</source>
+        <translation>&amp;Enregistrer le projet</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Enregistrer le projet</translation>
+    </message>
+    <message>
+        <source>Save Project File</source>
+        <translation>Enregistrer le fichier de projet</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project as</source>
+        <translation>Enregistrer le projet &amp;sous</translation>
+    </message>
+    <message>
+        <source>Save Project as</source>
+        <translation>Enregistrer le projet sous</translation>
+    </message>
+    <message>
+        <source>Save Project File as</source>
+        <translation>Enregistrer le fichier de projet sous</translation>
+    </message>
+    <message>
+        <source>&amp;Open Card</source>
+        <translation>Ouvrir une &amp;carte</translation>
+    </message>
+    <message>
+        <source>Open Card</source>
+        <translation>Ouvrir une carte</translation>
+    </message>
+    <message>
+        <source>Open SD Card</source>
+        <translation>Ouvrir une carte SD</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>Open Preferences Dialog</source>
+        <translation>Ouvrir les préférences</translation>
+    </message>
+    <message>
+        <source>Recording Details</source>
+        <translation>Détails de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Show the Header and the Damages of the Recording</source>
+        <translation>Afficher l&apos;en-tête et les anomalies de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Export Google KML File</source>
+        <translation>Exporter un fichier Google KML</translation>
+    </message>
+    <message>
+        <source>Export Google Earth KML File</source>
+        <translation>Exporter un fichier KML Google Earth</translation>
+    </message>
+    <message>
+        <source>Export CSV/CAN File</source>
+        <translation>Exporter un fichier CSV/CAN</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Quit Application</source>
+        <translation>Quitter l&apos;application</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>À propos</translation>
+    </message>
+    <message>
+        <source>Show License Information</source>
+        <translation>Afficher les informations de licence</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Help Window</source>
+        <translation>Fenêtre d&apos;aide</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Extras</source>
+        <translation>&amp;Outils</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Barre d&apos;outils principale</translation>
     </message>
 </context>
 <context>
@@ -343,54 +555,6 @@ Ouvrez une carte (Ctrl+C) ou déposez son dossier sur la fenêtre.</translation>
         <source>Fault Matrix</source>
         <translation>Matrice de défauts</translation>
     </message>
-    <message>
-        <source>Date and time of day</source>
-        <translation>Date et heure du jour</translation>
-    </message>
-    <message>
-        <source>Time on the recording&apos;s clock</source>
-        <translation>Heure à l&apos;horloge de l&apos;enregistrement</translation>
-    </message>
-    <message>
-        <source>Offset:</source>
-        <translation>Décalage&#xa0;:</translation>
-    </message>
-    <message>
-        <source> s</source>
-        <translation> s</translation>
-    </message>
-    <message>
-        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
-        <translation>Secondes ajoutées aux heures des boîtiers dont l&apos;horloge diffère&#xa0;; conservées avec le dossier de la carte</translation>
-    </message>
-    <message>
-        <source>Current time, from the recording&apos;s start to its stop</source>
-        <translation>Instant courant, du début à la fin de l&apos;enregistrement</translation>
-    </message>
-    <message>
-        <source>Current time</source>
-        <translation>Instant courant</translation>
-    </message>
-    <message>
-        <source>Current time; type a time and press Enter to go there</source>
-        <translation>Instant courant&#xa0;; saisissez une heure et appuyez sur Entrée pour y aller</translation>
-    </message>
-    <message>
-        <source>Go to time</source>
-        <translation>Aller à l&apos;heure</translation>
-    </message>
-    <message>
-        <source>Previous event</source>
-        <translation>Événement précédent</translation>
-    </message>
-    <message>
-        <source>Next event</source>
-        <translation>Événement suivant</translation>
-    </message>
-    <message>
-        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
-        <translation>Le décalage n&apos;a pas pu être enregistré sur la carte (est-elle protégée en écriture&#xa0;?) et reste valable jusqu&apos;à la fermeture du programme.</translation>
-    </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
@@ -408,18 +572,6 @@ Ouvrez une carte (Ctrl+C) ou déposez son dossier sur la fenêtre.</translation>
     <message>
         <source>%1 of %2 selected parameters shown</source>
         <translation>%1 paramètres affichés sur %2 sélectionnés</translation>
-    </message>
-    <message>
-        <source>No parameter is selected.
-Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation>Aucun paramètre n&apos;est sélectionné.
-Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirmer la sélection&#xa0;».</translation>
-    </message>
-    <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Aucun enregistrement n&apos;est chargé.
-Ouvrez une carte et choisissez un ou plusieurs enregistrements dans la liste de gauche.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
@@ -442,54 +594,6 @@ Choose a folder that can be written, with enough free space, and a name that end
 Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, et un nom se terminant par .bmp, .png ou .jpg.</translation>
     </message>
     <message>
-        <source>Zoom In</source>
-        <translation>Zoom avant</translation>
-    </message>
-    <message>
-        <source>Zoom Out</source>
-        <translation>Zoom arrière</translation>
-    </message>
-    <message>
-        <source>Zoom 1:1</source>
-        <translation>Zoom 1:1</translation>
-    </message>
-    <message>
-        <source>Zoom Marker</source>
-        <translation>Zoom marqueurs</translation>
-    </message>
-    <message>
-        <source>Clear All</source>
-        <translation>Tout effacer</translation>
-    </message>
-    <message>
-        <source>Automatic Mode</source>
-        <translation>Mode automatique</translation>
-    </message>
-    <message>
-        <source>Split Mode</source>
-        <translation>Mode séparé</translation>
-    </message>
-    <message>
-        <source>Single Graph Mode</source>
-        <translation>Mode graphique unique</translation>
-    </message>
-    <message>
-        <source>Reset all to default</source>
-        <translation>Tout réinitialiser</translation>
-    </message>
-    <message>
-        <source>Setup</source>
-        <translation>Réglages</translation>
-    </message>
-    <message>
-        <source>Snapshot</source>
-        <translation>Capture</translation>
-    </message>
-    <message>
-        <source>Auto</source>
-        <translation>Auto</translation>
-    </message>
-    <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Le graphique ne peut pas être tracé&#xa0;: cet affichage n&apos;offre pas OpenGL.
@@ -501,6 +605,18 @@ Press &quot;Confirm Selection&quot; to fill it again.</source>
         <translation>Le graphique a été effacé.
 Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for these curves; select fewer parameters.</source>
+        <translation>Mémoire insuffisante pour ces courbes&#xa0;; sélectionnez moins de paramètres.</translation>
+    </message>
+    <message>
+        <source>Left out of the graph, because their time falls: %1 samples</source>
+        <translation>Écartés du graphique, car leur heure recule&#xa0;: %1 échantillons</translation>
+    </message>
+    <message>
+        <source>The graph is being filled.</source>
+        <translation>Le graphique est en cours de remplissage.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataLimit</name>
@@ -509,8 +625,12 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
         <translation>Dépassements alerte/limite</translation>
     </message>
     <message>
-        <source>No parameter left its normal range in this recording.</source>
-        <translation>Aucun paramètre n&apos;est sorti de sa plage normale dans cet enregistrement.</translation>
+        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
+        <translation>L&apos;enregistrement ne contient aucun message FLOAT d&apos;un paramètre à seuil&#xa0;; aucune limite n&apos;a été surveillée.</translation>
+    </message>
+    <message>
+        <source>No limit event in %1 samples of %2 watched parameters.</source>
+        <translation>Aucun événement de limite dans %1 échantillons de %2 paramètres surveillés.</translation>
     </message>
 </context>
 <context>
@@ -520,20 +640,16 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
         <translation>Valeurs des paramètres sélectionnés</translation>
     </message>
     <message>
-        <source>No parameter is selected.
-Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation>Aucun paramètre n&apos;est sélectionné.
-Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirmer la sélection&#xa0;».</translation>
-    </message>
-    <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Aucun enregistrement n&apos;est chargé.
-Ouvrez une carte et choisissez un ou plusieurs enregistrements dans la liste de gauche.</translation>
-    </message>
-    <message>
         <source>The recording holds no sample of the selected parameters.</source>
         <translation>L&apos;enregistrement ne contient aucun échantillon des paramètres sélectionnés.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this table; load fewer recordings.</source>
+        <translation>Mémoire insuffisante pour ce tableau&#xa0;; chargez moins d&apos;enregistrements.</translation>
+    </message>
+    <message>
+        <source>The table is being filled.</source>
+        <translation>Le tableau est en cours de remplissage.</translation>
     </message>
 </context>
 <context>
@@ -543,17 +659,12 @@ Ouvrez une carte et choisissez un ou plusieurs enregistrements dans la liste de 
         <translation>Voyants d&apos;alerte</translation>
     </message>
     <message>
-        <source>No warning lamp came on in this recording.</source>
-        <translation>Aucun voyant d&apos;alerte ne s&apos;est allumé dans cet enregistrement.</translation>
+        <source>The recording holds no message of a warning lamp, so none was watched.</source>
+        <translation>L&apos;enregistrement ne contient aucun message de voyant d&apos;alerte&#xa0;; aucun n&apos;a été surveillé.</translation>
     </message>
-</context>
-<context>
-    <name>TARN::DialogEventList</name>
     <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Aucun enregistrement n&apos;est chargé.
-Ouvrez une carte et choisissez un ou plusieurs enregistrements dans la liste de gauche.</translation>
+        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
+        <translation>Aucun voyant d&apos;alerte ne s&apos;est allumé dans %1 échantillons de %2 voyants.</translation>
     </message>
 </context>
 <context>
@@ -931,252 +1042,74 @@ Ouvrez une carte et choisissez un ou plusieurs enregistrements dans la liste de 
 <context>
     <name>TARN::DialogMain</name>
     <message>
-        <source>Samples loaded: %L1</source>
-        <translation>Échantillons chargés&#xa0;: %L1</translation>
-    </message>
-    <message>
         <source>[edited]</source>
         <translation>[modifié]</translation>
-    </message>
-    <message>
-        <source>&amp;New Project</source>
-        <translation>&amp;Nouveau projet</translation>
-    </message>
-    <message>
-        <source>Create new Project</source>
-        <translation>Créer un nouveau projet</translation>
-    </message>
-    <message>
-        <source>&amp;Open Project</source>
-        <translation>&amp;Ouvrir un projet</translation>
-    </message>
-    <message>
-        <source>Open Project</source>
-        <translation>Ouvrir un projet</translation>
-    </message>
-    <message>
-        <source>Open Project File</source>
-        <translation>Ouvrir un fichier de projet</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project</source>
-        <translation>&amp;Enregistrer le projet</translation>
-    </message>
-    <message>
-        <source>Save Project</source>
-        <translation>Enregistrer le projet</translation>
-    </message>
-    <message>
-        <source>Save Project File</source>
-        <translation>Enregistrer le fichier de projet</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project as</source>
-        <translation>Enregistrer le projet &amp;sous</translation>
-    </message>
-    <message>
-        <source>Save Project as</source>
-        <translation>Enregistrer le projet sous</translation>
-    </message>
-    <message>
-        <source>Save Project File as</source>
-        <translation>Enregistrer le fichier de projet sous</translation>
-    </message>
-    <message>
-        <source>&amp;Open Card</source>
-        <translation>Ouvrir une &amp;carte</translation>
-    </message>
-    <message>
-        <source>Open Card</source>
-        <translation>Ouvrir une carte</translation>
     </message>
     <message>
         <source>Open SD Card</source>
         <translation>Ouvrir une carte SD</translation>
     </message>
     <message>
-        <source>Export Google KML File</source>
-        <translation>Exporter un fichier Google KML</translation>
-    </message>
-    <message>
-        <source>Export Google Earth KML File</source>
-        <translation>Exporter un fichier KML Google Earth</translation>
-    </message>
-    <message>
-        <source>Export CSV/CAN File</source>
-        <translation>Exporter un fichier CSV/CAN</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>Quit Application</source>
-        <translation>Quitter l&apos;application</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Fichier</translation>
-    </message>
-    <message>
-        <source>Main Toolbar</source>
-        <translation>Barre d&apos;outils principale</translation>
-    </message>
-    <message>
-        <source>Open TARN Project</source>
-        <translation>Ouvrir un projet TARN</translation>
-    </message>
-    <message>
-        <source>Project Files (*.xml)</source>
-        <translation>Fichiers de projet (*.xml)</translation>
-    </message>
-    <message>
         <source>ORNA Warning</source>
         <translation>ORNA - Avertissement</translation>
-    </message>
-    <message>
-        <source>The project &quot;%1&quot; could not be read.
-Check that it is a project file saved by this program.</source>
-        <translation>Le projet «&#xa0;%1&#xa0;» n&apos;a pas pu être lu.
-Vérifiez qu&apos;il s&apos;agit d&apos;un fichier de projet enregistré par ce programme.</translation>
     </message>
     <message>
         <source>Recordings found: %1</source>
         <translation>Enregistrements trouvés&#xa0;: %1</translation>
     </message>
     <message>
-        <source>TARN Warning</source>
-        <translation>TARN - Avertissement</translation>
-    </message>
-    <message>
-        <source>Current Project not saved !
-Save it now ?</source>
-        <translation>Le projet en cours n&apos;est pas enregistré !
-L&apos;enregistrer maintenant ?</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Oui</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Non</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>The project could not be written to &quot;%1&quot;.
-The old file is unchanged; save it in another folder.</source>
-        <translation>Le projet n&apos;a pas pu être écrit dans «&#xa0;%1&#xa0;».
-L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre dossier.</translation>
-    </message>
-    <message>
-        <source>Save TARN Project</source>
-        <translation>Enregistrer le projet TARN</translation>
-    </message>
-    <message>
-        <source>Exporting KML file failed !</source>
-        <translation>Échec de l&apos;export du fichier KML !</translation>
-    </message>
-    <message>
-        <source>ORNA Viewer Warning</source>
-        <translation>Visualiseur ORNA - Avertissement</translation>
-    </message>
-    <message>
-        <source>Exporting CSV/CAN file failed !</source>
-        <translation>Échec de l&apos;export du fichier CSV/CAN !</translation>
-    </message>
-    <message>
-        <source>Written: %1</source>
-        <translation>Écrit&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
     </message>
     <message>
         <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown. Choose another under Extras, Preferences.</source>
         <translation>Le profil «&#xa0;%1&#xa0;» n&apos;a pas pu être chargé&#xa0;: aucun paramètre ne peut être affiché. Choisissez-en un autre sous Outils, Préférences.</translation>
     </message>
     <message>
-        <source>Preferences</source>
-        <translation>Préférences</translation>
-    </message>
-    <message>
-        <source>Open Preferences Dialog</source>
-        <translation>Ouvrir les préférences</translation>
-    </message>
-    <message>
-        <source>Recording Details</source>
-        <translation>Détails de l&apos;enregistrement</translation>
-    </message>
-    <message>
-        <source>Show the Header and the Damages of the Recording</source>
-        <translation>Afficher l&apos;en-tête et les anomalies de l&apos;enregistrement</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>À propos</translation>
-    </message>
-    <message>
-        <source>Show License Information</source>
-        <translation>Afficher les informations de licence</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
-    <message>
-        <source>Help Window</source>
-        <translation>Fenêtre d&apos;aide</translation>
-    </message>
-    <message>
-        <source>&amp;Extras</source>
-        <translation>&amp;Outils</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Aide</translation>
-    </message>
-    <message>
-        <source>Not everything could be read: %1</source>
-        <translation>Tout n&apos;a pas pu être lu&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>. Remarks (see Recording Details): %1. </source>
-        <translation>. Remarques (voir Détails de l&apos;enregistrement)&#xa0;: %1. </translation>
-    </message>
-    <message>
-        <source>There is not enough memory to show the recording; load fewer at once.</source>
-        <translation>Mémoire insuffisante pour afficher l&apos;enregistrement&#xa0;; chargez-en moins à la fois.</translation>
-    </message>
-    <message>
-        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
-        <translation>Les réglages n&apos;ont pas pu être lus, le programme démarre avec ses valeurs par défaut. Le fichier endommagé est conservé sous «&#xa0;%1&#xa0;».</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for this export; choose a shorter time range.</source>
-        <translation>Mémoire insuffisante pour cet export ; choisissez une plage de temps plus courte.</translation>
-    </message>
-    <message>
-        <source>The project was not saved: no profile is loaded, so its parameters are not known.
-Choose a profile under Extras, Preferences.</source>
-        <translation>Le projet n'a pas été enregistré : aucun profil n'est chargé, ses paramètres ne sont donc pas connus.
-Choisissez un profil sous Outils, Préférences.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation>«&#xa0;%1&#xa0;» existe déjà dans ce dossier. Le remplacer&#xa0;?</translation>
-    </message>
-    <message>
         <source>No recording is listed. Open a card first.</source>
-        <translation>Aucun enregistrement dans la liste. Ouvrez d'abord une carte.</translation>
+        <translation>Aucun enregistrement dans la liste. Ouvrez d&apos;abord une carte.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is neither a project nor a profile.</source>
-        <translation>« %1 » n'est ni un projet ni un profil.</translation>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est ni un projet ni un profil.</translation>
+    </message>
+    <message>
+        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
+        <translation>Le décalage n&apos;a pas pu être enregistré sur la carte (est-elle protégée en écriture&#xa0;?) et reste valable jusqu&apos;à la fermeture du programme.</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Chargement</translation>
+    </message>
+    <message>
+        <source>%1 samples/s</source>
+        <translation>%1 échantillons/s</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>Le chargement a été annulé.</translation>
+    </message>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation>Échec du chargement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Exporting %1</source>
+        <translation>Export de %1</translation>
+    </message>
+    <message>
+        <source>An export is running.
+Wait until it is complete, or stop it? A stopped export leaves the old file.</source>
+        <translation>Un export est en cours.
+Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté laisse l&apos;ancien fichier en place.</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Attendre</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
     </message>
 </context>
 <context>
@@ -1257,6 +1190,14 @@ Choisissez un profil sous Outils, Préférences.</translation>
         <source>Please restart TARN to load new language !</source>
         <translation>Veuillez redémarrer TARN pour charger la nouvelle langue !</translation>
     </message>
+    <message>
+        <source>All recorded digits</source>
+        <translation>Tous les chiffres enregistrés</translation>
+    </message>
+    <message>
+        <source>Numbers on the screen with all the digits that were recorded, instead of the fewest that read back as the same number; exports have them always</source>
+        <translation>Nombres à l&apos;écran avec tous les chiffres enregistrés, au lieu du minimum qui redonne le même nombre&#xa0;; les exports les contiennent toujours</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogProfile</name>
@@ -1283,6 +1224,14 @@ Choisissez un profil sous Outils, Préférences.</translation>
     <message>
         <source>Parameters of the profile</source>
         <translation>Paramètres du profil</translation>
+    </message>
+    <message>
+        <source>Not in this profile</source>
+        <translation>Absents de ce profil</translation>
+    </message>
+    <message>
+        <source>The project selects these too; they are kept in its file</source>
+        <translation>Le projet les sélectionne aussi&#xa0;; ils sont conservés dans son fichier</translation>
     </message>
 </context>
 <context>
@@ -1323,8 +1272,12 @@ Choisissez un profil sous Outils, Préférences.</translation>
 <context>
     <name>TARN::DialogStatusBar</name>
     <message>
-        <source>Progress</source>
-        <translation>Progression</translation>
+        <source>Stop loading (Escape)</source>
+        <translation>Arrêter le chargement (Échap)</translation>
+    </message>
+    <message>
+        <source>Stop the export</source>
+        <translation>Arrêter l&apos;export</translation>
     </message>
 </context>
 <context>
@@ -1344,12 +1297,273 @@ Choisissez un profil sous Outils, Préférences.</translation>
         <source>Time</source>
         <translation>Heure</translation>
     </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Out of range without an event</source>
+        <translation>Hors plage sans événement</translation>
+    </message>
+    <message>
+        <source>at its limit</source>
+        <translation>en limite</translation>
+    </message>
+    <message>
+        <source>in warning</source>
+        <translation>en alerte</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Jusqu&apos;à</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Valeur extrême</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ExportRunner</name>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA - Avertissement</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>Échec de l&apos;export du fichier KML !</translation>
+    </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation>Visualiseur ORNA - Avertissement</translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation>Échec de l&apos;export du fichier CSV/CAN !</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Écrit&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The export was stopped; the old file, if there was one, is unchanged.</source>
+        <translation>L&apos;export a été arrêté&#xa0;; l&apos;ancien fichier, s&apos;il y en avait un, est inchangé.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightLoader</name>
+    <message>
+        <source>There is not enough memory for the recording; load fewer at once.</source>
+        <translation>Mémoire insuffisante pour l&apos;enregistrement&#xa0;; chargez-en moins à la fois.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show the recording; load fewer at once.</source>
+        <translation>Mémoire insuffisante pour afficher l&apos;enregistrement&#xa0;; chargez-en moins à la fois.</translation>
+    </message>
+    <message>
+        <source>Looking for events</source>
+        <translation>Recherche des événements</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::GraphButtons</name>
+    <message>
+        <source>Zoom In</source>
+        <translation>Zoom avant</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Zoom arrière</translation>
+    </message>
+    <message>
+        <source>Zoom 1:1</source>
+        <translation>Zoom 1:1</translation>
+    </message>
+    <message>
+        <source>Zoom Marker</source>
+        <translation>Zoom marqueurs</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Tout effacer</translation>
+    </message>
+    <message>
+        <source>Automatic Mode</source>
+        <translation>Mode automatique</translation>
+    </message>
+    <message>
+        <source>Split Mode</source>
+        <translation>Mode séparé</translation>
+    </message>
+    <message>
+        <source>Single Graph Mode</source>
+        <translation>Mode graphique unique</translation>
+    </message>
+    <message>
+        <source>Reset all to default</source>
+        <translation>Tout réinitialiser</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Capture</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ProjectKeeper</name>
+    <message>
+        <source>Open TARN Project</source>
+        <translation>Ouvrir un projet TARN</translation>
+    </message>
+    <message>
+        <source>Project Files (*.xml)</source>
+        <translation>Fichiers de projet (*.xml)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project that can be read; the selection stays as it is.
+Open a project file saved by this program.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un projet lisible&#xa0;; la sélection reste inchangée.
+Ouvrez un fichier de projet enregistré par ce programme.</translation>
+    </message>
+    <message>
+        <source>TARN Warning</source>
+        <translation>TARN - Avertissement</translation>
+    </message>
+    <message>
+        <source>Current Project not saved !
+Save it now ?</source>
+        <translation>Le projet en cours n&apos;est pas enregistré !
+L&apos;enregistrer maintenant ?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The project was not saved: no profile is loaded, so its parameters are not known.
+Choose a profile under Extras, Preferences.</source>
+        <translation>Le projet n&apos;a pas été enregistré&#xa0;: aucun profil n&apos;est chargé, ses paramètres ne sont donc pas connus.
+Choisissez un profil sous Outils, Préférences.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project and is not replaced.
+Choose another name for the project.</source>
+        <translation>«&#xa0;%1&#xa0;» n&apos;est pas un projet et n&apos;est pas remplacé.
+Choisissez un autre nom pour le projet.</translation>
+    </message>
+    <message>
+        <source>The project could not be written to &quot;%1&quot;.
+The old file is unchanged; save it in another folder.</source>
+        <translation>Le projet n&apos;a pas pu être écrit dans «&#xa0;%1&#xa0;».
+L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre dossier.</translation>
+    </message>
+    <message>
+        <source>Project saved: %1</source>
+        <translation>Projet enregistré&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Save TARN Project</source>
+        <translation>Enregistrer le projet TARN</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà dans ce dossier. Le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA - Avertissement</translation>
+    </message>
 </context>
 <context>
     <name>TARN::TableModel</name>
     <message>
         <source>Time</source>
         <translation>Heure</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::TimeControls</name>
+    <message>
+        <source>Date and time of day in UTC</source>
+        <translation>Date et heure du jour en UTC</translation>
+    </message>
+    <message>
+        <source>Time on the recording&apos;s clock</source>
+        <translation>Heure à l&apos;horloge de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Offset:</source>
+        <translation>Décalage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>UTC</source>
+        <translation>UTC</translation>
+    </message>
+    <message>
+        <source>Recording clock</source>
+        <translation>Horloge de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
+        <translation>Secondes ajoutées aux heures des boîtiers dont l&apos;horloge diffère&#xa0;; conservées avec le dossier de la carte</translation>
+    </message>
+    <message>
+        <source>Current time, from the recording&apos;s start to its stop</source>
+        <translation>Instant courant, du début à la fin de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Current time</source>
+        <translation>Instant courant</translation>
+    </message>
+    <message>
+        <source>Current time on the recording&apos;s clock; type a time and press Enter to go there</source>
+        <translation>Instant courant à l&apos;horloge de l&apos;enregistrement&#xa0;; saisissez une heure et appuyez sur Entrée pour y aller</translation>
+    </message>
+    <message>
+        <source>Go to time</source>
+        <translation>Aller à l&apos;heure</translation>
+    </message>
+    <message>
+        <source>Previous event</source>
+        <translation>Événement précédent</translation>
+    </message>
+    <message>
+        <source>Next event</source>
+        <translation>Événement suivant</translation>
     </message>
 </context>
 <context>
@@ -1362,13 +1576,13 @@ Choisissez un profil sous Outils, Préférences.</translation>
         <source>Fault timeline</source>
         <translation>Chronologie des défauts</translation>
     </message>
+    <message>
+        <source>The recording holds no message of this matrix.</source>
+        <translation>L&apos;enregistrement ne contient aucun message de cette matrice.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::WidgetTimeRange</name>
-    <message>
-        <source>Start/Stop Time</source>
-        <translation>Heure de début/fin</translation>
-    </message>
     <message>
         <source>Start time</source>
         <translation>Heure de début</translation>
@@ -1404,6 +1618,33 @@ Choisissez un profil sous Outils, Préférences.</translation>
     <message>
         <source>The start time is after the stop time: nothing would be exported.</source>
         <translation>L&apos;heure de début est postérieure à l&apos;heure de fin&#xa0;: rien ne serait exporté.</translation>
+    </message>
+    <message>
+        <source>Start/Stop Time (recording clock)</source>
+        <translation>Heure de début/fin (horloge de l&apos;enregistrement)</translation>
+    </message>
+</context>
+<context>
+    <name>TargetQuestion</name>
+    <message>
+        <source>Type a file name, without a folder.</source>
+        <translation>Saisissez un nom de fichier, sans dossier.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;existe pas. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n&apos;est pas accessible en écriture. Choisissez-en un autre.</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA - Avertissement</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>«&#xa0;%1&#xa0;» existe déjà dans ce dossier. Le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>

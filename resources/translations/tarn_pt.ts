@@ -72,6 +72,46 @@
     </message>
 </context>
 <context>
+    <name>EmptyText</name>
+    <message>
+        <source>No profile is loaded, so nothing can be decoded and nothing was checked.
+Choose one in the &lt;a href=&quot;preferences&quot;&gt;preferences&lt;/a&gt;.</source>
+        <translation>Nenhum perfil está carregado: nada pode ser decodificado e nada foi verificado.
+Escolha um nas &lt;a href=&quot;preferences&quot;&gt;preferências&lt;/a&gt;.</translation>
+    </message>
+    <message>
+        <source>The recording is being loaded.</source>
+        <translation>A gravação está sendo carregada.</translation>
+    </message>
+    <message>
+        <source>No recording is loaded.
+Open a card and pick one or more recordings in the list on the left.</source>
+        <translation>Nenhuma gravação está carregada.
+Abra um cartão e escolha uma ou mais gravações na lista à esquerda.</translation>
+    </message>
+    <message>
+        <source>The recording holds no samples, so nothing was checked.</source>
+        <translation>A gravação não contém nenhuma amostra; nada foi verificado.</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.
+Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
+        <translation>Nenhum parâmetro está selecionado.
+Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&quot;.</translation>
+    </message>
+</context>
+<context>
+    <name>EventMarks</name>
+    <message>
+        <source>%1 came</source>
+        <translation>ativação de %1</translation>
+    </message>
+    <message>
+        <source>%1 went</source>
+        <translation>desativação de %1</translation>
+    </message>
+</context>
+<context>
     <name>ExportCan</name>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: %2</source>
@@ -123,32 +163,27 @@
         <source>No position lies in the time range, the flight path is empty.</source>
         <translation>Nenhuma posição está no intervalo de tempo, a trajetória de voo está vazia.</translation>
     </message>
+    <message>
+        <source>Left out, because no position lies in their time slot: %1 values, %2 events. A longer &quot;Timestamp every&quot; keeps them.</source>
+        <translation>Omitidos, porque não há nenhuma posição no seu intervalo de tempo: %1 valores, %2 eventos. Um valor maior de &quot;Ponto a cada&quot; os mantém.</translation>
+    </message>
 </context>
 <context>
-    <name>ExportTarget</name>
-    <message>
-        <source>Type a file name, without a folder.</source>
-        <translation>Digite um nome de arquivo, sem pasta.</translation>
-    </message>
-    <message>
-        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
-        <translation>A pasta &quot;%1&quot; não existe. Escolha outra.</translation>
-    </message>
-    <message>
-        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
-        <translation>A pasta &quot;%1&quot; não permite gravação. Escolha outra.</translation>
-    </message>
-    <message>
-        <source>ORNA Warning</source>
-        <translation>Aviso do ORNA</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation>&quot;%1&quot; já existe nesta pasta. Substituir?</translation>
-    </message>
+    <name>Exporter</name>
     <message>
         <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
         <translation>&quot;%1&quot; é a própria gravação. Escolha outro nome ou outra pasta.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this export; choose a shorter time range.</source>
+        <translation>Não há memória suficiente para esta exportação; escolha um intervalo de tempo menor.</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFile</name>
+    <message>
+        <source>it is no file</source>
+        <translation>não é um arquivo</translation>
     </message>
 </context>
 <context>
@@ -164,6 +199,10 @@
     <message>
         <source>not enough memory to read the recording; load fewer at once</source>
         <translation>memória insuficiente para ler a gravação; carregue menos gravações de uma vez</translation>
+    </message>
+    <message>
+        <source>could not read the recording &quot;%1&quot; to its end; check that the card is still in place</source>
+        <translation>não foi possível ler a gravação &quot;%1&quot; até o fim; verifique se o cartão ainda está inserido</translation>
     </message>
 </context>
 <context>
@@ -272,12 +311,185 @@
         <source>Files</source>
         <translation>Arquivos</translation>
     </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>Files that overlap in time: %1, the first are %2. They do not belong together</source>
+        <translation>Arquivos que se sobrepõem no tempo: %1, os primeiros são %2. Eles não fazem parte do mesmo conjunto</translation>
+    </message>
+    <message>
+        <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
+        <translation>Datas dos cabeçalhos de %1 a %2, mas as amostras abrangem %3 s: os arquivos não são de um mesmo voo</translation>
+    </message>
+</context>
+<context>
+    <name>StartMessages</name>
+    <message>
+        <source>HOME is not set: settings are kept in &quot;%1&quot;.</source>
+        <translation>HOME não está definida: as configurações são salvas em &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
+        <translation>Não foi possível ler as configurações; o programa inicia com os valores padrão. O arquivo danificado é mantido como &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Samples loaded: %1</source>
+        <translation>Amostras carregadas: %1</translation>
+    </message>
+    <message>
+        <source>. Remarks (see Recording Details): %1. </source>
+        <translation>. Observações (ver Detalhes da gravação): %1. </translation>
+    </message>
 </context>
 <context>
     <name>StartUp</name>
     <message>
         <source>Creating Dialogs ...</source>
         <translation>Criando janelas ...</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ActivityBar</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progresso</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>, %1 s left</source>
+        <translation>, faltam %1 s</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::CommandSet</name>
+    <message>
+        <source>&amp;New Project</source>
+        <translation>&amp;Novo projeto</translation>
+    </message>
+    <message>
+        <source>Create new Project</source>
+        <translation>Criar um novo projeto</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project</source>
+        <translation>&amp;Abrir projeto</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Abrir projeto</translation>
+    </message>
+    <message>
+        <source>Open Project File</source>
+        <translation>Abrir arquivo de projeto</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project</source>
+        <translation>&amp;Salvar projeto</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Salvar projeto</translation>
+    </message>
+    <message>
+        <source>Save Project File</source>
+        <translation>Salvar arquivo de projeto</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project as</source>
+        <translation>Salvar projeto &amp;como</translation>
+    </message>
+    <message>
+        <source>Save Project as</source>
+        <translation>Salvar projeto como</translation>
+    </message>
+    <message>
+        <source>Save Project File as</source>
+        <translation>Salvar arquivo de projeto como</translation>
+    </message>
+    <message>
+        <source>&amp;Open Card</source>
+        <translation>Abrir car&amp;tão</translation>
+    </message>
+    <message>
+        <source>Open Card</source>
+        <translation>Abrir cartão</translation>
+    </message>
+    <message>
+        <source>Open SD Card</source>
+        <translation>Abrir cartão SD</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferências</translation>
+    </message>
+    <message>
+        <source>Open Preferences Dialog</source>
+        <translation>Abrir a janela de preferências</translation>
+    </message>
+    <message>
+        <source>Recording Details</source>
+        <translation>Detalhes da gravação</translation>
+    </message>
+    <message>
+        <source>Show the Header and the Damages of the Recording</source>
+        <translation>Mostrar o cabeçalho e os danos da gravação</translation>
+    </message>
+    <message>
+        <source>Export Google KML File</source>
+        <translation>Exportar arquivo Google KML</translation>
+    </message>
+    <message>
+        <source>Export Google Earth KML File</source>
+        <translation>Exportar arquivo KML do Google Earth</translation>
+    </message>
+    <message>
+        <source>Export CSV/CAN File</source>
+        <translation>Exportar arquivo CSV/CAN</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Sa&amp;ir</translation>
+    </message>
+    <message>
+        <source>Quit Application</source>
+        <translation>Sair do programa</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Sobre</translation>
+    </message>
+    <message>
+        <source>Show License Information</source>
+        <translation>Mostrar informações de licença</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Ajuda</translation>
+    </message>
+    <message>
+        <source>Help Window</source>
+        <translation>Janela de ajuda</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Arquivo</translation>
+    </message>
+    <message>
+        <source>&amp;Extras</source>
+        <translation>&amp;Extras</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aj&amp;uda</translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Barra de ferramentas principal</translation>
     </message>
 </context>
 <context>
@@ -343,54 +555,6 @@ Abra um cartão (Ctrl+C) ou solte a pasta dele na janela.</translation>
         <source>Fault Matrix</source>
         <translation>Matriz de falhas</translation>
     </message>
-    <message>
-        <source>Date and time of day</source>
-        <translation>Data e hora do dia</translation>
-    </message>
-    <message>
-        <source>Time on the recording&apos;s clock</source>
-        <translation>Tempo no relógio da gravação</translation>
-    </message>
-    <message>
-        <source>Offset:</source>
-        <translation>Offset:</translation>
-    </message>
-    <message>
-        <source> s</source>
-        <translation> s</translation>
-    </message>
-    <message>
-        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
-        <translation>Segundos somados aos tempos das unidades cujo relógio difere; salvos com a pasta do cartão</translation>
-    </message>
-    <message>
-        <source>Current time, from the recording&apos;s start to its stop</source>
-        <translation>Instante atual, do início ao fim da gravação</translation>
-    </message>
-    <message>
-        <source>Current time</source>
-        <translation>Instante atual</translation>
-    </message>
-    <message>
-        <source>Current time; type a time and press Enter to go there</source>
-        <translation>Instante atual; digite um tempo e pressione Enter para ir até ele</translation>
-    </message>
-    <message>
-        <source>Go to time</source>
-        <translation>Ir para o instante</translation>
-    </message>
-    <message>
-        <source>Previous event</source>
-        <translation>Evento anterior</translation>
-    </message>
-    <message>
-        <source>Next event</source>
-        <translation>Próximo evento</translation>
-    </message>
-    <message>
-        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
-        <translation>Não foi possível salvar o offset no cartão (está protegido contra gravação?); ele vale até o programa ser encerrado.</translation>
-    </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
@@ -408,18 +572,6 @@ Abra um cartão (Ctrl+C) ou solte a pasta dele na janela.</translation>
     <message>
         <source>%1 of %2 selected parameters shown</source>
         <translation>%1 de %2 parâmetros selecionados são mostrados</translation>
-    </message>
-    <message>
-        <source>No parameter is selected.
-Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation>Nenhum parâmetro está selecionado.
-Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&quot;.</translation>
-    </message>
-    <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Nenhuma gravação está carregada.
-Abra um cartão e escolha uma ou mais gravações na lista à esquerda.</translation>
     </message>
     <message>
         <source>The recording holds no sample of the selected parameters.</source>
@@ -442,54 +594,6 @@ Choose a folder that can be written, with enough free space, and a name that end
 Escolha uma pasta que permita gravação, com espaço livre suficiente, e um nome que termine em .bmp, .png ou .jpg.</translation>
     </message>
     <message>
-        <source>Zoom In</source>
-        <translation>Ampliar</translation>
-    </message>
-    <message>
-        <source>Zoom Out</source>
-        <translation>Reduzir</translation>
-    </message>
-    <message>
-        <source>Zoom 1:1</source>
-        <translation>Zoom 1:1</translation>
-    </message>
-    <message>
-        <source>Zoom Marker</source>
-        <translation>Zoom na marcação</translation>
-    </message>
-    <message>
-        <source>Clear All</source>
-        <translation>Limpar tudo</translation>
-    </message>
-    <message>
-        <source>Automatic Mode</source>
-        <translation>Modo automático</translation>
-    </message>
-    <message>
-        <source>Split Mode</source>
-        <translation>Modo dividido</translation>
-    </message>
-    <message>
-        <source>Single Graph Mode</source>
-        <translation>Modo gráfico único</translation>
-    </message>
-    <message>
-        <source>Reset all to default</source>
-        <translation>Restaurar tudo ao padrão</translation>
-    </message>
-    <message>
-        <source>Setup</source>
-        <translation>Configuração</translation>
-    </message>
-    <message>
-        <source>Snapshot</source>
-        <translation>Captura</translation>
-    </message>
-    <message>
-        <source>Auto</source>
-        <translation>Auto</translation>
-    </message>
-    <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Não é possível desenhar o gráfico: esta tela não oferece OpenGL.
@@ -501,6 +605,18 @@ Press &quot;Confirm Selection&quot; to fill it again.</source>
         <translation>O gráfico foi limpo.
 Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translation>
     </message>
+    <message>
+        <source>There is not enough memory for these curves; select fewer parameters.</source>
+        <translation>Memória insuficiente para estas curvas; selecione menos parâmetros.</translation>
+    </message>
+    <message>
+        <source>Left out of the graph, because their time falls: %1 samples</source>
+        <translation>Omitidas do gráfico, porque o seu tempo retrocede: %1 amostras</translation>
+    </message>
+    <message>
+        <source>The graph is being filled.</source>
+        <translation>O gráfico está sendo preenchido.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataLimit</name>
@@ -509,8 +625,12 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
         <translation>Aviso/limite excedido</translation>
     </message>
     <message>
-        <source>No parameter left its normal range in this recording.</source>
-        <translation>Nenhum parâmetro saiu da sua faixa normal nesta gravação.</translation>
+        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
+        <translation>A gravação não contém nenhuma mensagem FLOAT de um parâmetro com limiar; nenhum limite foi monitorado.</translation>
+    </message>
+    <message>
+        <source>No limit event in %1 samples of %2 watched parameters.</source>
+        <translation>Nenhum evento de limite em %1 amostras de %2 parâmetros monitorados.</translation>
     </message>
 </context>
 <context>
@@ -520,20 +640,16 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
         <translation>Valores dos parâmetros selecionados</translation>
     </message>
     <message>
-        <source>No parameter is selected.
-Tick parameters in the list on the left and press &quot;Confirm Selection&quot;.</source>
-        <translation>Nenhum parâmetro está selecionado.
-Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&quot;.</translation>
-    </message>
-    <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Nenhuma gravação está carregada.
-Abra um cartão e escolha uma ou mais gravações na lista à esquerda.</translation>
-    </message>
-    <message>
         <source>The recording holds no sample of the selected parameters.</source>
         <translation>A gravação não contém nenhuma amostra dos parâmetros selecionados.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for this table; load fewer recordings.</source>
+        <translation>Memória insuficiente para esta tabela; carregue menos gravações.</translation>
+    </message>
+    <message>
+        <source>The table is being filled.</source>
+        <translation>A tabela está sendo preenchida.</translation>
     </message>
 </context>
 <context>
@@ -543,17 +659,12 @@ Abra um cartão e escolha uma ou mais gravações na lista à esquerda.</transla
         <translation>Luzes de aviso</translation>
     </message>
     <message>
-        <source>No warning lamp came on in this recording.</source>
-        <translation>Nenhuma luz de aviso acendeu nesta gravação.</translation>
+        <source>The recording holds no message of a warning lamp, so none was watched.</source>
+        <translation>A gravação não contém nenhuma mensagem de luz de aviso; nenhuma foi monitorada.</translation>
     </message>
-</context>
-<context>
-    <name>TARN::DialogEventList</name>
     <message>
-        <source>No recording is loaded.
-Open a card and pick one or more recordings in the list on the left.</source>
-        <translation>Nenhuma gravação está carregada.
-Abra um cartão e escolha uma ou mais gravações na lista à esquerda.</translation>
+        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
+        <translation>Nenhuma luz de aviso acendeu em %1 amostras de %2 luzes.</translation>
     </message>
 </context>
 <context>
@@ -931,244 +1042,28 @@ Abra um cartão e escolha uma ou mais gravações na lista à esquerda.</transla
 <context>
     <name>TARN::DialogMain</name>
     <message>
-        <source>Samples loaded: %L1</source>
-        <translation>Amostras carregadas: %L1</translation>
-    </message>
-    <message>
         <source>[edited]</source>
         <translation>[alterado]</translation>
-    </message>
-    <message>
-        <source>&amp;New Project</source>
-        <translation>&amp;Novo projeto</translation>
-    </message>
-    <message>
-        <source>Create new Project</source>
-        <translation>Criar um novo projeto</translation>
-    </message>
-    <message>
-        <source>&amp;Open Project</source>
-        <translation>&amp;Abrir projeto</translation>
-    </message>
-    <message>
-        <source>Open Project</source>
-        <translation>Abrir projeto</translation>
-    </message>
-    <message>
-        <source>Open Project File</source>
-        <translation>Abrir arquivo de projeto</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project</source>
-        <translation>&amp;Salvar projeto</translation>
-    </message>
-    <message>
-        <source>Save Project</source>
-        <translation>Salvar projeto</translation>
-    </message>
-    <message>
-        <source>Save Project File</source>
-        <translation>Salvar arquivo de projeto</translation>
-    </message>
-    <message>
-        <source>&amp;Save Project as</source>
-        <translation>Salvar projeto &amp;como</translation>
-    </message>
-    <message>
-        <source>Save Project as</source>
-        <translation>Salvar projeto como</translation>
-    </message>
-    <message>
-        <source>Save Project File as</source>
-        <translation>Salvar arquivo de projeto como</translation>
-    </message>
-    <message>
-        <source>&amp;Open Card</source>
-        <translation>Abrir car&amp;tão</translation>
-    </message>
-    <message>
-        <source>Open Card</source>
-        <translation>Abrir cartão</translation>
     </message>
     <message>
         <source>Open SD Card</source>
         <translation>Abrir cartão SD</translation>
     </message>
     <message>
-        <source>Export Google KML File</source>
-        <translation>Exportar arquivo Google KML</translation>
-    </message>
-    <message>
-        <source>Export Google Earth KML File</source>
-        <translation>Exportar arquivo KML do Google Earth</translation>
-    </message>
-    <message>
-        <source>Export CSV/CAN File</source>
-        <translation>Exportar arquivo CSV/CAN</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>Sa&amp;ir</translation>
-    </message>
-    <message>
-        <source>Quit Application</source>
-        <translation>Sair do programa</translation>
-    </message>
-    <message>
-        <source>&amp;File</source>
-        <translation>&amp;Arquivo</translation>
-    </message>
-    <message>
-        <source>Main Toolbar</source>
-        <translation>Barra de ferramentas principal</translation>
-    </message>
-    <message>
-        <source>Open TARN Project</source>
-        <translation>Abrir projeto TARN</translation>
-    </message>
-    <message>
-        <source>Project Files (*.xml)</source>
-        <translation>Arquivos de projeto (*.xml)</translation>
-    </message>
-    <message>
         <source>ORNA Warning</source>
         <translation>Aviso do ORNA</translation>
-    </message>
-    <message>
-        <source>The project &quot;%1&quot; could not be read.
-Check that it is a project file saved by this program.</source>
-        <translation>Não foi possível ler o projeto &quot;%1&quot;.
-Verifique se é um arquivo de projeto salvo por este programa.</translation>
     </message>
     <message>
         <source>Recordings found: %1</source>
         <translation>Gravações encontradas: %1</translation>
     </message>
     <message>
-        <source>TARN Warning</source>
-        <translation>Aviso do TARN</translation>
-    </message>
-    <message>
-        <source>Current Project not saved !
-Save it now ?</source>
-        <translation>O projeto atual não foi salvo !
-Salvar agora ?</translation>
-    </message>
-    <message>
-        <source>Yes</source>
-        <translation>Sim</translation>
-    </message>
-    <message>
-        <source>No</source>
-        <translation>Não</translation>
-    </message>
-    <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
     <message>
-        <source>The project could not be written to &quot;%1&quot;.
-The old file is unchanged; save it in another folder.</source>
-        <translation>Não foi possível gravar o projeto em &quot;%1&quot;.
-O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translation>
-    </message>
-    <message>
-        <source>Save TARN Project</source>
-        <translation>Salvar projeto TARN</translation>
-    </message>
-    <message>
-        <source>Exporting KML file failed !</source>
-        <translation>A exportação do arquivo KML falhou !</translation>
-    </message>
-    <message>
-        <source>ORNA Viewer Warning</source>
-        <translation>Aviso do ORNA Viewer</translation>
-    </message>
-    <message>
-        <source>Exporting CSV/CAN file failed !</source>
-        <translation>A exportação do arquivo CSV/CAN falhou !</translation>
-    </message>
-    <message>
-        <source>Written: %1</source>
-        <translation>Gravado: %1</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
         <source>The profile &quot;%1&quot; could not be loaded: no parameters can be shown. Choose another under Extras, Preferences.</source>
         <translation>Não foi possível carregar o perfil &quot;%1&quot;: nenhum parâmetro pode ser mostrado. Escolha outro em Extras, Preferências.</translation>
-    </message>
-    <message>
-        <source>Preferences</source>
-        <translation>Preferências</translation>
-    </message>
-    <message>
-        <source>Open Preferences Dialog</source>
-        <translation>Abrir a janela de preferências</translation>
-    </message>
-    <message>
-        <source>Recording Details</source>
-        <translation>Detalhes da gravação</translation>
-    </message>
-    <message>
-        <source>Show the Header and the Damages of the Recording</source>
-        <translation>Mostrar o cabeçalho e os danos da gravação</translation>
-    </message>
-    <message>
-        <source>About</source>
-        <translation>Sobre</translation>
-    </message>
-    <message>
-        <source>Show License Information</source>
-        <translation>Mostrar informações de licença</translation>
-    </message>
-    <message>
-        <source>Help</source>
-        <translation>Ajuda</translation>
-    </message>
-    <message>
-        <source>Help Window</source>
-        <translation>Janela de ajuda</translation>
-    </message>
-    <message>
-        <source>&amp;Extras</source>
-        <translation>&amp;Extras</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>Aj&amp;uda</translation>
-    </message>
-    <message>
-        <source>Not everything could be read: %1</source>
-        <translation>Nem tudo pôde ser lido: %1</translation>
-    </message>
-    <message>
-        <source>. Remarks (see Recording Details): %1. </source>
-        <translation>. Observações (ver Detalhes da gravação): %1. </translation>
-    </message>
-    <message>
-        <source>There is not enough memory to show the recording; load fewer at once.</source>
-        <translation>Memória insuficiente para mostrar a gravação; carregue menos gravações de uma vez.</translation>
-    </message>
-    <message>
-        <source>The settings could not be read, the program starts with its defaults. The damaged file is kept as &quot;%1&quot;.</source>
-        <translation>Não foi possível ler as configurações; o programa inicia com os valores padrão. O arquivo danificado é mantido como &quot;%1&quot;.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for this export; choose a shorter time range.</source>
-        <translation>Não há memória suficiente para esta exportação; escolha um intervalo de tempo menor.</translation>
-    </message>
-    <message>
-        <source>The project was not saved: no profile is loaded, so its parameters are not known.
-Choose a profile under Extras, Preferences.</source>
-        <translation>O projeto não foi salvo: nenhum perfil está carregado e seus parâmetros não são conhecidos.
-Escolha um perfil em Extras, Preferências.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
-        <translation>&quot;%1&quot; já existe nesta pasta. Substituir?</translation>
     </message>
     <message>
         <source>No recording is listed. Open a card first.</source>
@@ -1177,6 +1072,44 @@ Escolha um perfil em Extras, Preferências.</translation>
     <message>
         <source>&quot;%1&quot; is neither a project nor a profile.</source>
         <translation>&quot;%1&quot; não é um projeto nem um perfil.</translation>
+    </message>
+    <message>
+        <source>The offset could not be saved on the card (is it write-protected?) and holds until the program ends.</source>
+        <translation>Não foi possível salvar o offset no cartão (está protegido contra gravação?); ele vale até o programa ser encerrado.</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Carregando</translation>
+    </message>
+    <message>
+        <source>%1 samples/s</source>
+        <translation>%1 amostras/s</translation>
+    </message>
+    <message>
+        <source>Loading was cancelled.</source>
+        <translation>O carregamento foi cancelado.</translation>
+    </message>
+    <message>
+        <source>Not loaded: %1</source>
+        <translation>Não foi possível carregar: %1</translation>
+    </message>
+    <message>
+        <source>Exporting %1</source>
+        <translation>Exportando %1</translation>
+    </message>
+    <message>
+        <source>An export is running.
+Wait until it is complete, or stop it? A stopped export leaves the old file.</source>
+        <translation>Uma exportação está em andamento.
+Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo é mantido.</translation>
+    </message>
+    <message>
+        <source>Wait</source>
+        <translation>Aguardar</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Interromper</translation>
     </message>
 </context>
 <context>
@@ -1257,6 +1190,14 @@ Escolha um perfil em Extras, Preferências.</translation>
         <source>Please restart TARN to load new language !</source>
         <translation>Reinicie o TARN para carregar o novo idioma !</translation>
     </message>
+    <message>
+        <source>All recorded digits</source>
+        <translation>Todos os dígitos gravados</translation>
+    </message>
+    <message>
+        <source>Numbers on the screen with all the digits that were recorded, instead of the fewest that read back as the same number; exports have them always</source>
+        <translation>Números na tela com todos os dígitos gravados, em vez do mínimo que representa o mesmo número; as exportações sempre os contêm</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogProfile</name>
@@ -1283,6 +1224,14 @@ Escolha um perfil em Extras, Preferências.</translation>
     <message>
         <source>Parameters of the profile</source>
         <translation>Parâmetros do perfil</translation>
+    </message>
+    <message>
+        <source>Not in this profile</source>
+        <translation>Ausentes deste perfil</translation>
+    </message>
+    <message>
+        <source>The project selects these too; they are kept in its file</source>
+        <translation>O projeto também os seleciona; eles são mantidos no arquivo do projeto</translation>
     </message>
 </context>
 <context>
@@ -1323,8 +1272,12 @@ Escolha um perfil em Extras, Preferências.</translation>
 <context>
     <name>TARN::DialogStatusBar</name>
     <message>
-        <source>Progress</source>
-        <translation>Progresso</translation>
+        <source>Stop loading (Escape)</source>
+        <translation>Interromper o carregamento (Esc)</translation>
+    </message>
+    <message>
+        <source>Stop the export</source>
+        <translation>Interromper a exportação</translation>
     </message>
 </context>
 <context>
@@ -1344,12 +1297,273 @@ Escolha um perfil em Extras, Preferências.</translation>
         <source>Time</source>
         <translation>Tempo</translation>
     </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Out of range without an event</source>
+        <translation>Fora da faixa sem evento</translation>
+    </message>
+    <message>
+        <source>at its limit</source>
+        <translation>no limite</translation>
+    </message>
+    <message>
+        <source>in warning</source>
+        <translation>em aviso</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Até</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Valor extremo</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Limiar</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ExportRunner</name>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso do ORNA</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>A exportação do arquivo KML falhou !</translation>
+    </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation>Aviso do ORNA Viewer</translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation>A exportação do arquivo CSV/CAN falhou !</translation>
+    </message>
+    <message>
+        <source>Written: %1</source>
+        <translation>Gravado: %1</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The export was stopped; the old file, if there was one, is unchanged.</source>
+        <translation>A exportação foi interrompida; o arquivo antigo, se havia um, permanece inalterado.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightLoader</name>
+    <message>
+        <source>There is not enough memory for the recording; load fewer at once.</source>
+        <translation>Memória insuficiente para a gravação; carregue menos gravações de uma vez.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to show the recording; load fewer at once.</source>
+        <translation>Memória insuficiente para mostrar a gravação; carregue menos gravações de uma vez.</translation>
+    </message>
+    <message>
+        <source>Looking for events</source>
+        <translation>Procurando eventos</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::GraphButtons</name>
+    <message>
+        <source>Zoom In</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Reduzir</translation>
+    </message>
+    <message>
+        <source>Zoom 1:1</source>
+        <translation>Zoom 1:1</translation>
+    </message>
+    <message>
+        <source>Zoom Marker</source>
+        <translation>Zoom na marcação</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Mostrar tudo</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Limpar tudo</translation>
+    </message>
+    <message>
+        <source>Automatic Mode</source>
+        <translation>Modo automático</translation>
+    </message>
+    <message>
+        <source>Split Mode</source>
+        <translation>Modo dividido</translation>
+    </message>
+    <message>
+        <source>Single Graph Mode</source>
+        <translation>Modo gráfico único</translation>
+    </message>
+    <message>
+        <source>Reset all to default</source>
+        <translation>Restaurar tudo ao padrão</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Configuração</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Captura</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ProjectKeeper</name>
+    <message>
+        <source>Open TARN Project</source>
+        <translation>Abrir projeto TARN</translation>
+    </message>
+    <message>
+        <source>Project Files (*.xml)</source>
+        <translation>Arquivos de projeto (*.xml)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project that can be read; the selection stays as it is.
+Open a project file saved by this program.</source>
+        <translation>&quot;%1&quot; não é um projeto que possa ser lido; a seleção permanece inalterada.
+Abra um arquivo de projeto salvo por este programa.</translation>
+    </message>
+    <message>
+        <source>TARN Warning</source>
+        <translation>Aviso do TARN</translation>
+    </message>
+    <message>
+        <source>Current Project not saved !
+Save it now ?</source>
+        <translation>O projeto atual não foi salvo !
+Salvar agora ?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>The project was not saved: no profile is loaded, so its parameters are not known.
+Choose a profile under Extras, Preferences.</source>
+        <translation>O projeto não foi salvo: nenhum perfil está carregado e seus parâmetros não são conhecidos.
+Escolha um perfil em Extras, Preferências.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no project and is not replaced.
+Choose another name for the project.</source>
+        <translation>&quot;%1&quot; não é um projeto e não é substituído.
+Escolha outro nome para o projeto.</translation>
+    </message>
+    <message>
+        <source>The project could not be written to &quot;%1&quot;.
+The old file is unchanged; save it in another folder.</source>
+        <translation>Não foi possível gravar o projeto em &quot;%1&quot;.
+O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translation>
+    </message>
+    <message>
+        <source>Project saved: %1</source>
+        <translation>Projeto salvo: %1</translation>
+    </message>
+    <message>
+        <source>Save TARN Project</source>
+        <translation>Salvar projeto TARN</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>&quot;%1&quot; já existe nesta pasta. Substituir?</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso do ORNA</translation>
+    </message>
 </context>
 <context>
     <name>TARN::TableModel</name>
     <message>
         <source>Time</source>
         <translation>Tempo</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::TimeControls</name>
+    <message>
+        <source>Date and time of day in UTC</source>
+        <translation>Data e hora do dia em UTC</translation>
+    </message>
+    <message>
+        <source>Time on the recording&apos;s clock</source>
+        <translation>Tempo no relógio da gravação</translation>
+    </message>
+    <message>
+        <source>Offset:</source>
+        <translation>Offset:</translation>
+    </message>
+    <message>
+        <source>UTC</source>
+        <translation>UTC</translation>
+    </message>
+    <message>
+        <source>Recording clock</source>
+        <translation>Relógio da gravação</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Seconds added to the times of units whose clock differs; kept with the card folder</source>
+        <translation>Segundos somados aos tempos das unidades cujo relógio difere; salvos com a pasta do cartão</translation>
+    </message>
+    <message>
+        <source>Current time, from the recording&apos;s start to its stop</source>
+        <translation>Instante atual, do início ao fim da gravação</translation>
+    </message>
+    <message>
+        <source>Current time</source>
+        <translation>Instante atual</translation>
+    </message>
+    <message>
+        <source>Current time on the recording&apos;s clock; type a time and press Enter to go there</source>
+        <translation>Instante atual no relógio da gravação; digite um tempo e pressione Enter para ir até ele</translation>
+    </message>
+    <message>
+        <source>Go to time</source>
+        <translation>Ir para o instante</translation>
+    </message>
+    <message>
+        <source>Previous event</source>
+        <translation>Evento anterior</translation>
+    </message>
+    <message>
+        <source>Next event</source>
+        <translation>Próximo evento</translation>
     </message>
 </context>
 <context>
@@ -1362,13 +1576,13 @@ Escolha um perfil em Extras, Preferências.</translation>
         <source>Fault timeline</source>
         <translation>Linha do tempo das falhas</translation>
     </message>
+    <message>
+        <source>The recording holds no message of this matrix.</source>
+        <translation>A gravação não contém nenhuma mensagem desta matriz.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::WidgetTimeRange</name>
-    <message>
-        <source>Start/Stop Time</source>
-        <translation>Tempo inicial/final</translation>
-    </message>
     <message>
         <source>Start time</source>
         <translation>Tempo inicial</translation>
@@ -1404,6 +1618,33 @@ Escolha um perfil em Extras, Preferências.</translation>
     <message>
         <source>The start time is after the stop time: nothing would be exported.</source>
         <translation>O tempo inicial é posterior ao tempo final: nada seria exportado.</translation>
+    </message>
+    <message>
+        <source>Start/Stop Time (recording clock)</source>
+        <translation>Tempo inicial/final (relógio da gravação)</translation>
+    </message>
+</context>
+<context>
+    <name>TargetQuestion</name>
+    <message>
+        <source>Type a file name, without a folder.</source>
+        <translation>Digite um nome de arquivo, sem pasta.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist. Choose another.</source>
+        <translation>A pasta &quot;%1&quot; não existe. Escolha outra.</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; may not be written to. Choose another.</source>
+        <translation>A pasta &quot;%1&quot; não permite gravação. Escolha outra.</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso do ORNA</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; exists in this folder. Replace it?</source>
+        <translation>&quot;%1&quot; já existe nesta pasta. Substituir?</translation>
     </message>
 </context>
 <context>

@@ -1,57 +1,96 @@
 #include "app/DialogMain.h"
 
+#include "app/ActivityBar.h"
 #include "app/Bundle.h"
+#include "app/CardOpener.h"
+#include "app/DialogData.h"
 #include "app/DialogStatusBar.h"
+#include "app/DropHandler.h"
+#include "app/ExportRunner.h"
+#include "app/FlightLoader.h"
+#include "app/ProjectKeeper.h"
+#include "app/SmallWindows.h"
+#include "app/StartMessages.h"
+#include "app/WindowState.h"
+#include "base/CountText.h"
 #include "base/Property.h"
-#include "display/DialogData.h"
-#include "export/DialogExportCsv.h"
-#include "export/DialogExportKml.h"
-#include "profile/DialogProfile.h"
-#include "profile/Project.h"
-#include "record/DialogCard.h"
-#include "record/DialogRecordDetails.h"
+#include "card/DialogCard.h"
+#include "card/DialogRecordDetails.h"
+#include "flight/OffsetKeeper.h"
+#include "record/RecordText.h"
+#include "selection/DialogProfile.h"
 #include "widgets/Kernel.h"
-#include "widgets/WaitCursor.h"
 
-#include <QtCore/QScopedValueRollback>
 #include <QtGui/QCloseEvent>
+#include <QtGui/QShortcut>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QVBoxLayout>
 
+#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
 namespace TARN {
 
-DialogMain::DialogMain(QWidget* parent) : QMainWindow(parent), mEndProcess([] { std::exit(0); })
+namespace {
+
+/// At once: nothing is left to save, tearing down a large recording takes time, and a thread may
+/// hang in a card that does not answer.
+void endProcess()
 {
-    createPanes();
-    mKmlWizard = new DialogExportKml(this);
-    mCsvWizard = new DialogExportCsv(this);
-    mDetails = new DialogRecordDetails(this);
-    mStatusBar = new DialogStatusBar(this);
-    setStatusBar(mStatusBar);
-    loadProfile();
-    reportDamagedSettings();
-    createActions();
-    createMenu();
-    createToolbar();
-    setWindowIcon(QIcon(":/icons/orna.svg"));
-    mRecord.setProgressListener([this](int percent) { setProgress(percent); });
-    mTimer.setSingleShot(true);
-    connect(&mTimer, &QTimer::timeout, this, &DialogMain::slotTimeout);
-    setAcceptDrops(true);
-    resize(1000, 800);
-    restoreWindow();
-    updateEnabled();
-    updateTitle();
+    std::fflush(nullptr);
+    std::_Exit(0);
 }
+
+QString setting(const char* key, const char* def)
+{
+    return QString::fromStdString(Property::instance()->getString(key, def));
+}
+
+void storeSetting(const char* key, const QString& value)
+{
+    Property::instance()->setString(key, value.toStdString());
+    Property::instance()->writeXmlFile();
+}
+
+} // namespace
+
+DialogMain::DialogMain(QWidget* parent)
+    : QMainWindow(parent), mEndProcess(endProcess), mCommands(new CommandSet(*this)),
+      mStatusBar(new DialogStatusBar(this)), mDetails(new DialogRecordDetails(this)),
+      mOpener(new CardOpener(this)), mLoader(new FlightLoader(mSession, this)),
+      mOffset(new OffsetKeeper(mSession, this)), mProject(new ProjectKeeper(mSession, *this)),
+      mExports(new ExportRunner(mSession, *this)), mSmallWindows(new SmallWindows(*this))
+{
+    setStatusBar(mStatusBar);
+    createPanes();
+    connect(mCommands, &CommandSet::triggered, this, &DialogMain::run);
+    connectLoading();
+    connectProject();
+    connectExports();
+    connectDrops();
+    connect(mSmallWindows, &SmallWindows::profileFileChanged, this,
+            [this] { chooseProfile(setting("Profile", DefaultProfile)); });
+    connect(mSmallWindows, &SmallWindows::allDigitsChanged, &mSession.allDigits(), &Switch::turn);
+    setWindowIcon(QIcon(":/icons/orna.svg"));
+    mState = std::make_unique<WindowState>(*this, *mSplitter, *mData);
+    mState->restore();
+    mSession.allDigits().turn(Property::instance()->getSwitch("AllDigits", false));
+    mStatusBar->say(startMessages());
+    updateTitle();
+    mLoader->loadProfile(inBundle(setting("Profile", DefaultProfile)));
+}
+
+DialogMain::~DialogMain() = default;
 
 void DialogMain::createPanes()
 {
     mCard = new DialogCard;
-    mProfile = new DialogProfile(nullptr, *Profile::instance());
-    mData = new DialogData;
+    mProfile = new DialogProfile(mSession);
+    mData = new DialogData(mSession);
     mData->setStyle(Kernel::instance()->getStyle2());
     auto* left = new QWidget;
     auto* layout = new QVBoxLayout(left);
@@ -66,143 +105,205 @@ void DialogMain::createPanes()
     mSplitter->setStretchFactor(1, 2);
     mSplitter->setSizes({1000, 2000}); // only the ratio counts
     setCentralWidget(mSplitter);
-    connect(mCard, &DialogCard::signalLoadRecord, this, &DialogMain::slotLoadRecord);
-    connect(mCard, &DialogCard::signalDetails, this, &DialogMain::slotFileDetails);
-    connect(mProfile, &DialogProfile::signalChanged, this, &DialogMain::slotProfileChanged);
-    connect(mProfile, &DialogProfile::signalEdited, this, [this] { setEdited(true); });
-    connect(mData, &DialogData::signalMessage, this,
-            [this](const QString& text) { mStatusBar->say(text); });
+    connect(mCard, &DialogCard::signalDetails, this, [this](const QString& path) {
+        mDetails->showFile(path, mSession.flight().get(), mOpener->card());
+    });
+    connect(mData, &DialogData::signalMessage, mStatusBar, &DialogStatusBar::say);
+    connect(mData, &DialogData::signalLink, mSmallWindows, &SmallWindows::showPreferences);
+    connect(mOffset, &OffsetKeeper::failed, this, [this] {
+        mStatusBar->say(tr("The offset could not be saved on the card (is it write-protected?) "
+                           "and holds until the program ends."));
+    });
 }
 
-void DialogMain::loadProfile()
+void DialogMain::connectLoading()
 {
-    const QString file =
-        QString::fromStdString(Property::instance()->getString("Profile", DefaultProfile));
-    if (!Profile::instance()->loadProfile(inBundle(file))) {
-        mStatusBar->say(tr("The profile \"%1\" could not be loaded: no parameters can be "
-                           "shown. Choose another under Extras, Preferences.")
-                            .arg(file));
+    ActivityBar& bar = mStatusBar->loading();
+    connect(mCard, &DialogCard::signalLoadRecord, mLoader, &FlightLoader::load);
+    connect(&bar, &ActivityBar::cancelled, mLoader, &FlightLoader::cancel);
+    auto* escape = new QShortcut(Qt::Key_Escape, this);
+    connect(escape, &QShortcut::activated, mLoader, &FlightLoader::cancel);
+    connect(mLoader, &FlightLoader::started, this,
+            [&bar](double samples) { bar.begin(tr("Loading"), samples, tr("%1 samples/s")); });
+    connect(mLoader, &FlightLoader::progressed, &bar, &ActivityBar::setProgress);
+    connect(mLoader, &FlightLoader::finished, this, [this, &bar] {
+        bar.finish();
+        mCard->setIntegrity(mSession.flight()->record()->integrity());
+        mStatusBar->say(loadedMessage(*mSession.flight()));
+    });
+    connect(mLoader, &FlightLoader::failed, this, [this, &bar](const QString& reason) {
+        bar.abandon();
+        mStatusBar->say(reason.isEmpty() ? tr("Loading was cancelled.")
+                                         : tr("Not loaded: %1").arg(reason));
+    });
+    connect(mLoader, &FlightLoader::profileReady, this, &DialogMain::takeProfile);
+    connect(mOpener, &CardOpener::listed, this, [this] {
+        mCard->setCardInfo(mOpener->card());
+        mCard->selectRecords(std::exchange(mToPick, {}));
+    });
+}
+
+void DialogMain::connectProject()
+{
+    connect(mProject, &ProjectKeeper::changed, this, [this] {
+        updateTitle();
+        mProfile->setUnknownNames(mProject->unknownNames());
+    });
+    connect(mProject, &ProjectKeeper::signalMessage, mStatusBar, &DialogStatusBar::say);
+}
+
+void DialogMain::connectExports()
+{
+    ActivityBar& bar = mStatusBar->exporting();
+    const auto enable = [this] {
+        const auto& flight = mSession.flight();
+        const bool isPossible =
+            flight != nullptr && !flight->samples().empty() && !mExports->isRunning();
+        mCommands->setEnabled(ActionType::ExportKml, isPossible);
+        mCommands->setEnabled(ActionType::ExportCsv, isPossible);
+    };
+    connect(&mSession, &Session::flightChanged, this, enable);
+    connect(&mSession, &Session::profileChanged, this, enable);
+    connect(&bar, &ActivityBar::cancelled, mExports, &ExportRunner::cancel);
+    connect(mExports, &ExportRunner::progressed, &bar, &ActivityBar::setProgress);
+    connect(mExports, &ExportRunner::started, this, [&bar, enable](const QString& path) {
+        bar.begin(tr("Exporting %1").arg(path.section('/', -1)));
+        enable();
+    });
+    connect(mExports, &ExportRunner::finished, this,
+            [this, &bar, enable](const QString& message, bool done) {
+                bar.finish();
+                mStatusBar->say(message);
+                enable();
+                if (std::exchange(mClosesLater, false) && done) {
+                    close();
+                }
+            });
+    enable();
+}
+
+void DialogMain::connectDrops()
+{
+    auto* drops = new DropHandler(*this);
+    connect(drops, &DropHandler::cardDropped, this,
+            [this](const QString& folder) { openCard(folder, true); });
+    connect(drops, &DropHandler::recordingsDropped, this, [this](const std::list<QString>& files) {
+        mToPick = files;
+        openCard(files.front().section('/', 0, -2), true);
+    });
+    connect(drops, &DropHandler::profileDropped, this, [this](const QString& file) {
+        storeSetting("Profile", file);
+        chooseProfile(file);
+    });
+    connect(drops, &DropHandler::projectDropped, this, [this](const QString& file) {
+        if (mProject->askSaveProject()) {
+            mProject->openProject(file);
+        }
+    });
+    connect(drops, &DropHandler::otherDropped, this, [this](const QString& file) {
+        mStatusBar->say(tr("\"%1\" is neither a project nor a profile.").arg(file));
+    });
+}
+
+void DialogMain::run(ActionType type)
+{
+    switch (type) {
+    case ActionType::NewProject:
+        mProject->newProject();
+        break;
+    case ActionType::OpenProject:
+        mProject->openProject();
+        break;
+    case ActionType::OpenCard: {
+        const QString folder =
+            QFileDialog::getExistingDirectory(this, tr("Open SD Card"), setting("LastPath", "."));
+        if (!folder.isEmpty()) {
+            openCard(folder, true);
+        }
+        break;
     }
-    mProfile->updateList();
-    mData->loadProfile();
-}
-
-void DialogMain::loadRecords(const QString& folder)
-{
-    mCardInfo = readCard(folder);
-    mCard->setCardInfo(mCardInfo);
-    mCard->setIntegrity(mRecord.integrity());
-}
-
-/// The last card is opened once the window stands there: nobody should look at a grey one while
-/// a slow card is read.
-void DialogMain::paintEvent(QPaintEvent* event)
-{
-    constexpr int ReopenDelay = 20; // ms
-    QMainWindow::paintEvent(event);
-    if (!mPainted) {
-        mPainted = true;
-        mTimer.start(ReopenDelay);
+    case ActionType::SaveProject:
+    case ActionType::SaveProjectAs:
+        mProject->saveProject(type == ActionType::SaveProjectAs);
+        break;
+    case ActionType::ExportKml:
+        mExports->exportKml();
+        break;
+    case ActionType::ExportCsv:
+        mExports->exportCsv();
+        break;
+    case ActionType::Quit:
+        close();
+        break;
+    case ActionType::About:
+        mSmallWindows->showAbout();
+        break;
+    case ActionType::Help:
+        mSmallWindows->showHelp();
+        break;
+    case ActionType::Preferences:
+        mSmallWindows->showPreferences();
+        break;
+    case ActionType::RecordDetails:
+        if (!mDetails->showAll(mSession.flight().get(), mOpener->card())) {
+            mStatusBar->say(tr("No recording is listed. Open a card first."));
+        }
+        break;
     }
 }
 
-void DialogMain::slotTimeout()
+/// The last card of the last session is not remembered anew.
+void DialogMain::openCard(const QString& folder, bool remember)
 {
-    const Property* settings = Property::instance();
-    loadRecords(QString::fromStdString(settings->getString("LastPath", ".")));
-    const std::string project = settings->getString("LastProjectPath", ".");
-    if (Project::instance()->readProject(project)) {
-        mProjectFile = QString::fromStdString(project);
-        mProfile->updateProject();
+    mOpener->open(folder);
+    if (remember) {
+        storeSetting("LastPath", folder);
+        connect(
+            mOpener, &CardOpener::listed, this,
+            [this] {
+                mStatusBar->say(tr("Recordings found: %1").arg(mOpener->card().records.size()));
+            },
+            Qt::SingleShotConnection);
     }
-    slotProfileChanged();
-    setEdited(false);
 }
 
-void DialogMain::slotLoadRecord(const std::list<QString>& files)
+void DialogMain::chooseProfile(const QString& file)
 {
-    std::list<QString> paths = files;
-    paths.remove(QString()); // detail lines name no file
-    if (paths.empty()) {
-        return;
-    }
-    if (mBusy) {
-        constexpr int Later = 100; // ms
-        mWaiting = paths;          // the last pick counts, once what runs has ended
-        QTimer::singleShot(Later, this, &DialogMain::slotLoadWaiting);
-        return;
-    }
-    mWaiting.clear();
-    const QScopedValueRollback busy(mBusy, true);
-    const WaitCursor waitCursor;
-    setProgress(0);
-    mData->updateRecord(nullptr); // the samples shown are about to go
-    reportLoaded(mRecord.readRecordData(paths));
-    mCard->setIntegrity(mRecord.integrity());
-    showRecord();
-    setProgress(100);
-    updateEnabled();
-}
-
-void DialogMain::slotLoadWaiting()
-{
-    slotLoadRecord(std::exchange(mWaiting, {}));
-}
-
-void DialogMain::setProgress(int percent)
-{
-    mStatusBar->updateProgress(percent);
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
-void DialogMain::slotProfileChanged()
-{
-    {
-        const WaitCursor waitCursor;
-        updateViews([this] { mData->updateProfile(); });
-    }
-    setEdited(true);
-}
-
-void DialogMain::slotProfileFileChanged()
-{
-    const WaitCursor waitCursor;
-    const double time = mData->time();
-    const bool hasSamples = !mRecord.recordData().empty();
     mStatusBar->say({}); // the old profile's failure
-    Project::instance()->takeProfileData();
-    mData->updateRecord(nullptr); // events and cells shown are those of the old profile
-    loadProfile();
-    Project::instance()->setProfileData();
-    mProfile->updateProject();
-    updateViews([this] { mData->updateProfile(); });
-    if (hasSamples) {
-        showRecord();
-        mData->goTo(time);
+    mLoader->loadProfile(inBundle(file));
+}
+
+void DialogMain::takeProfile(const std::shared_ptr<const Profile>& profile,
+                             const std::shared_ptr<const Flight>& flight)
+{
+    if (!profile->isLoaded()) {
+        mStatusBar->sayAlso(tr("The profile \"%1\" could not be loaded: no parameters can be "
+                               "shown. Choose another under Extras, Preferences.")
+                                .arg(profile->fileName()));
     }
-    updateEnabled();
-    updateTitle();
+    mSession.setProfile(profile, mProject->ticksFor(*profile), flight);
+    mProject->profileReplaced();
+    mHasProfile = true;
+    reopen();
 }
 
-void DialogMain::setEdited(bool edited)
+/// The last card and project, once they can be shown: nobody should look at a grey window while
+/// a slow card is read.
+void DialogMain::reopen()
 {
-    mEdited = edited;
-    updateEnabled();
-    updateTitle();
-}
-
-void DialogMain::updateEnabled()
-{
-    const bool hasSamples = !mRecord.recordData().empty();
-    mActions.at(ActionType::ExportKml)->setEnabled(hasSamples);
-    mActions.at(ActionType::ExportCsv)->setEnabled(hasSamples);
-    mActions.at(ActionType::SaveProject)->setEnabled(mEdited);
+    if (!mReopened && mPainted && mHasProfile) {
+        mReopened = true;
+        mProject->reopen(setting("LastProjectPath", "."));
+        openCard(setting("LastPath", "."), false);
+    }
 }
 
 void DialogMain::updateTitle()
 {
-    const QString name = mProjectFile.section('/', -1).section('.', 0, 0);
-    setWindowTitle("ORNA " + name + (mEdited ? tr("[edited]") : QString()));
+    const bool isEdited = mProject->isEdited();
+    const QString name = mProject->fileName().section('/', -1).section('.', 0, 0);
+    setWindowTitle("ORNA " + name + (isEdited ? tr("[edited]") : QString()));
+    mCommands->setEnabled(ActionType::SaveProject, isEdited);
 }
 
 bool DialogMain::event(QEvent* event)
@@ -226,24 +327,52 @@ bool DialogMain::eventFilter(QObject* watched, QEvent* event)
     return QMainWindow::eventFilter(watched, event);
 }
 
-bool DialogMain::cleanup()
+void DialogMain::paintEvent(QPaintEvent* event)
 {
-    return !mEdited || askSaveProject();
+    constexpr int ReopenDelay = 20; // ms
+    QMainWindow::paintEvent(event);
+    if (!mPainted) {
+        mPainted = true;
+        QTimer::singleShot(ReopenDelay, this, &DialogMain::reopen);
+    }
+}
+
+/// Whether nothing unsaved is lost and no export is cut off; asks where it may be.
+bool DialogMain::mayClose()
+{
+    mClosesLater = false;
+    if (!mProject->askSaveProject()) {
+        return false;
+    }
+    if (!mExports->isRunning()) {
+        return true;
+    }
+    QMessageBox box(QMessageBox::Question, tr("ORNA Warning"),
+                    tr("An export is running.\nWait until it is complete, or stop it? A stopped "
+                       "export leaves the old file."),
+                    QMessageBox::NoButton, this);
+    const QAbstractButton* wait = box.addButton(tr("Wait"), QMessageBox::AcceptRole);
+    const QAbstractButton* stop = box.addButton(tr("Stop"), QMessageBox::DestructiveRole);
+    box.addButton(tr("Cancel"), QMessageBox::RejectRole);
+    box.exec();
+    if (box.clickedButton() == stop) {
+        mExports->stop();
+        return true;
+    }
+    mClosesLater = box.clickedButton() == wait && mExports->isRunning();
+    return box.clickedButton() == wait && !mExports->isRunning();
 }
 
 void DialogMain::closeEvent(QCloseEvent* event)
 {
-    if (mClosing) {
-        return;
-    }
-    if (!cleanup()) {
+    if (!mClosing && !mayClose()) {
         event->ignore();
         return;
     }
-    saveWindow();
     mClosing = true;
+    mOffset->finish();
+    mState->save();
     event->accept();
-    // At once: nothing is left to save, and tearing down a large recording takes time.
     mEndProcess();
 }
 

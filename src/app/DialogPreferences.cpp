@@ -5,6 +5,7 @@
 #include "widgets/QwtComboBox.h"
 
 #include <QtCore/QScopedValueRollback>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QGridLayout>
@@ -34,7 +35,8 @@ constexpr Language Languages[] = {{"deutsch", "de"}, {"español", "es"},   {"fra
 
 DialogPreferences::DialogPreferences(QWidget* parent)
     : QDialog(parent), mPageList(new QListWidget), mPages(new QStackedWidget),
-      mProfilePath(new QLineEdit), mLanguage(new QwtComboBox(this, 0))
+      mProfilePath(new QLineEdit), mLanguage(new QwtComboBox(this, 0)),
+      mAllDigits(new QCheckBox(tr("All recorded digits")))
 {
     setWindowTitle(tr("Preferences"));
     mPageList->setMovement(QListView::Static);
@@ -63,6 +65,7 @@ QWidget* DialogPreferences::createGeneralPage()
 {
     createProfileField();
     createLanguageBox();
+    createDigitsBox();
     auto* browse = new QToolButton;
     browse->setText(tr("..."));
     browse->setToolTip(tr("Choose a profile file"));
@@ -79,7 +82,8 @@ QWidget* DialogPreferences::createGeneralPage()
     layout->addWidget(browse, 0, 2);
     layout->addWidget(languageLabel, 1, 0);
     layout->addWidget(mLanguage, 1, 1, Qt::AlignLeft);
-    layout->setRowStretch(2, 1);
+    layout->addWidget(mAllDigits, 2, 1, Qt::AlignLeft);
+    layout->setRowStretch(3, 1);
     layout->setColumnStretch(1, 1);
     return page;
 }
@@ -106,6 +110,15 @@ void DialogPreferences::createLanguageBox()
             &DialogPreferences::slotLanguage);
 }
 
+void DialogPreferences::createDigitsBox()
+{
+    mAllDigits->setObjectName("allDigits");
+    mAllDigits->setToolTip(tr("Numbers on the screen with all the digits that were recorded, "
+                              "instead of the fewest that read back as the same number; exports "
+                              "have them always"));
+    connect(mAllDigits, &QCheckBox::toggled, this, &DialogPreferences::slotAllDigits);
+}
+
 void DialogPreferences::fillDialog()
 {
     const QScopedValueRollback filling(mFilling, true);
@@ -119,6 +132,7 @@ void DialogPreferences::fillDialog()
         }
     }
     mLanguage->setData(current);
+    mAllDigits->setChecked(settings->getSwitch("AllDigits", false));
 }
 
 void DialogPreferences::showEvent(QShowEvent* event)
@@ -155,6 +169,15 @@ void DialogPreferences::slotProfileSelect()
     if (!file.isEmpty()) {
         slotProfilePath(file);
         fillDialog();
+    }
+}
+
+void DialogPreferences::slotAllDigits(bool on)
+{
+    if (!mFilling) {
+        Property::instance()->setSwitch("AllDigits", on);
+        Property::instance()->writeXmlFile();
+        Q_EMIT signalAllDigitsChanged(on);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 
+class QCheckBox;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
@@ -29,6 +30,7 @@ public:
 Q_SIGNALS:
     void signalProfileFileChanged();
     void signalLanguageChanged();
+    void signalAllDigitsChanged(bool on);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -39,17 +41,20 @@ private Q_SLOTS:
     void slotProfilePath(const QString& path);
     void slotProfileSelect();
     void slotLanguage(int number);
+    void slotAllDigits(bool on);
 
 private:
     QWidget* createGeneralPage();
     void createProfileField();
     void createLanguageBox();
+    void createDigitsBox();
 
     bool mFilling = false; ///< controls follow the settings, not the user
     QListWidget* mPageList;
     QStackedWidget* mPages;
     QLineEdit* mProfilePath;
     QwtComboBox* mLanguage;
+    QCheckBox* mAllDigits;
     std::map<int, std::string> mLanguageCodes; ///< by the data of the items in the box
 };
 

@@ -1,6 +1,6 @@
 #include "app/DialogSplash.h"
 
-#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
 #include <QtGui/QIcon>
 #include <QtGui/QPainter>
 
@@ -20,7 +20,7 @@ DialogSplash* DialogSplash::instance()
     return splash;
 }
 
-DialogSplash::DialogSplash()
+DialogSplash::DialogSplash() : QSplashScreen(QPixmap(), Qt::WindowStaysOnTopHint)
 {
     setPixmap(QIcon(":/splash/splash.svg").pixmap(QSize(Width, Height), devicePixelRatio()));
     mTimer.setSingleShot(true);
@@ -35,7 +35,6 @@ void DialogSplash::addEntry(const QString& text)
         mEntries.removeFirst();
     }
     repaint();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void DialogSplash::finish()
@@ -47,6 +46,14 @@ void DialogSplash::finish()
 void DialogSplash::slotTimeout()
 {
     close();
+}
+
+bool DialogSplash::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked) { // it would hide a question, and not take clicks
+        close();
+    }
+    return QSplashScreen::event(event);
 }
 
 void DialogSplash::mousePressEvent(QMouseEvent*)

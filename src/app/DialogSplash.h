@@ -6,7 +6,8 @@
 
 namespace TARN {
 
-/// The start-up picture with the last messages of the start over it. Shows itself when made.
+/// The start-up picture with the last messages of the start over it. Shows itself when made, in
+/// front of the program's window, and gives way at once to a question that needs an answer.
 class DialogSplash : public QSplashScreen
 {
     Q_OBJECT
@@ -14,7 +15,8 @@ class DialogSplash : public QSplashScreen
 public:
     static DialogSplash* instance();
 
-    /// Adds a line and paints it at once; the last 15 lines stay.
+    /// Adds a line and paints it at once, where the screen has the window already; the last 15
+    /// lines stay.
     void addEntry(const QString& text);
     const QStringList& entries() const { return mEntries; }
 
@@ -22,6 +24,7 @@ public:
     void finish();
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -1,19 +1,22 @@
 #include "app/DialogStatusBar.h"
 
+#include "app/ActivityBar.h"
 #include "base/Revision.h"
-
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QProgressBar>
+#include "widgets/ElidedLabel.h"
 
 namespace TARN {
 
-DialogStatusBar::DialogStatusBar(QWidget* parent) : QStatusBar(parent), mProgress(new QProgressBar)
+DialogStatusBar::DialogStatusBar(QWidget* parent)
+    : QStatusBar(parent), mMessage(new ElidedLabel),
+      mLoading(new ActivityBar(tr("Stop loading (Escape)"))),
+      mExporting(new ActivityBar(tr("Stop the export")))
 {
-    constexpr int ProgressWidth = 160;
-    mProgress->setMaximumWidth(ProgressWidth);
-    mProgress->setAccessibleName(tr("Progress"));
-    mProgress->hide();
-    addPermanentWidget(mProgress);
+    mMessage->setObjectName("message");
+    mLoading->setObjectName("loading");
+    mExporting->setObjectName("exporting");
+    addWidget(mMessage, 1);
+    addPermanentWidget(mExporting);
+    addPermanentWidget(mLoading);
     auto* label = new QLabel(QString("Brask Flight Systems    %1 %2 (%3)")
                                  .arg(QString::fromStdString(Revision::getName()),
                                       QString::fromStdString(Revision::getRevisionNumber()))
@@ -25,35 +28,17 @@ DialogStatusBar::DialogStatusBar(QWidget* parent) : QStatusBar(parent), mProgres
     label->setAlignment(Qt::AlignCenter);
     label->setMinimumWidth(60);
     addPermanentWidget(label);
-    mHideTimer.setSingleShot(true);
-    connect(&mHideTimer, &QTimer::timeout, this, &DialogStatusBar::slotTimeout);
 }
 
 void DialogStatusBar::say(const QString& text)
 {
     mText = text;
-    showMessage(text);
+    mMessage->setFullText(text);
 }
 
 void DialogStatusBar::showTip(const QString& tip)
 {
-    showMessage(tip.isEmpty() ? mText : tip);
-}
-
-void DialogStatusBar::updateProgress(int percent)
-{
-    constexpr int HideDelay = 1000; // ms
-    mProgress->setValue(percent);
-    if (percent < 100) {
-        mProgress->show();
-    } else {
-        mHideTimer.start(HideDelay);
-    }
-}
-
-void DialogStatusBar::slotTimeout()
-{
-    mProgress->hide();
+    mMessage->setFullText(tip.isEmpty() ? mText : tip);
 }
 
 } // namespace TARN

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QtCore/QTimer>
 #include <QtWidgets/QStatusBar>
-
-class QProgressBar;
 
 namespace TARN {
 
-/// The status bar with the progress of long work and the program's label.
+class ActivityBar;
+class ElidedLabel;
+
+/// The status bar with what was last said, the progress of long work and the program's label.
 class DialogStatusBar : public QStatusBar
 {
     Q_OBJECT
@@ -17,22 +17,22 @@ public:
 
     /// Shows a message until the next one.
     void say(const QString& text);
+    /// The same behind what was said last.
+    void sayAlso(const QString& text) { say((mText + " " + text).trimmed()); }
     const QString& said() const { return mText; }
 
     /// Shows what a command does while the mouse is over it; an empty tip brings the message back,
     /// which may be the one that something is missing.
     void showTip(const QString& tip);
 
-    /// Shows the bar below 100 percent; at 100 it stays a second longer.
-    void updateProgress(int percent);
-
-private Q_SLOTS:
-    void slotTimeout();
+    ActivityBar& loading() { return *mLoading; }
+    ActivityBar& exporting() { return *mExporting; }
 
 private:
     QString mText;
-    QProgressBar* mProgress;
-    QTimer mHideTimer;
+    ElidedLabel* mMessage;
+    ActivityBar* mLoading;
+    ActivityBar* mExporting;
 };
 
 } // namespace TARN

@@ -35,13 +35,6 @@ inline QTime clockTime(std::int64_t milliseconds)
     return QTime::fromMSecsSinceStartOfDay(static_cast<int>(inDay < 0 ? inDay + Day : inDay));
 }
 
-/// \p seconds moved to another time of the same day, for editors that show times of day.
-inline double withTimeOfDay(double seconds, QTime time)
-{
-    constexpr double Day = 86'400.0;
-    return std::floor(seconds / Day) * Day + time.msecsSinceStartOfDay() * 0.001;
-}
-
 /// "hh:mm:ss" of a time in seconds.
 inline QString clockText(double seconds)
 {

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cstdint>
 #include <cstdlib>
+#include <iterator>
 #include <string_view>
 
 namespace TARN {
@@ -109,6 +110,39 @@ void appendGeneral(double value, int digits, std::string& out)
             std::to_chars(buffer, std::end(buffer), value, std::chars_format::general, digits).ptr;
     }
     out.append(buffer, static_cast<std::size_t>(end - buffer));
+}
+
+void appendShortest(float value, std::string& out)
+{
+    constexpr int HighestExponent = 11; // of ten
+    char buffer[32];
+    const auto end =
+        std::to_chars(buffer, std::end(buffer), value, std::chars_format::scientific).ptr;
+    const std::string_view text(buffer, static_cast<std::size_t>(end - buffer));
+    const auto mark = text.find('e');
+    if (mark == std::string_view::npos) {
+        out.append(text); // infinite, or no number
+        return;
+    }
+    const int exponent = leadingInt(std::string(text.substr(mark + 1)));
+    if (exponent < LowestExponent || exponent > HighestExponent) {
+        out.append(text);
+        return;
+    }
+    std::string digits;
+    std::ranges::copy_if(text.substr(0, mark), std::back_inserter(digits),
+                         [](char c) { return c >= '0' && c <= '9'; });
+    if (value == 0.0F) {
+        out += '0';
+        return;
+    }
+    if (std::signbit(value)) {
+        out += '-';
+    }
+    // The point never stands behind the last digit.
+    digits.append(static_cast<std::size_t>(std::max(0, exponent + 1)), '0');
+    char plain[64];
+    out.append(plain, placePoint(digits, exponent, plain));
 }
 
 std::string fixedText(double value, int decimals)

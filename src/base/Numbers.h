@@ -30,6 +30,10 @@ Integer truncatedTo(double value)
 /// "%.<digits>g" does in the "C" locale, whatever the locale of the process.
 void appendGeneral(double value, int digits, std::string& out);
 
+/// Appends the shortest text that reads back as \p value, without an exponent for numbers from
+/// 0.0001 to below 1e12.
+void appendShortest(float value, std::string& out);
+
 /// \p value in fixed notation with \p decimals decimals, as "%.<decimals>f" in the "C" locale.
 std::string fixedText(double value, int decimals);
 

@@ -1,5 +1,6 @@
 #include "base/OutputFile.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
 
 namespace TARN {
@@ -10,7 +11,7 @@ bool OutputFile::open()
 {
     const QFileInfo target(mFile.fileName());
     if (target.exists() && !target.isFile()) {
-        mErrorText = "it is no file";
+        mErrorText = QCoreApplication::translate("OutputFile", "it is no file");
         return false;
     }
     // Unbuffered, with a buffer of our own: the toolkit's flush at the end does not notice a

@@ -21,31 +21,6 @@ bool isLoneSurrogate(const QString& text, qsizetype at)
     return c.isLowSurrogate() && (at == 0 || !text[at - 1].isHighSurrogate());
 }
 
-QString escaped(const QString& text, bool inAttribute)
-{
-    QString out;
-    out.reserve(text.size());
-    for (qsizetype at = 0; at < text.size(); ++at) {
-        const QChar c = text[at];
-        if (c == u'<') {
-            out += "&lt;";
-        } else if (c == u'&') {
-            out += "&amp;";
-        } else if (c == u'"' && inAttribute) {
-            out += "&quot;";
-        } else if (c == u'>' && out.endsWith("]]")) {
-            out += "&gt;";
-        } else if (c == u'\r' || (inAttribute && (c == u'\n' || c == u'\t'))) {
-            out += QString("&#x%1;").arg(c.unicode(), 0, 16); // would be normalised on reading
-        } else if (!isXmlCharacter(c) || isLoneSurrogate(text, at)) {
-            out += QChar(QChar::ReplacementCharacter);
-        } else {
-            out += c;
-        }
-    }
-    return out;
-}
-
 void appendIndent(QString& out, int depth)
 {
     out.append(QString(depth * 4, u' '));
@@ -61,7 +36,7 @@ void appendStartTag(QString& out, const QDomElement& element)
     }
     out += "<" + element.tagName();
     for (const auto& [name, value] : attributes) {
-        out += " " + name + "=\"" + escaped(value, true) + "\"";
+        out += " " + name + "=\"" + xmlEscaped(value, true) + "\"";
     }
 }
 
@@ -97,7 +72,7 @@ void appendNode(QString& out, const QDomNode& node, int depth)
     if (node.isElement()) {
         appendElement(out, node.toElement(), depth);
     } else if (node.isText()) {
-        out += escaped(node.nodeValue(), false);
+        out += xmlEscaped(node.nodeValue(), false);
     } else if (node.isProcessingInstruction()) {
         const QDomProcessingInstruction instruction = node.toProcessingInstruction();
         out += "<?" + instruction.target() + " " + instruction.data() + "?>\n";
@@ -105,6 +80,31 @@ void appendNode(QString& out, const QDomNode& node, int depth)
 }
 
 } // namespace
+
+QString xmlEscaped(const QString& text, bool inAttribute)
+{
+    QString out;
+    out.reserve(text.size());
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const QChar c = text[at];
+        if (c == u'<') {
+            out += "&lt;";
+        } else if (c == u'&') {
+            out += "&amp;";
+        } else if (c == u'"' && inAttribute) {
+            out += "&quot;";
+        } else if (c == u'>' && out.endsWith("]]")) {
+            out += "&gt;";
+        } else if (c == u'\r' || (inAttribute && (c == u'\n' || c == u'\t'))) {
+            out += QString("&#x%1;").arg(c.unicode(), 0, 16); // would be normalised on reading
+        } else if (!isXmlCharacter(c) || isLoneSurrogate(text, at)) {
+            out += QChar(QChar::ReplacementCharacter);
+        } else {
+            out += c;
+        }
+    }
+    return out;
+}
 
 QString xmlText(const QDomDocument& document)
 {

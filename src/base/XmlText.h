@@ -12,4 +12,7 @@ namespace TARN {
 /// otherwise).
 QString xmlText(const QDomDocument& document);
 
+/// A text as it stands in an element, or between the quotation marks of an attribute.
+QString xmlEscaped(const QString& text, bool inAttribute);
+
 } // namespace TARN

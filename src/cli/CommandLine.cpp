@@ -14,7 +14,7 @@ namespace {
 constexpr int ExitFailure = 1;
 constexpr int ExitUsage = 2;
 
-void addSelection(CLI::App& command, Selection& selection)
+void addSelection(CLI::App& command, SelectionArguments& selection)
 {
     auto* project =
         command.add_option("--project", selection.project, "parameters selected in this project");
@@ -74,6 +74,8 @@ void addEvents(CLI::App& app, EventsArguments& arguments, std::ostream& out)
 {
     CLI::App* command = app.add_subcommand("events", "What was exceeded and which lamps came on");
     addProfile(*command, arguments.profile);
+    command->add_flag("--episodes", arguments.episodes,
+                      "also every time during which a parameter was out of range");
     addFiles(*command, arguments.files);
     command->final_callback([&] { runEvents(arguments, out); });
 }

@@ -21,13 +21,14 @@ struct InfoArguments
 struct DecodeArguments
 {
     std::string profile;
-    Selection selection;
+    SelectionArguments selection;
     std::vector<std::string> files;
 };
 
 struct EventsArguments
 {
     std::string profile;
+    bool episodes = false; ///< after the events
     std::vector<std::string> files;
 };
 
@@ -38,7 +39,8 @@ struct FaultsArguments
     std::vector<std::string> files;
 };
 
-/// Seconds on the recording's clock; what is absent is the recording's own.
+/// Seconds on the recording's clock; what is absent is the recording's own, with its offset
+/// where exported times carry it.
 struct Range
 {
     std::optional<double> start;
@@ -48,7 +50,7 @@ struct Range
 struct CsvArguments
 {
     std::string profile;
-    Selection selection;
+    SelectionArguments selection;
     Range range;
     int resolution = 100;
     std::string separator = ";"; ///< ";", "," or "tab"
@@ -59,7 +61,7 @@ struct CsvArguments
 struct KmlArguments
 {
     std::string profile;
-    Selection selection;
+    SelectionArguments selection;
     Range range;
     KmlExportOptions options;
     std::string out;
@@ -81,7 +83,8 @@ void runInfo(const InfoArguments& arguments, std::ostream& out);
 /// order, samples in file order.
 void runDecode(const DecodeArguments& arguments, std::ostream& out);
 
-/// Limit events, then warning-lamp events, one JSON object a line.
+/// Limit events, then warning-lamp events, then episodes where they are asked for, one JSON
+/// object a line.
 void runEvents(const EventsArguments& arguments, std::ostream& out);
 
 /// Each error matrix with its timeline and its active bits at a time, one JSON object a line.

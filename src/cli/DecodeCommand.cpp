@@ -1,8 +1,5 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
-#include "profile/Decoder.h"
-#include "profile/Profile.h"
-#include "record/Record.h"
 
 #include <nlohmann/json.hpp>
 #include <ostream>
@@ -11,19 +8,14 @@ namespace TARN {
 
 namespace {
 
-void decodeParameter(const ProfileDevice& device, const ProfileParameter& parameter,
-                     const Record& record, std::ostream& out)
+void decodeParameter(const ProfileDevice& device, const Series& series, std::ostream& out)
 {
-    const RecordIdList* list = record.recordData().find(static_cast<unsigned>(parameter.channel),
-                                                        static_cast<unsigned>(parameter.id));
-    if (list == nullptr) {
-        return;
-    }
-    const Decoder decoder(Profile::instance()->data(), parameter);
+    const ProfileParameter& parameter = series.parameter();
+    const Decoder& decoder = series.decoder();
     Json line = {{"device", device.name.toStdString()},
                  {"parameter", parameter.name.toStdString()},
-                 {"channel", list->channel},
-                 {"id", list->id},
+                 {"channel", static_cast<unsigned>(parameter.channel)},
+                 {"id", static_cast<unsigned>(parameter.id)},
                  {"time", 0.0},
                  {"int", 0},
                  {"double", 0.0},
@@ -32,7 +24,7 @@ void decodeParameter(const ProfileDevice& device, const ProfileParameter& parame
                  {"text", ""},
                  {"color", nullptr}};
     std::string text;
-    for (const RecordEntry& entry : list->entries) {
+    for (const RecordEntry& entry : series.entries()) {
         text.clear();
         const QColor color = decoder.appendDisplay(entry, text);
         line["time"] = entry.time();
@@ -50,15 +42,13 @@ void decodeParameter(const ProfileDevice& device, const ProfileParameter& parame
 
 void runDecode(const DecodeArguments& arguments, std::ostream& out)
 {
-    Record record;
-    loadInputs(arguments.profile, arguments.files, record);
-    applySelection(arguments.selection);
-    Profile::instance()->forEachParameter(
-        [&](const ProfileDevice& device, const ProfileParameter& parameter) {
-            if (parameter.selected) {
-                decodeParameter(device, parameter, record, out);
-            }
-        });
+    const auto flight = loadFlight(arguments.profile, arguments.files);
+    const Selection selection = selectionOf(arguments.selection, *flight->profile());
+    for (const auto& [device, parameter] : flight->profile()->parameters()) {
+        if (selection.contains(*parameter)) {
+            decodeParameter(*device, flight->series(*parameter, 0.0), out);
+        }
+    }
 }
 
 } // namespace TARN

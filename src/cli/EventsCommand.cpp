@@ -1,8 +1,5 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
-#include "faults/EventDetector.h"
-#include "profile/Profile.h"
-#include "record/Record.h"
 
 #include <ostream>
 
@@ -22,18 +19,46 @@ void printEvent(const char* kind, const RecordEvent& event, std::ostream& out)
     out << line.dump() << '\n';
 }
 
+void printEpisode(const Episode& episode, std::ostream& out)
+{
+    Json line = {{"kind", "episode"},
+                 {"device", episode.device->name.toStdString()},
+                 {"parameter", episode.parameter->name.toStdString()},
+                 {"state", episode.state},
+                 {"start", episode.start},
+                 {"end", episode.end},
+                 {"duration", episode.duration()},
+                 {"samples", episode.samples},
+                 {"peak", nullptr},
+                 {"peakTime", nullptr},
+                 {"threshold", nullptr},
+                 {"color", nullptr},
+                 {"announced", episode.isAnnounced()}};
+    if (episode.peak) {
+        line["peak"] = episode.peak->value;
+        line["peakTime"] = episode.peak->time;
+        line["threshold"] = episode.peak->threshold;
+        line["color"] = jsonOf(episode.peak->color);
+    }
+    out << line.dump() << '\n';
+}
+
 } // namespace
 
 void runEvents(const EventsArguments& arguments, std::ostream& out)
 {
-    Record record;
-    loadInputs(arguments.profile, arguments.files, record);
-    detectEvents(record, *Profile::instance());
-    for (const RecordLimit& event : record.recordData().limits) {
+    const auto flight = loadFlight(arguments.profile, arguments.files);
+    for (const RecordLimit& event : flight->events().limits) {
         printEvent("limit", event, out);
     }
-    for (const RecordWarning& event : record.recordData().warnings) {
+    for (const RecordWarning& event : flight->events().warnings) {
         printEvent("warning", event, out);
+    }
+    if (arguments.episodes) {
+        Progress none;
+        for (const Episode& episode : flight->episodes(flight->record()->offset(), none)) {
+            printEpisode(episode, out);
+        }
     }
 }
 

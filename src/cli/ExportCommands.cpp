@@ -3,27 +3,26 @@
 #include "export/ExportCan.h"
 #include "export/ExportCsv.h"
 #include "export/ExportKml.h"
-#include "faults/EventDetector.h"
-#include "profile/Profile.h"
-#include "record/Record.h"
 
 namespace TARN {
 
 namespace {
 
 /// Sets what all exports share: where to, and from when to when.
-template <typename Options>
-void complete(Options& options, const std::string& out, const Range& range, const Record& record)
+void complete(ExportOptions& options, const std::string& out, const Range& range,
+              const TimeRange& whole)
 {
     const auto slash = out.rfind('/');
     options.directory = slash == std::string::npos ? "." : out.substr(0, slash);
     options.fileName = slash == std::string::npos ? out : out.substr(slash + 1);
-    options.startTime = range.start.value_or(record.recordInfo().startTime);
-    options.stopTime = range.stop.value_or(record.recordInfo().stopTime);
+    options.startTime = range.start.value_or(whole.start);
+    options.stopTime = range.stop.value_or(whole.stop);
 }
 
-void check(const ExportResult& result)
+void run(Exporter&& exporter, const ExportInput& input)
 {
+    Progress none;
+    const ExportResult result = exporter.run(input, none);
     if (!result) {
         throw CommandFailure(result.message.toStdString());
     }
@@ -32,38 +31,44 @@ void check(const ExportResult& result)
     }
 }
 
+ExportInput inputOf(const std::string& profile, const std::vector<std::string>& files,
+                    const SelectionArguments& selection)
+{
+    ExportInput input;
+    input.flight = loadFlight(profile, files);
+    input.selection = selectionOf(selection, *input.flight->profile());
+    input.offset = input.flight->record()->offset();
+    return input;
+}
+
 } // namespace
 
 void runCsv(const CsvArguments& arguments)
 {
-    Record record;
-    loadInputs(arguments.profile, arguments.files, record);
-    applySelection(arguments.selection);
+    const ExportInput input = inputOf(arguments.profile, arguments.files, arguments.selection);
     CsvExportOptions options;
-    complete(options, arguments.out, arguments.range, record);
+    complete(options, arguments.out, arguments.range, input.flight->range(input.offset));
     options.resolution = arguments.resolution;
     options.separator = arguments.separator == "tab" ? '\t' : arguments.separator[0];
-    check(ExportCsv(*Profile::instance()).exportData(record, options));
+    run(ExportCsv(options), input);
 }
 
 void runKml(const KmlArguments& arguments)
 {
-    Record record;
-    loadInputs(arguments.profile, arguments.files, record);
-    applySelection(arguments.selection);
-    detectEvents(record, *Profile::instance());
+    const ExportInput input = inputOf(arguments.profile, arguments.files, arguments.selection);
     KmlExportOptions options = arguments.options;
-    complete(options, arguments.out, arguments.range, record);
-    check(ExportKml(*Profile::instance()).exportData(record, options));
+    complete(options, arguments.out, arguments.range, input.flight->range(input.offset));
+    run(ExportKml(options), input);
 }
 
 void runCan(const CanArguments& arguments)
 {
-    Record record;
-    loadInputs({}, arguments.files, record);
+    ExportInput input;
+    input.flight = Flight::make(loadRecord(arguments.files), std::make_shared<Profile>());
     CsvExportOptions options;
-    complete(options, arguments.out, arguments.range, record);
-    check(ExportCan().exportData(record, options));
+    // Its times carry no offset.
+    complete(options, arguments.out, arguments.range, input.flight->range(0.0));
+    run(ExportCan(options), input);
 }
 
 } // namespace TARN

@@ -1,8 +1,5 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
-#include "faults/FaultHistory.h"
-#include "profile/Profile.h"
-#include "record/Record.h"
 
 #include <ostream>
 
@@ -34,16 +31,14 @@ Json jsonOf(std::uint32_t word)
 
 void runFaults(const FaultsArguments& arguments, std::ostream& out)
 {
-    Record record;
-    loadInputs(arguments.profile, arguments.files, record);
-    const double time = arguments.time.value_or(record.recordInfo().startTime);
-    for (const FaultMatrix& matrix : Profile::instance()->data().faultMatrices) {
-        const FaultHistory history(record.recordData(), matrix);
-        const Json line = {{"id", matrix.id},
-                           {"name", matrix.name.toStdString()},
-                           {"info", jsonOf(history.info())},
-                           {"warning", jsonOf(history.warning())},
-                           {"fault", jsonOf(history.fault())},
+    const auto flight = loadFlight(arguments.profile, arguments.files);
+    const double time = arguments.time.value_or(flight->info().startTime);
+    for (const FaultHistory& history : flight->faults()) {
+        const Json line = {{"id", history.matrix().id},
+                           {"name", history.matrix().name.toStdString()},
+                           {"info", jsonOf(history.points(ErrorInfo))},
+                           {"warning", jsonOf(history.points(ErrorWarning))},
+                           {"fault", jsonOf(history.points(ErrorFault))},
                            {"bits", jsonOf(history.bitsAt(time))}};
         out << line.dump() << '\n';
     }

@@ -1,9 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
-#include "profile/Profile.h"
-#include "profile/UnknownIdentifiers.h"
 #include "record/CardInfo.h"
-#include "record/Record.h"
 #include "record/RecordText.h"
 
 #include <QtCore/QFileInfo>
@@ -70,14 +67,16 @@ FileReport headerReport(const QString& path)
     return {fieldsOf(info), integrityOf(info), recordRemarks(info)};
 }
 
-FileReport sampleReport(const QString& path, const std::string& profile)
+FileReport sampleReport(const QString& path, const std::string& profile,
+                        std::vector<FileIntegrity>& files)
 {
-    Record record;
-    loadInputs(profile, {path.toStdString()}, record);
-    const FileIntegrity& file = record.integrity().files.front();
+    const std::shared_ptr<const Profile> known = profile.empty() ? nullptr : loadProfile(profile);
+    const auto record = loadRecord({path.toStdString()});
+    const FileIntegrity& file = record->integrity().files.front();
+    files.push_back(file);
     FileReport report{fieldsOf(file.info), integrityOf(file), recordRemarks(file)};
-    if (!profile.empty()) {
-        const auto unknown = unknownIdentifiers(record.recordData(), *Profile::instance());
+    if (known != nullptr) {
+        const auto unknown = unknownIdentifiers(record->recordData(), *known);
         report.integrity["unknownIdentifiers"] = unknown.identifiers;
         report.integrity["unknownSamples"] = unknown.samples;
         report.remarks += unknown.remark();
@@ -107,18 +106,36 @@ void print(const FileReport& report, bool json, std::ostream& out)
     out << '\n';
 }
 
+/// What speaks against reading the files as one recording; nothing where nothing does.
+void printTogether(const std::vector<FileIntegrity>& files, bool json, std::ostream& out)
+{
+    Json lines = Json::array();
+    for (const QString& remark : togetherRemarks(files)) {
+        lines.push_back(remark.toStdString());
+        if (!json) {
+            out << "remark: " << remark.toStdString() << '\n';
+        }
+    }
+    if (json && !lines.empty()) {
+        out << Json{{"remarks", lines}}.dump() << '\n';
+    }
+}
+
 } // namespace
 
 void runInfo(const InfoArguments& arguments, std::ostream& out)
 {
+    std::vector<FileIntegrity> checked;
     for (const std::string& argument : arguments.paths) {
         const QString path = QString::fromStdString(argument);
         const auto files = QFileInfo(path).isDir() ? cardFiles(path) : std::vector<QString>{path};
         for (const QString& file : files) {
-            print(arguments.check ? sampleReport(file, arguments.profile) : headerReport(file),
+            print(arguments.check ? sampleReport(file, arguments.profile, checked)
+                                  : headerReport(file),
                   arguments.json, out);
         }
     }
+    printTogether(checked, arguments.json, out);
 }
 
 } // namespace TARN

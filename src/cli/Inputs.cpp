@@ -1,8 +1,6 @@
 #include "cli/Inputs.h"
 
-#include "profile/Profile.h"
 #include "profile/Project.h"
-#include "record/Record.h"
 
 #include <set>
 
@@ -10,53 +8,66 @@ namespace TARN {
 
 namespace {
 
-void selectAll()
-{
-    Profile::instance()->forEachParameter(
-        [](const ProfileDevice&, ProfileParameter& parameter) { parameter.selected = true; });
-}
-
-void selectNamed(const std::vector<std::string>& names)
+Selection selectNamed(const std::vector<std::string>& names, const Profile& profile)
 {
     std::set<std::string> missing(names.begin(), names.end());
     const std::set<std::string> wanted = missing;
-    Profile::instance()->forEachParameter([&](const ProfileDevice&, ProfileParameter& parameter) {
-        const std::string name = parameter.fullName.toStdString();
-        parameter.selected = wanted.contains(name);
+    Selection selection;
+    for (const auto& [device, parameter] : profile.parameters()) {
+        const std::string name = parameter->fullName.toStdString();
+        selection.set(*parameter, wanted.contains(name));
         missing.erase(name);
-    });
+    }
     if (!missing.empty()) {
         throw CommandFailure("the profile has no parameter \"" + *missing.begin() + "\"");
     }
+    return selection;
 }
 
 } // namespace
 
-void loadInputs(const std::string& profile, const std::vector<std::string>& files, Record& record)
+std::shared_ptr<const Profile> loadProfile(const std::string& file)
 {
-    if (!profile.empty() && !Profile::instance()->loadProfile(QString::fromStdString(profile))) {
-        throw CommandFailure("could not load the profile \"" + profile + "\"");
+    auto profile = Profile::load(QString::fromStdString(file));
+    if (!profile->isLoaded()) {
+        throw CommandFailure("could not load the profile \"" + file + "\"");
     }
+    return profile;
+}
+
+std::shared_ptr<const Record> loadRecord(const std::vector<std::string>& files)
+{
     std::list<QString> paths;
     for (const std::string& file : files) {
         paths.push_back(QString::fromStdString(file));
     }
-    if (!record.readRecordData(paths)) {
-        throw CommandFailure(record.errorText().toStdString());
+    auto record = std::make_shared<Record>();
+    if (!record->readRecordData(paths)) {
+        throw CommandFailure(record->errorText().toStdString());
     }
+    return record;
 }
 
-void applySelection(const Selection& selection)
+std::shared_ptr<const Flight> loadFlight(const std::string& profile,
+                                         const std::vector<std::string>& files)
 {
-    if (!selection.project.empty()) {
-        if (!Project::instance()->readProject(selection.project)) {
-            throw CommandFailure("could not read the project \"" + selection.project + "\"");
+    auto loaded = loadProfile(profile);
+    return Flight::make(loadRecord(files), std::move(loaded));
+}
+
+Selection selectionOf(const SelectionArguments& arguments, const Profile& profile)
+{
+    if (!arguments.project.empty()) {
+        Project project;
+        if (!project.readProject(arguments.project)) {
+            throw CommandFailure("could not read the project \"" + arguments.project + "\"");
         }
-    } else if (!selection.parameters.empty() && !selection.all) {
-        selectNamed(selection.parameters);
-    } else {
-        selectAll();
+        return project.selection(profile);
     }
+    if (!arguments.parameters.empty() && !arguments.all) {
+        return selectNamed(arguments.parameters, profile);
+    }
+    return Selection::all(profile);
 }
 
 } // namespace TARN

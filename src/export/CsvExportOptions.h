@@ -1,13 +1,11 @@
 #pragma once
 
-#include "record/RecordInfo.h"
-
-#include <string>
+#include "export/ExportOptions.h"
 
 namespace TARN {
 
 /// What the CSV and the CAN export are told.
-struct CsvExportOptions
+struct CsvExportOptions : ExportOptions
 {
     enum FileType
     {
@@ -15,18 +13,17 @@ struct CsvExportOptions
         Can = 1
     };
 
-    std::string directory = ".";
-    std::string fileName;
     int fileType = Csv;
     char separator = ';';
     bool allParameters = false; ///< every parameter of the profile, not only the selected ones
-    RecordInfo info;            ///< header of the recording
-    double startTime = 0.0;     ///< first time exported, seconds on the recording's clock
-    double stopTime = 0.0;      ///< last time exported
-    double currentTime = 0.0;   ///< the data window's current time
     int resolution = 100;       ///< grid step in milliseconds: 100, 10 or 1
 
-    QString path() const { return QString::fromStdString(directory + "/" + fileName); }
+    // The user's last choices. What can't be meant, a damaged setting, takes its default.
+    void load(const Property& settings);
+    void store(Property& settings) const;
+
+    /// Gives the file name the extension of the file type; the default name where it is empty.
+    void completeFileName();
 };
 
 } // namespace TARN

@@ -4,7 +4,6 @@
 #include "base/Diagnostics.h"
 #include "base/Numbers.h"
 #include "base/OutputFile.h"
-#include "export/ExportSource.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -22,17 +21,19 @@ void storeBig(T value, unsigned char* to)
     std::memcpy(to, &big, sizeof big);
 }
 
-/// The header as it stands in the file: its numbers in the order of the samples.
-RecordHeaderBytes bigEndianHeader(const RecordHeaderBytes& header, bool isBigEndian)
+/// The header as it stands in the file: without a start time, its numbers in the order of the
+/// samples.
+RecordHeaderBytes excerptHeader(const RecordHeaderBytes& header, bool isBigEndian)
 {
     RecordHeaderBytes out = header;
+    std::fill_n(out.begin() + 20, 8, static_cast<unsigned char>(0));
     if (isBigEndian) {
         return out;
     }
     for (const std::size_t word16 : {0, 2, 4, 6, 12}) {
         std::reverse(&out[word16], &out[word16] + 2);
     }
-    for (const std::size_t word32 : {8, 20, 24, 28, 32}) {
+    for (const std::size_t word32 : {8, 28, 32}) {
         std::reverse(&out[word32], &out[word32] + 4);
     }
     return out;
@@ -62,42 +63,39 @@ std::string_view asText(const unsigned char* bytes, std::size_t size)
 
 } // namespace
 
-ExportResult ExportCan::exportData(Record& record, const CsvExportOptions& options)
+ExportResult ExportCan::write(const ExportInput& input, Progress& progress)
 {
-    if (const QString refusal = sourceRefusal(record, options.path()); !refusal.isEmpty()) {
-        return ExportResult::failure(refusal);
-    }
-    const QString path = options.path();
-    OutputFile file(path);
+    OutputFile file(path());
     if (!file.open()) {
-        diagnose("Could not open %s\n", qUtf8Printable(path));
+        diagnose("Could not open %s\n", qUtf8Printable(path()));
         return ExportResult::failure(
             QCoreApplication::translate("ExportCan", "\"%1\" can't be written: %2")
-                .arg(path, file.errorText()));
+                .arg(path(), file.errorText()));
     }
-    const RecordData& data = record.recordData();
+    constexpr std::size_t Piece = 4096; // samples between two looks at the progress
+    const RecordData& data = input.flight->samples();
     diagnose("ExportCan::exportData: %zu records to export\n", data.count());
-    std::fill_n(record.rawData().begin() + 20, 8, static_cast<unsigned char>(0));
-    const auto header = bigEndianHeader(record.rawData(), record.rawDataIsBigEndian());
+    const Record& record = *input.flight->record();
+    const auto header = excerptHeader(record.rawData(), record.rawDataIsBigEndian());
     file.write(asText(header.data(), header.size()));
     unsigned char sample[sizeof(RecordEntry)];
-    int percent = -1;
     for (std::size_t k = 0; k < data.count() && !file.failed(); ++k) {
         const RecordEntry& entry = data.inTimeOrder(k);
-        if (options.startTime <= entry.time() && entry.time() <= options.stopTime) {
-            encode(entry, options.startTime, sample);
+        if (mOptions.range().contains(entry.time())) {
+            encode(entry, mOptions.startTime, sample);
             file.write(asText(sample, sizeof sample));
         }
-        const auto now = static_cast<int>(100 * k / data.count());
-        if (now != percent && mProgress) {
-            mProgress(now);
+        if (k % Piece == 0) {
+            progress.report(k, data.count());
+            if (progress.stopRequested()) {
+                return ExportResult::stopped();
+            }
         }
-        percent = now;
     }
     if (!file.commit()) {
         return ExportResult::failure(
             QCoreApplication::translate("ExportCan", "\"%1\" could not be written: %2")
-                .arg(path, file.errorText()));
+                .arg(path(), file.errorText()));
     }
     return ExportResult::success();
 }

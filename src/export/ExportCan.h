@@ -1,24 +1,25 @@
 #pragma once
 
 #include "export/CsvExportOptions.h"
-#include "export/ExportResult.h"
-#include "record/Record.h"
+#include "export/Exporter.h"
 
 namespace TARN {
 
 /// Writes the samples of a time range as a recording file, which can be opened again: the
 /// header with its start time cleared, then the samples by time, times counted from the range's
-/// start in ticks of 31.25 ns. Always big-endian.
-class ExportCan
+/// start in ticks of 31.25 ns. Always big-endian. Times carry no offset.
+class ExportCan : public Exporter
 {
 public:
-    void setProgress(ExportProgress progress) { mProgress = std::move(progress); }
+    explicit ExportCan(const CsvExportOptions& options) : mOptions(options) {}
 
-    /// Clears the start time in the loaded recording's header too.
-    ExportResult exportData(Record& record, const CsvExportOptions& options);
+    QString path() const override { return mOptions.path(); }
+
+protected:
+    ExportResult write(const ExportInput& input, Progress& progress) override;
 
 private:
-    ExportProgress mProgress;
+    CsvExportOptions mOptions;
 };
 
 } // namespace TARN

@@ -3,8 +3,6 @@
 #include "base/ClockTime.h"
 #include "base/Diagnostics.h"
 #include "base/OutputFile.h"
-#include "export/ExportSource.h"
-#include "profile/Profile.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
@@ -13,7 +11,6 @@
 #include <charconv>
 #include <filesystem>
 #include <limits>
-#include <numeric>
 
 namespace TARN {
 
@@ -41,37 +38,27 @@ void appendPadded(std::int64_t value, int digits, std::string& out)
 
 } // namespace
 
-ExportResult ExportCsv::exportData(Record& record, const CsvExportOptions& options)
+ExportCsv::ExportCsv(const CsvExportOptions& options)
+    : mOptions(options), mStepsPerSecond(1.0 / (options.resolution * 0.001))
+{}
+
+ExportResult ExportCsv::write(const ExportInput& input, Progress& progress)
 {
-    if (const QString source = sourceRefusal(record, options.path()); !source.isEmpty()) {
-        return ExportResult::failure(source);
-    }
-    mColumns.clear();
     mCells.clear();
-    mEarliest = NoSample;
-    mLatest = -NoSample;
-    mStepsPerSecond = 1.0 / (options.resolution * 0.001);
-    diagnose("Start %f Stop %f\n", options.startTime, options.stopTime);
-    for (const auto& [id, device] : mProfile.data().devices) {
-        for (const auto& [uid, parameter] : device.parameters) {
-            if (parameter.selected || options.allParameters) {
-                addColumn(record, parameter, options);
-                if (mProgress) {
-                    mProgress(0); // each looks at all its samples; the window stays painted
-                }
-            }
-        }
+    diagnose("Start %f Stop %f\n", mOptions.startTime, mOptions.stopTime);
+    if (!addColumns(input, progress)) {
+        return ExportResult::stopped();
     }
     const std::int64_t first = tick(mEarliest);
     // Without a sample there is no row, whatever the end of the range.
-    const std::int64_t last = mEarliest == NoSample ? first - 1 : tick(options.stopTime);
+    const std::int64_t last = mEarliest == NoSample ? first - 1 : tick(mOptions.stopTime);
     diagnose("th0 %lld th1 %lld\n", static_cast<long long>(first), static_cast<long long>(last));
-    const QString reason = refusal(first, last, options);
+    const QString reason = refusal(first, last);
     if (!reason.isEmpty()) {
         diagnose("%s\n", qUtf8Printable(reason));
         return ExportResult::failure(reason);
     }
-    return writeFile(options, first, last);
+    return writeFile(first, last, progress);
 }
 
 std::int64_t ExportCsv::tick(double time) const
@@ -81,78 +68,52 @@ std::int64_t ExportCsv::tick(double time) const
 
 void ExportCsv::findNextTick(Column& column) const
 {
-    column.nextTick =
-        column.next < column.size() ? tick(column.at(column.next).time() + column.shift) : NoTick;
+    column.nextTick = column.empty() ? NoTick : tick(column.series.time(column.next));
 }
 
-void ExportCsv::addColumn(const Record& record, const ProfileParameter& parameter,
-                          const CsvExportOptions& options)
+/// False when it was asked to stop.
+bool ExportCsv::addColumns(const ExportInput& input, Progress& progress)
 {
-    Column column{.title = parameter.name.toStdString(),
-                  .decoder = Decoder(mProfile.data(), parameter)};
-    const RecordIdList* list = record.recordData().find(static_cast<unsigned>(parameter.channel),
-                                                        static_cast<unsigned>(parameter.id));
-    if (list != nullptr) {
-        column.entries = list->entries;
-        column.shift = list->shift(record.recordData().offset);
-        scan(column, options);
+    mColumns.clear();
+    mEarliest = NoSample;
+    mLatest = -NoSample;
+    for (const auto& [device, parameter] : input.flight->profile()->parameters()) {
+        if (progress.stopRequested()) {
+            return false;
+        }
+        if (mOptions.allParameters || input.selection.contains(*parameter)) {
+            addColumn(input, *parameter);
+        }
+    }
+    return true;
+}
+
+void ExportCsv::addColumn(const ExportInput& input, const ProfileParameter& parameter)
+{
+    Column column{.title = parameter.name.toStdString(), .series = input.series(parameter)};
+    const Series& series = column.series;
+    column.next = series.firstNotBefore(mOptions.startTime);
+    column.end = std::max(column.next, series.firstAfter(mOptions.stopTime));
+    if (!column.empty()) {
+        mEarliest = std::min(mEarliest, series.time(column.next));
+        mLatest = std::max(mLatest, series.time(column.end - 1));
     }
     findNextTick(column);
     mColumns.push_back(std::move(column));
 }
 
-/// Keeps the samples inside the range and sees to it that their ticks ascend.
-void ExportCsv::scan(Column& column, const CsvExportOptions& options)
-{
-    std::size_t begin = column.entries.size();
-    std::size_t end = 0;
-    std::size_t inside = 0;
-    double lastTime = -NoSample;
-    bool ascending = true; // where times ascend, so do their ticks
-    const auto isInside = [&](double time) {
-        return options.startTime <= time && time <= options.stopTime;
-    };
-    for (std::size_t i = 0; i < column.entries.size(); ++i) {
-        const double time = column.entries[i].time() + column.shift;
-        if (!isInside(time)) {
-            continue;
-        }
-        begin = std::min(begin, i);
-        end = i + 1;
-        ++inside;
-        mEarliest = std::min(mEarliest, time);
-        mLatest = std::max(mLatest, time);
-        ascending = ascending && time >= lastTime;
-        lastTime = time;
-    }
-    column.entries =
-        inside == 0 ? column.entries.first(0) : column.entries.subspan(begin, end - begin);
-    if (ascending && inside == column.entries.size()) {
-        return;
-    }
-    for (std::size_t i = 0; i < column.entries.size(); ++i) {
-        if (isInside(column.entries[i].time() + column.shift)) {
-            column.order.push_back(static_cast<std::uint32_t>(i));
-        }
-    }
-    std::ranges::stable_sort(column.order, {}, [&](std::uint32_t i) {
-        return tick(column.entries[i].time() + column.shift);
-    });
-    column.ordered = true;
-}
-
 /// Why the table should not be begun; empty when nothing speaks against it.
-QString ExportCsv::refusal(std::int64_t first, std::int64_t last, const CsvExportOptions& options)
+QString ExportCsv::refusal(std::int64_t first, std::int64_t last) const
 {
     if (first > last) {
         return {}; // the title line alone
     }
-    const auto times = [this, &options] {
+    const auto times = [this] {
         return Texts::tr("The first sample is at %1 s, the last at %2 s, the export ends at %3 s. "
                          "Choose a shorter time range or a coarser resolution.")
             .arg(mEarliest, 0, 'f', 3)
             .arg(mLatest, 0, 'f', 3)
-            .arg(options.stopTime, 0, 'f', 3);
+            .arg(mOptions.stopTime, 0, 'f', 3);
     };
     if (first < std::numeric_limits<std::int32_t>::min() ||
         last > std::numeric_limits<std::int32_t>::max()) {
@@ -162,43 +123,44 @@ QString ExportCsv::refusal(std::int64_t first, std::int64_t last, const CsvExpor
     std::size_t rowSize = TimeWidth;
     for (const Column& column : mColumns) {
         std::string text;
-        if (column.size() > 0) {
-            column.decoder.appendText(column.at(0), text);
+        if (!column.empty()) {
+            column.series.decoder().appendText(column.series.entry(column.next), text);
         }
         rowSize += text.size() + 1;
     }
     const auto size = static_cast<double>(rowSize) * static_cast<double>(last - first + 1);
     std::error_code unknown;
     const auto disk =
-        std::filesystem::space(QFileInfo(options.path()).absolutePath().toStdString(), unknown);
+        std::filesystem::space(QFileInfo(path()).absolutePath().toStdString(), unknown);
     if (!unknown && size > static_cast<double>(disk.available)) {
         return Texts::tr("The table would have %1 rows, about %2 MB, more than is free in \"%3\".")
                    .arg(last - first + 1)
                    .arg(size / 1e6, 0, 'f', 0)
-                   .arg(QString::fromStdString(options.directory)) +
+                   .arg(QString::fromStdString(mOptions.directory)) +
                " " + times();
     }
     return {};
 }
 
-ExportResult ExportCsv::writeFile(const CsvExportOptions& options, std::int64_t first,
-                                  std::int64_t last)
+ExportResult ExportCsv::writeFile(std::int64_t first, std::int64_t last, Progress& progress)
 {
-    OutputFile file(options.path());
+    OutputFile file(path());
     if (!file.open()) {
-        diagnose("could not open <%s> for write !\n", qUtf8Printable(options.path()));
+        diagnose("could not open <%s> for write !\n", qUtf8Printable(path()));
         return ExportResult::failure(
-            Texts::tr("\"%1\" can't be written: %2").arg(options.path(), file.errorText()));
+            Texts::tr("\"%1\" can't be written: %2").arg(path(), file.errorText()));
     }
     std::string title = "Time";
     for (const Column& column : mColumns) {
-        title += options.separator + column.title;
+        title += mOptions.separator + column.title;
     }
     file.write(title + "\n");
-    writeRows(file, options, first, last);
+    if (!writeRows(file, first, last, progress)) {
+        return ExportResult::stopped();
+    }
     if (!file.commit()) {
         return ExportResult::failure(
-            Texts::tr("\"%1\" could not be written: %2").arg(options.path(), file.errorText()));
+            Texts::tr("\"%1\" could not be written: %2").arg(path(), file.errorText()));
     }
     return ExportResult::success(
         mColumns.empty() ? Texts::tr("No parameter is selected, the file holds its title only.")
@@ -207,47 +169,51 @@ ExportResult ExportCsv::writeFile(const CsvExportOptions& options, std::int64_t 
                          : QString());
 }
 
-void ExportCsv::writeRows(OutputFile& file, const CsvExportOptions& options, std::int64_t first,
-                          std::int64_t last)
+/// False when it was asked to stop.
+bool ExportCsv::writeRows(OutputFile& file, std::int64_t first, std::int64_t last,
+                          Progress& progress)
 {
-    std::int64_t nextChange = first; // until then rows differ in their time alone
+    constexpr std::int64_t Piece = 256; // rows between two looks at the progress
+    std::int64_t nextChange = first;    // until then rows differ in their time alone
     std::string time;
-    int percent = -1;
     for (std::int64_t row = first; row <= last && !file.failed(); ++row) {
         if (row == nextChange || row == first + 1) {
-            nextChange = advance(row, options.separator, row == first);
+            nextChange = advance(row, row == first);
         }
         time.clear();
-        appendElapsed(row, options.resolution, time);
+        appendElapsed(row, time);
         file.write(time);
         file.write(mCells);
-        const auto now = static_cast<int>(100 * (row - first) / (last - first + 1));
-        if (now != percent && mProgress) {
-            mProgress(now);
+        if ((row - first) % Piece == 0) {
+            progress.report(static_cast<std::size_t>(row - first),
+                            static_cast<std::size_t>(last - first + 1));
+            if (progress.stopRequested()) {
+                return false;
+            }
         }
-        percent = now;
     }
+    return true;
 }
 
 /// The last sample of a row; null when the column has none in it.
 const RecordEntry* ExportCsv::takeSample(Column& column, std::int64_t row) const
 {
-    const RecordEntry* entry = nullptr;
+    const std::size_t begin = column.next;
     while (column.nextTick == row) {
-        entry = &column.at(column.next++);
+        ++column.next;
         findNextTick(column);
         // A row visits every list: too many for the processor to foresee where each goes on.
-        if (column.next + PrefetchDistance < column.size()) {
-            __builtin_prefetch(&column.at(column.next + PrefetchDistance));
+        if (column.next + PrefetchDistance < column.end) {
+            __builtin_prefetch(&column.series.entry(column.next + PrefetchDistance));
         }
     }
-    return entry;
+    return column.next > begin ? &column.series.lastInList(begin, column.next) : nullptr;
 }
 
 /// Makes the cells of a row from those of the row before and its samples; returns the next row
 /// that has samples. In the first row the last column has no cell, not even an empty one, unless
 /// it has a sample; readers of these files have learned to live with that.
-std::int64_t ExportCsv::advance(std::int64_t row, char separator, bool isFirstRow)
+std::int64_t ExportCsv::advance(std::int64_t row, bool isFirstRow)
 {
     std::int64_t next = NoTick;
     mNewCells.clear();
@@ -257,10 +223,10 @@ std::int64_t ExportCsv::advance(std::int64_t row, char separator, bool isFirstRo
         if (isFirstRow && entry == nullptr && &column == &mColumns.back()) {
             break;
         }
-        mNewCells += separator;
+        mNewCells += mOptions.separator;
         const std::size_t begin = mNewCells.size();
         if (entry != nullptr) {
-            column.decoder.appendText(*entry, mNewCells);
+            column.series.decoder().appendText(*entry, mNewCells);
         } else {
             mNewCells.append(mCells, column.cellBegin, column.cellSize);
         }
@@ -274,7 +240,7 @@ std::int64_t ExportCsv::advance(std::int64_t row, char separator, bool isFirstRo
 
 /// Time since the first sample. Ticks are rounded and the first sample's is truncated, so the
 /// first row can read one step.
-void ExportCsv::appendElapsed(std::int64_t row, int resolution, std::string& out) const
+void ExportCsv::appendElapsed(std::int64_t row, std::string& out) const
 {
     const double f = mStepsPerSecond;
     const auto steps =
@@ -284,7 +250,7 @@ void ExportCsv::appendElapsed(std::int64_t row, int resolution, std::string& out
     const auto minutes = static_cast<int>(rest / (f * 60));
     rest = rest - minutes * f * 60;
     const auto seconds = static_cast<int>(rest / f);
-    const auto milliseconds = static_cast<int>((rest - seconds * f) * resolution);
+    const auto milliseconds = static_cast<int>((rest - seconds * f) * mOptions.resolution);
     appendPadded(hours, 1, out);
     out += ':';
     appendPadded(minutes, 2, out);

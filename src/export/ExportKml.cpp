@@ -1,9 +1,12 @@
 #include "export/ExportKml.h"
 
+#include "base/CountText.h"
+#include "base/Diagnostics.h"
 #include "base/Numbers.h"
-#include "export/ExportSource.h"
-#include "profile/Profile.h"
-#include "record/Record.h"
+#include "base/OutputFile.h"
+#include "base/XmlStream.h"
+#include "export/FlightPath.h"
+#include "export/PlaceMarks.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QColor>
@@ -42,116 +45,141 @@ constexpr int Opaque = 255;
 
 } // namespace
 
-ExportResult ExportKml::exportData(const Record& record, const KmlExportOptions& options)
+ExportResult ExportKml::write(const ExportInput& input, Progress& progress)
 {
-    if (const QString refusal = sourceRefusal(record, options.path()); !refusal.isEmpty()) {
-        return ExportResult::failure(refusal);
+    const FlightPath path(*input.flight, input.offset, mOptions.slotWidth(), mOptions.range());
+    OutputFile file(this->path());
+    if (!file.open()) {
+        return notWritten();
     }
-    const RecordData& data = record.recordData();
-    const FlightPath path(mProfile, data, options.timeStamp * 0.001, options.startTime,
-                          options.stopTime);
-    mDocument = QDomDocument();
-    mDocument.appendChild(
-        mDocument.createProcessingInstruction("xml", "version=\"1.0\" encoding=\"UTF-8\""));
-    QDomElement kml = mXml.xmlCreateElement(mDocument, mDocument, "kml");
-    QDomElement document = addElement(kml, "Document");
-    addData(document, "name",
-            "ORNA Flightpath " + record.recordInfo().dateTimeText().toStdString());
-    addStyle(document, "normalPlacemark", options.placeMarkColor);
-    addStyle(document, "errorPlacemark", options.errorMarkColor);
-    const auto halfway = [this](int percent) { report(percent / 2); };
-    addMarks(document, placeMarks(mProfile, data, path, options, halfway), "normalPlacemark");
-    if (options.errorMarkOn && options.showLimit) {
-        addMarks(document, errorMarks(data.limits, path), "errorPlacemark");
+    XmlStream xml(file);
+    xml.instruction("xml", "version=\"1.0\" encoding=\"UTF-8\"");
+    xml.begin("kml");
+    xml.begin("Document");
+    xml.element("name", "ORNA Flightpath " + input.flight->info().dateTimeText().toStdString());
+    addStyle(xml, "normalPlacemark", mOptions.placeMarkColor);
+    addStyle(xml, "errorPlacemark", mOptions.errorMarkColor);
+    LeftOut leftOut;
+    if (!addPlaceMarks(xml, input, path, leftOut, progress)) {
+        return ExportResult::stopped();
     }
-    if (options.errorMarkOn && options.showWarning) {
-        addMarks(document, errorMarks(data.warnings, path), "errorPlacemark");
+    if (mOptions.errorMarkOn && mOptions.showLimit) {
+        addErrorMarks(xml, input.flight->events().limits, path, leftOut);
     }
-    addPath(document, path, options);
-    const bool written = mXml.xmlWriteFile(mDocument, options.path());
-    mDocument = QDomDocument();
-    if (!written) {
-        return ExportResult::failure(
-            Texts::tr("\"%1\" could not be written. Check that the folder exists, may be written "
-                      "to and has room.")
-                .arg(options.path()));
+    if (mOptions.errorMarkOn && mOptions.showWarning) {
+        addErrorMarks(xml, input.flight->events().warnings, path, leftOut);
     }
-    return ExportResult::success(
-        path.positions().empty()
-            ? Texts::tr("No position lies in the time range, the flight path is empty.")
-            : QString());
+    addPath(xml, path);
+    xml.end();
+    xml.end();
+    return file.commit() ? ExportResult::success(noteOf(path, leftOut)) : notWritten();
 }
 
-void ExportKml::report(int percent) const
+ExportResult ExportKml::notWritten() const
 {
-    if (mProgress) {
-        mProgress(percent);
+    return ExportResult::failure(
+        Texts::tr("\"%1\" could not be written. Check that the folder exists, may be written "
+                  "to and has room.")
+            .arg(path()));
+}
+
+QString ExportKml::noteOf(const FlightPath& path, const LeftOut& leftOut) const
+{
+    if (path.points().empty()) {
+        return Texts::tr("No position lies in the time range, the flight path is empty.");
+    }
+    if (leftOut.values + leftOut.events == 0) {
+        return {};
+    }
+    return Texts::tr("Left out, because no position lies in their time slot: %1 values, %2 events. "
+                     "A longer \"Timestamp every\" keeps them.")
+        .arg(countText(static_cast<qint64>(leftOut.values)),
+             countText(static_cast<qint64>(leftOut.events)));
+}
+
+void ExportKml::addStyle(XmlStream& xml, const char* id, const std::string& color) const
+{
+    xml.begin("Style", "id", id);
+    xml.begin("LabelStyle");
+    xml.element("color", "ffffffff");
+    xml.end();
+    xml.begin("IconStyle");
+    xml.element("color", kmlColor(color, Opaque));
+    xml.end();
+    xml.end();
+}
+
+/// False when it was asked to stop.
+bool ExportKml::addPlaceMarks(XmlStream& xml, const ExportInput& input, const FlightPath& path,
+                              LeftOut& leftOut, Progress& progress) const
+{
+    PlaceMarks marks(input, path, mOptions);
+    KmlMark mark;
+    std::size_t count = 0;
+    while (marks.next(mark, progress)) {
+        addMark(xml, mark, "normalPlacemark");
+        ++count;
+    }
+    if (progress.stopRequested()) {
+        return false;
+    }
+    leftOut.values = marks.leftOut();
+    if (mOptions.placeMarkOn) {
+        diagnose("mExportPlacemark size %zu step %d\n", count, mOptions.placeMarkInterval);
+    }
+    return true;
+}
+
+void ExportKml::addErrorMarks(XmlStream& xml, const std::vector<RecordEvent>& events,
+                              const FlightPath& path, LeftOut& leftOut) const
+{
+    for (const KmlMark& mark : errorMarks(events, path, mOptions.range(), leftOut.events)) {
+        addMark(xml, mark, "errorPlacemark");
     }
 }
 
-void ExportKml::addStyle(QDomElement& parent, const QString& id, const std::string& color)
+void ExportKml::addMark(XmlStream& xml, const KmlMark& mark, const char* style) const
 {
-    QDomElement style = addElement(parent, "Style");
-    mXml.xmlCreateAttribute(mDocument, style, "id", id);
-    QDomElement label = addElement(style, "LabelStyle");
-    addData(label, "color", "ffffffff");
-    QDomElement icon = addElement(style, "IconStyle");
-    addData(icon, "color", kmlColor(color, Opaque));
-}
-
-void ExportKml::addMarks(QDomElement& parent, const KmlMarks& marks, const QString& style)
-{
-    constexpr std::size_t Collected = 50; // percent done before
-    constexpr std::size_t Marked = 90;
-    std::size_t done = 0;
-    for (const auto& [number, mark] : marks) {
-        if (done++ % 64 == 0) {
-            report(static_cast<int>(Collected + (Marked - Collected) * done / marks.size()));
-        }
-        QDomElement placemark = addElement(parent, "Placemark");
-        addData(placemark, "name", mark.time.toStdString());
-        addData(placemark, "styleUrl", style.toStdString());
-        QDomElement extended = addElement(placemark, "ExtendedData");
-        for (const KmlMark::Item& item : mark.items) {
-            QDomElement entry = addElement(extended, "Data");
-            addData(entry, "displayName", "<b>" + item.name + "</b>");
-            addData(entry, "value", item.value);
-        }
-        QDomElement point = addElement(placemark, "Point");
-        addData(point, "altitudeMode", "absolute");
-        addData(point, "coordinates", coordinates(mark.position));
+    xml.begin("Placemark");
+    xml.element("name", mark.time.toStdString());
+    xml.element("styleUrl", style);
+    xml.begin("ExtendedData");
+    for (const KmlMark::Item& item : mark.items) {
+        xml.begin("Data");
+        xml.element("displayName", "<b>" + item.name + "</b>");
+        xml.element("value", item.value);
+        xml.end();
     }
+    xml.end();
+    xml.begin("Point");
+    xml.element("altitudeMode", "absolute");
+    xml.element("coordinates", coordinates(mark.position));
+    xml.end();
+    xml.end();
 }
 
-void ExportKml::addPath(QDomElement& parent, const FlightPath& path,
-                        const KmlExportOptions& options)
+void ExportKml::addPath(XmlStream& xml, const FlightPath& path) const
 {
-    QDomElement placemark = addElement(parent, "Placemark");
-    QDomElement style = addElement(placemark, "Style");
-    QDomElement line = addElement(style, "LineStyle");
-    addData(line, "color", kmlColor(options.lineColor, options.lineAlpha));
-    addData(line, "width", std::to_string(options.lineWidth));
-    QDomElement polygon = addElement(style, "PolyStyle");
-    addData(polygon, "color", kmlColor(options.polygonColor, options.polygonAlpha));
-    QDomElement string = addElement(placemark, "LineString");
-    addData(string, "extrude", options.polygonOn ? "1" : "0");
-    std::string text;
-    for (const auto& [slot, position] : path.positions()) {
-        text += coordinates(position) + "\n";
+    xml.begin("Placemark");
+    xml.begin("Style");
+    xml.begin("LineStyle");
+    xml.element("color", kmlColor(mOptions.lineColor, mOptions.lineAlpha));
+    xml.element("width", std::to_string(mOptions.lineWidth));
+    xml.end();
+    xml.begin("PolyStyle");
+    xml.element("color", kmlColor(mOptions.polygonColor, mOptions.polygonAlpha));
+    xml.end();
+    xml.end();
+    xml.begin("LineString");
+    xml.element("extrude", mOptions.polygonOn ? "1" : "0");
+    xml.beginText("coordinates");
+    for (const FlightPath::Point& point : path.points()) {
+        xml.text(coordinates(point.position) + "\n");
     }
-    addData(string, "coordinates", text);
-    addData(string, "altitudeMode", "absolute");
-}
-
-QDomElement ExportKml::addElement(QDomElement& parent, const QString& name)
-{
-    return mXml.xmlCreateElement(mDocument, parent, name);
-}
-
-void ExportKml::addData(QDomElement& parent, const QString& name, const std::string& text)
-{
-    QDomElement element = addElement(parent, name);
-    mXml.xmlCreateTextElement(mDocument, element, QString::fromStdString(text));
+    xml.endText();
+    xml.element("altitudeMode", "absolute");
+    xml.end();
+    xml.end();
 }
 
 } // namespace TARN

@@ -1,38 +1,46 @@
 #pragma once
 
-#include "base/XmlHandler.h"
-#include "export/ExportResult.h"
+#include "export/Exporter.h"
 #include "export/KmlExportOptions.h"
-#include "export/KmlMarks.h"
 
 namespace TARN {
 
-class Profile;
-class Record;
+class FlightPath;
+class XmlStream;
+struct KmlMark;
 
 /// Writes the flight path as a KML document: a line, place marks with the values of the selected
-/// parameters, and marks where something went wrong, as the recording's event lists have it.
-class ExportKml
+/// parameters, and marks where something went wrong. Marks are written as they are made: memory
+/// follows the positions. The result says what had no position and was left out.
+class ExportKml : public Exporter
 {
 public:
-    explicit ExportKml(const Profile& profile) : mProfile(profile) {}
+    explicit ExportKml(const KmlExportOptions& options) : mOptions(options) {}
 
-    void setProgress(ExportProgress progress) { mProgress = std::move(progress); }
+    QString path() const override { return mOptions.path(); }
 
-    ExportResult exportData(const Record& record, const KmlExportOptions& options);
+protected:
+    ExportResult write(const ExportInput& input, Progress& progress) override;
 
 private:
-    void report(int percent) const;
-    void addStyle(QDomElement& parent, const QString& id, const std::string& color);
-    void addMarks(QDomElement& parent, const KmlMarks& marks, const QString& style);
-    void addPath(QDomElement& parent, const FlightPath& path, const KmlExportOptions& options);
-    QDomElement addElement(QDomElement& parent, const QString& name);
-    void addData(QDomElement& parent, const QString& name, const std::string& text);
+    /// What had no position in its slot.
+    struct LeftOut
+    {
+        std::size_t values = 0;
+        std::size_t events = 0;
+    };
 
-    const Profile& mProfile;
-    XmlHandler mXml;
-    QDomDocument mDocument;
-    ExportProgress mProgress;
+    void addStyle(XmlStream& xml, const char* id, const std::string& color) const;
+    bool addPlaceMarks(XmlStream& xml, const ExportInput& input, const FlightPath& path,
+                       LeftOut& leftOut, Progress& progress) const;
+    void addErrorMarks(XmlStream& xml, const std::vector<RecordEvent>& events,
+                       const FlightPath& path, LeftOut& leftOut) const;
+    void addMark(XmlStream& xml, const KmlMark& mark, const char* style) const;
+    void addPath(XmlStream& xml, const FlightPath& path) const;
+    ExportResult notWritten() const;
+    QString noteOf(const FlightPath& path, const LeftOut& leftOut) const;
+
+    KmlExportOptions mOptions;
 };
 
 } // namespace TARN

@@ -2,8 +2,11 @@
 
 #include "base/Diagnostics.h"
 #include "base/Numbers.h"
-#include "profile/Decoder.h"
-#include "profile/Profile.h"
+#include "flight/Flight.h"
+
+#include <algorithm>
+#include <ranges>
+#include <utility>
 
 namespace TARN {
 
@@ -16,36 +19,51 @@ constexpr double PathPosition::*Coordinates[] = {&PathPosition::latitude, &PathP
 
 } // namespace
 
-FlightPath::FlightPath(const Profile& profile, const RecordData& data, double slotWidth,
-                       double start, double stop)
+FlightPath::FlightPath(const Flight& flight, double offset, double slotWidth,
+                       const TimeRange& range)
     : mSlotWidth(slotWidth)
 {
-    const KmlInfo kml = profile.kmlInfo();
-    const struct
+    collect(flight, offset, range);
+    fillForward();
+    fillBackward();
+}
+
+/// Of several values of a coordinate in one slot the last one in the list stays.
+void FlightPath::collect(const Flight& flight, double offset, const TimeRange& range)
+{
+    struct Told
     {
-        int channel;
-        int id;
-    } sources[] = {{kml.latitudeChannel, kml.latitudeId},
-                   {kml.longitudeChannel, kml.longitudeId},
-                   {kml.altitudeChannel, kml.altitudeId}};
+        int slot;
+        std::size_t coordinate;
+        double value;
+    };
+    std::vector<Told> told;
+    const Profile& profile = *flight.profile();
+    const KmlInfo kml = profile.kmlInfo();
+    const std::pair<int, int> sources[] = {{kml.latitudeChannel, kml.latitudeId},
+                                           {kml.longitudeChannel, kml.longitudeId},
+                                           {kml.altitudeChannel, kml.altitudeId}};
     for (std::size_t i = 0; i < std::size(sources); ++i) {
-        const RecordIdList* list = data.find(static_cast<unsigned>(sources[i].channel),
-                                             static_cast<unsigned>(sources[i].id));
-        if (list == nullptr) {
-            continue;
-        }
         // By the identifier, as another device may describe it: the profile's last word counts.
-        const Decoder decoder(profile.data(),
-                              profile.parameterById(static_cast<unsigned>(sources[i].id)));
-        for (const RecordEntry& entry : list->entries) {
-            const double time = entry.time() + list->shift(data.offset);
-            if (start <= time && time <= stop) {
-                mPositions[slotOf(time)].*Coordinates[i] = decoder.toDouble(entry, true);
+        const auto [channel, id] = sources[i];
+        ProfileParameter parameter = profile.parameterById(static_cast<unsigned>(id));
+        parameter.channel = channel;
+        parameter.id = id;
+        const Series series(flight.samples(), profile, parameter, offset);
+        for (const RecordEntry& entry : series.entries()) {
+            const double time = series.timeOf(entry);
+            if (range.contains(time)) {
+                told.push_back({slotOf(time), i, series.decoder().toDouble(entry, true)});
             }
         }
     }
-    fillForward();
-    fillBackward();
+    std::ranges::stable_sort(told, {}, &Told::slot);
+    for (const Told& one : told) {
+        if (mPoints.empty() || mPoints.back().slot != one.slot) {
+            mPoints.push_back({one.slot, {}});
+        }
+        mPoints.back().position.*Coordinates[one.coordinate] = one.value;
+    }
 }
 
 int FlightPath::slotOf(double time) const
@@ -55,18 +73,18 @@ int FlightPath::slotOf(double time) const
 
 const PathPosition* FlightPath::position(int slot) const
 {
-    const auto found = mPositions.find(slot);
-    return found != mPositions.end() ? &found->second : nullptr;
+    const auto found = std::ranges::lower_bound(mPoints, slot, {}, &Point::slot);
+    return found != mPoints.end() && found->slot == slot ? &found->position : nullptr;
 }
 
 void FlightPath::fillForward()
 {
-    if (mPositions.empty()) {
+    if (mPoints.empty()) {
         return;
     }
-    PathPosition last = mPositions.begin()->second; // taken as it stands
-    for (auto at = std::next(mPositions.begin()); at != mPositions.end(); ++at) {
-        PathPosition& position = at->second;
+    PathPosition last = mPoints.front().position; // taken as it stands
+    for (std::size_t i = 1; i < mPoints.size(); ++i) {
+        PathPosition& position = mPoints[i].position;
         for (const auto coordinate : Coordinates) {
             if (position.*coordinate < Missing) {
                 position.*coordinate = last.*coordinate;
@@ -80,18 +98,18 @@ void FlightPath::fillForward()
 void FlightPath::fillBackward()
 {
     const PathPosition* next = nullptr;
-    for (auto at = mPositions.rbegin(); at != mPositions.rend(); ++at) {
+    for (Point& point : std::views::reverse(mPoints)) {
         for (const auto coordinate : Coordinates) {
-            const bool isMissing = at->second.*coordinate < Missing; // NaN is a value
+            const bool isMissing = point.position.*coordinate < Missing; // NaN is a value
             if (next == nullptr || !isMissing) {
                 continue;
             }
-            at->second.*coordinate = next->*coordinate;
+            point.position.*coordinate = next->*coordinate;
             if (coordinate == &PathPosition::longitude) {
-                diagnose("new lons %f\n", at->second.longitude);
+                diagnose("new lons %f\n", point.position.longitude);
             }
         }
-        next = &at->second;
+        next = &point.position;
     }
 }
 

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "record/RecordData.h"
+#include "record/TimeRange.h"
 
-#include <map>
 #include <vector>
 
 namespace TARN {
 
-class Profile;
+class Flight;
 
 /// A point of the flight path; a coordinate below -999 has not been seen.
 struct PathPosition
@@ -22,10 +21,15 @@ struct PathPosition
 class FlightPath
 {
 public:
-    /// \p slotWidth in seconds; samples from \p start to \p stop (seconds, with the recording's
-    /// offset) are taken. Gaps are filled from the slot before, leading ones from the slot after.
-    FlightPath(const Profile& profile, const RecordData& data, double slotWidth, double start,
-               double stop);
+    struct Point
+    {
+        int slot;
+        PathPosition position;
+    };
+
+    /// \p slotWidth in seconds; samples inside \p range (with the time offset) are taken. Gaps are
+    /// filled from the slot before, leading ones from the slot after.
+    FlightPath(const Flight& flight, double offset, double slotWidth, const TimeRange& range);
 
     double slotWidth() const { return mSlotWidth; }
 
@@ -35,14 +39,16 @@ public:
     /// Null when there is no position in this slot.
     const PathPosition* position(int slot) const;
 
-    const std::map<int, PathPosition>& positions() const { return mPositions; }
+    /// By slot.
+    const std::vector<Point>& points() const { return mPoints; }
 
 private:
+    void collect(const Flight& flight, double offset, const TimeRange& range);
     void fillForward();
     void fillBackward();
 
     double mSlotWidth;
-    std::map<int, PathPosition> mPositions;
+    std::vector<Point> mPoints;
 };
 
 } // namespace TARN

@@ -1,16 +1,12 @@
 #pragma once
 
-#include "record/RecordInfo.h"
-
-#include <string>
+#include "export/ExportOptions.h"
 
 namespace TARN {
 
 /// What the KML export is told. Colours are six hexadecimal digits: red, green, blue.
-struct KmlExportOptions
+struct KmlExportOptions : ExportOptions
 {
-    std::string directory = ".";
-    std::string fileName;
     int timeStamp = 100; ///< width of a position slot in milliseconds
     int lineWidth = 1;
     std::string lineColor = "ff0000";
@@ -25,12 +21,12 @@ struct KmlExportOptions
     bool showLimit = true;
     bool showWarning = true;
     std::string errorMarkColor = "ff0000";
-    RecordInfo info;          ///< header of the recording
-    double startTime = 0.0;   ///< seconds on the recording's clock
-    double stopTime = 0.0;    ///< seconds on the recording's clock
-    double currentTime = 0.0; ///< the data window's current time
 
-    QString path() const { return QString::fromStdString(directory + "/" + fileName); }
+    // The user's last choices.
+    void load(const Property& settings);
+    void store(Property& settings) const;
+
+    double slotWidth() const { return timeStamp * 0.001; } ///< seconds
 };
 
 } // namespace TARN

@@ -1,18 +1,19 @@
 #include "export/WidgetTimeRange.h"
 
 #include "base/ClockTime.h"
+#include "flight/TimeScale.h"
+#include "widgets/ClockEdit.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTimeEdit>
 
 namespace TARN {
 
-WidgetTimeRange::WidgetTimeRange(double& start, double& stop, const double& cursor, QWidget* parent)
-    : QGroupBox(tr("Start/Stop Time"), parent), mStart(start), mStop(stop), mCursor(cursor),
+WidgetTimeRange::WidgetTimeRange(ExportOptions& options, QWidget* parent)
+    : QGroupBox(tr("Start/Stop Time (recording clock)"), parent), mOptions(options),
       mStartEdit(createEditor(tr("Start time"))), mStopEdit(createEditor(tr("Stop time")))
 {
     mStartEdit->setObjectName("startTime");
@@ -41,8 +42,7 @@ WidgetTimeRange::WidgetTimeRange(double& start, double& stop, const double& curs
 
 QTimeEdit* WidgetTimeRange::createEditor(const QString& name)
 {
-    auto* edit = new QTimeEdit;
-    edit->setDisplayFormat("hh:mm:ss.zzz");
+    auto* edit = new ClockEdit("hh:mm:ss.zzz");
     edit->setToolTip(name);
     edit->setAccessibleName(name);
     return edit;
@@ -50,14 +50,20 @@ QTimeEdit* WidgetTimeRange::createEditor(const QString& name)
 
 void WidgetTimeRange::showTimes()
 {
+    mWhole = mOptions.range();
+    updateEditors();
+}
+
+void WidgetTimeRange::updateEditors()
+{
     const QScopedValueRollback updating(mUpdating, true);
-    mStartEdit->setTime(clockTime(millisecondsOf(mStart)));
-    mStopEdit->setTime(clockTime(millisecondsOf(mStop)));
+    mStartEdit->setTime(clockTime(millisecondsOf(mOptions.startTime)));
+    mStopEdit->setTime(clockTime(millisecondsOf(mOptions.stopTime)));
 }
 
 bool WidgetTimeRange::check()
 {
-    if (mStart <= mStop) {
+    if (mOptions.startTime <= mOptions.stopTime) {
         return true;
     }
     QMessageBox::warning(this, tr("ORNA Warning"),
@@ -65,30 +71,35 @@ bool WidgetTimeRange::check()
     return false;
 }
 
+double WidgetTimeRange::typed(QTime time, double now) const
+{
+    return timeInRange(time.msecsSinceStartOfDay() * 0.001, mWhole, now);
+}
+
 void WidgetTimeRange::slotStartTime(QTime time)
 {
     if (!mUpdating) {
-        mStart = withTimeOfDay(mStart, time);
+        mOptions.startTime = typed(time, mOptions.startTime);
     }
 }
 
 void WidgetTimeRange::slotStopTime(QTime time)
 {
     if (!mUpdating) {
-        mStop = withTimeOfDay(mStop, time);
+        mOptions.stopTime = typed(time, mOptions.stopTime);
     }
 }
 
 void WidgetTimeRange::slotCursorStart()
 {
-    mStart = mCursor;
-    showTimes();
+    mOptions.startTime = mOptions.currentTime;
+    updateEditors();
 }
 
 void WidgetTimeRange::slotCursorStop()
 {
-    mStop = mCursor;
-    showTimes();
+    mOptions.stopTime = mOptions.currentTime;
+    updateEditors();
 }
 
 } // namespace TARN

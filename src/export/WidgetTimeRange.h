@@ -1,5 +1,7 @@
 #pragma once
 
+#include "export/ExportOptions.h"
+
 #include <QtCore/QTime>
 #include <QtWidgets/QGroupBox>
 
@@ -14,11 +16,12 @@ class WidgetTimeRange : public QGroupBox
     Q_OBJECT
 
 public:
-    /// The three times in seconds; \p cursor is what the "Cursor Pos" buttons take over. All
-    /// must live as long as the widget.
-    WidgetTimeRange(double& start, double& stop, const double& cursor, QWidget* parent = nullptr);
+    /// The options' three times are edited; the current one is what the "Cursor Pos" buttons take
+    /// over. They live as long as the widget.
+    explicit WidgetTimeRange(ExportOptions& options, QWidget* parent = nullptr);
 
-    /// Shows the times as they are now.
+    /// Shows the times as they are now. Times typed are then on the day on which they lie in this
+    /// range.
     void showTimes();
 
     /// False, and says so, when the start is after the stop.
@@ -32,10 +35,11 @@ private Q_SLOTS:
 
 private:
     QTimeEdit* createEditor(const QString& name);
+    void updateEditors();
+    double typed(QTime time, double now) const;
 
-    double& mStart;
-    double& mStop;
-    const double& mCursor;
+    ExportOptions& mOptions;
+    TimeRange mWhole;       ///< that was shown first
     bool mUpdating = false; ///< the editors' values are not the user's
     QTimeEdit* mStartEdit;
     QTimeEdit* mStopEdit;

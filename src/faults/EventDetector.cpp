@@ -1,9 +1,8 @@
 #include "faults/EventDetector.h"
 
 #include "base/ClockTime.h"
-#include "profile/Decoder.h"
 #include "profile/Profile.h"
-#include "record/Record.h"
+#include "profile/Series.h"
 
 #include <algorithm>
 #include <array>
@@ -12,65 +11,82 @@ namespace TARN {
 
 namespace {
 
-/// A parameter with its samples and its decoder.
+/// A parameter with its samples; event times carry no offset.
 struct Source
 {
     const ProfileDevice& device;
-    const ProfileParameter& parameter;
-    const Decoder decoder;
-    const RecordIdList& list;
+    const Series series;
 };
 
-RecordEvent eventAt(const Source& source, const RecordEntry& entry)
+RecordEvent eventAt(const Source& source, std::size_t place)
 {
+    const ProfileParameter& parameter = source.series.parameter();
+    const RecordEntry& entry = source.series.entries()[place];
     std::string value;
     RecordEvent event;
-    event.color = source.decoder.appendDisplay(entry, value);
+    event.color = source.series.decoder().appendDisplay(entry, value);
     event.time = entry.time();
-    const QString name = source.device.name + " " + source.parameter.name;
+    const QString name = source.device.name + " " + parameter.name;
     event.name = name.toStdString();
-    event.value = value + " " + source.parameter.unit.toStdString();
+    event.value = value + " " + parameter.unit.toStdString();
     event.text = name + " " + QString::fromStdString(event.value);
+    std::string shortValue;
+    source.series.decoder().appendShort(entry, shortValue);
+    event.shortText = name + " " + QString::fromStdString(shortValue) + " " + parameter.unit;
     event.tenths = tenthsOf(event.time);
+    event.parameter = &parameter;
+    event.place = place;
     return event;
 }
 
-void collectLimits(const Source& source, std::vector<RecordLimit>& limits)
+bool isWatchedMessage(const RecordEntry& entry)
 {
-    constexpr std::size_t Piece = 1024; // stays in the processor's cache
-    std::array<int, Piece> states;
-    int previous = StateLimit; // so that a range that is left already is not entered
-    for (std::size_t begin = 0; begin < source.list.entries.size(); begin += Piece) {
-        const auto piece =
-            source.list.entries.subspan(begin, std::min(Piece, source.list.entries.size() - begin));
-        source.decoder.states(piece, states.data());
-        for (std::size_t i = 0; i < piece.size(); ++i) {
-            if ((previous == StateOk && states[i] != StateOk) ||
-                (previous == StateWarning && states[i] == StateLimit)) {
-                limits.push_back(eventAt(source, piece[i]));
-            }
-            previous = states[i];
-        }
-    }
+    constexpr int TypeByte = 1;
+    return entry.data[TypeByte] == DataType::Float;
 }
 
-void collectWarnings(const Source& source, std::vector<RecordWarning>& warnings)
+void collectLimits(const Source& source, Events& events)
+{
+    constexpr std::size_t Piece = 1024; // stays in the processor's cache
+    std::array<std::uint8_t, Piece> states;
+    int previous = StateLimit;
+    std::size_t watched = 0;
+    const auto entries = source.series.entries();
+    for (std::size_t begin = 0; begin < entries.size(); begin += Piece) {
+        const auto piece = entries.subspan(begin, std::min(Piece, entries.size() - begin));
+        source.series.decoder().states(piece, states.data());
+        for (std::size_t i = 0; i < piece.size(); ++i) {
+            if (isLimitEvent(previous, states[i])) {
+                events.limits.push_back(eventAt(source, begin + i));
+            }
+            previous = states[i];
+            watched += isWatchedMessage(piece[i]) ? 1 : 0;
+        }
+    }
+    events.watchedLimits.samples += watched;
+    events.watchedLimits.parameters += watched > 0 ? 1 : 0;
+}
+
+void collectWarnings(const Source& source, Events& events)
 {
     int previous = 0;
-    for (const RecordEntry& entry : source.list.entries) {
-        const int value = source.decoder.toInt(entry);
+    const auto entries = source.series.entries();
+    for (std::size_t place = 0; place < entries.size(); ++place) {
+        const int value = source.series.decoder().toInt(entries[place]);
         if (value == 0 || value == previous) {
             continue;
         }
         previous = value;
-        RecordEvent event = eventAt(source, entry);
+        RecordEvent event = eventAt(source, place);
         if (value == 1) {
             event.color = QColor(255, 150, 100);
         } else if (value == 2) {
             event.color = QColor(255, 100, 100);
         }
-        warnings.push_back(event);
+        events.warnings.push_back(event);
     }
+    events.watchedLamps.samples += entries.size();
+    events.watchedLamps.parameters += entries.empty() ? 0 : 1;
 }
 
 bool isLampEnum(const ProfileEnum& enumeration)
@@ -92,33 +108,42 @@ bool hasWarningLamps(const ProfileInfo& profile)
                                [](const auto& item) { return isLampEnum(item.second); });
 }
 
-void detectEvents(Record& record, const Profile& profile)
+bool isWatched(const ProfileThr& threshold)
 {
-    RecordData& data = record.recordData();
-    data.limits.clear();
-    data.warnings.clear();
-    for (const auto& [deviceId, device] : profile.data().devices) {
-        for (const auto& [uid, parameter] : device.parameters) {
-            const bool lamp = isLamp(profile.data(), parameter);
-            const bool limited = profile.data().thresholds.contains(parameter.thresholdId);
-            const RecordIdList* list = lamp || limited
-                                           ? data.find(static_cast<unsigned>(parameter.channel),
-                                                       static_cast<unsigned>(parameter.id))
-                                           : nullptr;
-            if (list == nullptr) {
-                continue;
-            }
-            const Source source{device, parameter, Decoder(profile.data(), parameter), *list};
-            if (limited) {
-                collectLimits(source, data.limits);
-            }
-            if (lamp) {
-                collectWarnings(source, data.warnings);
-            }
+    return std::ranges::any_of(threshold.values,
+                               [](const ProfileThrValue& value) { return value.state != StateOk; });
+}
+
+Events detectEvents(const RecordData& data, const Profile& profile)
+{
+    Progress none;
+    return detectEvents(data, profile, none);
+}
+
+Events detectEvents(const RecordData& data, const Profile& profile, Progress& progress)
+{
+    Events events;
+    std::size_t done = 0;
+    for (const auto& [device, parameter] : profile.parameters()) {
+        progress.report(done++, profile.parameters().size());
+        const bool lamp = isLamp(profile.data(), *parameter);
+        const auto threshold = profile.data().thresholds.find(parameter->thresholdId);
+        const bool limited =
+            threshold != profile.data().thresholds.end() && isWatched(threshold->second);
+        if (progress.stopRequested() || (!lamp && !limited)) {
+            continue;
+        }
+        const Source source{*device, Series(data, profile, *parameter, 0.0)};
+        if (limited) {
+            collectLimits(source, events);
+        }
+        if (lamp) {
+            collectWarnings(source, events);
         }
     }
-    std::ranges::stable_sort(data.limits, {}, &RecordLimit::time);
-    std::ranges::stable_sort(data.warnings, {}, &RecordWarning::time);
+    std::ranges::stable_sort(events.limits, {}, &RecordLimit::time);
+    std::ranges::stable_sort(events.warnings, {}, &RecordWarning::time);
+    return events;
 }
 
 } // namespace TARN

@@ -4,6 +4,7 @@
 #include "base/Numbers.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <ranges>
 
 namespace TARN {
@@ -15,19 +16,7 @@ std::uint32_t wordOf(const RecordEntry& entry)
     return loadBig<std::uint32_t>(entry.data + 4);
 }
 
-/// Bits of a matrix whose errors are of this type.
-std::uint32_t bitsOfType(const FaultMatrix& matrix, int type)
-{
-    std::uint32_t mask = 0;
-    for (const auto& [bit, parameter] : matrix.parameters) {
-        if (parameter.errorType == type) {
-            mask |= 1U << bit;
-        }
-    }
-    return mask;
-}
-
-std::vector<FaultPoint> changesOf(std::span<const RecordEntry> entries, std::uint32_t mask)
+std::vector<FaultPoint> pointsOf(std::span<const RecordEntry> entries, std::uint32_t mask)
 {
     std::vector<FaultPoint> points;
     for (const RecordEntry& entry : entries) {
@@ -44,7 +33,23 @@ std::vector<FaultPoint> changesOf(std::span<const RecordEntry> entries, std::uin
 
 } // namespace
 
-FaultHistory::FaultHistory(const RecordData& record, const FaultMatrix& matrix)
+QColor errorColor(int type)
+{
+    switch (type) {
+    case ErrorNone:
+        return Qt::white;
+    case ErrorInfo:
+        return {150, 150, 255};
+    case ErrorWarning:
+        return {255, 200, 150};
+    case ErrorFault:
+        return {255, 150, 150};
+    default:
+        return {};
+    }
+}
+
+FaultHistory::FaultHistory(const RecordData& record, const FaultMatrix& matrix) : mMatrix(&matrix)
 {
     const RecordIdList* list = record.find(0, static_cast<unsigned>(matrix.id));
     if (list == nullptr) {
@@ -58,20 +63,50 @@ FaultHistory::FaultHistory(const RecordData& record, const FaultMatrix& matrix)
             mLatest.push_back(latest);
         }
     }
-    mTyped = bitsOfType(matrix, ErrorInfo) | bitsOfType(matrix, ErrorWarning) |
-             bitsOfType(matrix, ErrorFault);
-    mInfo = changesOf(mEntries, bitsOfType(matrix, ErrorInfo));
-    mWarning = changesOf(mEntries, bitsOfType(matrix, ErrorWarning));
-    mFault = changesOf(mEntries, bitsOfType(matrix, ErrorFault));
+    for (const int type : {ErrorInfo, ErrorWarning, ErrorFault}) {
+        mPoints[static_cast<std::size_t>(type - ErrorInfo)] = pointsOf(mEntries, bitsOfType(type));
+    }
 }
 
-void FaultHistory::appendChangeTimes(std::vector<double>& times) const
+std::uint32_t FaultHistory::bitsOfType(int type) const
 {
-    for (std::size_t i = 1; i < mEntries.size(); ++i) {
-        if (((wordOf(mEntries[i]) ^ wordOf(mEntries[i - 1])) & mTyped) != 0) {
-            times.push_back(mEntries[i].time());
+    std::uint32_t mask = 0;
+    for (const auto& [bit, parameter] : mMatrix->parameters) {
+        if (parameter.errorType == type) {
+            mask |= 1U << bit;
         }
     }
+    return mask;
+}
+
+std::vector<FaultChange> FaultHistory::changes(std::uint32_t bits) const
+{
+    std::vector<FaultChange> found;
+    for (std::size_t i = 1; i < mEntries.size(); ++i) {
+        const std::uint32_t before = wordOf(mEntries[i - 1]) & bits;
+        const std::uint32_t now = wordOf(mEntries[i]) & bits;
+        if (before != now) {
+            found.push_back({mEntries[i].time(), now & ~before, before & ~now});
+        }
+    }
+    return found;
+}
+
+std::optional<double> FaultHistory::changeNear(int x, double start, double stop, int width) const
+{
+    constexpr int Reach = 3; // pixels
+    std::optional<double> nearest;
+    int distance = Reach + 1;
+    const auto bits = bitsOfType(ErrorInfo) | bitsOfType(ErrorWarning) | bitsOfType(ErrorFault);
+    for (const FaultChange& change : changes(bits)) {
+        const int away =
+            std::abs(timelineX(static_cast<float>(change.time), start, stop, width) - x);
+        if (away < distance) {
+            distance = away;
+            nearest = change.time;
+        }
+    }
+    return nearest;
 }
 
 int FaultHistory::timelineX(float time, double start, double stop, int width)

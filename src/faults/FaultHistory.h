@@ -3,10 +3,16 @@
 #include "profile/ProfileTypes.h"
 #include "record/RecordData.h"
 
+#include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace TARN {
+
+/// Colour of an active error of a type, of its cell and of its band in the timeline; invalid for
+/// a type that does not exist.
+QColor errorColor(int type);
 
 /// A change of one kind of error, on the recording's clock in seconds (single precision, as the
 /// timeline is drawn).
@@ -16,40 +22,60 @@ struct FaultPoint
     bool state;
 };
 
+/// A message with which errors came or went.
+struct FaultChange
+{
+    double time;        ///< seconds
+    std::uint32_t came; ///< bits
+    std::uint32_t went;
+};
+
 /// What an error matrix reported over a recording: its status messages stand on channel 0 under
-/// the matrix's identifier, bit b of the word in bytes 4 to 7 is error b. Refers to the
-/// recording until it is loaded again.
+/// the matrix's identifier, bit b of the word in bytes 4 to 7 is error b. Refers to the recording
+/// and to the matrix.
 class FaultHistory
 {
 public:
     FaultHistory(const RecordData& record, const FaultMatrix& matrix);
 
+    const FaultMatrix& matrix() const { return *mMatrix; }
+
+    /// Whether the recording holds a status message.
+    bool isKnown() const { return !mEntries.empty(); }
+
     /// Active bits at \p time (seconds): those of the last message not after it (within 0.01 s);
     /// before the first message those of the first. None after the last message.
     std::uint32_t bitsAt(double time) const;
 
-    // Times at which any error of a type came or went: first message, changes, last message.
-    // Empty without messages.
-    const std::vector<FaultPoint>& info() const { return mInfo; }
-    const std::vector<FaultPoint>& warning() const { return mWarning; }
-    const std::vector<FaultPoint>& fault() const { return mFault; }
+    /// Times at which any error of a type (ErrorInfo, ErrorWarning, ErrorFault) came or went:
+    /// first message, changes, last message. Empty without messages.
+    const std::vector<FaultPoint>& points(int type) const
+    {
+        return mPoints[static_cast<std::size_t>(type - ErrorInfo)];
+    }
 
-    /// Appends the exact times (seconds) of the messages with which an error of any type came or
-    /// went, in message order.
-    void appendChangeTimes(std::vector<double>& times) const;
+    /// Bits whose errors are of a type.
+    std::uint32_t bitsOfType(int type) const;
+
+    /// The messages with which one of these bits changed, in message order.
+    std::vector<FaultChange> changes(std::uint32_t bits) const;
+
+    /// Time of the change of an info, warning or fault that is nearest to pixel \p x of a timeline,
+    /// at most three pixels away; nothing where there is none.
+    std::optional<double> changeNear(int x, double start, double stop, int width) const;
 
     /// Horizontal pixel of a time in a timeline of \p width pixels that spans \p start to
     /// \p stop (seconds); 0 where the two are one.
     static int timelineX(float time, double start, double stop, int width);
 
 private:
+    static constexpr std::size_t Types = 3;
+
+    const FaultMatrix* mMatrix;
     std::span<const RecordEntry> mEntries;
     /// Latest time up to each message; empty where the messages ascend in time anyway.
     std::vector<double> mLatest;
-    std::uint32_t mTyped = 0; ///< bits that have an error type
-    std::vector<FaultPoint> mInfo;
-    std::vector<FaultPoint> mWarning;
-    std::vector<FaultPoint> mFault;
+    std::array<std::vector<FaultPoint>, Types> mPoints; ///< by type
 };
 
 } // namespace TARN

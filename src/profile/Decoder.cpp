@@ -13,30 +13,14 @@ namespace TARN {
 namespace {
 
 constexpr int TextDigits = 12;
-constexpr int SampleSize = static_cast<int>(sizeof(RecordEntry));
 constexpr int TypeByte = 1; ///< payload byte with the message's type code
 constexpr int DataByte = 4; ///< first payload byte of the message's data
-
-const std::uint8_t* bytesOf(const RecordEntry& entry)
-{
-    return reinterpret_cast<const std::uint8_t*>(&entry);
-}
 
 template <typename Map>
 auto findOrNull(const Map& map, int key) -> const typename Map::mapped_type*
 {
     const auto found = map.find(key);
     return found != map.end() ? &found->second : nullptr;
-}
-
-/// Mask of a bit field's lowest bits; wide arithmetic, as a profile may name any bit numbers.
-std::uint32_t maskOf(int startBit, int endBit)
-{
-    const std::int64_t count = std::int64_t(endBit) - startBit + 1;
-    if (count <= 0 || startBit < 0 || startBit > 31) {
-        return 0;
-    }
-    return count >= 32 ? ~0U : (1U << count) - 1;
 }
 
 /// Degrees from degrees and minutes, 4807.038 being 48 degrees 7.038 minutes, in steps of type
@@ -49,147 +33,90 @@ Real degreesOf(Real degreesAndMinutes)
     return static_cast<Real>((hundredth - degrees) / 0.6 + degrees);
 }
 
+/// The value of a bit field and what it is called.
+void appendBits(int value, const ProfileEnum* names, const char* withoutEnum,
+                const char* withoutValue, std::string& text)
+{
+    text += std::to_string(value);
+    const ProfileEnumValue* named = names != nullptr ? findOrNull(names->values, value) : nullptr;
+    if (named != nullptr) {
+        text += ": " + named->label.toStdString();
+    } else {
+        text += names == nullptr ? withoutEnum : withoutValue;
+    }
+}
+
 } // namespace
 
 Decoder::Decoder(const ProfileInfo& profile, const ProfileParameter& parameter)
-    : mKind(kindOf(parameter.dataType)), mStartByte(parameter.startByte),
-      mStartBit(parameter.startBit & 31), mMask(maskOf(parameter.startBit, parameter.endBit)),
-      mFactor(parameter.factor), mOffset(parameter.offset),
-      mThreshold(findOrNull(profile.thresholds, parameter.thresholdId)),
+    : mKind(valueKindOf(parameter.dataType)),
+      mField(parameter.startByte, parameter.startBit, parameter.endBit), mFactor(parameter.factor),
+      mOffset(parameter.offset), mThresholds(findOrNull(profile.thresholds, parameter.thresholdId),
+                                             parameter.factor, parameter.offset),
       mEnum(findOrNull(profile.enums, parameter.enumId))
 {}
 
-Decoder::Kind Decoder::kindOf(int typeCode)
-{
-    switch (typeCode) {
-    case DataType::Float:
-        return Kind::Float;
-    case DataType::Nmea:
-        return Kind::Nmea;
-    case DataType::Long:
-        return Kind::Long;
-    case DataType::ULong:
-        return Kind::ULong;
-    case DataType::BLong:
-        return Kind::BLong;
-    case DataType::Short:
-    case DataType::Short2:
-        return Kind::Short;
-    case DataType::UShort:
-    case DataType::UShort2:
-        return Kind::UShort;
-    case DataType::BShort:
-        return Kind::BShort;
-    case DataType::Char:
-    case DataType::Char2:
-    case DataType::Char3:
-    case DataType::Char4:
-        return Kind::Char;
-    case DataType::UChar:
-    case DataType::UChar2:
-    case DataType::UChar3:
-    case DataType::UChar4:
-        return Kind::UChar;
-    case DataType::Long48:
-        return Kind::Long48;
-    default:
-        return Kind::None;
-    }
-}
-
-template <typename Unsigned>
-Unsigned Decoder::load(const RecordEntry& entry) const
-{
-    if (mStartByte >= 0 && mStartByte <= SampleSize - static_cast<int>(sizeof(Unsigned))) {
-        if constexpr (sizeof(Unsigned) == 1) {
-            return bytesOf(entry)[mStartByte];
-        } else {
-            return loadBig<Unsigned>(bytesOf(entry) + mStartByte);
-        }
-    }
-    return static_cast<Unsigned>(loadBytes(entry, sizeof(Unsigned)));
-}
-
-std::uint64_t Decoder::loadBytes(const RecordEntry& entry, int width) const
-{
-    std::uint64_t value = 0;
-    for (int i = 0; i < width; ++i) {
-        const std::int64_t at = std::int64_t(mStartByte) + i;
-        value = value << 8 | (at >= 0 && at < SampleSize ? bytesOf(entry)[at] : 0U);
-    }
-    return value;
-}
-
-float Decoder::loadFloat(const RecordEntry& entry) const
-{
-    return std::bit_cast<float>(load<std::uint32_t>(entry));
-}
-
-std::uint32_t Decoder::bitField(std::uint32_t word) const
-{
-    return word >> mStartBit & mMask;
-}
-
 int Decoder::toInt(const RecordEntry& entry) const
 {
-    switch (kindOf(entry.data[TypeByte])) {
-    case Kind::Long:
-    case Kind::ULong:
-        return static_cast<std::int32_t>(load<std::uint32_t>(entry));
-    case Kind::BLong:
-        return static_cast<std::int32_t>(bitField(load<std::uint32_t>(entry)));
-    case Kind::Short:
-        return static_cast<std::int16_t>(load<std::uint16_t>(entry));
-    case Kind::UShort:
-        return load<std::uint16_t>(entry);
-    case Kind::BShort:
-        return static_cast<int>(bitField(load<std::uint16_t>(entry)));
-    case Kind::Char:
-        return static_cast<std::int8_t>(load<std::uint8_t>(entry));
-    case Kind::UChar:
-        return load<std::uint8_t>(entry);
+    switch (valueKindOf(entry.data[TypeByte])) {
+    case ValueKind::Long:
+    case ValueKind::ULong:
+        return static_cast<std::int32_t>(mField.load<std::uint32_t>(entry));
+    case ValueKind::BLong:
+        return static_cast<std::int32_t>(mField.loadBits<std::uint32_t>(entry));
+    case ValueKind::Short:
+        return static_cast<std::int16_t>(mField.load<std::uint16_t>(entry));
+    case ValueKind::UShort:
+        return mField.load<std::uint16_t>(entry);
+    case ValueKind::BShort:
+        return static_cast<int>(mField.loadBits<std::uint16_t>(entry));
+    case ValueKind::Char:
+        return static_cast<std::int8_t>(mField.load<std::uint8_t>(entry));
+    case ValueKind::UChar:
+        return mField.load<std::uint8_t>(entry);
     default:
         return 0; // the two types of our own are no types of a message
     }
 }
 
-template <Decoder::Kind kind>
+template <ValueKind kind>
 double Decoder::rawNumber(const RecordEntry& entry) const
 {
-    if constexpr (kind == Kind::Float || kind == Kind::Nmea) {
-        return loadFloat(entry);
-    } else if constexpr (kind == Kind::Long) {
-        return static_cast<std::int32_t>(load<std::uint32_t>(entry));
-    } else if constexpr (kind == Kind::ULong) {
-        return load<std::uint32_t>(entry);
-    } else if constexpr (kind == Kind::Short) {
-        return static_cast<std::int16_t>(load<std::uint16_t>(entry));
-    } else if constexpr (kind == Kind::UShort) {
-        return load<std::uint16_t>(entry);
-    } else if constexpr (kind == Kind::Char) {
-        return static_cast<std::int8_t>(load<std::uint8_t>(entry));
-    } else if constexpr (kind == Kind::UChar) {
-        return load<std::uint8_t>(entry);
-    } else if constexpr (kind == Kind::Long48) {
-        return static_cast<double>(loadBytes(entry, 6));
-    } else if constexpr (kind == Kind::BLong) {
-        return bitField(load<std::uint32_t>(entry));
-    } else if constexpr (kind == Kind::BShort) {
-        return bitField(load<std::uint16_t>(entry));
+    if constexpr (kind == ValueKind::Float || kind == ValueKind::Nmea) {
+        return mField.loadFloat(entry);
+    } else if constexpr (kind == ValueKind::Long) {
+        return static_cast<std::int32_t>(mField.load<std::uint32_t>(entry));
+    } else if constexpr (kind == ValueKind::ULong) {
+        return mField.load<std::uint32_t>(entry);
+    } else if constexpr (kind == ValueKind::Short) {
+        return static_cast<std::int16_t>(mField.load<std::uint16_t>(entry));
+    } else if constexpr (kind == ValueKind::UShort) {
+        return mField.load<std::uint16_t>(entry);
+    } else if constexpr (kind == ValueKind::Char) {
+        return static_cast<std::int8_t>(mField.load<std::uint8_t>(entry));
+    } else if constexpr (kind == ValueKind::UChar) {
+        return mField.load<std::uint8_t>(entry);
+    } else if constexpr (kind == ValueKind::Long48) {
+        return static_cast<double>(mField.loadBytes(entry, 6));
+    } else if constexpr (kind == ValueKind::BLong) {
+        return mField.loadBits<std::uint32_t>(entry);
+    } else if constexpr (kind == ValueKind::BShort) {
+        return mField.loadBits<std::uint16_t>(entry);
     } else {
         return 0.0;
     }
 }
 
-template <Decoder::Kind kind>
+template <ValueKind kind>
 double Decoder::number(const RecordEntry& entry, bool scaled) const
 {
     const double raw = rawNumber<kind>(entry);
-    if constexpr (kind == Kind::BLong || kind == Kind::BShort || kind == Kind::None) {
+    if constexpr (kind == ValueKind::BLong || kind == ValueKind::BShort ||
+                  kind == ValueKind::None) {
         return raw;
-    } else if constexpr (kind == Kind::Nmea) {
+    } else if constexpr (kind == ValueKind::Nmea) {
         return degreesOf<double>(scaled ? scale(raw) : raw);
-    } else if constexpr (kind == Kind::Float || kind == Kind::Long48) {
+    } else if constexpr (kind == ValueKind::Float || kind == ValueKind::Long48) {
         return scaled ? scale(raw) : raw;
     } else {
         const double single = static_cast<float>(raw);
@@ -201,32 +128,32 @@ template <typename Visitor>
 auto Decoder::dispatch(Visitor visit) const
 {
     switch (mKind) {
-    case Kind::Float:
-        return visit(std::integral_constant<Kind, Kind::Float>());
-    case Kind::Nmea:
-        return visit(std::integral_constant<Kind, Kind::Nmea>());
-    case Kind::Long:
-        return visit(std::integral_constant<Kind, Kind::Long>());
-    case Kind::ULong:
-        return visit(std::integral_constant<Kind, Kind::ULong>());
-    case Kind::Short:
-        return visit(std::integral_constant<Kind, Kind::Short>());
-    case Kind::UShort:
-        return visit(std::integral_constant<Kind, Kind::UShort>());
-    case Kind::Char:
-        return visit(std::integral_constant<Kind, Kind::Char>());
-    case Kind::UChar:
-        return visit(std::integral_constant<Kind, Kind::UChar>());
-    case Kind::Long48:
-        return visit(std::integral_constant<Kind, Kind::Long48>());
-    case Kind::BLong:
-        return visit(std::integral_constant<Kind, Kind::BLong>());
-    case Kind::BShort:
-        return visit(std::integral_constant<Kind, Kind::BShort>());
-    case Kind::None:
+    case ValueKind::Float:
+        return visit(std::integral_constant<ValueKind, ValueKind::Float>());
+    case ValueKind::Nmea:
+        return visit(std::integral_constant<ValueKind, ValueKind::Nmea>());
+    case ValueKind::Long:
+        return visit(std::integral_constant<ValueKind, ValueKind::Long>());
+    case ValueKind::ULong:
+        return visit(std::integral_constant<ValueKind, ValueKind::ULong>());
+    case ValueKind::Short:
+        return visit(std::integral_constant<ValueKind, ValueKind::Short>());
+    case ValueKind::UShort:
+        return visit(std::integral_constant<ValueKind, ValueKind::UShort>());
+    case ValueKind::Char:
+        return visit(std::integral_constant<ValueKind, ValueKind::Char>());
+    case ValueKind::UChar:
+        return visit(std::integral_constant<ValueKind, ValueKind::UChar>());
+    case ValueKind::Long48:
+        return visit(std::integral_constant<ValueKind, ValueKind::Long48>());
+    case ValueKind::BLong:
+        return visit(std::integral_constant<ValueKind, ValueKind::BLong>());
+    case ValueKind::BShort:
+        return visit(std::integral_constant<ValueKind, ValueKind::BShort>());
+    case ValueKind::None:
         break;
     }
-    return visit(std::integral_constant<Kind, Kind::None>());
+    return visit(std::integral_constant<ValueKind, ValueKind::None>());
 }
 
 double Decoder::toDouble(const RecordEntry& entry, bool scaled) const
@@ -245,44 +172,39 @@ void Decoder::toDoubles(std::span<const RecordEntry> entries, bool scaled, doubl
 
 int Decoder::state(const RecordEntry& entry) const
 {
-    return mThreshold != nullptr ? stateIn(entry, scaledLimits().data()) : StateOk;
-}
-
-void Decoder::states(std::span<const RecordEntry> entries, int* states) const
-{
-    if (mThreshold == nullptr) {
-        std::fill_n(states, entries.size(), StateOk);
-        return;
-    }
-    const std::vector<double> limits = scaledLimits();
-    for (const RecordEntry& entry : entries) {
-        *states++ = stateIn(entry, limits.data());
-    }
-}
-
-/// Threshold values are scaled like readings before the two are compared.
-std::vector<double> Decoder::scaledLimits() const
-{
-    std::vector<double> limits;
-    limits.reserve(mThreshold->values.size());
-    for (const ProfileThrValue& step : mThreshold->values) {
-        limits.push_back(scale(step.val));
-    }
-    return limits;
-}
-
-inline int Decoder::stateIn(const RecordEntry& entry, const double* limits) const
-{
     if (entry.data[TypeByte] != DataType::Float) {
         return StateOk;
     }
     const auto value = std::bit_cast<float>(loadBig<std::uint32_t>(entry.data + DataByte));
-    const auto compared = static_cast<float>(scale(value));
-    int state = StateOk;
-    for (std::size_t i = 0; i < mThreshold->values.size() && !(limits[i] > compared); ++i) {
-        state = mThreshold->values[i].state;
+    return mThresholds.stateOf(mThresholds.reachedBy(static_cast<float>(scale(value))));
+}
+
+void Decoder::states(std::span<const RecordEntry> entries, std::uint8_t* states) const
+{
+    if (mThresholds.threshold() == nullptr) {
+        std::fill_n(states, entries.size(), std::uint8_t(StateOk));
+        return;
     }
-    return state;
+    for (const RecordEntry& entry : entries) {
+        *states++ = static_cast<std::uint8_t>(state(entry));
+    }
+}
+
+int Decoder::reachedLimit(const RecordEntry& entry) const
+{
+    return isNumeric() ? mThresholds.reachedBy(reading(entry).compared) : -1;
+}
+
+int Decoder::cellState(const RecordEntry& entry) const
+{
+    return mThresholds.stateOf(reachedLimit(entry));
+}
+
+void Decoder::cellStates(std::span<const RecordEntry> entries, std::uint8_t* states) const
+{
+    for (const RecordEntry& entry : entries) {
+        *states++ = static_cast<std::uint8_t>(cellState(entry));
+    }
 }
 
 QColor Decoder::appendDisplay(const RecordEntry& entry, std::string& text) const
@@ -293,7 +215,12 @@ QColor Decoder::appendDisplay(const RecordEntry& entry, std::string& text) const
     }
     const Reading shown = reading(entry);
     appendGeneral(shown.value, TextDigits, text);
-    return colorFor(shown.compared);
+    return mThresholds.colorOf(mThresholds.reachedBy(shown.compared));
+}
+
+QColor Decoder::cellColor(const RecordEntry& entry) const
+{
+    return mThresholds.colorOf(reachedLimit(entry));
 }
 
 void Decoder::appendText(const RecordEntry& entry, std::string& text) const
@@ -305,26 +232,30 @@ void Decoder::appendText(const RecordEntry& entry, std::string& text) const
     }
 }
 
-bool Decoder::isNumeric() const
+void Decoder::appendShort(const RecordEntry& entry, std::string& text) const
 {
-    return mKind != Kind::BLong && mKind != Kind::BShort && mKind != Kind::None;
+    if (isSingle()) {
+        appendShortest(static_cast<float>(reading(entry).value), text);
+    } else {
+        appendText(entry, text);
+    }
 }
 
 Decoder::Reading Decoder::reading(const RecordEntry& entry) const
 {
     switch (mKind) {
-    case Kind::Float: {
-        const auto value = static_cast<float>(scale(loadFloat(entry)));
+    case ValueKind::Float: {
+        const auto value = static_cast<float>(scale(mField.loadFloat(entry)));
         return {value, value};
     }
-    case Kind::Nmea:
+    case ValueKind::Nmea:
         return nmeaReading(entry);
-    case Kind::Char:
-    case Kind::UChar:
+    case ValueKind::Char:
+    case ValueKind::UChar:
         return byteReading(entry);
-    case Kind::Long48:
+    case ValueKind::Long48:
         // The reading takes no part in the colour of these cells.
-        return {scale(rawNumber<Kind::Long48>(entry)), 0.0};
+        return {scale(rawNumber<ValueKind::Long48>(entry)), 0.0};
     default: {
         const double raw = dispatch([&](auto kind) { return rawNumber<kind()>(entry); });
         return {scale(raw), raw};
@@ -334,15 +265,16 @@ Decoder::Reading Decoder::reading(const RecordEntry& entry) const
 
 Decoder::Reading Decoder::nmeaReading(const RecordEntry& entry) const
 {
-    const auto value = static_cast<float>(scale(loadFloat(entry)));
+    const auto value = static_cast<float>(scale(mField.loadFloat(entry)));
     return {degreesOf<float>(value), value};
 }
 
 /// Bytes stay bytes after scaling: the result wraps.
 Decoder::Reading Decoder::byteReading(const RecordEntry& entry) const
 {
-    const bool isSigned = mKind == Kind::Char;
-    const double raw = isSigned ? rawNumber<Kind::Char>(entry) : rawNumber<Kind::UChar>(entry);
+    const bool isSigned = mKind == ValueKind::Char;
+    const double raw =
+        isSigned ? rawNumber<ValueKind::Char>(entry) : rawNumber<ValueKind::UChar>(entry);
     const double wrapped = std::fmod(std::trunc(scale(raw)), 256.0);
     const auto byte = static_cast<std::uint8_t>(truncatedTo<int>(wrapped));
     const double value = isSigned ? static_cast<std::int8_t>(byte) : byte;
@@ -351,40 +283,14 @@ Decoder::Reading Decoder::byteReading(const RecordEntry& entry) const
 
 void Decoder::appendWords(const RecordEntry& entry, std::string& text) const
 {
-    if (mKind == Kind::BLong) {
-        const auto value = static_cast<std::int32_t>(bitField(load<std::uint32_t>(entry)));
-        appendBitField(value, ": Invalid ENUM Type", ": Invalid ENUM Value", text);
-    } else if (mKind == Kind::BShort) {
-        appendBitField(static_cast<int>(bitField(load<std::uint16_t>(entry))), "", "", text);
+    if (mKind == ValueKind::BLong) {
+        const auto value = static_cast<std::int32_t>(mField.loadBits<std::uint32_t>(entry));
+        appendBits(value, mEnum, ": Invalid ENUM Type", ": Invalid ENUM Value", text);
+    } else if (mKind == ValueKind::BShort) {
+        appendBits(static_cast<int>(mField.loadBits<std::uint16_t>(entry)), mEnum, "", "", text);
     } else {
         text += "Datatype " + std::to_string(entry.data[TypeByte]) + " not implemented";
     }
-}
-
-void Decoder::appendBitField(int value, const char* withoutEnum, const char* withoutValue,
-                             std::string& text) const
-{
-    text += std::to_string(value);
-    const ProfileEnumValue* named = mEnum != nullptr ? findOrNull(mEnum->values, value) : nullptr;
-    if (named != nullptr) {
-        text += ": " + named->label.toStdString();
-    } else {
-        text += mEnum == nullptr ? withoutEnum : withoutValue;
-    }
-}
-
-QColor Decoder::colorFor(double compared) const
-{
-    QColor color = Qt::white;
-    if (mThreshold != nullptr) {
-        for (const ProfileThrValue& step : mThreshold->values) {
-            if (scale(step.val) > compared) {
-                break;
-            }
-            color = step.color;
-        }
-    }
-    return color;
 }
 
 } // namespace TARN

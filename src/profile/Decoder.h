@@ -1,12 +1,12 @@
 #pragma once
 
-#include "profile/ProfileTypes.h"
-#include "record/RecordEntry.h"
+#include "profile/PayloadField.h"
+#include "profile/ThresholdSteps.h"
+#include "profile/ValueKind.h"
 
 #include <cstdint>
 #include <span>
 #include <string>
-#include <vector>
 
 namespace TARN {
 
@@ -36,32 +36,45 @@ public:
     int state(const RecordEntry& entry) const;
 
     /// state of every entry; \p states has room for as many.
-    void states(std::span<const RecordEntry> entries, int* states) const;
+    void states(std::span<const RecordEntry> entries, std::uint8_t* states) const;
+
+    /// The threshold value that colours the sample's cell, the last one in document order that it
+    /// has reached, as a place among thresholds(); -1 where it has reached none, where the
+    /// parameter has no threshold and for types without a number or with an enumeration. It is
+    /// reached while no value before it, times factor plus offset, is greater than the reading:
+    /// the scaled one, unscaled for integers of 16 and 32 bits, 0 for LONG48. NaN reaches the
+    /// last.
+    int reachedLimit(const RecordEntry& entry) const;
+
+    /// State of that threshold value, StateOk without one. For FLOAT and NMEA parameters at byte
+    /// 4 in messages of type FLOAT the same as state(); other samples have one too.
+    int cellState(const RecordEntry& entry) const;
+
+    /// cellState of every entry; \p states has room for as many.
+    void cellStates(std::span<const RecordEntry> entries, std::uint8_t* states) const;
+
+    const ThresholdSteps& thresholds() const { return mThresholds; }
+
+    /// Whether a sample is a number, not a word or a bit field.
+    bool isNumeric() const { return isNumber(mKind); }
+    /// Whether numbers are of single precision as they were sent.
+    bool isSingle() const { return mKind == ValueKind::Float || mKind == ValueKind::Nmea; }
 
     /// Appends the display text (UTF-8) and returns the cell colour: white, or that of the
     /// highest threshold reached, which is invalid where the profile names none.
     QColor appendDisplay(const RecordEntry& entry, std::string& text) const;
 
+    /// The colour of appendDisplay alone.
+    QColor cellColor(const RecordEntry& entry) const;
+
     /// The text of appendDisplay alone.
     void appendText(const RecordEntry& entry, std::string& text) const;
 
-private:
-    enum class Kind
-    {
-        Float,
-        Nmea,
-        Long,
-        ULong,
-        Short,
-        UShort,
-        Char,
-        UChar,
-        Long48,
-        BLong,
-        BShort,
-        None
-    };
+    /// The same for a reader's eyes: a number of single precision has as many digits as it takes
+    /// to read the same number back, 4.06 and not 4.05999994278.
+    void appendShort(const RecordEntry& entry, std::string& text) const;
 
+private:
     /// What a sample shows: the number printed, and the one held against the thresholds.
     struct Reading
     {
@@ -69,20 +82,11 @@ private:
         double compared;
     };
 
-    static Kind kindOf(int typeCode);
-
-    template <typename Unsigned>
-    Unsigned load(const RecordEntry& entry) const;
-    std::uint64_t loadBytes(const RecordEntry& entry, int width) const;
-    float loadFloat(const RecordEntry& entry) const;
-    std::uint32_t bitField(std::uint32_t word) const;
-    int stateIn(const RecordEntry& entry, const double* limits) const;
-    std::vector<double> scaledLimits() const;
     double scale(double raw) const { return raw * mFactor + mOffset; }
 
-    template <Kind kind>
+    template <ValueKind kind>
     double rawNumber(const RecordEntry& entry) const;
-    template <Kind kind>
+    template <ValueKind kind>
     double number(const RecordEntry& entry, bool scaled) const;
     template <typename Visitor>
     auto dispatch(Visitor visit) const;
@@ -91,19 +95,13 @@ private:
     Reading nmeaReading(const RecordEntry& entry) const;
     Reading byteReading(const RecordEntry& entry) const;
     void appendWords(const RecordEntry& entry, std::string& text) const;
-    void appendBitField(int value, const char* withoutEnum, const char* withoutValue,
-                        std::string& text) const;
-    bool isNumeric() const;
-    QColor colorFor(double compared) const;
 
-    Kind mKind;
-    int mStartByte;
-    int mStartBit;
-    std::uint32_t mMask;
+    ValueKind mKind;
+    PayloadField mField;
     double mFactor;
     double mOffset;
-    const ProfileThr* mThreshold; ///< null when there is none
-    const ProfileEnum* mEnum;     ///< null when there is none
+    ThresholdSteps mThresholds;
+    const ProfileEnum* mEnum; ///< null when there is none
 };
 
 } // namespace TARN

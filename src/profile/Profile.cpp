@@ -16,12 +16,6 @@ void ProfileInfo::clear()
     faultMatrices.clear();
 }
 
-Profile* Profile::instance()
-{
-    static Profile profile;
-    return &profile;
-}
-
 Profile::Profile()
 {
     constexpr struct
@@ -51,13 +45,29 @@ void Profile::addCanasType(const QString& name, int code)
 void Profile::clear()
 {
     mInfo.clear();
+    mParameters.clear();
     mEnumIds.clear();
     mThresholdIds.clear();
+    mIsLoaded = false;
+}
+
+std::shared_ptr<const Profile> Profile::load(const QString& fileName, const Profile* before)
+{
+    auto profile = std::make_shared<Profile>();
+    if (before != nullptr) {
+        profile->mKmlInfo = before->mKmlInfo;
+        profile->mTypeCodes = before->mTypeCodes;
+        profile->mTypeNames = before->mTypeNames;
+        profile->mParametersById = before->mParametersById;
+    }
+    profile->loadProfile(fileName);
+    return profile;
 }
 
 bool Profile::loadProfile(const QString& fileName)
 {
     clear();
+    mFileName = fileName;
     XmlHandler xml;
     QDomDocument document;
     const bool read = xml.xmlReadFile(document, fileName);
@@ -71,6 +81,12 @@ bool Profile::loadProfile(const QString& fileName)
     }
     diagnose("Load profile <%s> %d\n", qUtf8Printable(fileName), read ? 1 : 0);
     ProfileReader(*this).readRoot(root);
+    for (const auto& [id, device] : mInfo.devices) {
+        for (const auto& [uid, parameter] : device.parameters) {
+            mParameters.push_back({&device, &parameter});
+        }
+    }
+    mIsLoaded = true;
     return true;
 }
 
@@ -79,29 +95,6 @@ const ProfileParameter& Profile::parameterById(unsigned id) const
     static const ProfileParameter none;
     const auto found = mParametersById.find(id);
     return found != mParametersById.end() ? found->second : none;
-}
-
-void Profile::forEachParameter(
-    const std::function<void(const ProfileDevice&, ProfileParameter&)>& visit)
-{
-    for (auto& [id, device] : mInfo.devices) {
-        for (auto& [uid, parameter] : device.parameters) {
-            visit(device, parameter);
-        }
-    }
-}
-
-std::vector<const ProfileParameter*> Profile::selectedParameters() const
-{
-    std::vector<const ProfileParameter*> selected;
-    for (const auto& [id, device] : mInfo.devices) {
-        for (const auto& [uid, parameter] : device.parameters) {
-            if (parameter.selected) {
-                selected.push_back(&parameter);
-            }
-        }
-    }
-    return selected;
 }
 
 int Profile::getInt(const RecordEntry& entry, const ProfileParameter& parameter) const

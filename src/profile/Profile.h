@@ -3,40 +3,56 @@
 #include "profile/ProfileTypes.h"
 #include "record/RecordEntry.h"
 
-#include <functional>
 #include <map>
+#include <memory>
+#include <vector>
 
 namespace TARN {
 
-/// The parameter profile: how the messages of a recording are to be understood. One for the
-/// whole program. Loading invalidates every pointer and reference into it; views keep copies.
+/// The parameter profile: how the messages of a recording are to be understood. Loaded once, it
+/// never changes; whoever decodes with it shares it, so nothing that refers to its parts can be
+/// left behind. Which parameters a user has chosen is no part of it, see Selection.
 class Profile
 {
 public:
-    static Profile* instance();
+    /// A parameter with the device that it belongs to.
+    struct Entry
+    {
+        const ProfileDevice* device;
+        const ProfileParameter* parameter;
+    };
+
+    /// Empty, but for the table of data types.
+    Profile();
+    Profile(const Profile&) = delete;
+    Profile& operator=(const Profile&) = delete;
+
+    /// Loads a file. What \p before knew by identifier and as position, and the new file does
+    /// not name, is known on. Never null; see isLoaded.
+    static std::shared_ptr<const Profile> load(const QString& fileName,
+                                               const Profile* before = nullptr);
 
     /// Replaces the profile by the file's. False, with an empty profile, when the file can't be
     /// read or is no profile (reported on the diagnostic stream). What the file leaves out takes
-    /// its default, unknown names count as none.
+    /// its default, unknown names count as none. Only while nobody else has it.
     bool loadProfile(const QString& fileName);
-    void clear();
 
-    ProfileInfo& data() { return mInfo; }
+    /// Whether it was read from a file.
+    bool isLoaded() const { return mIsLoaded; }
+    /// The file that it was, or should have been, read from.
+    const QString& fileName() const { return mFileName; }
+
     const ProfileInfo& data() const { return mInfo; }
     KmlInfo kmlInfo() const { return mKmlInfo; }
+
+    /// All parameters, device by device, in document order.
+    const std::vector<Entry>& parameters() const { return mParameters; }
 
     void addCanasType(const QString& name, int code);
     const std::map<QString, int>& typeCodes() const { return mTypeCodes; }
 
-    /// The last parameter read with this identifier; one of no type when there is none. Kept
-    /// over reloads for identifiers that the new profile does not name.
+    /// The last parameter read with this identifier; one of no type when there is none.
     const ProfileParameter& parameterById(unsigned id) const;
-
-    /// Calls \p visit for every parameter, device by device, in document order.
-    void
-    forEachParameter(const std::function<void(const ProfileDevice&, ProfileParameter&)>& visit);
-    /// The selected parameters in the same order, valid until the next load.
-    std::vector<const ProfileParameter*> selectedParameters() const;
 
     // Decoding of one sample; Decoder is the same for many.
     int getInt(const RecordEntry& entry, const ProfileParameter& parameter) const;
@@ -51,10 +67,13 @@ public:
 private:
     friend class ProfileReader;
 
-    Profile();
+    void clear();
 
     ProfileInfo mInfo;
     KmlInfo mKmlInfo;
+    QString mFileName;
+    bool mIsLoaded = false;
+    std::vector<Entry> mParameters; ///< refers to mInfo
     std::map<QString, int> mTypeCodes;
     std::map<int, QString> mTypeNames;
     std::map<QString, int> mEnumIds;

@@ -3,6 +3,7 @@
 #include <QtCore/QString>
 #include <QtGui/QColor>
 
+#include <atomic>
 #include <map>
 #include <vector>
 
@@ -55,10 +56,10 @@ enum ErrorType : int
 /// Process-wide numbers by which views remember parts of a profile.
 struct ProfileUid
 {
-    static int next() { return mUid++; }
+    static int next() { return mUid.fetch_add(1, std::memory_order_relaxed); }
 
 private:
-    static inline int mUid = 1;
+    static inline std::atomic<int> mUid = 1; ///< profiles may be loaded on several threads
 };
 
 struct ProfileUnit
@@ -116,7 +117,6 @@ struct ProfileParameter
     double offset = 0.0;
     double factor = 1.0;
     int uid = ProfileUid::next();
-    bool selected = false;
     int errorType = ErrorNone;
 
     /// Name, with the unit in brackets where there is one: "RPM [1/min]".

@@ -1,42 +1,48 @@
 #pragma once
 
-#include <QtCore/QString>
+#include "profile/Selection.h"
 
-#include <set>
 #include <string>
+#include <vector>
 
 namespace TARN {
 
-/// The user's selection of parameters, by name, as a project file keeps it.
+/// A user's selection of parameters, by name, as a project file keeps it. Names that the profile
+/// does not know are kept for the profile that does.
 class Project
 {
 public:
-    static Project* instance();
-
     /// Selects nothing.
-    void clear();
+    void clear() { mNames.clear(); }
 
-    /// Marks exactly those parameters of the profile as selected whose names the project holds.
-    void setProfileData();
-
-    /// Takes the profile's marks into the project, so that setProfileData() brings them back after
-    /// another profile has been loaded. Names that the profile does not hold stay as they are.
-    void takeProfileData();
-
-    /// Takes the file's names and marks the profile. False, with an empty project and the
-    /// profile's marks as they were, when the file can't be read.
+    /// Takes the file's names. False, with an empty project, when the file can't be read. Any
+    /// root will do, see isProject().
     bool readProject(const std::string& file);
 
+    /// Whether a file is a project: its root says so, or it holds a list of parameters.
+    static bool isProject(const std::string& file);
+
     /// Whether a file may be replaced by a project without losing anything else: there is none, or
-    /// it is a project.
+    /// its root says that it is a project.
     static bool mayReplace(const std::string& file);
 
-    /// Writes the names of the parameters now selected, in profile order. False when the file
-    /// could not be written; the old one is then still there.
-    bool saveProject(const std::string& file);
+    /// Writes the names of the selected parameters in profile order, then those that the profile
+    /// does not know in their old order. False when the file could not be written; the old one
+    /// is then still there.
+    bool saveProject(const std::string& file, const Profile& profile,
+                     const Selection& selection) const;
+
+    /// Exactly those parameters of a profile whose names the project holds.
+    Selection selection(const Profile& profile) const;
+
+    /// Takes the place of the names that a profile knows by those that are selected in it.
+    void setSelection(const Profile& profile, const Selection& selection);
+
+    /// Names that a profile does not know, in their old order.
+    std::vector<std::string> unknownNames(const Profile& profile) const;
 
 private:
-    std::set<std::string> mParameters;
+    std::vector<std::string> mNames; ///< in the order of the file, each once
 };
 
 } // namespace TARN

@@ -27,9 +27,20 @@ std::vector<QString> cardFiles(const QString& folder)
 
 CardInfo readCard(const QString& folder)
 {
+    Progress none;
+    return readCard(folder, none);
+}
+
+CardInfo readCard(const QString& folder, Progress& progress)
+{
     CardInfo card;
     card.path = folder;
-    for (const QString& path : cardFiles(folder)) {
+    const std::vector<QString> files = cardFiles(folder);
+    for (const QString& path : files) {
+        if (progress.stopRequested()) {
+            break;
+        }
+        progress.report(card.records.size(), files.size());
         Record record;
         record.readRecordInfo(path);
         card.records[path] = record.recordInfo();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Progress.h"
 #include "record/RecordInfo.h"
 
 #include <QtCore/QString>
@@ -25,5 +26,7 @@ std::vector<QString> cardFiles(const QString& folder);
 /// Lists the recordings of a folder (files ending in ".CAN" or ".can", not of its sub-folders)
 /// with what their headers say. Empty when the folder can't be opened.
 CardInfo readCard(const QString& folder);
+/// The same; ends early, with a part, when it is asked to stop.
+CardInfo readCard(const QString& folder, Progress& progress);
 
 } // namespace TARN

@@ -1,13 +1,8 @@
 #include "record/Record.h"
 
 #include "base/Diagnostics.h"
-#include "base/KeepAside.h"
-#include "base/XmlHandler.h"
 #include "record/RecordFile.h"
-
-#include <QtCore/QFileInfo>
-
-#include <cmath>
+#include "record/RecordLoader.h"
 
 namespace TARN {
 
@@ -24,58 +19,17 @@ bool Record::readRecordInfo(const QString& path)
     return true;
 }
 
-void Record::clear()
+bool Record::readRecordData(const std::list<QString>& paths, double offset)
 {
-    const double offset = mRecordData.offset;
-    mRecordData = RecordData();
-    mRecordData.offset = offset;
-    mIntegrity = RecordIntegrity();
+    Progress none;
+    return readRecordData(paths, offset, none);
 }
 
-bool Record::setOffset(double seconds)
+bool Record::readRecordData(const std::list<QString>& paths, double offset, Progress& progress,
+                            unsigned threads)
 {
-    mRecordData.offset = seconds;
-    const bool saved = saveOffset();
-    if (saved) {
-        mIntegrity.damagedOffset.clear();
-    }
-    return saved;
-}
-
-bool Record::saveOffset() const
-{
-    XmlHandler xml;
-    QDomDocument document;
-    QDomElement root = xml.xmlCreateElement(document, document, "TarnOffset");
-    QDomElement offset = xml.xmlCreateElement(document, root, "Offset");
-    xml.xmlCreateAttribute(document, offset, "value", mRecordData.offset);
-    const QString path = QString("%1/Offset.xml").arg(mFolder);
-    diagnose("Write Offset <%s>\n", qUtf8Printable(path));
-    QDomDocument old;
-    const bool isDamaged = QFileInfo::exists(path) && !xml.xmlReadFile(old, mFolder, "Offset.xml");
-    if (isDamaged && keepAside(path).isEmpty()) {
-        return false;
-    }
-    return xml.xmlWriteFile(document, path);
-}
-
-void Record::loadOffset()
-{
-    XmlHandler xml;
-    QDomDocument document;
-    if (!xml.xmlReadFile(document, mFolder, "Offset.xml")) {
-        const QString path = mFolder + "/Offset.xml";
-        if (QFileInfo::exists(path)) {
-            mIntegrity.damagedOffset = path;
-        }
-        return;
-    }
-    for (QDomElement element = document.documentElement().firstChildElement("Offset");
-         !element.isNull(); element = element.nextSiblingElement("Offset")) {
-        const double offset = xml.xmlGetDoubleAttribute(element.attributes(), "value", 0.0);
-        mRecordData.offset = std::isfinite(offset) ? offset : 0.0;
-    }
-    diagnose("loadOffset %f\n", mRecordData.offset);
+    mOffset = offset;
+    return RecordLoader(*this, paths, progress).load(threads);
 }
 
 } // namespace TARN

@@ -2,10 +2,9 @@
 
 #include "base/LargeArray.h"
 #include "record/RecordEntry.h"
-#include "record/RecordEvent.h"
 
 #include <cstddef>
-#include <map>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -32,18 +31,19 @@ struct RecordIdList
 ///     fileOrder  | position of sample 0, 1, 2 ... of the file in the block
 ///     timeOrder  | the same by time; kept only when it differs
 ///
-/// Spans and lists stay valid until the next load or until the object is destroyed.
+/// Spans and lists stay valid as long as the object. Any number of threads may read it.
 class RecordData
 {
 public:
+    RecordData();
+    RecordData(RecordData&& other) noexcept;
+    RecordData& operator=(RecordData&& other) noexcept;
+    ~RecordData();
+
     /// Identifiers under which every sample of channel 0 and of channel 1 can be asked for in
     /// file order, each with its channel, identifier and two spare words in big-endian order.
     static constexpr unsigned AllOfChannel0 = 0x7FFFFFFF;
     static constexpr unsigned AllOfChannel1 = 0x7FFFFFFE;
-
-    double offset = 0.0; ///< the folder's time offset, seconds
-    std::vector<RecordLimit> limits;
-    std::vector<RecordWarning> warnings;
 
     bool empty() const { return mCount == 0; }
     std::size_t count() const { return mCount; }
@@ -64,27 +64,22 @@ public:
         return mSamples[mTimeOrder.empty() ? mFileOrder[k] : mTimeOrder[k]];
     }
 
-    /// Bytes held for the samples and their indexes.
-    std::size_t memory() const;
-
 private:
     friend class SampleGrouper;
 
-    struct ChannelList
-    {
-        std::vector<RecordEntry> entries;
-        RecordIdList list;
-    };
+    struct ChannelList;
+    static constexpr std::size_t ChannelLists = 2;
 
     const RecordIdList* findStored(unsigned channel, unsigned id) const;
     const RecordIdList* allOfChannel(unsigned channel, unsigned id) const;
+    void fill(ChannelList& all, unsigned channel, unsigned id) const;
 
     std::size_t mCount = 0;
     LargeArray<RecordEntry> mSamples;
     LargeArray<std::uint32_t> mFileOrder;
     std::vector<std::uint32_t> mTimeOrder; ///< empty when it equals the file order
     std::vector<RecordIdList> mLists;      ///< by channel, then identifier
-    mutable std::map<unsigned, ChannelList> mChannelLists;
+    std::unique_ptr<ChannelList[]> mChannelLists;
 };
 
 } // namespace TARN

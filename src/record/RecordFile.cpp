@@ -28,12 +28,21 @@ bool RecordFile::open(const QString& path)
     mSamples = sampleCountOf(size);
     mIgnoredBytes = ignoredBytesOf(size);
     mHeaderSize = readFully(mHeader.data(), mHeader.size());
+    mEnd = mSamples;
+    mHasReadError = false;
     return true;
+}
+
+bool RecordFile::select(std::size_t begin, std::size_t end)
+{
+    mNext = static_cast<qint64>(begin);
+    mEnd = std::min(mSamples, static_cast<qint64>(end));
+    return mFile.seek(RecordHeaderSize + mNext * RecordSampleSize);
 }
 
 std::span<const unsigned char> RecordFile::nextSamples()
 {
-    const qint64 wanted = std::min(mSamples - mNext, SamplesPerRead);
+    const qint64 wanted = std::min(mEnd - mNext, SamplesPerRead);
     if (wanted < 1) {
         return {};
     }
@@ -41,7 +50,7 @@ std::span<const unsigned char> RecordFile::nextSamples()
     const auto got = readFully(mBuffer.data(), static_cast<std::size_t>(wanted * RecordSampleSize));
     const qint64 whole = static_cast<qint64>(got) / RecordSampleSize;
     // After a short read there is nothing more to come, whatever the size had promised.
-    mNext = whole == wanted ? mNext + whole : mSamples;
+    mNext = whole == wanted ? mNext + whole : mEnd;
     return {mBuffer.data(), static_cast<std::size_t>(whole * RecordSampleSize)};
 }
 
@@ -53,14 +62,13 @@ void RecordFile::describe(RecordInfo& info)
     info.ignoredBytes = mIgnoredBytes;
     info.startTime = facts.startTime;
     if (mSamples > 0) {
-        info.startTime = sampleTime(0, facts.swapped).value_or(facts.startTime);
-        info.stopTime = sampleTime(mSamples - 1, facts.swapped).value_or(info.startTime);
+        info.startTime = timeOf(0, facts.swapped).value_or(facts.startTime);
+        info.stopTime = timeOf(mSamples - 1, facts.swapped).value_or(info.startTime);
     }
-    mNext = mSamples;
+    mNext = mEnd;
 }
 
-/// Seconds of sample \p index (from 0); nothing when it can't be read.
-std::optional<double> RecordFile::sampleTime(qint64 index, bool swapped)
+std::optional<double> RecordFile::timeOf(qint64 index, bool swapped)
 {
     unsigned char words[8];
     constexpr qint64 TimeInSample = 20;
@@ -79,6 +87,7 @@ std::size_t RecordFile::readFully(unsigned char* to, std::size_t bytes)
         const qint64 got =
             mFile.read(reinterpret_cast<char*>(to + done), static_cast<qint64>(bytes - done));
         if (got <= 0) {
+            mHasReadError = got < 0;
             break;
         }
         done += static_cast<std::size_t>(got);

@@ -28,16 +28,25 @@ public:
     /// The same padded with zeros.
     const RecordHeaderBytes& headerBytes() const { return mHeader; }
 
-    /// The next whole samples (a multiple of 28 bytes), empty after the last one or where
-    /// reading fails. Valid until the next call.
+    /// Which samples are read from now on: \p begin (from 0) up to \p end, all after opening.
+    bool select(std::size_t begin, std::size_t end);
+
+    /// The next whole samples (a multiple of 28 bytes), empty after the last one or where reading
+    /// fails. Valid until the next call.
     std::span<const unsigned char> nextSamples();
 
-    /// Puts what the header, the size and the time stamps of the first and last sample say into
-    /// \p info; what the file does not give keeps its value. Ends the reading of samples.
+    /// Whether nextSamples ended because the system could not read on, and not where the file ends.
+    bool hasReadError() const { return mHasReadError; }
+
+    /// Seconds of sample \p index (from 0); nothing when it can't be read. Select anew before more
+    /// samples are read.
+    std::optional<double> timeOf(qint64 index, bool swapped);
+
+    /// Puts what the header, the size and the time stamps of the first and last sample say into \p
+    /// info; what the file does not give keeps its value. Ends the reading of samples.
     void describe(RecordInfo& info);
 
 private:
-    std::optional<double> sampleTime(qint64 index, bool swapped);
     std::size_t readFully(unsigned char* to, std::size_t bytes);
 
     QFile mFile;
@@ -47,6 +56,8 @@ private:
     qint64 mSamples = 0;
     qint64 mIgnoredBytes = 0;
     qint64 mNext = 0;
+    qint64 mEnd = 0;
+    bool mHasReadError = false;
 };
 
 } // namespace TARN

@@ -27,6 +27,8 @@ struct FileIntegrity
     std::size_t samples = 0;       ///< read
     std::size_t unread = 0;        ///< promised by the file's size, not to be had when it was read
     std::size_t otherChannels = 0; ///< samples of channels other than 0 and 1
+    double earliest = 0.0;         ///< time of any sample read, seconds; 0 without one
+    double latest = 0.0;
     TimeFindings found;
 };
 

@@ -1,8 +1,14 @@
 #include "record/RecordText.h"
 
 #include "base/ClockTime.h"
+#include "base/CountText.h"
 
 #include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <limits>
+#include <set>
+#include <utility>
 
 namespace TARN {
 
@@ -13,7 +19,7 @@ struct RecordText
     Q_DECLARE_TR_FUNCTIONS(RecordText)
 };
 
-/// "%1" of \p text replaced by \p count with separators; nothing when there is none.
+/// "%1" of \p text replaced by \p count; nothing when there is none.
 void addCount(QStringList& lines, const QString& text, std::size_t count)
 {
     if (count > 0) {
@@ -32,6 +38,70 @@ RecordSection sectionOf(const QString& title, QList<RecordField> fields, const Q
     return {title, fields};
 }
 
+QString nameOf(const FileIntegrity& file)
+{
+    return file.info.fileName.section('/', -1);
+}
+
+/// Files that run on while an earlier one still does.
+QStringList overlapRemark(const std::vector<FileIntegrity>& files)
+{
+    constexpr double Allowed = 1.0; // seconds; buses are buffered apart
+    std::vector<const FileIntegrity*> sorted;
+    for (const FileIntegrity& file : files) {
+        if (file.samples > 0) {
+            sorted.push_back(&file);
+        }
+    }
+    std::ranges::stable_sort(sorted, {}, [](const FileIntegrity* file) {
+        return std::pair(file->earliest, -file->latest);
+    });
+    std::set<const FileIntegrity*> overlapping;
+    QString pair;
+    const FileIntegrity* running = nullptr; // of those before, the one that lasts longest
+    for (const FileIntegrity* file : sorted) {
+        if (running != nullptr && file->earliest < running->latest - Allowed) {
+            overlapping.insert({running, file});
+            pair = pair.isEmpty() ? RecordText::tr("%1 and %2").arg(nameOf(*running), nameOf(*file))
+                                  : pair;
+        }
+        running = running != nullptr && running->latest > file->latest ? running : file;
+    }
+    return overlapping.empty()
+               ? QStringList()
+               : QStringList(RecordText::tr("Files that overlap in time: %1, the first "
+                                            "are %2. They do not belong together")
+                                 .arg(overlapping.size())
+                                 .arg(pair));
+}
+
+QStringList dateRemark(const std::vector<FileIntegrity>& files)
+{
+    double start = std::numeric_limits<double>::infinity();
+    double stop = -start;
+    const FileIntegrity* first = nullptr;
+    const FileIntegrity* last = nullptr;
+    for (const FileIntegrity& file : files) {
+        if (file.samples == 0) {
+            continue;
+        }
+        start = std::min(start, file.earliest);
+        stop = std::max(stop, file.latest);
+        if (file.info.dateTime.isValid()) {
+            first = first != nullptr && first->info.dateTime <= file.info.dateTime ? first : &file;
+            last = last != nullptr && last->info.dateTime >= file.info.dateTime ? last : &file;
+        }
+    }
+    if (first == nullptr ||
+        static_cast<double>(first->info.dateTime.secsTo(last->info.dateTime)) <= stop - start) {
+        return {};
+    }
+    return {RecordText::tr("Header dates from %1 to %2, but the samples last %3 s: the files are "
+                           "not of one flight")
+                .arg(first->info.dateTimeText(), last->info.dateTimeText())
+                .arg(stop - start, 0, 'f', 0)};
+}
+
 } // namespace
 
 QList<RecordField> recordFields(const RecordInfo& info)
@@ -47,7 +117,7 @@ QList<RecordField> recordFields(const RecordInfo& info)
             {RecordText::tr("EMU SW Version"), info.emuSwVersion},
             {RecordText::tr("Engine Serial Nr."), info.engineSerialNr},
             {RecordText::tr("Engine Type"), info.engineType},
-            {RecordText::tr("Samples Total"), QString::number(info.samples)}};
+            {RecordText::tr("Samples Total"), countText(std::max<qint64>(0, info.samples))}};
 }
 
 QStringList recordRemarks(const RecordInfo& info)
@@ -84,11 +154,18 @@ QStringList recordRemarks(const FileIntegrity& file)
     return lines;
 }
 
+QStringList togetherRemarks(const std::vector<FileIntegrity>& files)
+{
+    QStringList lines = overlapRemark(files);
+    lines += dateRemark(files);
+    return lines;
+}
+
 QStringList recordRemarks(const RecordIntegrity& integrity)
 {
-    QStringList lines;
+    QStringList lines = togetherRemarks(integrity.files);
     for (const FileIntegrity& file : integrity.files) {
-        const QString name = file.info.fileName.section('/', -1);
+        const QString name = nameOf(file);
         for (const QString& line : recordRemarks(file)) {
             lines += name + ": " + line;
         }
@@ -109,7 +186,7 @@ RecordSection recordSection(const RecordInfo& info)
 RecordSection recordSection(const FileIntegrity& file)
 {
     QList<RecordField> fields = recordFields(file.info);
-    fields += {RecordText::tr("Samples Read"), QString::number(file.samples)};
+    fields += {RecordText::tr("Samples Read"), countText(static_cast<qint64>(file.samples))};
     return sectionOf(file.info.fileName, fields, recordRemarks(file));
 }
 
@@ -125,7 +202,7 @@ RecordSection recordSection(const RecordIntegrity& integrity, const QString& rem
     }
     return sectionOf(RecordText::tr("Recording"),
                      {{RecordText::tr("Files"), QString::number(integrity.files.size())},
-                      {RecordText::tr("Samples Read"), QString::number(samples)}},
+                      {RecordText::tr("Samples Read"), countText(static_cast<qint64>(samples))}},
                      remarks);
 }
 

@@ -31,8 +31,14 @@ QList<RecordField> recordFields(const RecordInfo& info);
 QStringList recordRemarks(const RecordInfo& info);
 /// The same with what reading the samples has shown.
 QStringList recordRemarks(const FileIntegrity& file);
-/// Of all files, each line beginning with the name of the file.
+/// Of the recording as a whole and then of all its files, each line of a file beginning with the
+/// file's name.
 QStringList recordRemarks(const RecordIntegrity& integrity);
+
+/// What speaks against reading these files as one recording: one begins more than
+/// a second before another ends, or their headers' dates are further apart than the recording
+/// lasts.
+QStringList togetherRemarks(const std::vector<FileIntegrity>& files);
 
 /// All about a file: its fields and the remarks on it, "none" when there are none.
 RecordSection recordSection(const RecordInfo& info);

@@ -1,70 +1,43 @@
 #pragma once
 
-#include "base/ByteOrder.h"
-#include "record/RecordData.h"
-#include "record/RecordHeader.h"
-#include "record/TimeRuns.h"
+#include "record/SampleSlice.h"
 
-#include <QtCore/QHashFunctions>
-
-#include <algorithm>
-#include <array>
-#include <cstring>
-#include <span>
-#include <unordered_map>
+#include <memory>
 #include <vector>
 
 namespace TARN {
 
-/// Brings the samples of one or more files into one block grouped by channel and identifier, in
-/// two passes over the same bytes: count() says how long each group becomes, store() then puts
-/// every sample straight into its place. Use: reserve, count..., allocate, store..., finish.
-///
-/// The second pass may see other bytes than the first (a card pulled out, a file still being
-/// written): samples that no longer fit their place are left out, what is there stays right.
+/// Brings the samples of one or more files into one block grouped by channel and identifier. The
+/// work is done in slices, which follow each other in file order and can be read at the same time;
+/// what comes of it does not depend on how many there are. Use: reserve, the first pass of every
+/// slice, allocate, the second pass of every slice, finish.
 class SampleGrouper
 {
 public:
-    /// Room for at most \p samples; false when there is not enough memory.
-    bool reserve(std::size_t samples);
+    /// Room for at most \p samples, in slices of the same size; false when there is not enough
+    /// memory.
+    bool reserve(std::size_t samples, std::size_t slices);
 
-    /// First pass. \p samples is a multiple of 28 bytes; \p swapped says that they are big-endian.
-    void count(std::span<const unsigned char> samples, bool swapped);
+    std::size_t slices() const { return mSlices.size(); }
+    SampleSlice& slice(std::size_t i) { return *mSlices[i]; }
+    const SampleSlice& slice(std::size_t i) const { return *mSlices[i]; }
 
-    /// Between the passes; false when there is not enough memory.
+    /// Between the passes, once no slice but the last has counted less than it has room for; false
+    /// when there is not enough memory.
     bool allocate();
 
-    /// Second pass, over the bytes of the first in the same order: stores each sample and hands
-    /// it to \p visit. \p highFile is the flag that the touched lists take.
-    template <typename Visitor>
-    void store(std::span<const unsigned char> samples, bool swapped, bool highFile, Visitor visit);
+    /// Sample \p k in the order of the files, after the second pass.
+    const RecordEntry& inFileOrder(std::size_t k) const { return mSamples[mOrder[k]]; }
 
-    /// Before a file's second pass: \p counted is what the first pass had counted with its last
-    /// sample. Samples that a file has gained since are left out.
-    void beginFile(std::size_t counted) { mFileEnd = counted; }
-
-    /// After it: places of samples that the file has lost since stay empty.
-    void endFile() { mRead = mFileEnd; }
-
-    std::size_t counted() const { return mCounted; }
-    std::size_t stored() const { return mStored; }
-
-    /// Samples stored of channels other than 0 and 1.
-    std::size_t storedOfOtherChannels() const;
-
-    /// Hands samples, lists and time order over to \p data, replacing what it held.
+    /// Hands samples, lists and time order over to \p data, replacing what it held. Where there are
+    /// several slices each has stored all that it has counted.
     void finish(RecordData& data);
 
 private:
-    using Key = std::uint64_t;
+    using Key = SampleSlice::Key;
 
-    /// Salted anew in each run: no file can be made whose keys all fall on one place.
-    struct SaltedHash
-    {
-        std::size_t operator()(Key key) const { return qHash(key, QHashSeed::globalSeed()); }
-    };
-
-    struct Group
+    /// The samples of a channel and identifier in all slices.
+    struct Total
     {
         Key key;
         std::size_t begin;
@@ -72,85 +45,14 @@ private:
         bool highFile;
     };
 
-    static Key keyAt(const unsigned char* sample, bool swapped);
-    std::uint32_t groupOf(Key key);
-    std::uint32_t findOrAddGroup(Key key);
+    void addTotals();
+    void sumUp();
 
-    /// Few identifiers make up the traffic; this finds most of them without the hash map.
-    struct Recent
-    {
-        Key key;
-        std::uint32_t group;
-    };
-    std::array<Recent, 4096> mRecent;
-    std::unordered_map<Key, std::uint32_t, SaltedHash> mIndex;
-    std::vector<Group> mGroups;
-
-    std::size_t mReserved = 0;
-    std::size_t mCounted = 0;
-    std::size_t mRead = 0;
-    std::size_t mFileEnd = 0;
-    std::size_t mStored = 0;
+    std::vector<std::unique_ptr<SampleSlice>> mSlices; ///< too large for the stack
+    std::unordered_map<Key, std::size_t, SampleSlice::SaltedHash> mIndex;
+    std::vector<Total> mTotals; ///< in the order in which they are met
     LargeArray<RecordEntry> mSamples;
-    /// In the first pass the group of each sample, in the second its position in the block.
     LargeArray<std::uint32_t> mOrder;
-    TimeRuns mRuns;
 };
-
-/// A field of a sample in host order.
-template <typename Field>
-Field fieldAt(const unsigned char* from, bool swapped)
-{
-    const auto field = loadLittle<Field>(from);
-    return swapped ? byteSwapped(field) : field;
-}
-
-/// Brings the sample at \p from into host order, bit 31 of the identifier cleared. It is made
-/// field by field where it is to stay: a processor that has just written a part of a sample waits
-/// long before it can copy the whole.
-inline void loadEntry(const unsigned char* from, bool swapped, RecordEntry& entry)
-{
-    std::memcpy(entry.data, from, sizeof entry.data);
-    entry.b8 = from[8];
-    entry.b9 = from[9];
-    entry.channel = fieldAt<std::uint16_t>(from + 10, swapped);
-    entry.id = fieldAt<std::uint32_t>(from + 12, swapped) & 0x7FFFFFFFU;
-    entry.w16 = fieldAt<std::uint16_t>(from + 16, swapped);
-    entry.w18 = fieldAt<std::uint16_t>(from + 18, swapped);
-    entry.timeHigh = fieldAt<std::uint32_t>(from + 20, swapped);
-    entry.timeLow = fieldAt<std::uint32_t>(from + 24, swapped);
-}
-
-/// The group that a sample belongs to: channel and identifier.
-inline SampleGrouper::Key SampleGrouper::keyAt(const unsigned char* sample, bool swapped)
-{
-    const auto channel = fieldAt<std::uint16_t>(sample + 10, swapped);
-    const auto id = fieldAt<std::uint32_t>(sample + 12, swapped);
-    return Key(channel) << 32 | (id & 0x7FFFFFFFU);
-}
-
-template <typename Visitor>
-void SampleGrouper::store(std::span<const unsigned char> samples, bool swapped, bool highFile,
-                          Visitor visit)
-{
-    for (std::size_t at = 0; at + sizeof(RecordEntry) <= samples.size() && mRead < mFileEnd;
-         at += sizeof(RecordEntry)) {
-        const unsigned char* from = samples.data() + at;
-        Group& group = mGroups[mOrder[mRead++]];
-        if (group.key != keyAt(from, swapped)) {
-            continue;
-        }
-        const std::size_t position = group.begin + group.size++;
-        group.highFile = highFile;
-        RecordEntry& entry = mSamples[position];
-        // A hundred places are written in turn, too many for the processor to see what is next.
-        __builtin_prefetch(&mSamples[std::min(position + 4, mCounted - 1)], 1);
-        loadEntry(from, swapped, entry);
-        mOrder[mStored] = static_cast<std::uint32_t>(position);
-        mRuns.add(mStored, entry.time());
-        ++mStored;
-        visit(entry);
-    }
-}
 
 } // namespace TARN

@@ -25,4 +25,28 @@ void TimeCheck::judge(std::size_t number, double time)
     mLast = time;
 }
 
+bool TimeCheck::append(std::size_t first, const TimeCheck& next)
+{
+    const bool followsImpossible = mImpossibleAt > 0 && mImpossibleAt + 1 == first;
+    if (mLast != next.mBefore || followsImpossible) {
+        return false;
+    }
+    mEarliest = std::min(mEarliest, next.mEarliest);
+    mLatest = std::max(mLatest, next.mLatest);
+    const TimeFindings& found = next.mFindings;
+    if (mFindings.impossibleTimes == 0) {
+        mFindings.firstImpossible = found.firstImpossible;
+    }
+    mFindings.impossibleTimes += found.impossibleTimes;
+    mFindings.gaps += found.gaps;
+    if (found.longestGap > mFindings.longestGap) {
+        mFindings.longestGap = found.longestGap;
+        mFindings.longestGapStart = found.longestGapStart;
+    }
+    mLast = next.mLast;
+    mImpossible = next.mImpossible;
+    mImpossibleAt = next.mImpossibleAt;
+    return true;
+}
+
 } // namespace TARN

@@ -60,6 +60,18 @@ std::vector<std::uint32_t> sortedBySample(const RecordEntry* samples,
 
 } // namespace
 
+void TimeRuns::append(std::size_t index, const TimeRuns& next)
+{
+    if (next.mRuns.empty()) {
+        return;
+    }
+    const bool goesOn = !mRuns.empty() && !(next.mRuns.front().first < mLast);
+    for (std::size_t i = goesOn ? 1 : 0; i < next.mRuns.size(); ++i) {
+        mRuns.push_back({index + next.mRuns[i].begin, next.mRuns[i].first});
+    }
+    mLast = next.mLast;
+}
+
 std::vector<std::uint32_t> TimeRuns::order(const RecordEntry* samples,
                                            std::span<const std::uint32_t> fileOrder) const
 {

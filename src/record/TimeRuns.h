@@ -8,10 +8,10 @@
 
 namespace TARN {
 
-/// Finds the time order of samples that are met in file order. Recordings are in order, or in
-/// order but for pieces that stand in the wrong place: the runs of rising times are noted on the
-/// way and merged in whole stretches, so misplaced pieces cost next to nothing.
-/// Only where hardly two neighbours are in order is each sample sorted.
+/// Finds the time order of samples that are met in file order. Recordings are in order, or in order
+/// but for pieces that stand in the wrong place: the runs of rising times are noted on the way and
+/// merged in whole stretches, so misplaced pieces cost next to nothing. Only where hardly two
+/// neighbours are in order is each sample sorted.
 class TimeRuns
 {
 public:
@@ -24,8 +24,11 @@ public:
         mLast = time;
     }
 
-    /// Positions in \p samples by ascending time, equal times in file order, given the positions
-    /// in file order. Empty when the two orders are the same.
+    /// Samples that follow: number \p index is the first that \p next has seen.
+    void append(std::size_t index, const TimeRuns& next);
+
+    /// Positions in \p samples by ascending time, equal times in file order, given the positions in
+    /// file order. Empty when the two orders are the same.
     std::vector<std::uint32_t> order(const RecordEntry* samples,
                                      std::span<const std::uint32_t> fileOrder) const;
 

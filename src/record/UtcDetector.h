@@ -22,6 +22,9 @@ public:
         return take(entry);
     }
 
+    bool isDone() const { return mDone; }                    ///< date and time are known
+    bool hasSeenAny() const { return mHasDate || mHasTime; } ///< of its messages
+
     int year() const { return mYear; }
     int month() const { return mMonth; }
     int day() const { return mDay; }

@@ -1,8 +1,10 @@
 #include "widgets/DataTableView.h"
 
+#include "widgets/EmptyPlace.h"
+
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QGuiApplication>
-#include <QtGui/QPainter>
+#include <QtGui/QMouseEvent>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QStyle>
 
@@ -10,7 +12,8 @@
 
 namespace TARN {
 
-DataTableView::DataTableView(QWidget* parent) : QTableView(parent)
+DataTableView::DataTableView(QWidget* parent)
+    : QTableView(parent), mEmpty(new EmptyPlace(viewport()))
 {
     constexpr int RowHeight = 15;
     constexpr int VisibleRowsOnly = 0;
@@ -34,42 +37,115 @@ DataTableView::DataTableView(QWidget* parent) : QTableView(parent)
             mSizedByUser.insert(column);
         }
     });
+    connect(mEmpty, &QLabel::linkActivated, this, &DataTableView::signalLink);
     mWidening.setSingleShot(true);
     connect(&mWidening, &QTimer::timeout, this, &DataTableView::widenVisible);
-    // Measuring a cell costs more than showing it; a thousand rows of a hundred columns, as is
-    // usual, would hold up every load by half a second.
+    // Measuring a cell costs more than showing it.
     horizontalHeader()->setResizeContentsPrecision(VisibleRowsOnly);
     verticalHeader()->setMinimumSectionSize(RowHeight);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(RowHeight);
 }
 
+void DataTableView::setModel(QAbstractItemModel* model)
+{
+    QTableView::setModel(model);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &DataTableView::pickSelected);
+    connect(model, &QAbstractItemModel::modelReset, this, [this] {
+        mProbed.clear();
+        updateEmptyPlace();
+        mWidening.start();
+    });
+    updateEmptyPlace();
+}
+
 void DataTableView::setEmptyText(const QString& text)
 {
-    mEmptyText = text;
-    viewport()->update();
+    mEmpty->setText(text);
+    updateEmptyPlace();
+}
+
+QString DataTableView::emptyText() const
+{
+    return mEmpty->text();
+}
+
+void DataTableView::updateEmptyPlace()
+{
+    constexpr int Margin = 24;
+    mEmpty->setGeometry(viewport()->rect().adjusted(Margin, Margin, -Margin, -Margin));
+    mEmpty->setVisible(model() == nullptr || model()->rowCount() == 0);
 }
 
 void DataTableView::fitColumns()
 {
     const QScopedValueRollback fitting(mFitting, true);
     mSizedByUser.clear();
-    resizeColumnsToContents();
+    for (int column = 0; column < model()->columnCount(); ++column) {
+        setColumnWidth(column, horizontalHeader()->sectionSizeHint(column));
+    }
+    mWidening.start();
 }
 
-void DataTableView::widenColumns()
+void DataTableView::showRow(int row)
 {
-    for (int column = 0; column < model()->columnCount(); ++column) {
-        widen(column, std::max(sizeHintForColumn(column), widthOfProbes(column)));
+    const QScopedValueRollback showing(mShowing, true);
+    if (row < model()->rowCount()) {
+        selectRow(row);
+        scrollTo(model()->index(row, 0), QAbstractItemView::PositionAtCenter);
     }
+}
+
+void DataTableView::pickSelected()
+{
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    if (!mShowing && !mPressing && !rows.isEmpty()) {
+        Q_EMIT rowPicked(rows.front().row());
+    }
+}
+
+void DataTableView::mousePressEvent(QMouseEvent* event)
+{
+    {
+        const QScopedValueRollback pressing(mPressing, true);
+        QTableView::mousePressEvent(event);
+    }
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && index.isValid()) {
+        Q_EMIT rowPicked(index.row());
+    }
+}
+
+void DataTableView::showEvent(QShowEvent* event)
+{
+    QTableView::showEvent(event);
+    mWidening.start();
+}
+
+void DataTableView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    updateEmptyPlace();
+    mWidening.start();
+}
+
+void DataTableView::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    mWidening.start(); // when the scrolling is done: widths move what is scrolled
 }
 
 void DataTableView::widenVisible()
 {
+    if (!isVisible() || model() == nullptr) {
+        return; // measured when it is shown
+    }
     const int last = columnAt(viewport()->width() - 1);
     for (int column = std::max(0, columnAt(0));
          column < model()->columnCount() && (last < 0 || column <= last); ++column) {
-        widen(column, sizeHintForColumn(column));
+        const bool isNew = mProbed.insert(column).second;
+        widen(column, std::max(sizeHintForColumn(column), isNew ? widthOfProbes(column) : 0));
     }
 }
 
@@ -80,12 +156,6 @@ void DataTableView::widen(int column, int width)
     if (!mSizedByUser.contains(column) && width + Padding > columnWidth(column)) {
         setColumnWidth(column, width + Padding);
     }
-}
-
-void DataTableView::scrollContentsBy(int dx, int dy)
-{
-    QTableView::scrollContentsBy(dx, dy);
-    mWidening.start(); // when the scrolling is done: widths move what is scrolled
 }
 
 /// What a column's values need, judged by some of them from beginning to end.
@@ -100,22 +170,6 @@ int DataTableView::widthOfProbes(int column) const
         widest = std::max(widest, fontMetrics().horizontalAdvance(text) + margin);
     }
     return widest;
-}
-
-void DataTableView::paintEvent(QPaintEvent* event)
-{
-    QTableView::paintEvent(event);
-    if (model() != nullptr && model()->rowCount() > 0) {
-        return;
-    }
-    constexpr int Margin = 24;
-    QPainter painter(viewport());
-    QFont large = font();
-    large.setPixelSize(15);
-    painter.setFont(large);
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(viewport()->rect().adjusted(Margin, Margin, -Margin, -Margin),
-                     Qt::AlignCenter | Qt::TextWordWrap, mEmptyText);
 }
 
 } // namespace TARN

@@ -7,8 +7,11 @@
 
 namespace TARN {
 
+class EmptyPlace;
+
 /// The table that all data views use: rows of 15 pixels, one row selected at a time, and where
-/// there are no rows a sentence that says why and what to do.
+/// there are no rows a sentence that says why and what to do. Columns are as wide as their titles
+/// and what comes into sight needs; those out of sight, and a table out of sight, are not measured.
 class DataTableView : public QTableView
 {
     Q_OBJECT
@@ -16,29 +19,44 @@ class DataTableView : public QTableView
 public:
     explicit DataTableView(QWidget* parent = nullptr);
 
-    void setEmptyText(const QString& text);
-    QString emptyText() const { return mEmptyText; }
+    void setModel(QAbstractItemModel* model) override;
 
-    /// Gives every column the width that its title and visible values need.
+    void setEmptyText(const QString& text);
+    QString emptyText() const;
+
+    /// Gives every column the width of its title, and more as values come into sight.
     void fitColumns();
-    /// Gives columns the width that their visible values and a hundred others need; none gets
-    /// narrower, and those that the user has sized stay as they are.
-    void widenColumns();
+
+    /// Selects a row and brings it to the middle, without telling that it was picked.
+    void showRow(int row);
+
+Q_SIGNALS:
+    /// The user picked a row: clicked on it, selected or not, or moved to it by key.
+    void rowPicked(int row);
+    /// The user follows a link of the empty text.
+    void signalLink(const QString& link);
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     /// No number that comes into sight is cut short.
     void scrollContentsBy(int dx, int dy) override;
+    void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    int widthOfProbes(int column) const;
     void widenVisible();
+    void updateEmptyPlace();
+    int widthOfProbes(int column) const;
     void widen(int column, int width);
+    void pickSelected();
 
-    QString mEmptyText;
+    EmptyPlace* mEmpty;
     QTimer mWidening;
-    bool mFitting = false; ///< widths are changed by the program, not by the user
+    bool mFitting = false;  ///< widths are changed by the program, not by the user
+    bool mShowing = false;  ///< the selection is not the user's
+    bool mPressing = false; ///< a press picks its row once
     std::set<int> mSizedByUser;
+    std::set<int> mProbed; ///< columns of which values all over the table were measured
 };
 
 } // namespace TARN

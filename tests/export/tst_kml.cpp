@@ -1,6 +1,6 @@
 #include "export/ExportKml.h"
-#include "export/RecordTest.h"
-#include "faults/EventDetector.h"
+#include "export/ExportTest.h"
+#include "export/PlaceMarks.h"
 
 using namespace TARN;
 
@@ -31,60 +31,34 @@ QString text(const PathPosition& position)
 QString text(const FlightPath& path)
 {
     QStringList list;
-    for (const auto& [slot, position] : path.positions()) {
+    for (const auto& [slot, position] : path.points()) {
         list += QString("%1:%2").arg(slot).arg(text(position));
     }
     return list.join(' ');
 }
 
-/// "4:lat,lon,alt hh:mm:ss name=value ..." for each mark.
-QStringList text(const KmlMarks& marks)
+/// "hh:mm:ss lat,lon,alt name=value ..."
+QString text(const KmlMark& mark)
 {
-    QStringList list;
-    for (const auto& [number, mark] : marks) {
-        list += QString("%1:%2 %3").arg(number).arg(text(mark.position), mark.time);
-        for (const KmlMark::Item& item : mark.items) {
-            list.back() += QString::fromStdString(" " + item.name + "=" + item.value);
-        }
+    QString line = mark.time + " " + text(mark.position);
+    for (const KmlMark::Item& item : mark.items) {
+        line += QString::fromStdString(" " + item.name + "=" + item.value);
     }
-    return list;
+    return line;
 }
 
 } // namespace
 
-class TestKml : public RecordTest
+class TestKml : public ExportTest
 {
     Q_OBJECT
 
-    Profile& useSelected(const QByteArray& elements) const
+    static ExportInput engineOf(const std::shared_ptr<const Flight>& flight)
     {
-        Profile& profile = useProfile(elements);
-        profile.forEachParameter([](const ProfileDevice& device, ProfileParameter& parameter) {
-            parameter.selected = device.name == "D";
-        });
-        return profile;
-    }
-
-    KmlExportOptions options() const
-    {
-        KmlExportOptions options;
-        options.directory = folder().toStdString();
-        options.fileName = "out.kml";
-        options.stopTime = 5;
-        return options;
+        return {flight, select(*flight->profile(), {"Öl \"<T>\"", "Lamp"}), 0.0};
     }
 
 private Q_SLOTS:
-    /// The first, as what a profile said about the position is kept when another is loaded.
-    void withoutPositionParameters()
-    {
-        const Profile& profile =
-            useProfile("<Device name='D'><Parameter id='0' dataType='FLOAT' startByte='4'/>"
-                       "</Device>");
-        const Record& record = load("0@1=5 0@3=6 0/1@2=7");
-        QCOMPARE(text(FlightPath(profile, record.recordData(), 1, 0, 5)), "1:5,5,5 3:6,6,6");
-    }
-
     void goldenFlight()
     {
         RecordingBuilder file;
@@ -93,11 +67,7 @@ private Q_SLOTS:
             "1037@1.2=11.5 1037@2.2=11.75 1038/1@0=800 1038/1@5=0 1038/1@4.9=1000.52 "
             "500@0.2=15 500@1.9=16 500@2.5=25 500@4=10 500@4.1=25 500@4.2=35 500@6.5=10 "
             "500@7=25 501@3.1=5:00000001");
-        const Profile& profile = useSelected(Engine + Position);
-        Record& record = loadFiles({write("flight.CAN", file.bytes())});
-        detectEvents(record, profile);
-        KmlExportOptions asked = options();
-        asked.stopTime = 4.95;
+        auto asked = optionsFor<KmlExportOptions>("out.kml", {0, 4.95});
         asked.timeStamp = 1000;
         asked.placeMarkInterval = 2;
         asked.lineWidth = 3;
@@ -105,96 +75,113 @@ private Q_SLOTS:
         asked.lineAlpha = 128;
         asked.polygonAlpha = 5;
         asked.errorMarkColor = "AB160b";
+        const auto input = engineOf(
+            Flight::make(load({write("flight.CAN", file.bytes())}), profileOf(Engine + Position)));
         diagnostics();
-        const ExportResult result = ExportKml(profile).exportData(record, asked);
+        const ExportResult result = run(ExportKml(asked), input);
         QVERIFY2(result.done && result.message.isEmpty(), qUtf8Printable(result.message));
         QCOMPARE(read("out.kml"), golden("flight.kml"));
         QCOMPARE(diagnostics(), "new lons 11.500000\nmExportPlacemark size 3 step 2\n");
     }
 
-    void goldenNoFlight()
-    {
-        const Profile& profile = useSelected(Engine + Position);
-        Record& record = load("500@1=10 500@2=25 501@2=5:00000001 1036@9=48");
-        detectEvents(record, profile);
-        KmlExportOptions asked = options();
-        asked.polygonOn = false;
-        const ExportResult result = ExportKml(profile).exportData(record, asked);
-        QVERIFY(result.done);
-        QVERIFY(result.message.contains("position"));
-        QCOMPARE(read("out.kml"), golden("no_flight.kml"));
-    }
-
     void positions_data()
     {
+        QTest::addColumn<QByteArray>("elements");
         QTest::addColumn<QString>("samples");
         QTest::addColumn<QString>("positions"); // slots of a second from 1 s to 4 s
-        QTest::newRow("the later sample of a slot") << "1036@1.5=1 1036@1.25=2"
-                                                    << "1:2,-1000,-1000";
-        QTest::newRow("ends of the range") << "1036@0.9=1 1036@1=2 1036@4=3 1036@4.1=4"
-                                           << "1:2,-1000,-1000 4:3,-1000,-1000";
-        QTest::newRow("gaps inside and before") << "1036@1=1 1037@2=2 1038/1@3=600 1036@4=3"
-                                                << "1:1,2,400 2:1,2,400 3:1,2,400 4:3,2,400";
-        QTest::newRow("what is seen but below -999")
-            << "1037@1=5 1037@2=-999 1037@3=-1500 1037@4=6"
-            << "1:-1000,5,-1000 2:-1000,-999,-1000 3:-1000,-999,-1000 4:-1000,6,-1000";
-        QTest::newRow("first and last below -999") << "1037@1=-1500 1037@2=7 1036@2=1 1036@4=-2000"
-                                                   << "1:1,7,-1000 2:1,7,-1000 4:1,7,-1000";
-        QTest::newRow("no number is a number seen")
-            << "1036@1=2:7FC00000 1036@2=5 1036@3=2:7FC00000 1037@4=1"
-            << "1:nan,1,-1000 2:5,1,-1000 3:nan,1,-1000 4:nan,1,-1000";
+        const auto row = [](const char* name, const char* samples, const char* positions,
+                            const QByteArray& elements = Position) {
+            QTest::newRow(name) << elements << QString(samples) << QString(positions);
+        };
+        row("the later sample of a slot", "1036@1.5=1 1036@1.25=2", "1:2,-1000,-1000");
+        row("ends of the range", "1036@0.9=1 1036@1=2 1036@4=3 1036@4.1=4",
+            "1:2,-1000,-1000 4:3,-1000,-1000");
+        row("gaps inside and before", "1036@1=1 1037@2=2 1038/1@3=600 1036@4=3",
+            "1:1,2,400 2:1,2,400 3:1,2,400 4:3,2,400");
+        row("what is seen but below -999", "1037@1=5 1037@2=-999 1037@3=-1500 1037@4=6",
+            "1:-1000,5,-1000 2:-1000,-999,-1000 3:-1000,-999,-1000 4:-1000,6,-1000");
+        row("first and last below -999", "1037@1=-1500 1037@2=7 1036@2=1 1036@4=-2000",
+            "1:1,7,-1000 2:1,7,-1000 4:1,7,-1000");
+        row("no number is a number seen", "1036@1=2:7FC00000 1036@2=5 1036@3=2:7FC00000 1037@4=1",
+            "1:nan,1,-1000 2:5,1,-1000 3:nan,1,-1000 4:nan,1,-1000");
+        row("read as the profile last says of the identifier", "1036@1=7:0007 1036/3@2=7:0008",
+            "1:14,-1000,-1000",
+            Position + "<Device name='X'><Parameter name='Other' id='1036' channel='3' "
+                       "dataType='USHORT' startByte='4' factor='2'/></Device>");
+        row("no parameter is a position", "0@1=5 0@3=6 0/1@2=7", "1:5,5,5 3:6,6,6",
+            "<Device name='D'><Parameter id='0' dataType='FLOAT' startByte='4'/></Device>");
     }
 
     void positions()
     {
+        QFETCH(const QByteArray, elements);
         QFETCH(const QString, samples);
-        const Profile& profile = useProfile(Position);
-        QTEST(text(FlightPath(profile, load(samples).recordData(), 1, 1, 4)), "positions");
+        const auto flight = flightOf(samples, elements);
+        QTEST(text(FlightPath(*flight, 0, 1, {1, 4})), "positions");
     }
 
-    void positionsAreReadAsTheProfileLastSays()
+    void marks_data()
     {
-        const Profile& profile =
-            useProfile(Position + "<Device name='X'><Parameter name='Other' id='1036' channel='3' "
-                                  "dataType='USHORT' startByte='4' factor='2'/></Device>");
-        const Record& record = load("1036@1=7:0007 1036/3@2=7:0008");
-        QCOMPARE(text(FlightPath(profile, record.recordData(), 1, 0, 4)), "1:14,-1000,-1000");
+        QTest::addColumn<QString>("samples"); // slots of a second, marks every ten seconds
+        QTest::addColumn<double>("offset");
+        QTest::addColumn<double>("stop");
+        QTest::addColumn<QStringList>("marks"); // place marks, "|", then those of limits
+        QTest::addColumn<QString>("leftOut");   // what the user is told of
+        const auto row = [](const char* name, const char* samples, double offset, double stop,
+                            const QStringList& marks, const char* leftOut) {
+            QTest::newRow(name) << QString(samples) << offset << stop << marks << QString(leftOut);
+        };
+        row("a sample without position takes its mark away, what comes later stays",
+            "1036@10=1 1036@11=2 500@10=1 500@11=2 500@12=3 500@15=3 500@10.5=4 501@11=5:00000001",
+            0, 1e6, {"00:00:10 2,-1000,-1000 Öl \"<T>\" [°C]=4 Lamp=1: an & aus", "|"},
+            "2 values, 0 events");
+        row("the last of several parameters too", "1036@10=1 500@10=1 501@12=5:00000001", 0, 1e6,
+            {"|"}, "1 values, 1 events");
+        row("only what lies in the range is missed",
+            "1036@10=1 500@10=1 500@32=10 500@33=25 501@43=5:00000001", 0, 40,
+            {"00:00:10 1,-1000,-1000 Öl \"<T>\" [°C]=1", "|"}, "2 values, 1 events");
+        row("no position in the range", "500@1=10 500@2=25 501@2=5:00000001 1036@9=48", 0, 5, {"|"},
+            "No position lies in the time range, the flight path is empty");
+        row("names start again at midnight", "1036@86399=1 1036@86405=2 500@86399=25 500@86405=26",
+            0, 1e6,
+            {"23:59:50 1,-1000,-1000 Öl \"<T>\" [°C]=25",
+             "00:00:00 2,-1000,-1000 Öl \"<T>\" [°C]=26", "|"},
+            "");
+        row("the offset moves samples but no events",
+            "1036@10=1 1036@21=2 500@10=10 500@21=25 500@30=1", 11, 1e6,
+            {"00:00:20 1,-1000,-1000 Öl \"<T>\" [°C]=10",
+             "00:00:30 2,-1000,-1000 Öl \"<T>\" [°C]=25", "|",
+             "00:00:21 1,-1000,-1000 D Öl \"<T>\"=25 °C"},
+            "1 values, 0 events");
     }
 
-    void offsetMovesSamplesButNoEvents()
+    void marks()
     {
-        write("Offset.xml", "<TarnOffset><Offset value='2'/></TarnOffset>");
-        const Profile& profile = useSelected(Engine + Position);
-        Record& record = load("1036@1=1 1036@3=2 500@1=10 500@3=25", "REC_8000.CAN");
-        detectEvents(record, profile);
-        const RecordData& data = record.recordData();
-        const FlightPath path(profile, data, 1, 0, 9);
-        QCOMPARE(text(path), "3:1,-1000,-1000 5:2,-1000,-1000");
-        KmlExportOptions asked = options();
-        asked.placeMarkInterval = 1;
-        const QStringList marks = {"3:1,-1000,-1000 00:00:03 Öl \"<T>\" [°C]=10",
-                                   "5:2,-1000,-1000 00:00:05 Öl \"<T>\" [°C]=25"};
-        QCOMPARE(text(placeMarks(profile, data, path, asked)), marks);
-        QCOMPARE(text(errorMarks(data.limits, path)),
-                 QStringList("3:1,-1000,-1000 00:00:03 D Öl \"<T>\"=25 °C"));
-    }
-
-    void aSampleWithoutPositionTakesItsMarkAway()
-    {
-        const Profile& profile = useSelected(Engine + Position);
-        const Record& record = load("1036@10=1 1036@11=2 1036@86400=3 "
-                                    "500@10=1 500@11=2 500@12=3 500@15=3 500@10.5=4 "
-                                    "501@11=5:00000001 501@86400=5:00000000");
-        const FlightPath path(profile, record.recordData(), 1, 0, 1e6);
-        KmlExportOptions asked = options();
-        asked.placeMarkInterval = 10; // one mark for 10 to 19
-        // What came after the loss stays; names start again at midnight.
-        const QStringList marks = {"1:2,-1000,-1000 00:00:10 Öl \"<T>\" [°C]=4 Lamp=1: an & aus",
-                                   "8640:3,-1000,-1000 00:00:00 Lamp=0: Invalid ENUM Value"};
-        QCOMPARE(text(placeMarks(profile, record.recordData(), path, asked)), marks);
-        const Record& lost = load("1036@10=1 500@10=1 501@12=5:00000001");
-        const FlightPath shortPath(profile, lost.recordData(), 1, 0, 1e6);
-        QCOMPARE(text(placeMarks(profile, lost.recordData(), shortPath, asked)), QStringList());
+        QFETCH(const QString, samples);
+        QFETCH(const double, offset);
+        QFETCH(const double, stop);
+        const auto record = load({writeRecording(samples, "REC_8000.CAN")});
+        ExportInput input = engineOf(Flight::make(record, profileOf(Engine + Position)));
+        input.offset = offset;
+        auto asked = optionsFor<KmlExportOptions>("out.kml", {0, stop});
+        asked.timeStamp = 1000;
+        const FlightPath path(*input.flight, offset, 1, asked.range());
+        PlaceMarks placeMarks(input, path, asked);
+        QStringList marks;
+        Progress none;
+        for (KmlMark mark; placeMarks.next(mark, none);) {
+            marks += text(mark);
+        }
+        marks += "|";
+        std::size_t leftOut = 0;
+        for (const KmlMark& mark :
+             errorMarks(input.flight->events().limits, path, asked.range(), leftOut)) {
+            marks += text(mark);
+        }
+        QTEST(marks, "marks");
+        const ExportResult result = run(ExportKml(asked), input);
+        QVERIFY(result.done);
+        QTEST(result.message.section(": ", -1).section('.', 0, 0), "leftOut");
     }
 };
 

@@ -1,5 +1,4 @@
-#include "export/RecordTest.h"
-#include "faults/FaultHistory.h"
+#include "support/FlightTest.h"
 
 #include <cmath>
 
@@ -20,119 +19,103 @@ QString text(const std::vector<FaultPoint>& points)
 
 } // namespace
 
-class TestFaultHistory : public RecordTest
+class TestFaultHistory : public FlightTest
 {
     Q_OBJECT
 
-    const FaultMatrix& matrix() const
+    std::shared_ptr<const Flight> flightOf(const QString& messages) const
     {
-        const auto bit = [](int number, const char* type) {
-            return QString("<Parameter name='bit%1' id='900' startBit='%1' errorType='%2'/>")
-                .arg(number)
-                .arg(type)
-                .toLatin1();
-        };
-        return useProfile("<Device name='D'><ErrorMatrix id='900' name='M'/>" + bit(0, "Info") +
-                          bit(1, "Warning") + bit(2, "Warning") + bit(31, "Fault") + bit(5, "") +
-                          bit(6, "FAULT") + "</Device>")
-            .data()
-            .faultMatrices.at(0);
+        return FlightTest::flightOf(messages,
+                                    "<Device name='D'><ErrorMatrix id='900' name='M'/>"
+                                    "<Parameter id='900' startBit='0' errorType='Info'/>"
+                                    "<Parameter id='900' startBit='1' errorType='Warning'/>"
+                                    "<Parameter id='900' startBit='2' errorType='Warning'/>"
+                                    "<Parameter id='900' startBit='31' errorType='Fault'/>"
+                                    "<Parameter id='900' startBit='5'/>"
+                                    "<Parameter id='900' startBit='6' errorType='FAULT'/>"
+                                    "</Device>");
     }
 
 private Q_SLOTS:
-    void bitsAt_data()
-    {
-        QTest::addColumn<QString>("messages");
-        QTest::addColumn<double>("time");
-        QTest::addColumn<unsigned>("bits");
-        const QString three = "900@1=5:00000001 900@2=5:80000002 900@3=5:00000004";
-        QTest::newRow("no message") << "901@1=5:00000001 900/1@1=5:00000001" << 1.0 << 0U;
-        QTest::newRow("before the first") << three << -5.0 << 1U;
-        QTest::newRow("at the first") << three << 1.0 << 1U;
-        QTest::newRow("between") << three << 1.98 << 1U;
-        QTest::newRow("within the tolerance") << three << 1.995 << 0x80000002U;
-        QTest::newRow("at the second") << three << 2.0 << 0x80000002U;
-        QTest::newRow("still before the last") << three << 2.98 << 0x80000002U;
-        QTest::newRow("the last within the tolerance") << three << 2.995 << 0U;
-        QTest::newRow("at the last") << three << 3.0 << 0U;
-        QTest::newRow("long after") << three << 1e300 << 0U;
-        QTest::newRow("no time") << three << std::nan("") << 0U;
-        QTest::newRow("one message, before it") << "900@1=5:FFFFFFFF" << 0.98 << 0xFFFFFFFFU;
-        QTest::newRow("one message, at it") << "900@1=5:FFFFFFFF" << 1.0 << 0U;
-        QTest::newRow("whatever its type") << "900@1=2:0A0B0C0D 900@2=0" << 1.5 << 0x0A0B0C0DU;
-    }
-
-    void bitsAt()
-    {
-        QFETCH(const QString, messages);
-        QFETCH(const double, time);
-        const FaultHistory history(load(messages).recordData(), matrix());
-        QTEST(history.bitsAt(time), "bits");
-    }
-
     void timelines_data()
     {
         QTest::addColumn<QString>("messages");
         QTest::addColumn<QString>("info");
         QTest::addColumn<QString>("warning");
         QTest::addColumn<QString>("fault");
-        QTest::newRow("no message") << ""
-                                    << ""
-                                    << ""
-                                    << "";
-        QTest::newRow("one message") << "900@1=5:80000000"
-                                     << "1- 1-"
-                                     << "1- 1-"
-                                     << "1+ 1+";
-        QTest::newRow("one kind after another")
-            << "900@1=5:00000001 900@2=5:00000002 900@3=5:00000003 900@4=5:80000000"
-            << "1+ 2- 3+ 4- 4-"
-            << "1- 2+ 4- 4-"
-            << "1- 4+ 4+";
-        QTest::newRow("one warning takes over from the other")
-            << "900@1=5:00000000 900@2=5:00000002 900@3=5:00000006 900@4=5:00000004 "
-               "900@5=5:00000000"
-            << "1- 5-"
-            << "1- 2+ 5- 5-"
-            << "1- 5-";
-        QTest::newRow("bits of no type, or of no parameter")
-            << "900@1=5:00000060 900@2=5:00FFFF00 900@3=5:7FFFFFF8"
-            << "1- 3-"
-            << "1- 3-"
-            << "1- 3-";
-        QTest::newRow("falling times stay in file order")
-            << "900@3=5:00000001 900@1=5:00000000 900@2=5:00000001"
-            << "3+ 1- 2+ 2+"
-            << "3- 2-"
-            << "3- 2-";
+        QTest::addColumn<QString>("changes"); // of information and warnings
+        const auto row = [](const char* name, const char* messages, const char* info,
+                            const char* warning, const char* fault, const char* changes) {
+            QTest::addRow("%s", name) << QString(messages) << QString(info) << QString(warning)
+                                      << QString(fault) << QString(changes);
+        };
+        row("no message of it", "901@1=5:00000001 900/1@2=5:00000001", "", "", "", "");
+        row("one message", "900@1=5:80000001", "1+ 1+", "1- 1-", "1+ 1+", "");
+        row("one kind after another",
+            "900@1=5:00000001 900@2=5:00000002 900@3=5:00000003 900@4=5:80000000", "1+ 2- 3+ 4- 4-",
+            "1- 2+ 4- 4-", "1- 4+ 4+", "2+2-1 3+1-0 4+0-3");
+        row("one warning takes over from the other",
+            "900@1=5:00000000 900@2=5:00000002 900@3=5:00000006 900@4=5:00000004 "
+            "900@5=5:00000000",
+            "1- 5-", "1- 2+ 5- 5-", "1- 5-", "2+2-0 3+4-0 4+0-2 5+0-4");
+        row("bits of no type, or of no parameter",
+            "900@1=5:00000060 900@2=5:00FFFF00 900@3=5:7FFFFFF8", "1- 3-", "1- 3-", "1- 3-", "");
+        row("falling times stay in file order",
+            "900@3=5:00000001 900@1=5:00000000 900@2=5:00000001", "3+ 1- 2+ 2+", "3- 2-", "3- 2-",
+            "1+0-1 2+1-0");
     }
 
     void timelines()
     {
         QFETCH(const QString, messages);
-        const FaultHistory history(load(messages).recordData(), matrix());
-        QTEST(text(history.info()), "info");
-        QTEST(text(history.warning()), "warning");
-        QTEST(text(history.fault()), "fault");
+        const auto flight = flightOf(messages);
+        const FaultHistory& history = flight->faults().at(0);
+        QCOMPARE(history.isKnown(), !history.points(ErrorInfo).empty());
+        QTEST(text(history.points(ErrorInfo)), "info");
+        QTEST(text(history.points(ErrorWarning)), "warning");
+        QTEST(text(history.points(ErrorFault)), "fault");
+        QCOMPARE(history.bitsOfType(ErrorInfo) | history.bitsOfType(ErrorWarning), 7U);
+        QStringList changes;
+        for (const FaultChange& change : history.changes(7)) {
+            changes += QString("%1+%2-%3").arg(change.time).arg(change.came).arg(change.went);
+        }
+        QTEST(changes.join(' '), "changes");
     }
 
-    void fallingTimesAsAPlainScanSeesThem()
+    void pixelsAndColors()
     {
-        const FaultMatrix& faults = matrix();
+        // Changes at pixels 100 and 104 of a timeline of 10 pixels a second; no error at 300.
+        const auto flight = flightOf("900@10=5:00000000 900@20=5:00000001 900@20.4=5:80000001 "
+                                     "900@40=5:80000021 900@110=5:80000021");
+        const FaultHistory& history = flight->faults().at(0);
+        const std::pair<int, double> pixels[] = {{96, 0},     {97, 20}, {102, 20}, {103, 20.4},
+                                                 {107, 20.4}, {108, 0}, {300, 0}};
+        for (const auto& [x, time] : pixels) {
+            QCOMPARE(history.changeNear(x, 10, 110, 1000).value_or(0), time);
+        }
+        QCOMPARE(FaultHistory::timelineX(60, 10, 110, 1000), 500);
+        QCOMPARE(FaultHistory::timelineX(60, 60, 60, 1000), 0); // where all is one moment
+        QVERIFY(history.changeNear(0, 10, 10, 1000).has_value());
+        QVERIFY(errorColor(ErrorInfo) == QColor(150, 150, 255));
+        QVERIFY(errorColor(ErrorNone) == Qt::white && !errorColor(4).isValid());
+    }
+
+    void bitsAsAPlainScanSeesThem()
+    {
         std::mt19937 random(5);
         for (int round = 0; round < 100; ++round) {
-            RecordingBuilder file;
+            QString messages;
             for (int count = pick(random, 30); count > 0; --count) {
-                const QByteArray word = QByteArray::number(0x100000000ULL + random(), 16).mid(1);
-                file.add({900, ticks(pick(random, 200) * 0.01), "00050000" + word});
+                const QString word = QString::number(0x100000000ULL + random(), 16).mid(1);
+                const double time = round % 2 == 0 ? pick(random, 200) * 0.01 : count * -0.03 + 1.0;
+                messages += QString("900@%1=5:%2 ").arg(time).arg(word);
             }
-            Record& record = loadFiles({write("a.CAN", file.bytes())});
-            const FaultHistory history(record.recordData(), faults);
+            const auto flight = flightOf(messages);
             for (double time = -0.02; time < 2.02; time += 0.005) {
                 const RecordEntry* shown = nullptr;
                 const RecordEntry* before = nullptr;
-                for (std::size_t i = 0; i < record.recordData().count() && !shown; ++i) {
-                    const RecordEntry& entry = record.recordData().inFileOrder(i);
+                for (std::size_t i = 0; i < flight->samples().count() && !shown; ++i) {
+                    const RecordEntry& entry = flight->samples().inFileOrder(i);
                     if (entry.time() > time + 0.01) {
                         shown = before != nullptr ? before : &entry;
                     }
@@ -142,8 +125,10 @@ private Q_SLOTS:
                 for (int i = 4; shown != nullptr && i < 8; ++i) {
                     bits = bits << 8 | shown->data[i];
                 }
-                QCOMPARE(history.bitsAt(time), bits);
+                QCOMPARE(flight->faults().at(0).bitsAt(time), bits);
             }
+            QCOMPARE(flight->faults().at(0).bitsAt(1e300), 0U);
+            QCOMPARE(flight->faults().at(0).bitsAt(std::nan("")), 0U);
         }
     }
 };

@@ -7,10 +7,10 @@
 #include "profile/Profile.h"
 
 #include <bit>
-#include <cstdio>
 #include <vector>
 
 using namespace TARN;
+using Fuzz::require;
 
 namespace {
 
@@ -54,9 +54,28 @@ ProfileInfo takeProfile(Fuzz::Input& input)
     return profile;
 }
 
-bool sameBits(double a, double b)
+std::uint64_t bits(double value)
 {
-    return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+    return std::bit_cast<std::uint64_t>(value);
+}
+
+float number(const std::string& text)
+{
+    return std::strtof(text.c_str(), nullptr);
+}
+
+/// The threshold that a sample reached tells its colour and its state.
+void checkColor(const Decoder& decoder, const RecordEntry& entry, const QColor& color)
+{
+    const int reached = decoder.reachedLimit(entry);
+    require(reached < 0 || decoder.thresholds().threshold() != nullptr);
+    const ProfileThrValue none{0.0, Qt::white};
+    const ProfileThrValue& limit =
+        reached < 0
+            ? none
+            : decoder.thresholds().threshold()->values.at(static_cast<std::size_t>(reached));
+    require(color == limit.color && decoder.cellColor(entry) == color);
+    require(decoder.cellState(entry) == limit.state);
 }
 
 /// Numbers are printed by a way of our own that is faster than the library's.
@@ -67,7 +86,7 @@ void checkPrinting(double value)
         std::snprintf(expected, sizeof expected, "%.*g", digits, value);
         std::string text;
         appendGeneral(value, digits, text);
-        Fuzz::require(text == expected, "a number is printed as the library does it");
+        require(text == expected);
     }
 }
 
@@ -86,25 +105,26 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     std::vector<double> scaled(entries.size());
     std::vector<double> raw(entries.size());
-    std::vector<int> states(entries.size());
+    std::vector<std::uint8_t> states(entries.size());
+    std::vector<std::uint8_t> cellStates(entries.size());
     decoder.toDoubles(entries, true, scaled.data());
     decoder.toDoubles(entries, false, raw.data());
     decoder.states(entries, states.data());
+    decoder.cellStates(entries, cellStates.data());
     for (std::size_t i = 0; i < entries.size(); ++i) {
         const RecordEntry& entry = entries[i];
-        Fuzz::require(sameBits(decoder.toDouble(entry, true), scaled[i]), "a column's values");
-        Fuzz::require(sameBits(decoder.toDouble(entry, false), raw[i]), "a column's raw values");
-        Fuzz::require(decoder.state(entry) == states[i], "a column's states");
+        require(bits(decoder.toDouble(entry, true)) == bits(scaled[i]));
+        require(bits(decoder.toDouble(entry, false)) == bits(raw[i]));
+        require(decoder.state(entry) == states[i] && decoder.cellState(entry) == cellStates[i]);
         decoder.toInt(entry);
         std::string text;
         std::string shown;
+        std::string shortest;
         decoder.appendText(entry, text);
-        const QColor color = decoder.appendDisplay(entry, shown);
-        Fuzz::require(text == shown, "one text of a sample");
-        Fuzz::require(color == QColor(Qt::white) ||
-                          (color.blue() == 30 && profile.thresholds.contains(1)),
-                      "white or a threshold's colour");
-        Fuzz::require(!text.empty(), "every sample has a text");
+        decoder.appendShort(entry, shortest);
+        checkColor(decoder, entry, decoder.appendDisplay(entry, shown));
+        require(text == shown && !text.empty());
+        require(shortest == text || (decoder.isSingle() && number(shortest) == number(text)));
         checkPrinting(scaled[i]);
         checkPrinting(loadLittle<double>(entry.data));
     }

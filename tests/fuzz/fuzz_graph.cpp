@@ -1,187 +1,86 @@
 /// Any samples and any window in the graph: its columns are those that a plain walk over the
-/// samples gives, and whatever it would draw lies on the screen.
+/// samples gives, and whatever it draws lies on the screen.
 
-#include "display/GraphLine.h"
-#include "display/GraphModel.h"
-#include "display/GraphScale.h"
 #include "fuzz/Fuzz.h"
+#include "graph/LiveFeed.h"
+#include "support/GraphPaint.h"
+#include "support/PlainCurve.h"
 
-#include <cmath>
+#include <QtGui/QGuiApplication>
+
 #include <limits>
 
 using namespace TARN;
+using Fuzz::require;
 
 namespace {
 
 constexpr unsigned Curve = 1;
-
-struct Samples
-{
-    std::vector<double> times;
-    std::vector<double> values;
-
-    void add(double time, double value)
-    {
-        times.push_back(time);
-        values.push_back(value);
-    }
-};
+constexpr QSizeF Size(800.0, 600.0);
 
 double takeValue(Fuzz::Input& input)
 {
-    constexpr double Special[] = {0.0,
-                                  -0.0,
-                                  std::numeric_limits<double>::quiet_NaN(),
-                                  std::numeric_limits<double>::infinity(),
-                                  -std::numeric_limits<double>::infinity(),
-                                  std::numeric_limits<double>::max(),
-                                  std::numeric_limits<double>::denorm_min(),
-                                  1e38};
+    using Limits = std::numeric_limits<double>;
+    constexpr double Special[] = {0.0,       -0.0,          Limits::quiet_NaN(),  INFINITY,
+                                  -INFINITY, Limits::max(), Limits::denorm_min(), 1e38};
     const auto byte = input.take<std::uint8_t>();
     return byte < 8 ? Special[byte] : byte < 16 ? input.take<float>() : byte;
 }
 
 /// Steps of times with their values; a step may be backwards, and stand for a run of up to 255.
-Samples takeSamples(Fuzz::Input& input)
+PlainCurve takeSamples(Fuzz::Input& input)
 {
     constexpr std::size_t Most = 20000;
     constexpr double Units[] = {31.25e-9, 0.001, 0.1, 134.217728};
-    Samples samples;
+    PlainCurve samples;
     double time = input.take<float>();
     time = std::isfinite(time) ? time : 0.0;
-    while (!input.rest().empty() && samples.times.size() < Most) {
+    while (!input.rest().empty() && samples.size() < Most) {
         const auto kind = input.take<std::uint8_t>();
         const double step = input.take<std::int8_t>() * Units[kind & 3];
         const int run = (kind & 4) != 0 ? input.take<std::uint8_t>() : 1;
         const double value = takeValue(input);
         for (int i = 0; i < run; ++i) {
             time += step;
-            samples.add(time, (kind & 8) != 0 ? value + i % 7 : value);
+            samples.times.push_back(time);
+            samples.values.push_back((kind & 8) != 0 ? value + i % 7 : value);
         }
     }
     return samples;
 }
 
-bool sameNumber(double a, double b)
+void checkFrames(GraphModel& model, const PlainCurve& plain, const GapRule& gaps)
 {
-    return a == b || (std::isnan(a) && std::isnan(b));
+    const GraphView& view = model.layout().view();
+    const auto expected = plain.frames({view.xmin, view.xmax, view.pixelTime()}, gaps);
+    require(std::ranges::equal(model.layout().frames(Curve), expected, PlainCurve::isSame));
 }
 
-/// The samples [begin, end) of a curve as one column.
-FrameType plainFrame(const CurveBuffer& buffer, std::size_t begin, std::size_t end)
-{
-    FrameType frame;
-    frame.time = buffer.time(begin);
-    frame.state = static_cast<std::int32_t>(std::min<std::size_t>(end - begin, 4));
-    frame.first = buffer.value(begin);
-    if (frame.state < 4) {
-        frame.low = frame.state > 1 ? buffer.value(begin + 1) : 0.0;
-        frame.high = frame.state > 2 ? buffer.value(begin + 2) : 0.0;
-        return frame;
-    }
-    frame.low = frame.high = buffer.value(begin + 1);
-    for (std::size_t k = begin + 2; k < end; ++k) {
-        frame.low = std::fmin(frame.low, buffer.value(k));
-        frame.high = std::fmax(frame.high, buffer.value(k));
-    }
-    frame.last = buffer.value(end - 1);
-    return frame;
-}
-
-/// The columns of a window, found sample by sample.
-std::vector<FrameType> plainFrames(const CurveBuffer& buffer, const GraphView& view)
-{
-    std::size_t begin = 0;
-    while (begin < buffer.size() && !(buffer.time(begin) >= view.xmin)) {
-        ++begin;
-    }
-    begin = begin > 1 ? begin - 1 : begin;
-    std::vector<FrameType> frames;
-    std::size_t end = begin;
-    while (end < buffer.size() && !(buffer.time(end) >= view.xmax)) {
-        ++end;
-    }
-    end = std::min(end + 1, buffer.size());
-    while (begin < end) {
-        std::size_t next = begin + 1;
-        while (next < end && buffer.time(next) - buffer.time(begin) <= view.pixelTime()) {
-            ++next;
-        }
-        frames.push_back(plainFrame(buffer, begin, next));
-        begin = next;
-    }
-    return frames;
-}
-
-bool isSame(const FrameType& a, const FrameType& b)
-{
-    return a.state == b.state && a.time == b.time && sameNumber(a.first, b.first) &&
-           (a.state < 2 || sameNumber(a.low, b.low)) &&
-           (a.state < 3 || sameNumber(a.high, b.high)) &&
-           (a.state < 4 || sameNumber(a.last, b.last));
-}
-
-void checkFrames(GraphModel& model)
-{
-    const auto frames = model.frames(Curve);
-    Fuzz::require(
-        std::ranges::equal(frames, plainFrames(model.curve(Curve)->buffer, model.view()), isSame),
-        "columns show every sample");
-}
-
-void checkTicks(double min, double max, double length)
-{
-    const GraphTicks ticks(min, max, length, 40.0);
-    double before = min;
-    for (const GraphTick& tick : ticks.ticks) {
-        Fuzz::require(tick.value >= before && tick.value <= max, "ticks ascend on their axis");
-        before = tick.value;
-        if (tick.major) {
-            Fuzz::require(timeLabel(tick.value, ticks.step).size() < 40 &&
-                              valueLabel(tick.value, ticks.step).size() < 40,
-                          "labels are short");
-        }
-    }
-    Fuzz::require(ticks.ticks.size() < 10000, "ticks keep apart");
-}
-
-void checkLine(const ParStruct& curve, const GraphView& view)
-{
-    GraphLine line;
-    line.buildSamples(curve, view);
-    for (const float pixel : line.points()) {
-        Fuzz::require(std::fabs(pixel) <= 1e5F, "samples are drawn near the screen");
-    }
-    line.buildLine(curve, view);
-    for (const float pixel : line.points()) {
-        Fuzz::require(std::fabs(pixel) <= 1e5F, "lines are drawn near the screen");
-    }
-    int next = 0;
-    for (const GraphLine::Strip& strip : line.strips()) {
-        Fuzz::require(strip.first == next && strip.count > 0, "strips follow each other");
-        next += strip.count;
-    }
-    Fuzz::require(static_cast<std::size_t>(next) * 2 == line.points().size(),
-                  "every point is in a strip");
-}
-
-/// The steps of a paint, as the widget takes them.
+/// Curves, which are clipped, may go on beyond the widget, everything else lies in it.
 void paint(GraphModel& model)
 {
-    model.setSize(800.0, 600.0);
-    model.calcFrame();
-    model.layoutStrips();
-    const GraphView& view = model.view();
-    checkTicks(view.xmin, view.xmax, view.width);
-    for (ParStruct& curve : model.curves()) {
-        if (curve.active) {
-            model.updateVisible(curve);
-            checkTicks(curve.rangeMin, curve.rangeMax, curve.viewportHeight);
-            checkLine(curve, view);
-        }
+    const GraphPaint paint(model, Size, {}, {0.5, true, Curve, model.cursor()});
+    const QRectF widget(QPointF(), Size);
+    for (const GraphPaint::Shape& shape : paint.shapes) {
+        require(widget.contains(shape.clip.adjusted(1, 1, -1, -1)) || shape.clip.isNull());
+        const float far = shape.clip.isNull() ? 0.0F : 1e5F;
+        require(std::ranges::all_of(shape.points, [&](float pixel) {
+            return pixel >= -far && pixel <= std::max(far, 800.5F);
+        }));
     }
-    checkTicks(view.ymin, view.ymax, view.height);
-    model.finishPaint(100.0);
+    for (const TextLayout::Text& text : paint.texts.texts()) {
+        require(widget.contains(text.box));
+    }
+}
+
+/// Fonts without a display.
+void startFonts()
+{
+    static int argc = 1;
+    static char name[] = "fuzz";
+    static char* argv[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static const QGuiApplication application(argc, argv);
 }
 
 } // namespace
@@ -189,6 +88,7 @@ void paint(GraphModel& model)
 /// Modes, window, then samples.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
+    startFonts();
     Fuzz::Input input({data, size});
     GraphModel model;
     const auto modes = input.take<std::uint8_t>();
@@ -200,38 +100,45 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const double width = input.take<float>();
     const double yMin = input.take<float>();
     const double yMax = input.take<float>();
-    const Samples samples = takeSamples(input);
+    const PlainCurve fed = takeSamples(input);
 
-    model.setActive(Curve, true);
-    model.putSeries(Curve, samples.times, samples.values);
-    model.setSize(800.0, 600.0);
-    checkFrames(model);
-    model.setXmin(from);
-    model.setXrange(width);
-    model.setYmin(yMin);
-    model.setYmax(yMax);
-    checkFrames(model);
+    PlainCurve plain;
+    GraphModel single; // sample by sample comes to the same as all at once
+    LiveFeed feed(single);
+    for (GraphModel* each : {&model, &single}) {
+        each->curves().curve(Curve)->active = true;
+        each->layout().setSize(Size.width(), Size.height());
+    }
+    for (std::size_t k = 0; k < fed.size(); ++k) {
+        plain.put(fed.times[k], fed.values[k]);
+        feed.setTime(fed.times[k]);
+        feed.putValue(Curve, fed.values[k]);
+    }
+    const GapRule gaps = (modes & 16) != 0 ? GapRule({0.01}, nullptr) : GapRule();
+    auto series = std::make_shared<CurveSamples>();
+    require(series->putSeries(fed.times, fed.values) == fed.size() - plain.size());
+    series->setGapRule(gaps);
+    model.curves().setSeries(Curve, series);
+    model.curves().curve(Curve)->showSamples = (modes & 32) != 0;
+    checkFrames(model, plain, gaps);
+    model.window().shiftTo(from);
+    model.window().setWidth(width, model.graphMode() == GraphAutomatic);
+    model.windowChanged();
+    model.setYrange(yMin, yMax);
+    checkFrames(model, plain, gaps);
     paint(model);
     model.setCursorPosition(from + width);
-    model.zoomAbout(from, width);
+    model.window().zoomAbout(from, width);
+    model.windowChanged();
     model.setMarker(from, from + width);
     paint(model);
     model.zoomToMarker();
-    checkFrames(model);
     paint(model);
-    double value = 0.0;
-    model.getValue(Curve, from, value);
+    checkFrames(model, plain, gaps);
 
-    // Sample by sample comes to the same as all at once.
-    GraphModel single;
-    single.setActive(Curve, true);
-    for (std::size_t k = 0; k < samples.times.size(); ++k) {
-        single.setTime(samples.times[k]);
-        single.putValue(Curve, samples.values[k]);
-    }
     single.setGraphMode(GraphManual);
-    single.setSize(800.0, 600.0);
-    single.setWindow(model.view().xmin, model.view().xmax);
-    checkFrames(single);
+    single.window() = model.window();
+    single.windowChanged();
+    checkFrames(single, plain, {});
     return 0;
 }

@@ -5,61 +5,62 @@
 #include "fuzz/Fuzz.h"
 #include "profile/Profile.h"
 #include "profile/Project.h"
-#include "record/Record.h"
+#include "record/OffsetFile.h"
 
-#include <QtCore/QFile>
-
-#include <algorithm>
 #include <cmath>
 #include <map>
 #include <vector>
 
 using namespace TARN;
+using Fuzz::require;
 
 namespace {
 
 constexpr const char* Absent = "(absent)";
 
-/// The attribute of every element with this name, at any depth.
-std::vector<QString> attributesOf(const QString& path, const QString& element, const QString& name)
+/// An input, as whatever file it is read.
+struct Document
 {
-    std::vector<QString> values;
-    QDomDocument document;
-    XmlHandler().xmlReadFile(document, path);
-    const QDomNodeList found = document.elementsByTagName(element);
-    for (int i = 0; i < found.count(); ++i) {
-        values.push_back(found.at(i).toElement().attribute(name));
+    explicit Document(Fuzz::Bytes content) : bytes(content)
+    {
+        isReadable = XmlHandler().xmlReadFile(xml, Fuzz::write("input.xml", bytes));
     }
-    return values;
-}
 
-bool isReadable(const QString& path)
-{
-    QDomDocument document;
-    return XmlHandler().xmlReadFile(document, path);
-}
+    /// The attribute of every element with this name, at any depth.
+    std::vector<QString> attributes(const QString& element, const QString& name) const
+    {
+        std::vector<QString> values;
+        const QDomNodeList found = xml.elementsByTagName(element);
+        for (int i = 0; i < found.count(); ++i) {
+            values.push_back(found.at(i).toElement().attribute(name));
+        }
+        return values;
+    }
 
-/// What could not be read lies beside its place, byte for byte. Takes it away, for the next run.
-void checkKeptAside(const QString& name, Fuzz::Bytes bytes)
-{
-    const QByteArray kept = Fuzz::read(name + ".damaged");
-    Fuzz::require(std::ranges::equal(kept, bytes, {}, [](char c) { return std::uint8_t(c); }),
-                  "a damaged file is kept aside");
-    Fuzz::require(QFile::remove(Fuzz::path(name + ".damaged")), "what is kept aside is a file");
-}
+    /// What can't be read lies beside its place, byte for byte. Takes it away, for the next run.
+    void checkKeptAside(const QString& name) const
+    {
+        if (!isReadable) {
+            const auto byte = [](char c) { return static_cast<std::uint8_t>(c); };
+            require(std::ranges::equal(Fuzz::read(name + ".damaged"), bytes, {}, byte));
+            require(QFile::remove(Fuzz::path(name + ".damaged")));
+        }
+    }
 
-void checkConfiguration(const QString& path, Fuzz::Bytes bytes)
+    Fuzz::Bytes bytes;
+    QDomDocument xml;
+    bool isReadable = false;
+};
+
+void checkConfiguration(const Document& document)
 {
     Property& property = *Property::instance();
     property.clear();
-    const QString config = Fuzz::write("config.xml", bytes);
-    property.setConfigFile(config.toStdString());
+    property.setConfigFile(Fuzz::write("config.xml", document.bytes).toStdString());
     property.readXmlFile();
-    if (!isReadable(path)) {
-        checkKeptAside("config.xml", bytes);
-    }
+    document.checkKeptAside("config.xml");
     std::map<std::string, std::string> settings;
-    for (const QString& key : attributesOf(path, "Property", "id")) {
+    for (const QString& key : document.attributes("Property", "id")) {
         const std::string id = key.toStdString();
         const std::string value = property.getString(id, Absent);
         property.getInt(id, 0);
@@ -72,80 +73,54 @@ void checkConfiguration(const QString& path, Fuzz::Bytes bytes)
     property.clear();
     property.readXmlFile(copy);
     for (const auto& [id, value] : settings) {
-        Fuzz::require(property.getString(id, Absent) == value, "a setting is kept");
+        require(property.getString(id, Absent) == value);
     }
 }
 
-/// A profile whose parameters have the names that the project mentions, and one more.
-void useParameters(const std::vector<QString>& names)
+/// A profile that has a parameter of every other one of these names.
+std::shared_ptr<const Profile> profileWith(const std::vector<QString>& names)
 {
-    ProfileInfo& info = Profile::instance()->data();
-    info.clear();
-    ProfileDevice& device = info.devices[1];
-    ProfileParameter parameter;
-    parameter.uid = 0;
-    parameter.name = "Oil pressure";
-    device.parameters[parameter.uid] = parameter;
-    for (const QString& name : names) {
-        parameter.name = name;
-        device.parameters[++parameter.uid] = parameter;
+    QString xml = "<CanAerospaceProfile><Device>";
+    for (std::size_t k = 0; k < names.size(); k += 2) {
+        xml += "<Parameter name=\"" + names[k].toHtmlEscaped() + "\"/>";
     }
+    const QByteArray text = (xml + "</Device></CanAerospaceProfile>").toUtf8();
+    return Profile::load(Fuzz::write("profile.xml", Fuzz::bytesOf(text)));
 }
 
-std::vector<bool> marks()
+void checkProject(const Document& document)
 {
-    std::vector<bool> selected;
-    Profile::instance()->forEachParameter(
-        [&](const ProfileDevice&, const ProfileParameter& parameter) {
-            selected.push_back(parameter.selected);
-        });
-    return selected;
-}
-
-void checkProject(const QString& path)
-{
-    useParameters(attributesOf(path, "Parameter", "name"));
-    Project& project = *Project::instance();
-    project.clear();
-    const bool isRead = project.readProject(path.toStdString());
-    const std::vector<bool> selected = marks();
-    Fuzz::require(isRead || selected == std::vector<bool>(selected.size()),
-                  "a project that can't be read marks nothing");
+    const auto profile = profileWith(document.attributes("Parameter", "name"));
     const std::string copy = Fuzz::path("project.xml").toStdString();
-    Fuzz::require(project.saveProject(copy), "a project is written");
-    Fuzz::require(Project::mayReplace(copy), "a project may be replaced by another");
-    project.clear();
-    Fuzz::require(project.readProject(copy) && marks() == selected, "a project is kept");
+    Project project;
+    const bool isRead = project.readProject(Fuzz::path("input.xml").toStdString());
+    const Selection selection = project.selection(*profile);
+    const auto unknown = project.unknownNames(*profile);
+    require(isRead == document.isReadable && (isRead || (selection.empty() && unknown.empty())));
+    require(project.saveProject(copy, *profile, selection) && Project::mayReplace(copy));
+    Project again;
+    require(again.readProject(copy) && again.selection(*profile) == selection);
+    require(again.unknownNames(*profile) == unknown);
 }
 
-void checkOffset(Fuzz::Bytes bytes)
+void checkOffset(const Document& document)
 {
-    Fuzz::write("Offset.xml", bytes);
-    const std::uint8_t header[128] = {};
-    const QString recording = Fuzz::write("REC_0000.CAN", header);
-    Record record;
-    Fuzz::require(record.readRecordData({recording}), "a recording without samples is read");
-    const double offset = record.recordData().offset;
-    Fuzz::require(std::isfinite(offset), "an offset is a number");
-    const bool isDamaged = !isReadable(Fuzz::path("Offset.xml"));
-    Fuzz::require(record.integrity().damagedOffset.isEmpty() != isDamaged, "damage is told");
-    Fuzz::require(record.saveOffset(), "an offset is written");
-    if (isDamaged) {
-        checkKeptAside("Offset.xml", bytes);
-    }
-    Record again;
-    Fuzz::require(again.readRecordData({recording}), "a recording without samples is read");
-    // Kept with twelve decimals.
-    Fuzz::require(std::fabs(again.recordData().offset - offset) <= 5.1e-13, "an offset is kept");
+    Fuzz::write("Offset.xml", document.bytes);
+    const OffsetFile file(Fuzz::path("."));
+    const double offset = file.load(7.0);
+    require(document.isReadable ? std::isfinite(offset) : offset == 7.0);
+    require(file.isDamaged() != document.isReadable && file.save(offset));
+    document.checkKeptAside("Offset.xml");
+    require(std::fabs(file.load(7.0) - offset) <= 5.1e-13); // kept with twelve decimals
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    const QString path = Fuzz::write("input.xml", {data, size});
-    checkConfiguration(path, {data, size});
-    checkProject(path);
-    checkOffset({data, size});
+    const Document document({data, size});
+    checkConfiguration(document);
+    checkProject(document);
+    checkOffset(document);
     return 0;
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
@@ -10,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 /// ends the process.
 int main(int argc, char** argv)
 {
-    const QDir folder(argc == 2 ? QString(argv[1]) : QString());
+    const QDir folder(argc == 2 ? QString(argv[1]) : "(none)");
     const QStringList names = folder.entryList(QDir::Files, QDir::Name);
     for (const QString& name : names) {
         std::printf("%s\n", qUtf8Printable(name));
@@ -21,14 +22,10 @@ int main(int argc, char** argv)
         }
         const QByteArray content = file.readAll();
         // A copy without room behind it, so that a sanitizer sees a read beyond the end.
-        std::uint8_t* bytes = new std::uint8_t[static_cast<std::size_t>(content.size())];
-        std::copy(content.begin(), content.end(), bytes);
-        LLVMFuzzerTestOneInput(bytes, static_cast<std::size_t>(content.size()));
-        delete[] bytes;
+        const auto size = static_cast<std::size_t>(content.size());
+        const auto bytes = std::make_unique<std::uint8_t[]>(size);
+        std::copy(content.begin(), content.end(), bytes.get());
+        LLVMFuzzerTestOneInput(bytes.get(), size);
     }
-    if (argc != 2 || names.isEmpty()) {
-        std::fprintf(stderr, "usage: %s folder-with-inputs\n", argv[0]);
-        return 1;
-    }
-    return 0;
+    return names.isEmpty() ? 1 : 0;
 }

@@ -1,323 +1,368 @@
+#include "app/ActivityBar.h"
+#include "app/DialogSplash.h"
+#include "app/DialogStatusBar.h"
 #include "base/Property.h"
-#include "gui/Viewer.h"
-#include "profile/Profile.h"
-#include "record/Record.h"
-
-#include <QtCore/QFile>
-#include <QtCore/QMimeData>
-#include <QtCore/QTimer>
-#include <QtGui/QAccessible>
-#include <QtGui/QDragEnterEvent>
-#include <QtTest/QTest>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QFileDialog>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QScrollBar>
-#include <QtWidgets/QSplitter>
-#include <QtWidgets/QTabWidget>
-#include <QtWidgets/QTextBrowser>
+#include "card/DialogCard.h"
+#include "gui/WindowTest.h"
 
 using namespace TARN;
 
-/// What surrounds the views: preferences, help, dropped files, the window's memory.
-class Application : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void cleanup() { Profile::instance()->clear(); }
-    void anotherProfileKeepsSelectionAndTime();
-    void languageIsForTheNextStart();
-    void manualIsSearched();
-    void opensWhatIsDropped_data();
-    void opensWhatIsDropped();
-    void keyOpensACardFromTheStart();
-    void profileOpenedAsProjectIsNotReplaced();
-    void windowComesBackAsItWas();
-    void everyControlSaysWhatItIs();
-};
-
 namespace {
-
-template <typename T>
-T* child(QWidget* parent, const char* name)
-{
-    T* found = parent->findChild<T*>(name);
-    [&] { QVERIFY2(found != nullptr, name); }();
-    return found;
-}
-
-/// Drags paths onto the window and lets them fall when it would take them.
-bool drop(QWidget* window, const QStringList& paths)
-{
-    QMimeData data;
-    QList<QUrl> urls;
-    for (const QString& path : paths) {
-        urls.append(QUrl::fromLocalFile(path));
-    }
-    data.setUrls(urls);
-    QDragEnterEvent enter({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
-    enter.ignore();
-    QApplication::sendEvent(window, &enter);
-    if (!enter.isAccepted()) {
-        return false;
-    }
-    QDropEvent fall({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(window, &fall);
-    return true;
-}
-
-/// Dismisses the file chooser that opens next.
-struct FileChooser
-{
-    FileChooser()
-    {
-        QTimer::singleShot(200, qApp, [this] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            came = dialog != nullptr;
-            if (came) {
-                dialog->reject();
-            }
-        });
-    }
-
-    bool came = false;
-};
 
 QString setting(const char* key)
 {
     return QString::fromStdString(Property::instance()->getString(key, ""));
 }
 
+QByteArray project(const QStringList& names)
+{
+    QString text = "<TarnProject>\n    <Parameters>\n";
+    for (const QString& name : names) {
+        text += "        <Parameter name=\"" + name + "\"/>\n";
+    }
+    return (text + "    </Parameters>\n</TarnProject>\n").toUtf8();
+}
+
 } // namespace
 
-void Application::anotherProfileKeepsSelectionAndTime()
+/// What surrounds the views: project, preferences, help, dropped files, the window itself.
+class TestApplication : public WindowTest
 {
-    Viewer viewer(30); // long enough for the story to exceed limits
-    viewer.start();
-    viewer.loadRecordings({0, 1});
-    viewer.slider()->setValue(viewer.slider()->maximum() / 3);
-    viewer.clickCheckBox(viewer.parameter("CHT 1 [°C]"));
-    viewer.confirmSelection();
-    const int row = viewer.selectedRow();
-    const QString cell = viewer.cell(row, 2);
-    const auto limits = viewer.window().record().recordData().limits.size();
-    QVERIFY(row > 0);
-    QVERIFY(limits > 0);
+    Q_OBJECT
 
-    viewer.action("Preferences")->trigger();
-    auto* path = child<QLineEdit>(&viewer.window(), "profilePath");
-    const QString profile = path->text();
-    QTest::keyClick(path, Qt::Key_End);
-    QTest::keyClicks(path, "x"); // there is no such file
-    QCOMPARE(setting("Profile"), profile + "x");
-    QCOMPARE(viewer.parameters()->topLevelItemCount(), 0);
-    QCOMPARE(viewer.table()->model()->columnCount(), 1);
-    QCOMPARE(viewer.window().record().recordData().limits.size(), 0U);
-    QFile project(viewer.projectPath());
-    const qint64 size = project.size();
-    viewer.answerBox("OK");
-    viewer.action("&Save Project")->trigger(); // would save a project without parameters
-    QVERIFY(viewer.boxWasShown());
-    QCOMPARE(project.size(), size);
-    path->window()->activateWindow();
-    QTest::keyClick(path, Qt::Key_Backspace);
-    QCOMPARE(viewer.parameter("CHT 1 [°C]")->checkState(0), Qt::Checked);
-    QCOMPARE(viewer.parameter("CHT 2 [°C]")->checkState(0), Qt::Unchecked);
-    QCOMPARE(viewer.selectedRow(), row);
-    QCOMPARE(viewer.cell(row, 2), cell);
-    QCOMPARE(viewer.window().record().recordData().limits.size(), limits);
-    QFile settings(viewer.settingsPath());
-    QVERIFY(settings.open(QIODevice::ReadOnly));
-    QVERIFY(settings.readAll().contains(profile.toUtf8() + "\""));
-}
-
-void Application::languageIsForTheNextStart()
-{
-    Viewer viewer;
-    viewer.start();
-    viewer.action("Preferences")->trigger();
-    auto* language = child<QComboBox>(&viewer.window(), "language");
-    QCOMPARE(language->count(), 6);
-    QCOMPARE(language->currentText(), "english");
-    viewer.answerBox("Ok");
-    QTest::keyClick(language, Qt::Key_Up);
-    QVERIFY(viewer.boxWasShown());
-    QCOMPARE(setting("Locale"), "fr");
-    QCOMPARE(viewer.action("Help")->text(), "Help");
-    Property::instance()->setString("Locale", "it"); // one that is not offered
-    language->window()->hide();
-    viewer.action("Preferences")->trigger();
-    QCOMPARE(language->currentIndex(), -1);
-}
-
-void Application::manualIsSearched()
-{
-    Viewer viewer;
-    viewer.start();
-    QTest::keyClick(&viewer.window(), Qt::Key_F1);
-    auto* text = child<QTextBrowser>(&viewer.window(), "manual");
-    auto* sections = child<QListWidget>(&viewer.window(), "sections");
-    auto* search = child<QLineEdit>(&viewer.window(), "search");
-    QVERIFY(text->isVisible());
-    const auto shown = [&] {
-        int count = 0;
-        for (int row = 0; row < sections->count(); ++row) {
-            count += sections->item(row)->isHidden() ? 0 : 1;
+private Q_SLOTS:
+    void editedMeansThatSavingChangesTheFile()
+    {
+        write("Flight.test.xml", project({"Old Thing", "RPM"}));
+        start();
+        auto* button = find<QPushButton>("confirmSelection");
+        const auto blinks = [&] {
+            const auto isRed = [&] { return button->palette().buttonText() == QColor(255, 0, 0); };
+            return QTest::qWaitFor(isRed, 600);
+        };
+        const QTreeWidgetItem* unknown = parameter("Old Thing");
+        QVERIFY(unknown != nullptr && unknown->flags() == Qt::NoItemFlags);
+        const QString tick = "EGT 6 [°C]";
+        const struct
+        {
+            QString clicked; ///< nothing: confirmed
+            bool isEdited;
+            bool isConfirmed;
+            int columns;
+        } steps[] = {{"", false, true, 2},
+                     {tick, true, false, 2},
+                     {tick, false, true, 2},
+                     {tick, true, false, 2},
+                     {"", true, true, 3}};
+        for (const auto& [clicked, isEdited, isConfirmed, columns] : steps) {
+            if (clicked.isEmpty()) {
+                confirm();
+            } else {
+                clickCheckBox(clicked);
+            }
+            QCOMPARE(title(), isEdited ? "ORNA Flight[edited]" : "ORNA Flight");
+            QCOMPARE(action(ActionType::SaveProject)->isEnabled(), isEdited);
+            QCOMPARE(blinks(), !isConfirmed);
+            QCOMPARE(table()->model()->columnCount(), columns);
         }
-        return count;
-    };
-    const int all = shown();
-    QVERIFY(all > 10);
-    QTest::keyClicks(search, "offset");
-    QVERIFY(shown() > 0);
-    QVERIFY(shown() < all);
-    QCOMPARE(text->textCursor().selectedText().toLower(), "offset");
-    const int first = text->textCursor().position();
-    QTest::keyClick(search, Qt::Key_Return);
-    QVERIFY(text->textCursor().position() > first);
-    QVERIFY(text->isVisible());
-    QTest::keyClicks(search, "zzz");
-    QCOMPARE(shown(), 0);
-    search->clear();
-    QCOMPARE(shown(), all);
-    sections->setCurrentRow(all - 1);
-    const QRect heading = text->cursorRect();
-    QVERIFY(text->viewport()->rect().contains(heading.center()));
-}
-
-void Application::opensWhatIsDropped_data()
-{
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<bool>("taken");
-    QTest::addColumn<int>("loaded"); // recordings; -1 where the card is not opened
-    QTest::addRow("card folder") << QStringList("") << true << 0;
-    QTest::addRow("recording") << QStringList("LOG_0002.CAN") << true << 1;
-    QTest::addRow("recordings") << QStringList{"LOG_0002.CAN", "LOG_0001.CAN"} << true << 2;
-    QTest::addRow("project") << QStringList("Two.xml") << true << -1;
-    QTest::addRow("profile") << QStringList("Profile.xml") << true << -1;
-    QTest::addRow("other XML") << QStringList("Offset.xml") << true << -1;
-    QTest::addRow("anything else") << QStringList("readme.txt") << false << -1;
-}
-
-void Application::opensWhatIsDropped()
-{
-    QFETCH(const QStringList, files);
-    QFETCH(const bool, taken);
-    QFETCH(const int, loaded);
-    Viewer viewer;
-    const QString card = viewer.cardPath().section('/', 0, -2) + "/other";
-    QVERIFY(QFile::rename(viewer.cardPath(), card));
-    QVERIFY(QFile::copy(ORNA_RESOURCES "/Tolvane_Profile.xml", card + "/Profile.xml"));
-    QVERIFY(QFile::copy(viewer.projectPath(), card + "/Two.xml"));
-    QVERIFY(QFile::copy(viewer.projectPath(), card + "/readme.txt"));
-    QFile offset(card + "/Offset.xml");
-    QVERIFY(offset.open(QIODevice::WriteOnly) && offset.write("<TarnOffset/>") > 0);
-    offset.close();
-    viewer.writeSettings("", "no profile", "");
-    viewer.start();
-    QStringList paths;
-    for (const QString& file : files) {
-        paths.append(file.isEmpty() ? card : card + "/" + file);
+        run(ActionType::SaveProject);
+        QCOMPARE(title(), "ORNA Flight");
+        QCOMPARE(read("Flight.test.xml"), project({"RPM", "EGT 6", "Old Thing"}));
+        start();
+        QCOMPARE(table()->model()->columnCount(), 3);
+        run(ActionType::NewProject);
+        QCOMPARE(title(), "ORNA ");
+        QCOMPARE(table()->model()->columnCount(), 1);
+        QCOMPARE(answers().said, QStringList());
     }
-    QCOMPARE(drop(&viewer.window(), paths), taken);
-    QTest::qWait(700);
-    QCOMPARE(viewer.recordings()->topLevelItemCount(), loaded < 0 ? 0 : 2);
-    QCOMPARE(setting("LastPath"), loaded < 0 ? QString() : card);
-    QCOMPARE(viewer.window().record().integrity().files.size(),
-             static_cast<std::size_t>(std::max(0, loaded)));
-    QCOMPARE(setting("LastProjectPath") == paths.first(), files.contains("Two.xml"));
-    QCOMPARE(viewer.parameters()->topLevelItemCount() > 0, files.contains("Profile.xml"));
-}
 
-void Application::keyOpensACardFromTheStart()
-{
-    Viewer viewer;
-    viewer.start();
-    const FileChooser chooser;
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
-    QTest::qWait(400);
-    QVERIFY(chooser.came);
-}
-
-void Application::profileOpenedAsProjectIsNotReplaced()
-{
-    Viewer viewer;
-    const QString profile = viewer.cardPath() + "/Profile.xml";
-    QVERIFY(QFile::copy(ORNA_RESOURCES "/Tolvane_Profile.xml", profile));
-    viewer.writeSettings(viewer.cardPath(), profile, profile);
-    viewer.start();
-    viewer.clickCheckBox(viewer.parameter("CHT 1 [°C]"));
-    const FileChooser chooser;
-    viewer.action("&Save Project")->trigger();
-    QVERIFY(chooser.came);
-    QFile file(profile);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QVERIFY(file.readAll().contains("<CanAerospaceProfile"));
-}
-
-void Application::windowComesBackAsItWas()
-{
-    Viewer viewer;
-    viewer.start();
-    QCOMPARE(viewer.window().size(), QSize(1000, 800));
-    auto* splitter = viewer.window().findChild<QSplitter*>();
-    viewer.window().resize(900, 700);
-    QTest::qWait(50);
-    splitter->setSizes({400, 500});
-    const QList<int> sizes = splitter->sizes();
-    child<QTabWidget>(&viewer.window(), "views")->setCurrentIndex(3);
-    viewer.window().close();
-    QVERIFY(viewer.hasClosed());
-
-    viewer.start();
-    QCOMPARE(viewer.window().size(), QSize(900, 700));
-    QCOMPARE(viewer.window().findChild<QSplitter*>()->sizes(), sizes);
-    auto* views = child<QTabWidget>(&viewer.window(), "views");
-    QCOMPARE(views->currentIndex(), 3);
-    viewer.window().close();
-
-    // A view that the profile does not fill is not shown, so another one is.
-    QFile profile(viewer.cardPath() + "/Plain.xml");
-    QVERIFY(profile.open(QIODevice::WriteOnly));
-    profile.write("<CanAerospaceProfile/>");
-    profile.close();
-    Property::instance()->setString("Profile", profile.fileName().toStdString());
-    Property::instance()->writeXmlFile();
-    viewer.start();
-    views = child<QTabWidget>(&viewer.window(), "views");
-    QVERIFY(views->isTabVisible(views->currentIndex()));
-}
-
-/// Someone who cannot see the screen hears a name for everything that takes the keyboard.
-void Application::everyControlSaysWhatItIs()
-{
-    Viewer viewer;
-    viewer.start();
-    viewer.loadRecordings({0});
-    for (const char* command : {"Preferences", "About", "Help"}) {
-        viewer.action(command)->trigger();
-    }
-    QStringList nameless;
-    for (QWidget* widget : viewer.window().findChildren<QWidget*>()) {
-        const bool isPart = widget->objectName().startsWith("qt_") ||
-                            qobject_cast<QScrollBar*>(widget) != nullptr ||
-                            widget->focusPolicy() == Qt::NoFocus || widget->focusProxy() != nullptr;
-        if (isPart || qobject_cast<QDialog*>(widget) != nullptr) {
-            continue;
-        }
-        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
-        if (face == nullptr || face->text(QAccessible::Name).isEmpty()) {
-            nameless.append(QString("%1 %2 in %3")
-                                .arg(widget->metaObject()->className(), widget->objectName(),
-                                     widget->parentWidget()->metaObject()->className()));
+    void asksBeforeLosingTheProject()
+    {
+        for (const QString answer : {"Cancel", "No", "Yes"}) {
+            start();
+            clickCheckBox("CHT 1 [°C]");
+            const QByteArray before = read("Flight.test.xml");
+            answers().buttons = QStringList(answer);
+            run(ActionType::Quit);
+            QCOMPARE(answers().said.takeLast(),
+                     "TARN Warning|Current Project not saved !\nSave it now ?|");
+            QCOMPARE(hasClosed(), answer != "Cancel");
+            QCOMPARE(read("Flight.test.xml"),
+                     answer == "Yes" ? project({"RPM", "CHT 1", "CHT 3"}) : before);
         }
     }
-    QCOMPARE(nameless.join("\n"), QString());
-}
 
-QTEST_MAIN(Application)
+    void projectFilesAreGuarded()
+    {
+        Answers& answers = this->answers();
+        const QString profile = path("Profile.xml");
+        write(profile, read(profilePath()));
+        start();
+        // Another XML file is no project: the selection stays.
+        answers.files = QStringList(profile);
+        run(ActionType::OpenProject);
+        QVERIFY(answers.said.last().contains("Profile.xml\" is no project"));
+        QCOMPARE(title(), "ORNA Flight");
+        QCOMPARE(table()->model()->columnCount(), 3);
+        // What cannot be written does not get the project's name.
+        clickCheckBox("CHT 1 [°C]");
+        answers.files = QStringList(path("nowhere/Other.xml"));
+        run(ActionType::SaveProjectAs);
+        QVERIFY(answers.said.last().contains("could not be written to"));
+        QCOMPARE(title(), "ORNA Flight[edited]");
+        QCOMPARE(setting("LastProjectPath"), projectPath());
+        // A file that has become something else is not replaced; another name is asked for.
+        write("Flight.test.xml", "<CanAerospaceProfile/>");
+        answers.files = QStringList(path("Third"));
+        run(ActionType::SaveProject);
+        QVERIFY(answers.said.join(' ').contains("Flight.test.xml\" is no project and is not"));
+        QCOMPARE(read("Flight.test.xml"), "<CanAerospaceProfile/>");
+        QCOMPARE(read("Third.xml"), project({"RPM", "CHT 1", "CHT 3"}));
+        QCOMPARE(title(), "ORNA Third");
+        // The ending that is added to a name does not lead to an unasked replacement.
+        answers.files = QStringList(path("Third"));
+        clickCheckBox("CHT 2 [°C]");
+        run(ActionType::SaveProjectAs);
+        QVERIFY(answers.said.last().contains("\"Third.xml\" exists in this folder. Replace it?"));
+        QCOMPARE(title(), "ORNA Third[edited]");
+    }
+
+    void anotherProfileKeepsSelectionAndTime()
+    {
+        makeHome(30); // long enough for the story to exceed limits
+        start();
+        open({0, 1});
+        slider()->setValue(3333);
+        clickCheckBox("CHT 1 [°C]");
+        confirm();
+        const auto shown = [&] {
+            const int row = rowOf(table());
+            return QString("%1 %2 %3 %4 %5")
+                .arg(row)
+                .arg(events(Limits)->model()->rowCount())
+                .arg(parameter("CHT 1 [°C]")->checkState(0))
+                .arg(cell(table(), row, 1), title());
+        };
+        const QString before = shown();
+        run(ActionType::Preferences);
+        auto* path = find<QLineEdit>("profilePath");
+        QTest::keyClick(path, Qt::Key_End);
+        QTest::keyClicks(path, "x"); // there is no such file
+        settle();
+        QCOMPARE(setting("Profile"), profilePath() + "x");
+        QVERIFY(said().contains(profilePath() + "x\" could not be loaded"));
+        QCOMPARE(emptyTexts().filter("No profile is loaded").size(), 4);
+        QVERIFY(!views()->isTabVisible(Lamps));
+        QVERIFY(!views()->isTabVisible(Matrices));
+        QCOMPARE(parameters()->topLevelItemCount(), 0);
+        run(ActionType::SaveProjectAs); // would save a project without parameters
+        QVERIFY(answers().said.value(0).contains("no profile is loaded"));
+        QTest::keyClick(path, Qt::Key_Backspace);
+        settle();
+        QCOMPARE(shown(), before);
+
+        auto* language = find<QComboBox>("language");
+        QCOMPARE(language->currentText(), "english");
+        QTest::keyClick(language, Qt::Key_Up);
+        QVERIFY(answers().said.last().contains("Please restart TARN"));
+        QCOMPARE(setting("Locale"), "fr");
+        Property::instance()->setString("Locale", "it"); // one that is not offered
+        language->window()->hide();
+        run(ActionType::Preferences);
+        QCOMPARE(language->currentIndex(), -1);
+    }
+
+    void manualIsSearched()
+    {
+        start();
+        QTest::keyClick(&window(), Qt::Key_F1);
+        auto* text = find<QTextBrowser>("manual");
+        auto* sections = find<QListWidget>("sections");
+        auto* search = find<QLineEdit>("search");
+        const auto shown = [&](const QString& searched) {
+            type(search, searched);
+            int count = 0;
+            for (int row = 0; row < sections->count(); ++row) {
+                count += sections->item(row)->isHidden() ? 0 : 1;
+            }
+            return count;
+        };
+        const int found = shown("offset");
+        QVERIFY(text->isVisible() && found > 0 && found < sections->count());
+        QCOMPARE(text->textCursor().selectedText().toLower(), "offset");
+        const int first = text->textCursor().position();
+        QTest::keyClick(search, Qt::Key_Return);
+        QVERIFY(text->isVisible() && text->textCursor().position() > first);
+        QCOMPARE(shown("offsetzzz"), 0);
+        search->clear();
+        QCOMPARE(shown(""), sections->count());
+        sections->setCurrentRow(sections->count() - 1);
+        QVERIFY(text->viewport()->rect().contains(text->cursorRect().center()));
+    }
+
+    void opensWhatIsDropped_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<int>("loaded"); // recordings; -1 where the card is not opened
+        QTest::addColumn<QString>("said");
+        QTest::addRow("card folder") << QStringList("") << 0 << "Recordings found: 2";
+        QTest::addRow("recordings") << QStringList{"LOG_0002.CAN", "LOG_0001.CAN"} << 2 << "Sam";
+        QTest::addRow("project") << QStringList("Two.xml") << -1 << "";
+        QTest::addRow("profile") << QStringList("Profile.xml") << -1 << "";
+        QTest::addRow("other XML") << QStringList("Other.xml") << -1 << "neither a project nor";
+        QTest::addRow("anything else") << QStringList("readme.txt") << -1 << "";
+    }
+
+    void opensWhatIsDropped()
+    {
+        QFETCH(const QStringList, files);
+        QFETCH(const int, loaded);
+        QFETCH(const QString, said);
+        const QString card = path("other");
+        QVERIFY(QFile::rename(cardPath(), card));
+        write(card + "/Profile.xml", read(profilePath()));
+        write(card + "/Two.xml", read("Flight.test.xml"));
+        write(card + "/readme.txt", read("Flight.test.xml"));
+        write(card + "/Other.xml", "<TarnOffset/>");
+        writeSettings("", "no profile", "");
+        start();
+        QStringList paths;
+        for (const QString& file : files) {
+            paths.append(file.isEmpty() ? card : card + "/" + file);
+        }
+        QCOMPARE(drop(paths), !files.contains("readme.txt"));
+        QTest::qWait(600); // recordings are picked as by clicks
+        settle();
+        QVERIFY2(this->said().contains(said), qPrintable(this->said()));
+        QCOMPARE(recordings()->topLevelItemCount(), loaded < 0 ? 0 : 2);
+        QCOMPARE(setting("LastPath"), loaded < 0 ? QString() : card);
+        const auto& flight = session().flight();
+        QCOMPARE(flight != nullptr ? int(flight->record()->integrity().files.size()) : 0,
+                 std::max(0, loaded));
+        QCOMPARE(setting("LastProjectPath") == paths.first(), files.contains("Two.xml"));
+        QCOMPARE(session().profile()->isLoaded(), files.contains("Profile.xml"));
+    }
+
+    void windowComesBackAsItWas()
+    {
+        const QSize free = QGuiApplication::primaryScreen()->availableSize();
+        start();
+        QCOMPARE(window().size(), QSize(1000, 800).boundedTo(free));
+        QCOMPARE(window().minimumSizeHint().boundedTo({1000, 700}), window().minimumSizeHint());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+        QCOMPARE(answers().said, QStringList("Open SD Card|"));
+        window().resize(900, 700);
+        QTest::qWait(50);
+        auto* splitter = window().findChild<QSplitter*>();
+        splitter->setSizes({400, 500});
+        const QList<int> sizes = splitter->sizes();
+        views()->setCurrentIndex(Lamps);
+        window().close();
+
+        start();
+        QCOMPARE(window().size(), QSize(900, 700));
+        QCOMPARE(window().findChild<QSplitter*>()->sizes(), sizes);
+        QCOMPARE(views()->currentIndex(), int(Lamps));
+        window().resize(free * 2); // as on another screen
+        window().close();
+
+        // A view that the profile does not fill is not shown, so another one is.
+        Property::instance()->setString("Profile", write("p.xml", "<Other/>").toStdString());
+        Property::instance()->writeXmlFile();
+        start();
+        QVERIFY(views()->isTabVisible(views()->currentIndex()));
+        QCOMPARE(window().frameSize().boundedTo(free), window().frameSize());
+    }
+
+    /// Someone who cannot see the screen hears a name for everything that takes the keyboard.
+    void everyControlSaysWhatItIs()
+    {
+        start();
+        open({0});
+        for (const auto command : {ActionType::Preferences, ActionType::About, ActionType::Help}) {
+            run(command);
+        }
+        QStringList nameless;
+        for (QWidget* widget : window().findChildren<QWidget*>()) {
+            const bool isControl = widget->focusPolicy() != Qt::NoFocus &&
+                                   widget->focusProxy() == nullptr &&
+                                   !widget->objectName().startsWith("qt_") &&
+                                   qobject_cast<QScrollBar*>(widget) == nullptr &&
+                                   qobject_cast<QDialog*>(widget) == nullptr;
+            QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+            if (isControl && (face == nullptr || face->text(QAccessible::Name).isEmpty())) {
+                nameless << widget->metaObject()->className() << widget->objectName();
+            }
+        }
+        QCOMPARE(nameless.join(' '), QString());
+    }
+
+    void statusTextsNeverWidenTheWindow()
+    {
+        DialogStatusBar bar;
+        bar.resize(900, 30);
+        bar.show();
+        const int width = bar.minimumSizeHint().width();
+        auto* message = bar.findChild<QLabel*>("message");
+        bar.say("Short.");
+        settle();
+        QVERIFY(message->text() == "Short." && message->toolTip().isEmpty());
+        const QString path = "/" + QString("folder/").repeated(40) + "file.csv";
+        bar.say(path);
+        QVERIFY(message->text().startsWith("/fol") && message->text().endsWith("file.csv"));
+        QCOMPARE(message->toolTip(), path);
+        bar.exporting().begin(path);
+        settle();
+        QCOMPARE(bar.exporting().findChild<QLabel*>()->toolTip(), path);
+        QVERIFY(bar.minimumSizeHint().width() < width + 600);
+        bar.exporting().finish();
+        QVERIFY(bar.exporting().isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!bar.exporting().isVisible(), 3000);
+    }
+
+    void splashGivesWay()
+    {
+        DialogSplash* splash = DialogSplash::instance();
+        for (int i = 0; i < 20; ++i) {
+            splash->addEntry(QString::number(i));
+        }
+        QCOMPARE(splash->entries().size(), 15);
+        QCOMPARE(splash->entries().first(), "5");
+        QVERIFY(splash->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+        splash->show();
+        QTest::mouseClick(splash, Qt::LeftButton);
+        QVERIFY(!splash->isVisible());
+        splash->show();
+        Answers answers;
+        QMessageBox::warning(nullptr, "A", "question");
+        QVERIFY(!splash->isVisible());
+    }
+
+    void cardAnnouncesABurstOnce()
+    {
+        CardInfo card;
+        card.path = "/media/card/";
+        for (const char* name : {"/x/a.CAN", "/x/b.CAN", "/x/c.CAN"}) {
+            card.records[name].startTime = 90061.0; // past midnight
+        }
+        DialogCard dialog;
+        dialog.setCardInfo(card);
+        QCOMPARE(dialog.findChild<QLineEdit*>()->text(), "card");
+        auto* tree = dialog.findChild<QTreeWidget*>();
+        QVERIFY(tree->topLevelItem(0)->toolTip(0).startsWith("Start Time: 01:01:01\n"));
+        QSignalSpy spy(&dialog, &DialogCard::signalLoadRecord);
+        for (const int row : {2, 0, 1}) {
+            tree->topLevelItem(row)->setSelected(true);
+            QTest::qWait(100);
+        }
+        QVERIFY(spy.isEmpty() && spy.wait(2000));
+        QCOMPARE(spy[0][0].value<std::list<QString>>(), // in the order of the list
+                 (std::list<QString>{"/x/a.CAN", "/x/b.CAN", "/x/c.CAN"}));
+        tree->clearSelection();
+        dialog.setCardInfo({}); // what was picked is not listed any more
+        QVERIFY(!spy.wait(700) && spy.size() == 1);
+    }
+};
+
+QTEST_MAIN(TestApplication)
 #include "tst_application.moc"

@@ -1,26 +1,10 @@
-#include "gui/Monkey.h"
-#include "profile/Profile.h"
-#include "record/Record.h"
+#include "app/ActivityBar.h"
+#include "graph/WidgetGraph.h"
+#include "gui/WindowTest.h"
 
-#include <QtCore/QFile>
-#include <QtTest/QTest>
-#include <QtWidgets/QStatusBar>
-
-#include <algorithm>
 #include <unistd.h>
-#include <vector>
 
 using namespace TARN;
-
-/// Long use of the whole window without a plan. ORNA_SOAK_ACTIONS and ORNA_SOAK_SEED make it
-/// longer and different.
-class Soak : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void staysSoundAndSmall();
-};
 
 namespace {
 
@@ -35,63 +19,230 @@ int setting(const char* name, int def)
 double heldMemory()
 {
     QFile file("/proc/self/statm");
-    if (!file.open(QIODevice::ReadOnly)) {
-        return 0.0;
-    }
-    const double pages = file.readAll().split(' ').value(1).toDouble();
-    return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1024.0 * 1024.0);
-}
-
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(path));
-    file.write(bytes);
-}
-
-/// A card as a crash leaves it: beside the good files a torn one, an empty one and noise.
-void spoilCard(const Viewer& viewer)
-{
-    QFile whole(viewer.cardPath() + "/LOG_0002.CAN");
-    QVERIFY(whole.open(QIODevice::ReadOnly));
-    const QByteArray bytes = whole.readAll();
-    write(viewer.cardPath() + "/TORN_8001.CAN", bytes.left(bytes.size() / 3 + 11));
-    write(viewer.cardPath() + "/EMPTY.can", {});
-    QByteArray noise = bytes.left(200000);
-    for (qsizetype i = 0; i < noise.size(); i += 7) {
-        noise[i] = static_cast<char>(i * 31);
-    }
-    write(viewer.cardPath() + "/NOISE.CAN", noise);
+    const QByteArray pages = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return pages.split(' ').value(1).toDouble() * double(sysconf(_SC_PAGESIZE)) / (1 << 20);
 }
 
 } // namespace
 
-void Soak::staysSoundAndSmall()
+/// Long use of the whole window without a plan. ORNA_SOAK_ACTIONS and ORNA_SOAK_SEED make it
+/// longer and different.
+class TestSoak : public WindowTest
 {
-    const int actions = setting("ORNA_SOAK_ACTIONS", 120);
-    const auto seed = static_cast<unsigned>(setting("ORNA_SOAK_SEED", 1));
-    constexpr double MostGrowth = 96.0; // MiB; one recording and its curves come and go
-    Viewer viewer;
-    spoilCard(viewer);
-    viewer.start();
-    Monkey monkey(viewer, seed);
-    std::vector<double> held;
-    for (int i = 0; i < actions; ++i) {
-        const QByteArray deed = monkey.act();
-        const QByteArray where = QByteArray::number(i) + ": " + deed;
-        QVERIFY2(viewer.window().isVisible(), where);
-        QVERIFY2(viewer.window().windowTitle().startsWith("ORNA "), where);
-        const bool hasSamples = !viewer.window().record().recordData().empty();
-        QVERIFY2(viewer.action("Export CSV/CAN File")->isEnabled() == hasSamples, where);
-        const bool hasColumns = viewer.table()->model()->columnCount() > 1;
-        QVERIFY2(hasColumns || viewer.table()->model()->rowCount() == 0, where);
-        if (i % std::max(1, actions / 6) == actions / 6 - 1) {
-            held.push_back(heldMemory());
-            qInfo("%d actions, memory %.0f MiB", i + 1, held.back());
+    Q_OBJECT
+
+private Q_SLOTS:
+    void staysSoundAndSmall()
+    {
+        const int actions = setting("ORNA_SOAK_ACTIONS", 120);
+        const auto seed = static_cast<unsigned>(setting("ORNA_SOAK_SEED", 1));
+        constexpr double MostGrowth = 96.0; // MiB; one recording and its curves come and go
+        mRandom.seed(seed);
+        mAnswerRandom.seed(seed);
+        spoilCard();
+        start();
+        answerAnyhow();
+        QStringList deeds = {"seed " + QString::number(seed)};
+        double held = 0.0;
+        for (int i = 0; i < actions; ++i) {
+            deeds << QString::number(i) + " " + act();
+            std::fprintf(stderr, "%s, ", qPrintable(deeds.last())); // a crash leaves nothing else
+            QVERIFY2(isSound(), qPrintable(deeds[0] + ": " + deeds.mid(i - 9).join(", ")));
+            if (i == actions / 2) {
+                settle();
+                held = heldMemory(); // by then everything has been opened once
+            }
+        }
+        settle();
+        QVERIFY2(heldMemory() - held < MostGrowth, qPrintable(deeds[0]));
+        answersStill();
+        QVERIFY2(!QTest::currentTestFailed(), qPrintable(deeds.join(", ")));
+    }
+
+private:
+    /// As a crash leaves it: beside the good files a torn one, an empty one and noise.
+    void spoilCard() const
+    {
+        QByteArray bytes = read("card/LOG_0002.CAN");
+        write("card/TORN_8001.CAN", bytes.left(bytes.size() / 3 + 11));
+        write("card/EMPTY.can", {});
+        for (qsizetype i = 0; i < bytes.size(); i += 7) {
+            bytes[i] = static_cast<char>(i * 31);
+        }
+        write("card/NOISE.CAN", bytes.left(200'000));
+    }
+
+    void answerAnyhow()
+    {
+        answers().atPage = [this](QWizard& wizard, QWizardPage& page) {
+            if (auto* folder = folderOf(page)) {
+                type(folder, exportPath());
+            }
+            if (mAnswerRandom() % 6 == 0) {
+                wizard.reject();
+            }
+        };
+        answers().chooseButton = [this](QMessageBox& box) {
+            return box.buttons().at(mAnswerRandom() % static_cast<unsigned>(box.buttons().size()));
+        };
+    }
+
+    int any(int count) { return FlightTest::pick(mRandom, static_cast<unsigned>(count)); }
+    bool isHeads() { return any(2) == 0; }
+    QPoint placeOn(const QWidget* widget)
+    {
+        return {any(std::max(1, widget->width())), any(std::max(1, widget->height()))};
+    }
+
+    /// Does something and says what.
+    const char* act()
+    {
+        using Type = ActionType;
+        const std::pair<const char*, std::function<void()>> deeds[] = {
+            {"mouse", [this] { useMouse(); }},
+            {"mouse", [this] { useMouse(); }},
+            {"keys", [this] { pressKeys(); }},
+            {"keys", [this] { pressKeys(); }},
+            {"pick", [this] { pickRecordings(); }},
+            {"pick", [this] { pickRecordings(); }},
+            {"tick", [this] { tick(); }},
+            {"tick", [this] { tick(); }},
+            {"command", [this] { giveCommand(); }},
+            {"slider", [this] { slider()->setValue(any(10001)); }},
+            {"time", [this] { timeEdit()->setTime(QTime(any(24), any(60), any(60))); }},
+            {"offset", [this] { offset()->setValue(any(2000) * 0.1 - 100.0); }},
+            {"view", [this] { views()->setCurrentIndex(any(5)); }},
+            {"resize", [this] { window().resize(700 + any(600), 500 + any(400)); }},
+            {"profile", [this] { useProfile(any(3) == 0 ? projectPath() : profilePath()); }},
+            {"card", [this] { drop({isHeads() ? cardPath() : exportPath()}); }},
+            {"project", [this] { drop({projectPath()}); }},
+            {"export", [this] { run(isHeads() ? Type::ExportKml : Type::ExportCsv); }},
+            {"stop", [this] { find<QWidget>("exporting")->findChild<QToolButton*>()->click(); }},
+            {"cancel", [this] { QTest::keyClick(recordings(), Qt::Key_Escape); }},
+            {"close", [this] { window().close(), hasClosed() ? start() : void(); }}};
+        const auto& [name, deed] = deeds[any(std::size(deeds))];
+        deed();
+        while (QWidget* menu = QApplication::activePopupWidget()) {
+            menu->close();
+        }
+        QTest::qWait(any(50));
+        return name;
+    }
+
+    void useMouse()
+    {
+        QWidget* view = views()->currentWidget();
+        const QWidgetList all = (isHeads() ? view : &window())->findChildren<QWidget*>();
+        QWidget* widget = all.at(any(static_cast<int>(all.size())));
+        widget = widget->isVisible() && widget->isEnabled() ? widget : view;
+        const Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
+        const Qt::MouseButton button = buttons[any(3)];
+        const QPoint place = placeOn(widget);
+        if (any(3) == 0) {
+            QWheelEvent event(place, widget->mapToGlobal(place), {}, {0, isHeads() ? 120 : -120},
+                              {}, {}, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(widget, &event);
+        } else {
+            QTest::mousePress(widget, button, {}, place);
+            QTest::mouseMove(widget, isHeads() ? placeOn(widget) : place);
+            QTest::mouseRelease(widget, button, {}, place);
         }
     }
-    QVERIFY(held.back() - held.at(1) < MostGrowth); // by then everything has been opened once
-}
 
-QTEST_MAIN(Soak)
+    void pressKeys()
+    {
+        constexpr int Keys[] = {Qt::Key_Left, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_Home,
+                                Qt::Key_F2,   Qt::Key_F3, Qt::Key_F4,       Qt::Key_Tab,
+                                Qt::Key_Plus, Qt::Key_A,  Qt::Key_C,        Qt::Key_N,
+                                Qt::Key_P,    Qt::Key_R,  Qt::Key_X,        Qt::Key_Z};
+        for (int i = 0; i < 5; ++i) {
+            QWidget* focus = QApplication::focusWidget();
+            QTest::keyClick(focus != nullptr && isHeads() ? focus : views()->currentWidget(),
+                            Qt::Key(Keys[any(std::size(Keys))]),
+                            any(4) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
+        }
+    }
+
+    void pickRecordings()
+    {
+        for (int row = 0; row < recordings()->topLevelItemCount(); ++row) {
+            recordings()->topLevelItem(row)->setSelected(isHeads());
+            recordings()->topLevelItem(row)->setExpanded(any(4) == 0);
+        }
+        QTest::qWait(isHeads() ? 550 : 0); // until they are loaded
+    }
+
+    void tick()
+    {
+        for (QTreeWidgetItemIterator item(parameters()); *item != nullptr; ++item) {
+            if ((*item)->flags().testFlag(Qt::ItemIsUserCheckable) && any(8) == 0) {
+                (*item)->setCheckState(0, isHeads() ? Qt::Checked : Qt::Unchecked);
+            }
+        }
+        if (isHeads()) {
+            find<QPushButton>("confirmSelection")->click();
+        }
+    }
+
+    void giveCommand()
+    {
+        using Type = ActionType;
+        constexpr Type Commands[] = {Type::NewProject, Type::OpenProject,   Type::SaveProject,
+                                     Type::OpenCard,   Type::RecordDetails, Type::About,
+                                     Type::Help,       Type::SaveProjectAs};
+        run(Commands[any(std::size(Commands))]);
+        for (auto* dialog : window().findChildren<QDialog*>()) {
+            dialog->close();
+        }
+    }
+
+    /// What holds at any moment.
+    bool isSound()
+    {
+        const auto& flight = session().flight();
+        const bool canExport = flight != nullptr && !flight->samples().empty() &&
+                               !find<ActivityBar>("exporting")->isActive();
+        const auto columns = session().selection().parameters(*session().profile()).size() + 1;
+        return window().isVisible() && title().startsWith("ORNA ") &&
+               action(ActionType::ExportCsv)->isEnabled() == canExport &&
+               (flight == nullptr || flight->profile() == session().profile()) &&
+               table()->model()->columnCount() == static_cast<int>(columns);
+    }
+
+    /// The main job once more, from the card to a written file.
+    void answersStill()
+    {
+        answers().atPage = [this](QWizard&, QWizardPage& page) {
+            if (auto* folder = folderOf(page)) {
+                type(folder, exportPath());
+            }
+        };
+        answers().chooseButton = {};
+        answers().buttons = QStringList{"No", "Yes", "Yes", "No"};
+        useProfile(profilePath());
+        settle();
+        drop({cardPath()});
+        drop({projectPath()});
+        settle();
+        recordings()->clearSelection();
+        open({1, 2});
+        QCOMPARE(session().flight()->samples().count(), 223'200U);
+        clickCheckBox("CHT 1 [°C]");
+        confirm();
+        slider()->setValue(10000);
+        QCOMPARE(rowOf(table()), table()->model()->rowCount() - 1);
+        QVERIFY(find<WidgetGraph>()->model().curves().hasSamples());
+        run(ActionType::ExportKml);
+        settle();
+        QVERIFY2(said().startsWith("Written: "), qPrintable(said()));
+        answers().buttons = QStringList("No");
+        window().close();
+        QVERIFY(hasClosed());
+    }
+
+    std::mt19937 mRandom;
+    std::mt19937 mAnswerRandom; ///< for windows that open sooner or later
+};
+
+QTEST_MAIN(TestSoak)
 #include "tst_soak.moc"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QDir>
 #include <QtCore/QObject>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
@@ -14,7 +15,7 @@ class CoreTest : public QObject
     Q_OBJECT
 
 protected:
-    QString path(const QString& name) const { return mFolder->filePath(name); }
+    QString path(const QString& name) const { return QDir(folder()).filePath(name); }
     QString folder() const { return mFolder->path(); }
 
     /// Writes a file into the folder and returns its path.
@@ -24,7 +25,7 @@ protected:
     /// What was diagnosed since the test function began or since the last call.
     QByteArray diagnostics();
 
-private Q_SLOTS:
+protected Q_SLOTS:
     void init();
     void cleanup();
 

@@ -5,9 +5,10 @@
 #include "app/DialogSplash.h"
 #include "app/StartUp.h"
 #include "base/Property.h"
-#include "display/DialogGraphSetup.h"
+#include "flight/Job.h"
+#include "graph/DialogGraphSetup.h"
 
-#include <QtCore/QElapsedTimer>
+#include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
 #include <QtGui/QAction>
 #include <QtGui/QPalette>
@@ -36,11 +37,19 @@ struct Arguments
 /// Runs the event loop for a while: timers fire, windows are painted.
 void live(int milliseconds)
 {
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < milliseconds) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-    }
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// Runs the event loop until everything that was asked for stands on the screen.
+void settle()
+{
+    constexpr int Turn = 100; // ms
+    do {
+        live(Turn);
+    } while (TARN::runningJobs() > 0);
+    live(Turn);
 }
 
 QPalette darkPalette()
@@ -70,6 +79,7 @@ public:
     bool run()
     {
         live(300);
+        settle();
         shoot("01-card");
         auto* recordings = mWindow.findChild<QTreeWidget*>("recordings");
         if (recordings->topLevelItemCount() == 0) {
@@ -78,13 +88,15 @@ public:
         }
         recordings->setCurrentItem(recordings->topLevelItem(0));
         recordings->topLevelItem(0)->setExpanded(true);
-        live(1500);
+        live(PickDelay);
+        settle();
         shoot("02-one-recording");
         recordings->topLevelItem(0)->setExpanded(false);
         recordings->selectAll();
-        live(2500);
+        live(PickDelay);
+        settle();
         mWindow.findChild<QSlider*>("timeSlider")->setValue(2200);
-        live(300);
+        settle();
         shoot("03-table");
         auto* next = mWindow.findChild<QToolButton*>("eventNext");
         auto* tabs = mWindow.findChild<QTabWidget*>("views");
@@ -93,7 +105,7 @@ public:
         }
         for (int tab = 1; tab < tabs->count(); ++tab) {
             tabs->setCurrentIndex(tab);
-            live(400);
+            settle();
             shoot(QString("%1-tab-%2").arg(tab + 3, 2, 10, QChar('0')).arg(tab));
         }
         passDialogs();
@@ -102,6 +114,7 @@ public:
 
 private:
     static constexpr int EventsToPass = 9; ///< into the middle of the flight's story
+    static constexpr int PickDelay = 600;  ///< ms; until picked recordings are loaded
 
     void passDialogs()
     {

@@ -1,0 +1,100 @@
+#include "app/DialogData.h"
+
+#include "app/TimeControls.h"
+#include "events/DialogDataErrorMatrix.h"
+#include "events/DialogDataLimit.h"
+#include "events/DialogDataWarning.h"
+#include "faults/EventDetector.h"
+#include "graph/DialogDataGraph.h"
+#include "table/DialogDataTable.h"
+
+#include <QtGui/QShortcut>
+#include <QtWidgets/QTabWidget>
+#include <QtWidgets/QVBoxLayout>
+
+namespace TARN {
+
+DialogData::DialogData(Session& session, QWidget* parent)
+    : QWidget(parent), mSession(session), mEpisodes(session), mTabs(new QTabWidget),
+      mControls(new TimeControls(session))
+{
+    mTabs->setObjectName("views");
+    addView(new DialogDataTable(session), "canStatistic", tr("Data"));
+    addView(new DialogDataLimit(session, mEpisodes), "limit", tr("Limit/Warning Exceed"));
+    addView(new DialogDataGraph(session), "graphSingle", tr("Graph"));
+    addView(new DialogDataWarning(session), "warningLamp", tr("Warning Lamps"), hasWarningLamps);
+    addView(new DialogDataErrorMatrix(session), "faultMatrix", tr("Fault Matrix"),
+            [](const ProfileInfo& profile) { return !profile.faultMatrices.empty(); });
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(mTabs, 1);
+    layout->addWidget(mControls);
+    connect(mControls, &TimeControls::signalMessage, this, &DialogData::signalMessage);
+    connect(&mSession, &Session::profileChanged, this, &DialogData::showProfile);
+    createShortcuts();
+    showTabs();
+}
+
+template <typename View>
+void DialogData::addView(View* view, const char* icon, const QString& title, IsOfUse isOfUse)
+{
+    mTabs->addTab(view, QIcon(QString(":/icons/%1.svg").arg(icon)), title);
+    mIsOfUse.push_back(std::move(isOfUse));
+    if constexpr (requires { &View::signalLink; }) {
+        connect(view, &View::signalLink, this, &DialogData::signalLink);
+    }
+}
+
+/// Letters work in the views alone: elsewhere somebody may be typing a name.
+void DialogData::createShortcuts()
+{
+    const struct
+    {
+        QKeySequence key;
+        QWidget* where;
+        Qt::ShortcutContext context;
+        void (TimeControls::*slot)();
+    } shortcuts[] = {
+        {Qt::Key_N, mTabs, Qt::WidgetWithChildrenShortcut, &TimeControls::slotNextEvent},
+        {Qt::Key_P, mTabs, Qt::WidgetWithChildrenShortcut, &TimeControls::slotPreviousEvent},
+        {Qt::Key_F4, this, Qt::WindowShortcut, &TimeControls::slotNextEvent},
+        {Qt::SHIFT | Qt::Key_F4, this, Qt::WindowShortcut, &TimeControls::slotPreviousEvent},
+    };
+    for (const auto& [key, where, context, slot] : shortcuts) {
+        auto* shortcut = new QShortcut(key, where);
+        shortcut->setContext(context);
+        connect(shortcut, &QShortcut::activated, mControls, slot);
+    }
+}
+
+void DialogData::showTabs()
+{
+    for (std::size_t i = 0; i < mIsOfUse.size(); ++i) {
+        mTabs->setTabVisible(static_cast<int>(i),
+                             !mIsOfUse[i] || mIsOfUse[i](mSession.profile()->data()));
+    }
+}
+
+void DialogData::showProfile()
+{
+    showTabs();
+    if (const auto wanted = std::exchange(mWanted, std::nullopt)) {
+        setCurrentView(*wanted);
+        mWanted.reset();
+    }
+}
+
+int DialogData::currentView() const
+{
+    return mTabs->currentIndex();
+}
+
+void DialogData::setCurrentView(int view)
+{
+    if (mTabs->isTabVisible(view)) {
+        mTabs->setCurrentIndex(view);
+    } else {
+        mWanted = view;
+    }
+}
+
+} // namespace TARN

@@ -1,0 +1,51 @@
+#include "app/StartMessages.h"
+
+#include "base/CountText.h"
+#include "base/Property.h"
+#include "flight/Flight.h"
+#include "record/RecordText.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+
+namespace TARN {
+
+namespace {
+
+/// The user's texts of this file, declared so that the extraction of texts finds them.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(StartMessages)
+};
+
+} // namespace
+
+QString startMessages()
+{
+    QStringList texts;
+    if (qEnvironmentVariableIsEmpty("HOME")) {
+        texts +=
+            Texts::tr("HOME is not set: settings are kept in \"%1\".").arg(QDir::currentPath());
+    }
+    const std::string& damaged = Property::instance()->damagedFile();
+    if (!damaged.empty()) {
+        texts += Texts::tr("The settings could not be read, the program starts with its "
+                           "defaults. The damaged file is kept as \"%1\".")
+                     .arg(QString::fromStdString(damaged));
+    }
+    return texts.join(' ');
+}
+
+QString loadedMessage(const Flight& flight)
+{
+    const QStringList remarks = recordRemarks(flight.record()->integrity());
+    QString text = Texts::tr("Samples loaded: %1")
+                       .arg(countText(static_cast<qint64>(flight.samples().count())));
+    if (!remarks.isEmpty()) {
+        text += Texts::tr(". Remarks (see Recording Details): %1. ").arg(remarks.size()) +
+                remarks.join(". ");
+    }
+    return text;
+}
+
+} // namespace TARN

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "flight/Session.h"
+
+#include <QtWidgets/QWidget>
+
+#include <vector>
+
+class QLabel;
+class QVBoxLayout;
+
+namespace TARN {
+
+class WidgetFaultMatrix;
+
+/// The error matrices of the profile, one below the other.
+class DialogDataErrorMatrix : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DialogDataErrorMatrix(Session& session, QWidget* parent = nullptr);
+
+private:
+    void loadProfile();
+    void showFlight();
+    void showTime(double time);
+
+    Session& mSession;
+    QWidget* mInner;
+    QVBoxLayout* mLayout;
+    QLabel* mEmpty;
+    std::vector<WidgetFaultMatrix*> mMatrices;
+};
+
+} // namespace TARN

@@ -1,0 +1,29 @@
+#include "events/DialogDataWarning.h"
+
+#include "base/CountText.h"
+
+namespace TARN {
+
+DialogDataWarning::DialogDataWarning(Session& session, QWidget* parent)
+    : DialogEventList(session, tr("Warning Lamps"), false, parent)
+{
+    showFlight();
+}
+
+const std::vector<RecordEvent>& DialogDataWarning::eventsOf(const Events& events) const
+{
+    return events.warnings;
+}
+
+QString DialogDataWarning::allWell(const Events& events) const
+{
+    const Watched& watched = events.watchedLamps;
+    if (watched.parameters == 0) {
+        return tr("The recording holds no message of a warning lamp, so none was watched.");
+    }
+    return tr("No warning lamp came on in %1 samples of %2 lamps.")
+        .arg(countText(static_cast<qint64>(watched.samples)),
+             countText(static_cast<qint64>(watched.parameters)));
+}
+
+} // namespace TARN

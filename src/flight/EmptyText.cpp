@@ -1,0 +1,60 @@
+#include "flight/EmptyText.h"
+
+#include "flight/Session.h"
+
+#include <QtCore/QCoreApplication>
+
+namespace TARN {
+
+namespace {
+
+/// The user's texts of this file, declared so that the extraction of texts finds them.
+struct Texts
+{
+    Q_DECLARE_TR_FUNCTIONS(EmptyText)
+};
+
+QString withoutProfile(const Session& session)
+{
+    return session.profile()->isLoaded()
+               ? QString()
+               : Texts::tr("No profile is loaded, so nothing can be decoded and nothing was "
+                           "checked.\nChoose one in the <a href=\"preferences\">preferences</a>.");
+}
+
+QString withoutSamples(const Session& session)
+{
+    if (session.loading().isOn() && session.flight() == nullptr) {
+        return Texts::tr("The recording is being loaded.");
+    }
+    if (session.flight() == nullptr) {
+        return Texts::tr("No recording is loaded.\nOpen a card and pick one or more recordings in "
+                         "the list on the left.");
+    }
+    return session.flight()->samples().empty()
+               ? Texts::tr("The recording holds no samples, so nothing was checked.")
+               : QString();
+}
+
+} // namespace
+
+QString emptyTextOf(const Session& session)
+{
+    const QString profile = withoutProfile(session);
+    if (!profile.isEmpty()) {
+        return profile;
+    }
+    if (session.selection().empty()) {
+        return Texts::tr("No parameter is selected.\nTick parameters in the list on the left and "
+                         "press \"Confirm Selection\".");
+    }
+    return withoutSamples(session);
+}
+
+QString emptyTextOfAll(const Session& session)
+{
+    const QString profile = withoutProfile(session);
+    return profile.isEmpty() ? withoutSamples(session) : profile;
+}
+
+} // namespace TARN

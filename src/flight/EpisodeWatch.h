@@ -1,0 +1,33 @@
+#pragma once
+
+#include "flight/Job.h"
+#include "flight/Session.h"
+
+namespace TARN {
+
+/// Looks for the episodes of the session's flight at its offset, beside the event loop, whenever
+/// one of the two changes.
+class EpisodeWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Episodes = std::vector<Episode>;
+
+    explicit EpisodeWatch(Session& session, QObject* parent = nullptr);
+
+    /// Null while they are being looked for and where there is no flight.
+    const std::shared_ptr<const Episodes>& episodes() const { return mEpisodes; }
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void look();
+
+    Session& mSession;
+    Job<std::shared_ptr<const Episodes>> mJob;
+    std::shared_ptr<const Episodes> mEpisodes;
+};
+
+} // namespace TARN

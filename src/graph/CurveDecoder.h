@@ -1,0 +1,21 @@
+#pragma once
+
+#include "flight/Flight.h"
+#include "graph/CurveSamples.h"
+
+#include <memory>
+
+namespace TARN {
+
+/// A parameter of a flight as a curve.
+struct DecodedCurve
+{
+    std::shared_ptr<const CurveSamples> samples; ///< null when it was asked to stop
+    std::size_t leftOut = 0;                     ///< samples left out, because their time falls
+};
+
+/// Decodes all samples of a parameter, at a time offset, and finds where it has no value.
+DecodedCurve decodeCurve(const Flight& flight, const ProfileParameter& parameter, double offset,
+                         Progress& progress);
+
+} // namespace TARN

@@ -1,0 +1,110 @@
+#include "graph/CurveLoader.h"
+
+#include <algorithm>
+
+namespace TARN {
+
+CurveLoader::CurveLoader(QObject* parent) : QObject(parent)
+{
+    for (Job<std::vector<DecodedCurve>>& job : mJobs) {
+        job.setOutOfMemory([this] {
+            mWaiting.clear();
+            Q_EMIT outOfMemory();
+        });
+    }
+}
+
+void CurveLoader::load(std::shared_ptr<const Flight> flight,
+                       const std::vector<const ProfileParameter*>& parameters, double offset)
+{
+    for (Job<std::vector<DecodedCurve>>& job : mJobs) {
+        job.cancel();
+    }
+    if (flight != mFlight || offset != mOffset) {
+        mDecoded.clear();
+    }
+    mFlight = std::move(flight);
+    mOffset = offset;
+    mParameters = parameters;
+    mWaiting.clear();
+    // What is not shown any more is not kept either.
+    std::erase_if(mDecoded, [&](const auto& item) {
+        return std::ranges::none_of(parameters, [&](const ProfileParameter* parameter) {
+            return parameter->uid == item.first;
+        });
+    });
+    for (unsigned place = 0; place < parameters.size(); ++place) {
+        const auto known = mDecoded.find(parameters[place]->uid);
+        if (known != mDecoded.end()) {
+            Q_EMIT curveReady(place, known->second.samples);
+        } else if (mFlight != nullptr) {
+            mWaiting.push_back(place);
+        }
+    }
+    startNext();
+}
+
+void CurveLoader::startNext()
+{
+    for (std::size_t lane = 0; lane < Lanes && !mWaiting.empty(); ++lane) {
+        if (mJobs[lane].isRunning()) {
+            continue;
+        }
+        const std::vector<unsigned> places = takeWaiting();
+        std::vector<const ProfileParameter*> parameters;
+        for (const unsigned place : places) {
+            parameters.push_back(mParameters[place]);
+        }
+        mJobs[lane].start(
+            [flight = mFlight, parameters, offset = mOffset](Progress& progress) {
+                std::vector<DecodedCurve> curves;
+                for (const ProfileParameter* parameter : parameters) {
+                    curves.push_back(decodeCurve(*flight, *parameter, offset, progress));
+                }
+                return curves;
+            },
+            [this, places](const std::vector<DecodedCurve>& curves) { take(places, curves); });
+    }
+}
+
+/// What one job decodes: short curves go together, as a job costs more than they do.
+std::vector<unsigned> CurveLoader::takeWaiting()
+{
+    constexpr std::size_t SamplesWorthAJob = 250'000;
+    std::vector<unsigned> places;
+    std::size_t samples = 0;
+    while (!mWaiting.empty() && samples < SamplesWorthAJob) {
+        places.push_back(mWaiting.front());
+        samples += mFlight->series(*mParameters[mWaiting.front()], mOffset).size();
+        mWaiting.pop_front();
+    }
+    return places;
+}
+
+void CurveLoader::take(const std::vector<unsigned>& places, const std::vector<DecodedCurve>& curves)
+{
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        mDecoded[mParameters[places[i]]->uid] = curves[i];
+    }
+    startNext();
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        Q_EMIT curveReady(places[i], curves[i].samples);
+    }
+}
+
+bool CurveLoader::isBusy() const
+{
+    return !mWaiting.empty() ||
+           std::ranges::any_of(mJobs, &Job<std::vector<DecodedCurve>>::isRunning);
+}
+
+std::size_t CurveLoader::leftOut() const
+{
+    std::size_t samples = 0;
+    for (const auto& [uid, curve] : mDecoded) {
+        samples += curve.leftOut;
+    }
+    return samples;
+}
+
+} // namespace TARN

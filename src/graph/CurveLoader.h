@@ -1,0 +1,57 @@
+#pragma once
+
+#include "flight/Job.h"
+#include "graph/CurveDecoder.h"
+
+#include <QtCore/QObject>
+
+#include <array>
+#include <deque>
+#include <map>
+#include <vector>
+
+namespace TARN {
+
+/// Decodes the curves of a selection beside the event loop and keeps those that are decoded, so
+/// that each is decoded once for a flight and an offset. Curves are told as they are ready, in
+/// the order in which they were asked for.
+class CurveLoader : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CurveLoader(QObject* parent = nullptr);
+
+    /// Asks for the curves of these parameters of a flight; what was asked for before does not
+    /// count any more. Those that are known are told before it returns.
+    void load(std::shared_ptr<const Flight> flight,
+              const std::vector<const ProfileParameter*>& parameters, double offset);
+
+    /// Whether curves that were asked for are still to come.
+    bool isBusy() const;
+
+    /// Samples of the curves told last that are left out of them, because their time falls.
+    std::size_t leftOut() const;
+
+Q_SIGNALS:
+    /// A curve, by its place among the parameters asked for.
+    void curveReady(unsigned place, std::shared_ptr<const CurveSamples> samples);
+    void outOfMemory();
+
+private:
+    void startNext();
+    std::vector<unsigned> takeWaiting();
+    void take(const std::vector<unsigned>& places, const std::vector<DecodedCurve>& curves);
+
+    /// Two are decoded at a time.
+    static constexpr std::size_t Lanes = 2;
+
+    std::shared_ptr<const Flight> mFlight;
+    double mOffset = 0.0;
+    std::vector<const ProfileParameter*> mParameters;
+    std::deque<unsigned> mWaiting;        ///< places
+    std::map<int, DecodedCurve> mDecoded; ///< by the parameter's uid
+    std::array<Job<std::vector<DecodedCurve>>, Lanes> mJobs;
+};
+
+} // namespace TARN

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "graph/CurveFrames.h"
+#include "graph/GraphTypes.h"
+#include "graph/GraphView.h"
+
+#include <QtCore/QString>
+
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace TARN {
+
+/// One plotted curve: its samples, and how and where it is drawn.
+struct ParStruct
+{
+    CurveSamples live;                          ///< put one by one; the last one holds until now
+    std::shared_ptr<const CurveSamples> series; ///< of a recording, instead; may be null
+    CurveFrames frames;                         ///< of the visible time
+    bool active = false;
+    bool valueSet = false; ///< a value was put since the time was last set
+    double lastValue = 0.0;
+    ValueRange visible{0.0, 0.0}; ///< of the frames
+    GraphStrip strip;             ///< where it is drawn, and its Y range
+    GraphColor color;
+    QString name = "NoName";
+    QString unit;
+    bool isSingle = false; ///< its numbers are of single precision
+    bool showSamples = false;
+
+    const CurveSamples& samples() const { return series != nullptr ? *series : live; }
+};
+
+/// The curves of a graph. They are known by index; an index that is not below count() is ignored.
+class CurveSet
+{
+public:
+    static constexpr unsigned MaxCurves = 30;
+
+    /// Starts afresh with \p n curves, at least 1 and at most 30, in their own colours.
+    explicit CurveSet(unsigned n = 6);
+
+    unsigned count() const { return static_cast<unsigned>(mCurves.size()); }
+    std::span<ParStruct> all() { return mCurves; }
+    std::span<const ParStruct> all() const { return mCurves; }
+
+    /// Curve \p i, or null when there is none.
+    ParStruct* curve(unsigned i) { return i < count() ? &mCurves[i] : nullptr; }
+    const ParStruct* curve(unsigned i) const { return i < count() ? &mCurves[i] : nullptr; }
+    unsigned indexOf(const ParStruct& curve) const
+    {
+        return static_cast<unsigned>(&curve - mCurves.data());
+    }
+
+    std::size_t activeCount() const;
+    bool hasSamples() const; ///< of an active curve
+
+    /// Adds a sample. False when its time falls; it and the one before it are not there then.
+    bool put(unsigned i, double time, double value);
+
+    /// Shows other samples, of a whole recording.
+    void setSeries(unsigned i, std::shared_ptr<const CurveSamples> samples);
+
+    /// Takes the samples away; the ranges of all values ever put stay.
+    void clear();
+
+    /// Earliest and latest time of any sample; empty when there is none.
+    ValueRange timeRange() const;
+
+    /// The active curve whose strip holds a pixel row; the first active one when none does. Null
+    /// when none is active.
+    ParStruct* at(double y);
+
+private:
+    std::vector<ParStruct> mCurves;
+};
+
+} // namespace TARN

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "flight/Session.h"
+#include "graph/GraphData.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QWidget>
+
+class QLabel;
+class WidgetGraph;
+
+namespace TARN {
+
+class CurveLoader;
+class CurveSamples;
+class DialogGraphSetup;
+class GraphButtons;
+class GraphModel;
+
+/// The "Graph" tab: the selected parameters as curves, and the buttons beside them. Where no
+/// OpenGL is to be had a message stands in the graph's place and every operation does nothing.
+class DialogDataGraph : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DialogDataGraph(Session& session, QWidget* parent = nullptr);
+
+    // The marked range, seconds; both 0 when nothing is marked.
+    double markStart() const { return mSession.marks().start; }
+    double markStop() const { return mSession.marks().stop; }
+
+    /// Asks for a file and saves a picture of the graph.
+    void saveSnapshot();
+
+    /// The graph; null where it cannot be drawn.
+    WidgetGraph* graph() const { return mGraph; }
+
+Q_SIGNALS:
+    /// The user follows a link of the empty text.
+    void signalLink(const QString& link);
+
+private Q_SLOTS:
+    void slotCommandPress(int command);
+    void slotCommandRelease(int command);
+    void slotTimeout();
+    void slotGraphSetup();
+    void slotModeChanged();
+
+private:
+    QWidget* createPlot();
+    void createGraph();
+    void connectSession();
+    void showFlight();
+    void showSelection();
+    void refill();
+    void loadCurves();
+    void takeCurve(unsigned place, std::shared_ptr<const CurveSamples> samples);
+    void showTime(double time, const QObject* source);
+    void updateDigits();
+    void runCommand(int command);
+    void setRange(double seconds);
+    void openSetup();
+    void updateTexts();
+    QString emptyText() const;
+    QString noteText() const;
+    bool saveImage(const QString& file);
+
+    Session& mSession;
+    int mCommand; ///< that is held
+    GraphData mData;
+    GraphData mApplied; ///< the settings as the graph has them
+    DialogGraphSetup* mSetup;
+    GraphButtons* mButtons;
+    CurveLoader* mLoader;
+    QTimer mTimer;
+    WidgetGraph* mGraph = nullptr;
+    bool mIsRefilled = false; ///< with the curves of another offset
+    QLabel* mNote;            ///< of what is left out
+};
+
+} // namespace TARN

@@ -1,0 +1,101 @@
+#include "graph/GlCanvas.h"
+
+#include <QtGui/QOpenGLContext>
+#include <QtGui/QOpenGLFunctions>
+
+#include <cmath>
+
+namespace TARN {
+
+void GlCanvas::begin(QSize size, double ratio, const GraphColor& background)
+{
+    mRatio = ratio;
+    // Text is painted in the same context, with shaders and buffers of its own.
+    QOpenGLFunctions* functions = QOpenGLContext::currentContext()->functions();
+    functions->glUseProgram(0);
+    functions->glBindBuffer(GL_ARRAY_BUFFER, 0);
+    for (unsigned attribute = 0; attribute < 3; ++attribute) {
+        functions->glDisableVertexAttribArray(attribute);
+    }
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_STENCIL_TEST);
+    glDisable(GL_SCISSOR_TEST);
+    glDisable(GL_TEXTURE_2D);
+    glEnable(GL_BLEND);
+    // The widget itself stays opaque under what is translucent.
+    functions->glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE,
+                                   GL_ONE_MINUS_SRC_ALPHA);
+    glViewport(0, 0, static_cast<int>(std::lround(size.width() * ratio)),
+               static_cast<int>(std::lround(size.height() * ratio)));
+    glMatrixMode(GL_PROJECTION);
+    glLoadIdentity();
+    glOrtho(0.0, size.width(), 0.0, size.height(), -7000.0, 7000.0);
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
+    glLineWidth(static_cast<float>(ratio));
+    glClearColor(background.red, background.green, background.blue, 1.0F);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    glEnableClientState(GL_VERTEX_ARRAY);
+}
+
+void GlCanvas::end()
+{
+    glDisableClientState(GL_VERTEX_ARRAY);
+}
+
+void GlCanvas::clip(double x, double y, double width, double height)
+{
+    const auto left = static_cast<int>(std::floor(x * mRatio));
+    const auto bottom = static_cast<int>(std::floor(y * mRatio));
+    const auto right = static_cast<int>(std::ceil((x + width) * mRatio));
+    const auto top = static_cast<int>(std::ceil((y + height) * mRatio));
+    glScissor(left, bottom, std::max(right - left, 0), std::max(top - bottom, 0));
+    glEnable(GL_SCISSOR_TEST);
+}
+
+void GlCanvas::clipNone()
+{
+    glDisable(GL_SCISSOR_TEST);
+}
+
+void GlCanvas::fill(double left, double bottom, double right, double top, const GraphColor& color,
+                    float alpha)
+{
+    const auto x0 = static_cast<float>(left);
+    const auto x1 = static_cast<float>(right);
+    const auto y0 = static_cast<float>(bottom);
+    const auto y1 = static_cast<float>(top);
+    const float points[] = {x0, y0, x1, y0, x1, y1, x0, y1};
+    draw(GL_QUADS, points, 4, color, alpha);
+}
+
+void GlCanvas::strip(const float* points, int count, const GraphColor& color)
+{
+    draw(GL_LINE_STRIP, points, count, color);
+}
+
+void GlCanvas::lines(const std::vector<float>& points, const GraphColor& color)
+{
+    draw(GL_LINES, points.data(), static_cast<int>(points.size() / 2), color);
+}
+
+void GlCanvas::dots(const float* points, int count, const GraphColor& color, float size)
+{
+    glPointSize(size * static_cast<float>(mRatio));
+    draw(GL_POINTS, points, count, color);
+}
+
+double GlCanvas::sharp(double pixel) const
+{
+    return (std::floor(pixel * mRatio) + 0.5) / mRatio;
+}
+
+void GlCanvas::draw(unsigned mode, const float* points, int count, const GraphColor& color,
+                    float alpha) const
+{
+    glColor4f(color.red, color.green, color.blue, alpha);
+    glVertexPointer(2, GL_FLOAT, 0, points);
+    glDrawArrays(mode, 0, count);
+}
+
+} // namespace TARN

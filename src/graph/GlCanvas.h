@@ -1,0 +1,33 @@
+#pragma once
+
+#include "graph/GraphCanvas.h"
+
+namespace TARN {
+
+/// Draws with fixed-function OpenGL that every driver has. Only between begin and end, with a
+/// context current.
+class GlCanvas : public GraphCanvas
+{
+public:
+    /// Takes the context over from whoever drew before and fills it; \p ratio device pixels make
+    /// a pixel.
+    void begin(QSize size, double ratio, const GraphColor& background);
+    void end();
+
+    void clip(double x, double y, double width, double height) override;
+    void clipNone() override;
+    void fill(double left, double bottom, double right, double top, const GraphColor& color,
+              float alpha = 1.0F) override;
+    void strip(const float* points, int count, const GraphColor& color) override;
+    void lines(const std::vector<float>& points, const GraphColor& color) override;
+    void dots(const float* points, int count, const GraphColor& color, float size) override;
+    double sharp(double pixel) const override;
+
+private:
+    void draw(unsigned mode, const float* points, int count, const GraphColor& color,
+              float alpha = 1.0F) const;
+
+    double mRatio = 1.0;
+};
+
+} // namespace TARN

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "graph/GraphTypes.h"
+
+#include <QtWidgets/QScrollArea>
+
+#include <array>
+
+class QButtonGroup;
+class QToolButton;
+
+namespace TARN {
+
+/// The column of buttons beside the graph; on a low screen it scrolls, so that it never makes the
+/// window too high.
+class GraphButtons : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    enum Command : int
+    {
+        ZoomIn,
+        ZoomOut,
+        ZoomOneToOne,
+        ZoomMarker,
+        ClearAll,
+        AutomaticMode,
+        SplitMode,
+        SingleMode,
+        ResetAll,
+        Setup,
+        Snapshot,
+        ShowAll,
+        CommandCount
+    };
+
+    explicit GraphButtons(QWidget* parent = nullptr);
+
+    bool isAutomaticChecked() const;
+    void showDisplayMode(eDisplayMode mode);
+    void showGraphMode(eGraphMode mode);
+
+Q_SIGNALS:
+    void pressed(int command);
+    void released(int command);
+
+private:
+    QToolButton* createButton(int command, const QString& toolTip, const char* icon);
+
+    QButtonGroup* mGroup;
+    std::array<QToolButton*, CommandCount> mButtons{};
+};
+
+} // namespace TARN

@@ -1,0 +1,297 @@
+#include "graph/GraphDrawing.h"
+
+#include "base/ClockTime.h"
+#include "graph/CurveText.h"
+#include "graph/GraphPalette.h"
+
+#include <algorithm>
+#include <array>
+
+namespace TARN {
+
+namespace {
+
+constexpr double MajorTick = 10.0; // pixels
+constexpr double MinorTick = 5.0;
+constexpr double Gap = 5.0; // between a line and its text
+constexpr GraphColor White{1.0F, 1.0F, 1.0F};
+constexpr GraphColor Yellow{1.0F, 1.0F, 0.0F};
+
+void addLine(std::vector<float>& points, double x0, double y0, double x1, double y1)
+{
+    const double line[] = {x0, y0, x1, y1};
+    std::ranges::transform(line, std::back_inserter(points),
+                           [](double pixel) { return static_cast<float>(pixel); });
+}
+
+} // namespace
+
+GraphDrawing::GraphDrawing(const GraphModel& model, const GraphStyle& style,
+                           const KeyCursor& keyCursor, QSizeF size, GraphCanvas& canvas,
+                           TextLayout& texts)
+    : mModel(model), mStyle(style), mKeyCursor(keyCursor), mSize(size), mCanvas(canvas),
+      mTexts(texts), mView(model.layout().view())
+{}
+
+void GraphDrawing::draw()
+{
+    const bool split = mModel.layout().displayMode() == DisplaySplit;
+    drawBackground();
+    if (!split) {
+        drawTicksY(nullptr);
+    }
+    drawTicksX();
+    for (const ParStruct& curve : mModel.curves().all()) {
+        if (curve.active) {
+            if (split) {
+                drawTicksY(&curve);
+            }
+            drawParameter(curve);
+        }
+    }
+    drawMarker();
+    // Texts are painted on top of it all; the cursor's keep clear of the legend.
+    if (mStyle.legendOn) {
+        drawLabels();
+    }
+    if (mStyle.cursorOn) {
+        drawCursor();
+    }
+    drawOutline();
+}
+
+void GraphDrawing::drawBackground()
+{
+    mCanvas.fill(mView.x0, mView.y0, mView.x0 + mView.width, mView.y0 + mView.height, mStyle.back);
+}
+
+/// Every other pixel of these lines.
+void GraphDrawing::drawGrid(const std::vector<float>& lines)
+{
+    constexpr float Step = 2.0F;
+    std::vector<float> dots;
+    for (std::size_t i = 0; i + 3 < lines.size(); i += 4) {
+        for (float x = lines[i], y = lines[i + 1]; x <= lines[i + 2] && y <= lines[i + 3];) {
+            dots.insert(dots.end(), {x, y});
+            (lines[i] == lines[i + 2] ? y : x) += Step;
+        }
+    }
+    mCanvas.dots(dots.data(), static_cast<int>(dots.size() / 2), mStyle.grid, 1.0F);
+}
+
+void GraphDrawing::drawTicksX()
+{
+    constexpr double Spacing = 70.0;
+    constexpr double LabelGap = 8.0;
+    constexpr double LabelTop = 15.0; // below the plot
+    const QString widest = timeLabel(mView.xmax, (mView.xmax - mView.xmin) / 10.0);
+    const double spacing = std::max(Spacing, mTexts.sizeOf(widest).width() + LabelGap);
+    const GraphTicks axis = GraphTicks::ofTimes(mView.xmin, mView.xmax, mView.width, spacing);
+    const QRectF area(QPointF(), mSize);
+    std::vector<float> marks;
+    std::vector<float> grid;
+    for (const GraphTick& tick : axis.ticks) {
+        const double x = mCanvas.sharp(mView.xToViewport(tick.value));
+        addLine(marks, x, mView.y0 - (tick.major ? MajorTick : MinorTick), x, mView.y0);
+        if (tick.major) {
+            addLine(grid, x, mView.y0, x, mView.y0 + mView.height);
+            const QString text = timeLabel(tick.value, axis.step);
+            const double left = mView.xToViewport(tick.value) - mTexts.sizeOf(text).width() / 2.0;
+            mTexts.add(text, {left, mSize.height() - mView.y0 + LabelTop},
+                       legibleOn(mStyle.labelBack, mStyle.label), area);
+        }
+    }
+    mCanvas.lines(marks, mStyle.label);
+    if (mStyle.gridOn) {
+        drawGrid(grid);
+    }
+}
+
+void GraphDrawing::drawTicksY(const ParStruct* curve)
+{
+    constexpr double LabelToTick = 3.0;
+    const GraphStrip strip = curve != nullptr ? curve->strip : mView.whole();
+    const unsigned i = curve != nullptr ? mModel.curves().indexOf(*curve) : 0;
+    const GraphColor color =
+        legibleOn(mStyle.labelBack, curve != nullptr ? curve->color : mStyle.label);
+    const ValueAxis& axis = mModel.layout().axis(i);
+    std::vector<float> marks;
+    std::vector<float> grid;
+    for (const GraphTick& tick : axis.ticks.ticks) {
+        const double y = mCanvas.sharp(strip.toPixel(tick.value));
+        addLine(marks, mView.x0 - (tick.major ? MajorTick : MinorTick), y, mView.x0, y);
+        if (tick.major) {
+            addLine(grid, mView.x0, y, mView.x0 + mView.width, y);
+        }
+    }
+    mCanvas.lines(marks, color);
+    if (mStyle.gridOn) {
+        drawGrid(grid);
+    }
+    for (const ValueAxis::Label& label : axis.labels) {
+        const QSizeF size = mTexts.sizeOf(label.text);
+        const QPointF place(mView.x0 - MajorTick - LabelToTick - size.width(),
+                            mSize.height() - label.y - size.height() / 2.0);
+        mTexts.add(label.text, place, color, QRectF(QPointF(), mSize));
+    }
+}
+
+void GraphDrawing::drawParameter(const ParStruct& curve)
+{
+    constexpr float MarkSize = 3.0F;
+    mCanvas.clip(mView.x0, curve.strip.y0, mView.width, curve.strip.height);
+    mLine.buildLine(curve, mView);
+    for (const GraphLine::Strip& strip : mLine.strips()) {
+        const float* points = mLine.points().data() + std::ptrdiff_t(strip.first) * 2;
+        if (strip.count > 1) {
+            mCanvas.strip(points, strip.count, curve.color);
+        } else {
+            mCanvas.dots(points, 1, curve.color, MarkSize); // a line needs two
+        }
+    }
+    mCanvas.lines(mLine.fillings(), curve.color);
+    if (curve.showSamples) {
+        mLine.buildSamples(curve, mView);
+        mCanvas.dots(mLine.points().data(), static_cast<int>(mLine.points().size() / 2), White,
+                     MarkSize);
+    }
+    mCanvas.clipNone();
+}
+
+void GraphDrawing::drawMarker()
+{
+    constexpr float Alpha = 0.3F;
+    const TimeRange& marks = mModel.markers();
+    if (marks.start == 0.0 && marks.stop == 0.0) {
+        return; // nothing is marked
+    }
+    const double left = mView.x0;
+    const double right = mView.x0 + mView.width;
+    const double start = mView.xToViewport(std::min(marks.start, marks.stop));
+    double stop = mView.xToViewport(std::max(marks.start, marks.stop));
+    stop = std::max(stop, start + 1.0); // a click shows too
+    if (stop > left && start < right) {
+        mCanvas.fill(std::max(start, left), mView.y0, std::min(stop, right),
+                     mView.y0 + mView.height, Yellow, Alpha);
+    }
+}
+
+void GraphDrawing::drawOutline()
+{
+    const double left = mCanvas.sharp(mView.x0);
+    const double right = mCanvas.sharp(mView.x0 + mView.width - 1.0);
+    const double bottom = mCanvas.sharp(mView.y0);
+    const double top = mCanvas.sharp(mView.y0 + mView.height - 1.0);
+    std::vector<float> points;
+    addLine(points, left, bottom, right, bottom);
+    addLine(points, right, bottom, right, top);
+    addLine(points, right, top, left, top);
+    addLine(points, left, top, left, bottom);
+    mCanvas.lines(points, White);
+}
+
+/// The plot area in pixels from the upper left corner, as text is painted.
+QRectF GraphDrawing::plotBox() const
+{
+    return {mView.x0, mSize.height() - mView.y0 - mView.height, mView.width, mView.height};
+}
+
+/// Pixel row of the cursor's value.
+double GraphDrawing::keyCursorY() const
+{
+    const ParStruct* curve = mModel.curves().curve(mKeyCursor.curve);
+    const bool isOfStrip =
+        mModel.layout().displayMode() == DisplaySplit && curve != nullptr && curve->active;
+    return isOfStrip ? mView.yToViewport(curve->strip, mKeyCursor.value)
+                     : mView.yToViewport(mKeyCursor.value);
+}
+
+void GraphDrawing::drawCursor()
+{
+    constexpr double Overhang = 10.0;
+    const double right = mView.x0 + mView.width;
+    const double top = mView.y0 + mView.height;
+    const double x = mView.xToViewport(mModel.cursor());
+    const double y = keyCursorY();
+    const bool inside = x >= mView.x0 && x <= right;
+    std::vector<float> points;
+    if (inside) {
+        const double sharp = mCanvas.sharp(x);
+        addLine(points, sharp, mView.y0 - Overhang, sharp, top);
+    }
+    if (mKeyCursor.isShown && y >= mView.y0 && y <= top) {
+        const double sharp = mCanvas.sharp(y);
+        addLine(points, mView.x0 - Overhang, sharp, right, sharp);
+    }
+    mCanvas.lines(points, White);
+    if (mKeyCursor.isShown && inside) {
+        drawCursorValues(x, y);
+    }
+}
+
+void GraphDrawing::drawCursorValues(double x, double y)
+{
+    const QRectF plot = plotBox();
+    const auto add = [&](const QString& text, double top, const GraphColor& color) {
+        const double width = mTexts.sizeOf(text).width();
+        const bool fits = x + Gap + width <= plot.right();
+        mTexts.addNear(text, {fits ? x + Gap : x - Gap - width, top}, color, plot);
+    };
+    const double lineHeight = mTexts.sizeOf("0").height();
+    const bool isReported =
+        static_cast<float>(mModel.cursor()) == static_cast<float>(mKeyCursor.reportedTime);
+    const QTime time =
+        clockTime(millisecondsOf(isReported ? mKeyCursor.reportedTime : mModel.cursor()));
+    add(time.toString("hh:mm:ss.zzz") + QString::asprintf("/%.2f", mKeyCursor.value),
+        mSize.height() - y - Gap - lineHeight, legibleOn(mStyle.back, White));
+    for (const ParStruct& curve : mModel.curves().all()) {
+        double value = 0.0;
+        if (curve.active && curve.samples().valueAt(mModel.cursor(), value)) {
+            const double row = mSize.height() - mView.yToViewport(curve.strip, value);
+            add(curveText(curve, mModel.cursor(), mStyle.allDigits ? "%.2f" : nullptr),
+                row - lineHeight / 2.0, curve.color);
+        }
+    }
+}
+
+QString GraphDrawing::legendOf(const ParStruct& curve, double room) const
+{
+    QString value = curveText(curve, mModel.cursor(), mStyle.allDigits ? "%f" : nullptr);
+    if (value.isEmpty()) {
+        value = "---";
+    } else if (!curve.unit.isEmpty()) {
+        value += " " + curve.unit;
+    }
+    return mTexts.elided(curve.name, room) + "   " + value;
+}
+
+void GraphDrawing::drawLabels()
+{
+    constexpr double ColumnGap = 20.0;
+    const QRectF plot = plotBox();
+    const bool split = mModel.layout().displayMode() == DisplaySplit;
+    const double lineHeight = mTexts.sizeOf("0").height();
+    double left = plot.left() + Gap;
+    double top = plot.top() + Gap;
+    double widest = 0.0;
+    for (const ParStruct& curve : mModel.curves().all()) {
+        if (!curve.active) {
+            continue;
+        }
+        if (split) {
+            top = mSize.height() - curve.strip.y0 - curve.strip.height +
+                  std::min(Gap, (curve.strip.height - lineHeight) / 2.0);
+            top = std::clamp(top, plot.top(), std::max(plot.top(), plot.bottom() - lineHeight));
+        } else if (top + lineHeight > plot.bottom()) {
+            left += widest + ColumnGap; // another column
+            top = plot.top() + Gap;
+            widest = 0.0;
+        }
+        const QString text = legendOf(curve, plot.width() / 2.0);
+        mTexts.add(text, {left, top}, legibleOn(mStyle.back, curve.color), plot, true);
+        widest = std::max(widest, mTexts.sizeOf(text).width());
+        top += lineHeight + Gap;
+    }
+}
+
+} // namespace TARN

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "graph/GraphCanvas.h"
+#include "graph/GraphLine.h"
+#include "graph/GraphModel.h"
+#include "graph/GraphStyle.h"
+#include "graph/TextLayout.h"
+
+#include <QtCore/QSizeF>
+
+namespace TARN {
+
+/// One paint of a graph that is prepared: shapes go to the canvas at once, texts are placed and
+/// painted on top of them afterwards.
+class GraphDrawing
+{
+public:
+    /// Everything is referred to. \p size of the whole area in pixels.
+    GraphDrawing(const GraphModel& model, const GraphStyle& style, const KeyCursor& keyCursor,
+                 QSizeF size, GraphCanvas& canvas, TextLayout& texts);
+
+    void draw();
+
+private:
+    void drawBackground();
+    void drawTicksX();
+    void drawTicksY(const ParStruct* curve);
+    void drawParameter(const ParStruct& curve);
+    void drawMarker();
+    void drawLabels();
+    void drawCursor();
+    void drawCursorValues(double x, double y);
+    void drawOutline();
+    void drawGrid(const std::vector<float>& lines);
+    QString legendOf(const ParStruct& curve, double room) const;
+    QRectF plotBox() const;
+    double keyCursorY() const;
+
+    const GraphModel& mModel;
+    const GraphStyle& mStyle;
+    const KeyCursor& mKeyCursor;
+    const QSizeF mSize;
+    GraphCanvas& mCanvas;
+    TextLayout& mTexts;
+    const GraphView& mView;
+    GraphLine mLine;
+};
+
+} // namespace TARN

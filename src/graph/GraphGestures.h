@@ -1,0 +1,74 @@
+#pragma once
+
+#include "graph/GraphModel.h"
+#include "graph/GraphStyle.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QObject>
+#include <QtCore/QSize>
+#include <QtCore/QTimer>
+
+class QKeyEvent;
+class QMouseEvent;
+class QWheelEvent;
+
+namespace TARN {
+
+/// What keys and the mouse do to a graph: cursor, markers, pan, zoom, modes.
+class GraphGestures : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \p model lives as long.
+    explicit GraphGestures(GraphModel& model, QObject* parent = nullptr);
+
+    /// The cursor that keys and the middle button move.
+    const KeyCursor& keyCursor() const { return mKeyCursor; }
+    /// Other curves: it starts at the first.
+    void resetKeyCursor() { mKeyCursor.curve = 0; }
+    void hideKeyCursor();
+
+    /// Whether the window is being dragged along.
+    bool isPanning() const { return mIsPanning; }
+
+    /// A key that is not the graph's is ignored.
+    void press(QKeyEvent& event);
+    /// Of the widget in pixels.
+    void setSize(QSize size) { mSize = size; }
+    void press(const QMouseEvent& event);
+    void move(const QMouseEvent& event);
+    void release(const QMouseEvent& event);
+    void turn(const QWheelEvent& event);
+
+Q_SIGNALS:
+    void cursorMoved(float time, double value);
+    void markersMoved(float start, float stop);
+    void panned();
+    /// The key cursor came, moved or went.
+    void keyCursorChanged();
+
+private:
+    bool changeByKey(int key);
+    void moveCursorX(double pixels);
+    void moveCursorY(double pixels);
+    void takeValueAt(double y);
+    void reportCursor();
+    void setCursorFrom(QPointF position);
+    void moveNearerMarker(double time);
+    void reportMarkers();
+    void pan(double x);
+    double timeAt(QPointF position) const;
+
+    GraphModel& mModel;
+    KeyCursor mKeyCursor;
+    QTimer mCursorTimer; ///< until it goes by itself
+    QSize mSize;
+    bool mIsPanning = false;
+    double mPanX = 0.0;   ///< where a pan began
+    double mPanMin = 0.0; ///< the window then
+    double mPanMax = 0.0;
+    QElapsedTimer mSinceZoom; ///< the last step of the wheel
+};
+
+} // namespace TARN

@@ -1,0 +1,164 @@
+#include "graph/GraphLayout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace TARN {
+
+namespace {
+
+constexpr double Bottom = 40.0; ///< pixels below the plot
+constexpr double Top = 10.0;
+constexpr double Right = 10.0;
+constexpr double LabelGap = 20.0; ///< pixels that stand free left of the widest value label
+
+/// A tenth more on each side; something where there is no extent.
+ValueRange widened(const ValueRange& range)
+{
+    const double margin = std::max(range.high - range.low, 0.001) * 0.1;
+    return {range.low - margin, range.high + margin};
+}
+
+ValueRange visibleRange(std::span<const FrameType> frames)
+{
+    ValueRange range;
+    for (const FrameType& frame : frames) {
+        const ValueRange part = frame.range();
+        if (std::isfinite(part.low)) {
+            range.widen(part.low);
+        }
+        if (std::isfinite(part.high)) {
+            range.widen(part.high);
+        }
+    }
+    return range;
+}
+
+} // namespace
+
+void GraphLayout::setSize(double width, double height)
+{
+    mWidth = width;
+    mView.y0 = Bottom;
+    mView.height = std::max(height - Bottom - Top, 1.0);
+    placePlot(mView.x0 > 0.0 ? mView.x0 : Bottom + LabelGap);
+}
+
+void GraphLayout::setTimes(double min, double max)
+{
+    mView.xmin = min;
+    mView.xmax = max;
+}
+
+void GraphLayout::setValues(double min, double max)
+{
+    mView.ymin = std::isfinite(min) ? min : mView.ymin;
+    mView.ymax = std::isfinite(max) ? max : mView.ymax;
+}
+
+void GraphLayout::add(ParStruct& curve, double time, double value)
+{
+    if (curve.active && !mStale) {
+        curve.frames.add(time, value, frameWindow());
+    }
+}
+
+void GraphLayout::placePlot(double left)
+{
+    mView.x0 = std::min(left, mWidth / 2.0);
+    mView.width = std::max(mWidth - mView.x0 - Right, 1.0);
+}
+
+void GraphLayout::prepare(const Measure& measure, double lineHeight)
+{
+    constexpr int Rounds = 3; // labels and the plot that they leave room for chase each other
+    for (int round = 0; round < Rounds; ++round) {
+        updateFrames();
+        updateScales();
+        updateAxes(lineHeight);
+        double widest = 0.0;
+        for (const ValueAxis& axis : mAxes) {
+            for (const ValueAxis::Label& label : axis.labels) {
+                widest = std::max(widest, std::ceil(measure(label.text)));
+            }
+        }
+        const double before = mView.x0;
+        placePlot(widest + LabelGap);
+        if (mView.x0 == before) {
+            break;
+        }
+    }
+    updateFrames();
+}
+
+void GraphLayout::updateFrames()
+{
+    const bool isStale = mStale || mFrameWidth != mView.width;
+    mStale = false;
+    mFrameWidth = mView.width;
+    for (ParStruct& curve : mCurves.all()) {
+        if (!curve.active) {
+            curve.frames.clear();
+        } else if (isStale) {
+            curve.frames.rebuild(curve.samples(), frameWindow());
+        }
+        curve.frames.trim(mView.xmin);
+    }
+}
+
+std::span<const FrameType> GraphLayout::frames(unsigned i)
+{
+    updateFrames();
+    const ParStruct* curve = mCurves.curve(i);
+    return curve != nullptr ? curve->frames.frames() : std::span<const FrameType>();
+}
+
+/// Takes the scales from what is about to be drawn and gives each curve its strip.
+void GraphLayout::updateScales()
+{
+    ValueRange all;
+    for (ParStruct& curve : mCurves.all()) {
+        const ValueRange range = visibleRange(curve.frames.frames());
+        curve.visible = range.empty() ? curve.visible : range;
+        if (curve.active) {
+            all.widen(range);
+        }
+    }
+    if (mAutoScaleY) {
+        const ValueRange range = widened(all.empty() ? ValueRange{0.0, 0.0} : all);
+        mView.ymin = range.low;
+        mView.ymax = range.high;
+    }
+    const auto active = std::max<std::size_t>(mCurves.activeCount(), 1);
+    const double height = mView.height / static_cast<double>(active);
+    int k = 0;
+    for (ParStruct& curve : mCurves.all()) {
+        curve.strip = mView.whole();
+        if (mDisplayMode == DisplaySplit && curve.active) {
+            const ValueRange range =
+                mAutoScaleY ? widened(curve.visible) : ValueRange{mView.ymin, mView.ymax};
+            curve.strip = {mView.y0 + mView.height - ++k * height, height, range.low, range.high};
+        }
+    }
+}
+
+void GraphLayout::updateAxes(double lineHeight)
+{
+    mAxes.clear();
+    if (mDisplayMode == DisplaySingle) {
+        mAxes.push_back(ValueAxis::ofPlot(mView.whole()));
+        return;
+    }
+    for (const ParStruct& curve : mCurves.all()) {
+        mAxes.push_back(curve.active ? ValueAxis::ofStrip(curve.strip, lineHeight) : ValueAxis());
+    }
+}
+
+const ValueAxis& GraphLayout::axis(unsigned i) const
+{
+    static const ValueAxis None;
+    const std::size_t place = mDisplayMode == DisplaySingle ? 0 : i;
+    return place < mAxes.size() ? mAxes[place] : None;
+}
+
+} // namespace TARN

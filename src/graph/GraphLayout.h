@@ -1,0 +1,66 @@
+#pragma once
+
+#include "graph/CurveSet.h"
+#include "graph/GraphData.h"
+#include "graph/ValueAxis.h"
+
+#include <functional>
+#include <span>
+#include <vector>
+
+namespace TARN {
+
+/// Where what a graph shows lies in its widget: the plot area, the columns of the curves, their
+/// strips and scales, the axes. Brought up to date when it is next asked for, so that any number
+/// of changes between two paints costs one pass over the samples in sight.
+class GraphLayout
+{
+public:
+    /// Of these curves, which live as long.
+    explicit GraphLayout(CurveSet& curves) : mCurves(curves) {}
+
+    /// Places the plot area in a widget of this size.
+    void setSize(double width, double height);
+    /// The visible time, seconds. Frames that hold what is in sight already stay.
+    void setTimes(double min, double max);
+    /// The Y range, for as long as it is not taken from the curves; what is no number is ignored.
+    void setValues(double min, double max);
+    /// Takes the Y range, and in split mode that of each curve, from what is in sight.
+    void setAutoScaleY(bool on) { mAutoScaleY = on; }
+    void setDisplayMode(eDisplayMode mode) { mDisplayMode = mode; }
+    eDisplayMode displayMode() const { return mDisplayMode; }
+
+    /// Curves, or the time in sight, are others: their columns are found anew.
+    void refresh() { mStale = true; }
+    /// Adds a sample that a curve has got behind all others.
+    void add(ParStruct& curve, double time, double value);
+
+    /// Width of a text in pixels.
+    using Measure = std::function<double(const QString&)>;
+    /// Brings frames, scales and axes up to date: what is drawn then is what the curves are now.
+    void prepare(const Measure& measure, double lineHeight);
+
+    const GraphView& view() const { return mView; }
+    /// Axis of a curve's strip in split mode, by index; the common axis in single mode.
+    const ValueAxis& axis(unsigned i) const;
+    /// The frames of a curve, up to date.
+    std::span<const FrameType> frames(unsigned i);
+
+private:
+    void updateFrames();
+    void updateScales();
+    void updateAxes(double lineHeight);
+    void placePlot(double left);
+    FrameWindow frameWindow() const { return {mView.xmin, mView.xmax, mView.pixelTime()}; }
+
+    CurveSet& mCurves;
+    GraphView mView;
+    double mWidth = 0.0; ///< of the widget, pixels
+    eDisplayMode mDisplayMode = DisplaySingle;
+    bool mAutoScaleY = true;
+    bool mStale = true;       ///< frames are rebuilt when they are next needed
+    double mFrameWidth = 0.0; ///< plot width that the frames were built for
+    std::vector<ValueAxis> mAxes;
+};
+
+} // namespace TARN

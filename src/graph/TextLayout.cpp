@@ -1,0 +1,70 @@
+#include "graph/TextLayout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace TARN {
+
+QSizeF TextLayout::sizeOf(const QString& text) const
+{
+    return {std::ceil(mMetrics.horizontalAdvance(text)), std::ceil(mMetrics.height())};
+}
+
+bool TextLayout::add(const QString& text, QPointF topLeft, const GraphColor& color,
+                     const QRectF& area, bool backed)
+{
+    const QRectF box(topLeft, sizeOf(text));
+    if (text.isEmpty() || !area.contains(box)) {
+        return false;
+    }
+    mTexts.push_back({text, box, color, backed});
+    return true;
+}
+
+void TextLayout::addNear(const QString& text, QPointF topLeft, const GraphColor& color,
+                         const QRectF& area)
+{
+    constexpr double Gap = 5.0; // pixels
+    QRectF box(topLeft, sizeOf(text));
+    box.moveLeft(std::max(area.left(), std::min(box.left(), area.right() - box.width())));
+    box.moveTop(std::max(area.top(), std::min(box.top(), area.bottom() - box.height())));
+    while (box.right() <= area.right()) {
+        if (const auto place = gapNear(box, area)) {
+            mTexts.push_back({text, *place, color, true});
+            return;
+        }
+        const Text* other = hit(box);
+        if (other == nullptr) {
+            return; // the area is too small
+        }
+        box.moveLeft(other->box.right() + Gap); // on, past what stands here
+    }
+}
+
+/// The nearest free place for \p box straight above or below, itself included.
+std::optional<QRectF> TextLayout::gapNear(const QRectF& box, const QRectF& area) const
+{
+    QRectF above = box;
+    while (const Text* other = hit(above)) {
+        above.moveBottom(other->box.top());
+    }
+    QRectF below = box;
+    while (const Text* other = hit(below)) {
+        below.moveTop(other->box.bottom());
+    }
+    const bool fitsAbove = area.contains(above);
+    const bool fitsBelow = area.contains(below);
+    if (fitsAbove && (!fitsBelow || box.top() - above.top() < below.top() - box.top())) {
+        return above;
+    }
+    return fitsBelow ? std::optional(below) : std::nullopt;
+}
+
+const TextLayout::Text* TextLayout::hit(const QRectF& box) const
+{
+    const auto found =
+        std::ranges::find_if(mTexts, [&](const Text& other) { return other.box.intersects(box); });
+    return found != mTexts.end() ? &*found : nullptr;
+}
+
+} // namespace TARN

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "graph/GraphTypes.h"
+
+#include <QtCore/QRectF>
+#include <QtGui/QFontMetricsF>
+
+#include <optional>
+#include <vector>
+
+namespace TARN {
+
+/// The texts of one paint, placed so that none runs out of the widget and those that have a say
+/// in their place keep clear of the others. Pixels from the upper left corner, as text is painted.
+class TextLayout
+{
+public:
+    struct Text
+    {
+        QString text;
+        QRectF box; ///< that the text fills
+        GraphColor color;
+        bool backed; ///< on a plate that sets it off from the curves
+    };
+
+    explicit TextLayout(const QFontMetricsF& metrics) : mMetrics(metrics) {}
+
+    void clear() { mTexts.clear(); }
+    const std::vector<Text>& texts() const { return mTexts; }
+
+    QSizeF sizeOf(const QString& text) const;
+
+    /// A text cut in the middle where it is wider than so many pixels.
+    QString elided(const QString& text, double width) const
+    {
+        return mMetrics.elidedText(text, Qt::ElideMiddle, width);
+    }
+
+    /// Adds a text where it fits into \p area, else not at all.
+    bool add(const QString& text, QPointF topLeft, const GraphColor& color, const QRectF& area,
+             bool backed = false);
+
+    /// Adds a text near a place: moved into the area, then up or down to the nearest gap between
+    /// the texts that are there, or on to the right of them. Left out where there is none.
+    void addNear(const QString& text, QPointF topLeft, const GraphColor& color, const QRectF& area);
+
+private:
+    std::optional<QRectF> gapNear(const QRectF& box, const QRectF& area) const;
+    const Text* hit(const QRectF& box) const;
+
+    QFontMetricsF mMetrics;
+    std::vector<Text> mTexts;
+};
+
+} // namespace TARN

@@ -1,0 +1,294 @@
+#include "graph/WidgetGraph.h"
+
+#include "base/Property.h"
+#include "graph/GraphDrawing.h"
+
+#include <QtGui/QFontDatabase>
+#include <QtGui/QOffscreenSurface>
+#include <QtGui/QOpenGLContext>
+#include <QtGui/QPainter>
+#include <QtOpenGL/QOpenGLPaintDevice>
+
+using namespace TARN;
+
+namespace {
+
+QFont graphFont()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPixelSize(13);
+    return font;
+}
+
+/// The oldest kind of context; it has all that is drawn with.
+QSurfaceFormat graphFormat()
+{
+    QSurfaceFormat format;
+    format.setRenderableType(QSurfaceFormat::OpenGL);
+    format.setVersion(2, 1);
+    format.setProfile(QSurfaceFormat::NoProfile);
+    return format;
+}
+
+} // namespace
+
+WidgetGraph::WidgetGraph(QWidget* parent)
+    : QOpenGLWidget(parent), mFeed(mModel), mGestures(mModel), mTexts(QFontMetricsF(graphFont())),
+      mEmpty(new EmptyPlace(this))
+{
+    constexpr int RepaintInterval = 30; // ms
+    constexpr int RecalcDelay = 50;
+    setFormat(graphFormat());
+    setFont(graphFont());
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Graph of the selected parameters"));
+    setMinimumSize(200, 120);
+    setMaxParameters(6);
+    connect(&mModel, &GraphModel::changed, this, [this] {
+        updateEmptyPlace();
+        update();
+    });
+    connect(mEmpty, &QLabel::linkActivated, this, &WidgetGraph::signalLink);
+    connect(&mGestures, &GraphGestures::cursorMoved, this, &WidgetGraph::signalCursor);
+    connect(&mGestures, &GraphGestures::markersMoved, this, &WidgetGraph::signalMarker);
+    connect(&mGestures, &GraphGestures::panned, this, &WidgetGraph::signalManMode);
+    connect(&mGestures, &GraphGestures::keyCursorChanged, this, qOverload<>(&QWidget::update));
+    connect(&mRepaintTimer, &QTimer::timeout, this, &WidgetGraph::slotTimeout);
+    mRepaintTimer.start(RepaintInterval);
+    mRecalcTimer.setSingleShot(true);
+    mRecalcTimer.setInterval(RecalcDelay);
+    connect(&mRecalcTimer, &QTimer::timeout, this, &WidgetGraph::slotTimeoutRecalc);
+    mSinceRedraw.start();
+}
+
+bool WidgetGraph::canDraw()
+{
+    QOpenGLContext context;
+    context.setFormat(graphFormat());
+    QOffscreenSurface surface;
+    surface.setFormat(graphFormat());
+    if (!context.create() || context.isOpenGLES()) {
+        return false;
+    }
+    surface.create();
+    const bool current = context.makeCurrent(&surface);
+    const bool drawable = current && context.format().profile() != QSurfaceFormat::CoreProfile;
+    if (current) {
+        context.doneCurrent();
+    }
+    return drawable;
+}
+
+void WidgetGraph::setGraphStyle(const GraphStyle& style)
+{
+    mStyle = style;
+    update();
+}
+
+void WidgetGraph::setEmptyText(const QString& text)
+{
+    mEmpty->setText(text);
+    updateEmptyPlace();
+}
+
+void WidgetGraph::setMaxParameters(unsigned n)
+{
+    mModel.curves() = CurveSet(n);
+    mGestures.resetKeyCursor();
+    for (unsigned i = 0; i < mModel.curves().count(); ++i) {
+        const std::string key = "GraphColor" + std::to_string(i);
+        const auto name = QString::fromStdString(Property::instance()->getString(key, ""));
+        if (QColor::isValidColor(name)) {
+            mModel.curves().curve(i)->color = GraphColor::of(QColor(name));
+        }
+    }
+    mModel.curvesChanged();
+}
+
+void WidgetGraph::setParameterName(unsigned i, const QString& name)
+{
+    if (ParStruct* curve = mModel.curves().curve(i)) {
+        curve->name = name;
+        update();
+    }
+}
+
+void WidgetGraph::setParameterColor(unsigned i, float red, float green, float blue)
+{
+    if (ParStruct* curve = mModel.curves().curve(i)) {
+        curve->color = {red, green, blue};
+        update();
+    }
+}
+
+void WidgetGraph::activateSamples(unsigned i, bool on)
+{
+    if (ParStruct* curve = mModel.curves().curve(i)) {
+        curve->showSamples = on;
+        update();
+    }
+}
+
+void WidgetGraph::setActive(unsigned i, bool active)
+{
+    if (ParStruct* curve = mModel.curves().curve(i)) {
+        curve->active = active;
+        mModel.curvesChanged(); // frames are kept for active curves only
+    }
+}
+
+bool WidgetGraph::getValue(unsigned i, double time, double& value) const
+{
+    value = 0.0;
+    const ParStruct* curve = mModel.curves().curve(i);
+    return curve != nullptr && curve->samples().valueAt(time, value);
+}
+
+void WidgetGraph::getParameterRangeX(unsigned i, double& first, double& last) const
+{
+    if (const ParStruct* curve = mModel.curves().curve(i)) {
+        const CurveSamples& samples = curve->samples();
+        first = samples.empty() ? 0.0 : samples.firstTime();
+        last = samples.empty() ? 0.0 : samples.lastTime();
+    }
+}
+
+void WidgetGraph::getParameterRangeY(unsigned i, double& min, double& max) const
+{
+    if (const ParStruct* curve = mModel.curves().curve(i)) {
+        min = curve->samples().dataMin();
+        max = curve->samples().dataMax();
+    }
+}
+
+void WidgetGraph::setT0(float time)
+{
+    mModel.window().shiftTo(time);
+    mModel.windowChanged();
+}
+
+void WidgetGraph::setXmin(float time)
+{
+    mModel.window().set(time, mModel.window().max());
+    mModel.windowChanged();
+}
+
+void WidgetGraph::setXmax(float time)
+{
+    mModel.window().set(mModel.window().min(), time);
+    mModel.windowChanged();
+}
+
+void WidgetGraph::setXrange(float width)
+{
+    mModel.window().setWidth(width, mModel.graphMode() == GraphAutomatic);
+    mModel.windowChanged();
+}
+
+void WidgetGraph::resizeGL(int width, int height)
+{
+    mModel.layout().setSize(width, height);
+    mGestures.setSize({width, height});
+    updateEmptyPlace();
+    update();
+}
+
+void WidgetGraph::paintGL()
+{
+    mTexts.clear();
+    const double lineHeight = mTexts.sizeOf("0").height();
+    mFeed.holdLastValues();
+    mModel.layout().prepare([this](const QString& text) { return mTexts.sizeOf(text).width(); },
+                            lineHeight);
+    mCanvas.begin(size(), devicePixelRatioF(), mStyle.labelBack);
+    GraphDrawing(mModel, mStyle, mGestures.keyCursor(), size(), mCanvas, mTexts).draw();
+    mCanvas.end();
+    // On the frame buffer, not on this widget: while a window is grabbed, painters on its widgets
+    // are led elsewhere.
+    QOpenGLPaintDevice device(size() * devicePixelRatioF());
+    device.setDevicePixelRatio(devicePixelRatioF());
+    QPainter painter(&device);
+    paintTexts(painter);
+}
+
+void WidgetGraph::paintTexts(QPainter& painter) const
+{
+    painter.setFont(font());
+    const double ascent = QFontMetricsF(font()).ascent();
+    constexpr float Opacity = 0.7F; // a peak behind a name is seen all the same
+    QColor plate = mStyle.back.toColor();
+    plate.setAlphaF(Opacity);
+    for (const TextLayout::Text& text : mTexts.texts()) {
+        if (text.backed) {
+            painter.fillRect(text.box.adjusted(-2.0, 0.0, 2.0, 0.0), plate);
+        }
+        painter.setPen(text.color.toColor());
+        painter.drawText(text.box.topLeft() + QPointF(0.0, ascent), text.text);
+    }
+}
+
+/// Stands in the plot, on its colour.
+void WidgetGraph::updateEmptyPlace()
+{
+    constexpr int Margin = 24;
+    const GraphView& view = mModel.layout().view();
+    const QRectF plot(view.x0, height() - view.y0 - view.height, view.width, view.height);
+    const bool isDark = mStyle.back.toColor().lightness() < 128;
+    mEmpty->setTextColor(isDark ? Qt::lightGray : Qt::darkGray);
+    mEmpty->setGeometry(plot.toRect().adjusted(Margin, Margin, -Margin, -Margin));
+    mEmpty->setVisible(!mModel.curves().hasSamples());
+}
+
+void WidgetGraph::showEvent(QShowEvent* event)
+{
+    QOpenGLWidget::showEvent(event);
+    mRecalcTimer.start();
+}
+
+void WidgetGraph::slotTimeout()
+{
+    constexpr double Pixels = 0.7; // that the window moves between two redraws at least
+    const double seconds = Pixels * mModel.layout().view().pixelTime();
+    const qint64 elapsed = mSinceRedraw.elapsed();
+    // Without new samples there is nothing to redraw, and a processor to be spared.
+    if (isVisible() && mFeed.timeChanged() && static_cast<double>(elapsed) > seconds * 1000.0) {
+        mSinceRedraw.restart();
+        update();
+    }
+}
+
+void WidgetGraph::slotTimeoutRecalc()
+{
+    mModel.windowChanged();
+}
+
+void WidgetGraph::slotTimeoutCursor()
+{
+    mGestures.hideKeyCursor();
+}
+
+void WidgetGraph::keyPressEvent(QKeyEvent* event)
+{
+    mGestures.press(*event);
+}
+
+void WidgetGraph::mousePressEvent(QMouseEvent* event)
+{
+    mGestures.press(*event);
+}
+
+void WidgetGraph::mouseMoveEvent(QMouseEvent* event)
+{
+    mGestures.move(*event);
+}
+
+void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)
+{
+    mGestures.release(*event);
+}
+
+void WidgetGraph::wheelEvent(QWheelEvent* event)
+{
+    mGestures.turn(*event);
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "flight/Job.h"
+#include "flight/Session.h"
+#include "table/TableRows.h"
+
+#include <QtWidgets/QWidget>
+
+namespace TARN {
+
+class DataTableView;
+class TableModel;
+
+/// The "Data" tab: the decoded values of the selected parameters, a row for each tenth of a
+/// second.
+class DialogDataTable : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit DialogDataTable(Session& session, QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    /// The user follows a link of the empty text.
+    void signalLink(const QString& link);
+
+private Q_SLOTS:
+    void slotSelect(int row);
+
+private:
+    void showColumns();
+    void fill();
+    void showRows(std::shared_ptr<const TableRows> rows);
+    void showTime(double time, const QObject* source);
+    void updateDigits();
+    void updateEmptyText();
+
+    Session& mSession;
+    TableModel* mModel;
+    DataTableView* mTable;
+    Job<std::shared_ptr<const TableRows>> mJob;
+    bool mIsShort = false; ///< there was not enough memory for the rows
+};
+
+} // namespace TARN

@@ -1,0 +1,113 @@
+#include "table/TableModel.h"
+
+#include "base/CellColor.h"
+#include "base/ClockTime.h"
+
+namespace TARN {
+
+namespace {
+
+QString textOf(const Decoder& decoder, const RecordEntry& entry, bool allDigits)
+{
+    std::string text;
+    if (allDigits) {
+        decoder.appendText(entry, text);
+    } else {
+        decoder.appendShort(entry, text);
+    }
+    return QString::fromStdString(text);
+}
+
+} // namespace
+
+TableModel::TableModel(QObject* parent)
+    : QAbstractTableModel(parent),
+      mRows(std::make_shared<TableRows>(std::make_shared<Profile>(), Selection()))
+{}
+
+void TableModel::setRows(std::shared_ptr<const TableRows> rows)
+{
+    beginResetModel();
+    mRows = std::move(rows);
+    endResetModel();
+}
+
+void TableModel::setAllDigits(bool on)
+{
+    beginResetModel();
+    mAllDigits = on;
+    endResetModel();
+}
+
+int TableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : truncatedTo<int>(static_cast<double>(mRows->rowCount()));
+}
+
+int TableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(mRows->columnCount()) + 1;
+}
+
+QVariant TableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid()) {
+        return {};
+    }
+    return index.column() == 0 ? timeData(index.row(), role)
+                               : valueData(index.row(), index.column(), role);
+}
+
+QVariant TableModel::timeData(int row, int role) const
+{
+    const std::int64_t milliseconds = std::int64_t(mRows->key(static_cast<std::size_t>(row))) * 100;
+    switch (role) {
+    case Qt::DisplayRole:
+        return clockTime(milliseconds).toString("hh:mm:ss.zzz");
+    case Qt::UserRole:
+        return static_cast<qlonglong>(milliseconds);
+    case Qt::BackgroundRole:
+        return backgroundOf(TimeCellColor);
+    case Qt::ForegroundRole:
+        return foregroundOn(TimeCellColor);
+    default:
+        return {};
+    }
+}
+
+QVariant TableModel::valueData(int row, int column, int role) const
+{
+    const auto place = static_cast<std::size_t>(column - 1);
+    const bool isShown = role == Qt::DisplayRole || role == Qt::BackgroundRole ||
+                         role == Qt::ForegroundRole || role == Qt::ToolTipRole;
+    const Decoder& decoder = mRows->decoder(place);
+    if (role == Qt::TextAlignmentRole && decoder.isNumeric()) {
+        return int(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    const RecordEntry* entry =
+        isShown ? mRows->sample(static_cast<std::size_t>(row), place) : nullptr;
+    if (entry == nullptr) {
+        return {};
+    }
+    if (role == Qt::DisplayRole) {
+        return textOf(decoder, *entry, mAllDigits);
+    }
+    if (role == Qt::ToolTipRole) {
+        return decoder.isSingle() ? textOf(decoder, *entry, true) : QVariant();
+    }
+    const QColor color = decoder.cellColor(*entry);
+    return role == Qt::BackgroundRole ? backgroundOf(color) : foregroundOn(color);
+}
+
+QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    const bool isTitle =
+        orientation == Qt::Horizontal && (role == Qt::DisplayRole || role == Qt::ToolTipRole);
+    if (!isTitle || section < 0 || section >= columnCount()) {
+        return QAbstractTableModel::headerData(section, orientation, role);
+    }
+    return section == 0 ? tr("Time")
+                        : mRows->parameter(static_cast<std::size_t>(section - 1)).title();
+}
+
+} // namespace TARN

@@ -1,0 +1,23 @@
+#include "widgets/ClockEdit.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QLineEdit>
+
+namespace TARN {
+
+ClockEdit::ClockEdit(const QString& format, QWidget* parent) : QTimeEdit(parent)
+{
+    setDisplayFormat(format);
+}
+
+void ClockEdit::keyPressEvent(QKeyEvent* event)
+{
+    // A part that nobody has typed in yet is selected as a whole.
+    const bool isSeparator = event->text() == ":" || event->text() == ".";
+    if (isSeparator && currentSectionIndex() > 0 && lineEdit()->hasSelectedText()) {
+        return;
+    }
+    QTimeEdit::keyPressEvent(event);
+}
+
+} // namespace TARN
