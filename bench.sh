@@ -12,12 +12,12 @@ build=build/bench
 mkdir -p "$build"
 {
     cmake --preset bench -DCMAKE_CXX_COMPILER_LAUNCHER=ccache &&
-        cmake --build --preset bench --target orna-bench orna-bench-paint
+        cmake --build --preset bench --target orna-bench orna-bench-window
 } >"$build/build-log.txt" 2>&1 || {
     cat "$build/build-log.txt" >&2
     exit 1
 }
 export TMPDIR=$PWD/$build # on the disk, where /tmp may be memory
 "$build/bin/orna-bench" "$@"
-# Painting needs a display, a virtual one will do.
-xvfb-run -a -s "-screen 0 1400x1000x24" "$build/bin/orna-bench-paint" "$@"
+# Windows need a display, a virtual one will do.
+xvfb-run -a -s "-screen 0 1400x1000x24" "$build/bin/orna-bench-window" "$@"

@@ -79,34 +79,4 @@ Digest PlainRecord::inTimeOrder() const
     return Digest::of(sorted);
 }
 
-void LinkedRecord::load(const std::string& path)
-{
-    forEachSample(path, [&](const RecordEntry& sample) {
-        const double time = sample.time();
-        const Entry entry{sample, time, static_cast<int>(time * 10 + 0.5),
-                          static_cast<int>(time * 100 + 0.5)};
-        auto& ids = mChannels[sample.channel];
-        ids[sample.id].push_back(entry);
-        ids[sample.channel == 0 ? RecordData::AllOfChannel0 : RecordData::AllOfChannel1].push_back(
-            entry);
-        mEntries.push_back(entry);
-    });
-    mEntries.sort([](const Entry& a, const Entry& b) { return a.time < b.time; });
-}
-
-std::map<ListKey, Digest> LinkedRecord::digests() const
-{
-    std::map<ListKey, Digest> digests;
-    for (const auto& [channel, ids] : mChannels) {
-        for (const auto& [id, entries] : ids) {
-            for (const Entry& entry : entries) {
-                if (entry.sample.id == id) { // not the list of a whole channel
-                    digests[{channel, id}].add(entry.sample);
-                }
-            }
-        }
-    }
-    return digests;
-}
-
 } // namespace TARN::Bench

@@ -2,7 +2,6 @@
 
 #include "record/RecordEntry.h"
 
-#include <list>
 #include <map>
 #include <span>
 #include <string>
@@ -37,28 +36,6 @@ public:
 private:
     std::vector<RecordEntry> mSamples;
     std::map<ListKey, Digest> mLists;
-};
-
-/// What comes to mind first: each sample is kept with its time in three forms and appended to
-/// the list of its identifier, to that of its channel, and to one list of all, sorted at the end.
-class LinkedRecord
-{
-public:
-    void load(const std::string& path);
-    std::map<ListKey, Digest> digests() const; ///< of the lists by identifier
-
-private:
-    struct Entry
-    {
-        RecordEntry sample;
-        double time;
-        int time10;
-        int time100;
-    };
-    static_assert(sizeof(Entry) == 48);
-
-    std::map<unsigned, std::map<unsigned, std::list<Entry>>> mChannels;
-    std::list<Entry> mEntries;
 };
 
 } // namespace TARN::Bench

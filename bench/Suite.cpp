@@ -1,5 +1,8 @@
 #include "Suite.h"
 
+#include "base/Diagnostics.h"
+
+#include <CLI/CLI.hpp>
 #include <cstdio>
 #include <cstdlib>
 
@@ -18,15 +21,13 @@ Suite::~Suite()
     std::filesystem::remove_all(mFolder, ignored);
 }
 
-void Suite::figure(const std::string& name, Target target, const Measurement& value)
+void Suite::figure(const std::string& name, double target, const Measurement& value)
 {
     if (!isWanted(name)) {
         return;
     }
     const double got = value();
-    const bool isMet = target.isCeiling ? got <= target.value : got >= target.value;
-    std::printf("%s %.4g %s%g %s\n", name.c_str(), got,
-                target.isCeiling ? "<=" : ">=", target.value, isMet ? "ok" : "short");
+    std::printf("%s %.4g <=%g %s\n", name.c_str(), got, target, got <= target ? "ok" : "short");
     std::fflush(stdout);
 }
 
@@ -75,6 +76,37 @@ const std::string& Suite::csvRecording()
     return recording("csv", [&](const std::string& path) {
         writeRecording(path, csvMessages(), csvRows() * csvMessages().size());
     });
+}
+
+std::optional<int> parseOptions(Options& options, int argc, char** argv)
+{
+    CLI::App app("Measures ORNA against limits and rivals timed in the same run.");
+    app.add_flag("--quick", options.quick, "Leave the 1 GB recording out");
+    app.add_flag("--peers", options.peers,
+                 "Also compare with other tools where they are installed");
+    app.add_flag_callback("--rounds", showRounds, "Tell each round on standard error");
+    app.add_option("only", options.only, "Measure the figures whose names begin like this");
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error);
+    }
+    return std::nullopt;
+}
+
+int measure(const Options& options, std::initializer_list<void (*)(Suite&)> groups)
+{
+    setDiagnosticStream(std::fopen("/dev/null", "w")); // standard output is for the figures
+    try {
+        Suite suite(options);
+        for (const auto group : groups) {
+            group(suite);
+        }
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "orna-bench: %s\n", error.what());
+        return 1;
+    }
+    return 0;
 }
 
 } // namespace TARN::Bench

@@ -4,27 +4,12 @@
 #include "Traffic.h"
 
 #include <filesystem>
+#include <initializer_list>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace TARN::Bench {
-
-/// What is asked of a figure.
-struct Target
-{
-    bool isCeiling;
-    double value;
-};
-
-constexpr Target atMost(double value)
-{
-    return {true, value};
-}
-
-constexpr Target atLeast(double value)
-{
-    return {false, value};
-}
 
 struct Options
 {
@@ -45,8 +30,10 @@ public:
 
     const Options& options() const { return mOptions; }
 
-    /// Does nothing when the figure was not asked for.
-    void figure(const std::string& name, Target target, const Measurement& value);
+    bool isWanted(const std::string& name) const { return name.starts_with(mOptions.only); }
+
+    /// Asks for at most \p target. Does nothing when the figure was not asked for.
+    void figure(const std::string& name, double target, const Measurement& value);
 
     /// A rival's ratio that nothing is asked of: "NAME VALUE - peer". Only with --peers.
     void peer(const std::string& name, const Measurement& value);
@@ -58,13 +45,14 @@ public:
     /// A recording in which each of tableMessages() sends once in every tenth of a second.
     const std::string& tableRecording(std::size_t rows);
 
+    const std::filesystem::path& folder() const { return mFolder; }
+
     /// A recording of csvMessages() over an hour, with --quick over six minutes.
     const std::string& csvRecording();
     /// Its rows at a tenth of a second.
     std::size_t csvRows() const { return mOptions.quick ? 3'600 : 36'000; }
 
 private:
-    bool isWanted(const std::string& name) const { return name.starts_with(mOptions.only); }
     const std::string& recording(const std::string& name,
                                  const std::function<void(const std::string& path)>& write);
 
@@ -72,6 +60,12 @@ private:
     std::filesystem::path mFolder;
     std::map<std::string, std::string> mRecordings; ///< path by name
 };
+
+/// Fills \p options from the command line. A status to end with where there is nothing to measure.
+std::optional<int> parseOptions(Options& options, int argc, char** argv);
+
+/// Measures groups of figures; the status to end with.
+int measure(const Options& options, std::initializer_list<void (*)(Suite&)> groups);
 
 // The figures, one source for each subject.
 void loadFigures(Suite& suite);

@@ -140,8 +140,8 @@ double textRatio()
 
 void decodeFigures(Suite& suite)
 {
-    suite.figure("decode.column", atMost(3.0), columnRatio);
-    suite.figure("decode.text", atMost(2.5), textRatio);
+    suite.figure("decode.column", 3.0, columnRatio);
+    suite.figure("decode.text", 2.5, textRatio);
 }
 
 } // namespace TARN::Bench

@@ -1,17 +1,15 @@
-// The figures that need a display; prints them like orna-bench does.
+#include "Suite.h"
+#include "Window.h"
+#include "graph/WidgetGraph.h"
 
-#include "Harness.h"
-#include "Start.h"
-#include "display/WidgetGraph.h"
-
+#include <QtCore/QEventLoop>
+#include <QtCore/QTimer>
 #include <QtGui/qopengl.h>
-#include <QtWidgets/QApplication>
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
-#include <string>
-#include <string_view>
+#include <memory>
+#include <vector>
 
 namespace TARN::Bench {
 
@@ -20,6 +18,7 @@ namespace {
 constexpr unsigned Curves = 30;
 constexpr int Samples = 100'000;
 constexpr double Hour = 3600.0;
+constexpr std::size_t Columns = 850; // of the plot; the rest of the width is labels
 
 /// The graph, and the same lines without one.
 class PaintedGraph : public WidgetGraph
@@ -36,8 +35,10 @@ public:
             values.push_back(std::sin(k * 1e-3) + (k * 7919 % 1000) * 1e-3);
         }
         for (unsigned i = 0; i < Curves; ++i) {
+            auto samples = std::make_shared<CurveSamples>();
+            samples->putSeries(times, values);
             setActive(i, true);
-            putSeries(i, times, values);
+            model().curves().setSeries(i, samples);
         }
         setGraphMode(GraphManual);
         setDisplayMode(DisplaySplit);
@@ -82,9 +83,9 @@ private:
         std::vector<float> vertices;
         const float strip = static_cast<float>(height()) / Curves;
         for (unsigned i = 0; i < Curves; ++i) {
-            const auto all = frames(i);
-            require(all.size() > 900, "the graph has too few columns");
-            for (const FrameType& frame : all.first(900)) {
+            const auto all = model().layout().frames(i);
+            require(all.size() > Columns, "the graph has too few columns");
+            for (const FrameType& frame : all.first(Columns)) {
                 for (const double value : {frame.first, frame.low, frame.high, frame.last}) {
                     vertices.push_back(static_cast<float>(frame.time / Hour * width()));
                     vertices.push_back((static_cast<float>(i) + 0.5F) * strip +
@@ -101,9 +102,9 @@ double paintRatio()
     constexpr int Rounds = 15;
     PaintedGraph graph;
     graph.show();
-    for (int i = 0; i < 50; ++i) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-    }
+    QEventLoop exposed;
+    QTimer::singleShot(1000, &exposed, &QEventLoop::quit);
+    exposed.exec();
     std::vector<double> ratios;
     for (int i = 0; i < Rounds; ++i) {
         graph.paintSeconds();
@@ -117,43 +118,9 @@ double paintRatio()
 
 } // namespace
 
+void paintFigures(Suite& suite)
+{
+    suite.figure("graph.paint", 1.5, paintRatio);
+}
+
 } // namespace TARN::Bench
-
-namespace {
-
-void print(const std::string& name, const std::string& only, double (*ratio)())
-{
-    constexpr double Target = 1.5;
-    if (name.starts_with(only)) {
-        const double value = ratio();
-        std::printf("%s %.4g <=%g %s\n", name.c_str(), value, Target,
-                    value <= Target ? "ok" : "short");
-    }
-}
-
-} // namespace
-
-int main(int argc, char** argv)
-{
-    std::string only;
-    for (int i = 1; i < argc; ++i) {
-        if (std::string_view(argv[i]) == "--rounds") {
-            TARN::Bench::showRounds();
-        } else if (argv[i][0] != '-') {
-            only = argv[i];
-        }
-    }
-    QApplication application(argc, argv);
-    if (!WidgetGraph::canDraw()) {
-        std::fprintf(stderr, "orna-bench-paint: no OpenGL on this display\n");
-        return 1;
-    }
-    try {
-        print("graph.paint", only, TARN::Bench::paintRatio);
-        print("start.time", only, TARN::Bench::startRatio);
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "orna-bench-paint: %s\n", error.what());
-        return 1;
-    }
-    return 0;
-}

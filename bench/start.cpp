@@ -1,6 +1,5 @@
-#include "Start.h"
-
-#include "Harness.h"
+#include "Suite.h"
+#include "Window.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
@@ -42,8 +41,8 @@ void installProfile(const QString& home)
     std::filesystem::copy(ORNA_BENCH_PROFILE, folder);
 }
 
-} // namespace
-
+/// Time from the start of the viewer's process until its window has painted, to that of a bare
+/// window with an OpenGL widget. Both run with an empty home of their own.
 double startRatio()
 {
     const QTemporaryDir home;
@@ -52,6 +51,13 @@ double startRatio()
     constexpr int Rounds = 15; // so short a time is easily disturbed
     return ratioOf(startOf("orna-bench-start-viewer", home.path()),
                    startOf("orna-bench-start-bare", home.path()), Rounds);
+}
+
+} // namespace
+
+void startFigures(Suite& suite)
+{
+    suite.figure("start.time", 1.4, startRatio);
 }
 
 } // namespace TARN::Bench

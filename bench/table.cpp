@@ -1,6 +1,7 @@
+#include "Flights.h"
 #include "Suite.h"
 #include "base/ClockTime.h"
-#include "display/TableModel.h"
+#include "table/TableModel.h"
 
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QTableWidget>
@@ -15,36 +16,15 @@ namespace {
 constexpr std::size_t HourOfRows = 36'000;
 constexpr int VisibleRows = 50;
 
-/// Selects one parameter for each message of the table recordings.
-void selectParameters(Profile& profile)
+/// Makes the table of a flight ready and shows its first rows.
+Measurement openOf(const std::shared_ptr<const Flight>& flight)
 {
-    profile.clear();
-    for (const Message& message : tableMessages()) {
-        ProfileParameter parameter;
-        parameter.name = QString("Value %1").arg(message.id);
-        parameter.id = static_cast<int>(message.id);
-        parameter.dataType = message.typeCode;
-        parameter.startByte = 4;
-        parameter.selected = true;
-        profile.data().devices[1].parameters[parameter.uid] = parameter;
-    }
-}
-
-std::unique_ptr<Record> loaded(const std::string& path)
-{
-    auto record = std::make_unique<Record>();
-    require(record->readRecordData({QString::fromStdString(path)}), "can't load " + path);
-    return record;
-}
-
-/// Makes the table of a recording ready and shows its first rows.
-Measurement openOf(const Record& record)
-{
-    return [&record] {
+    return [flight] {
         TableModel model;
-        model.updateProfile(*Profile::instance());
         return secondsOf([&] {
-            model.updateRecord(&record);
+            Progress none;
+            model.setRows(
+                std::make_shared<TableRows>(flight, Selection::all(*flight->profile()), 0.0, none));
             for (int row = 0; row < std::min(VisibleRows, model.rowCount()); ++row) {
                 for (int column = 0; column < model.columnCount(); ++column) {
                     keep(model.data(model.index(row, column)));
@@ -83,31 +63,33 @@ double fillCells()
 using Cells = std::map<std::uint32_t, std::map<int, QString>>; ///< by tenth, then column
 
 /// The cells as the words "the last sample of each tenth" say it.
-Cells plainCells(const Record& record)
+Cells plainCells(const Flight& flight)
 {
     Cells cells;
     int column = 0;
-    for (const ProfileParameter* parameter : Profile::instance()->selectedParameters()) {
+    for (const auto& [device, parameter] : flight.profile()->parameters()) {
         ++column;
         const auto id = static_cast<unsigned>(parameter->id);
-        for (std::size_t k = 0; k < record.recordData().count(); ++k) {
-            const RecordEntry& sample = record.recordData().inFileOrder(k);
+        for (std::size_t k = 0; k < flight.samples().count(); ++k) {
+            const RecordEntry& sample = flight.samples().inFileOrder(k);
             if (sample.id == id) {
                 QColor unused;
                 cells[timeKeyOf(sample.time())][column] =
-                    Profile::instance()->getDataString(sample, *parameter, unused);
+                    flight.profile()->getDataString(sample, *parameter, unused);
             }
         }
     }
     return cells;
 }
 
-void checkTable(const Record& record, std::size_t rows)
+void checkTable(const std::shared_ptr<const Flight>& flight, std::size_t rows)
 {
+    Progress none;
     TableModel model;
-    model.updateProfile(*Profile::instance());
-    model.updateRecord(&record);
-    const Cells cells = plainCells(record);
+    model.setAllDigits(true);
+    model.setRows(
+        std::make_shared<TableRows>(flight, Selection::all(*flight->profile()), 0.0, none));
+    const Cells cells = plainCells(*flight);
     require(cells.size() == rows && model.rowCount() == static_cast<int>(rows), "wrong row count");
     int row = 0;
     for (const auto& [tenth, texts] : cells) {
@@ -120,29 +102,25 @@ void checkTable(const Record& record, std::size_t rows)
     }
 }
 
-std::unique_ptr<Record> checkedRecord(Suite& suite, std::size_t rows)
+std::shared_ptr<const Flight> checkedFlight(Suite& suite, std::size_t rows)
 {
-    auto record = loaded(suite.tableRecording(rows));
+    auto flight = flightOf(suite.tableRecording(rows), tableMessages());
     inChild([&] {
-        checkTable(*record, rows);
+        checkTable(flight, rows);
         return 0.0;
     });
-    return record;
+    return flight;
 }
 
 } // namespace
 
 void tableFigures(Suite& suite)
 {
-    selectParameters(*Profile::instance());
-    suite.figure("table.open", atMost(0.05), [&] {
-        const auto record = checkedRecord(suite, HourOfRows);
-        return ratioOf(openOf(*record), fillCells, 5);
-    });
-    suite.figure("table.growth", atMost(11.0), [&] {
-        const auto hour = checkedRecord(suite, HourOfRows);
-        const auto tenHours = checkedRecord(suite, 10 * HourOfRows);
-        return ratioOf(openOf(*tenHours), openOf(*hour));
+    suite.figure("table.open", 0.05,
+                 [&] { return ratioOf(openOf(checkedFlight(suite, HourOfRows)), fillCells, 5); });
+    suite.figure("table.growth", 11.0, [&] {
+        return ratioOf(openOf(checkedFlight(suite, 10 * HourOfRows)),
+                       openOf(checkedFlight(suite, HourOfRows)));
     });
 }
 

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace TARN::Bench {
+
+class Suite;
+
+// The figures that need a display, one source for each subject.
+void paintFigures(Suite& suite);
+void startFigures(Suite& suite);
+void windowFigures(Suite& suite);
+
+} // namespace TARN::Bench

@@ -1,0 +1,25 @@
+// The figures that need a display; prints them like orna-bench does.
+
+#include "Suite.h"
+#include "Window.h"
+#include "graph/WidgetGraph.h"
+
+#include <QtWidgets/QApplication>
+
+#include <cstdio>
+
+int main(int argc, char** argv)
+{
+    using namespace TARN;
+    Bench::Options options;
+    if (const auto status = Bench::parseOptions(options, argc, argv)) {
+        return *status;
+    }
+    QApplication application(argc, argv);
+    if (!WidgetGraph::canDraw()) {
+        std::fprintf(stderr, "orna-bench-window: no OpenGL on this display\n");
+        return 1;
+    }
+    return Bench::measure(options,
+                          {Bench::paintFigures, Bench::startFigures, Bench::windowFigures});
+}
