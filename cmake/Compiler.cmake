@@ -31,8 +31,8 @@ if(ORNA_FUZZ)
     target_link_options(orna_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# What nearly every file includes is compiled once. Files include what they use all the same:
-# the preset "core" builds without.
+# What nearly every file includes is compiled once. Files include what they use all the same, so
+# that they compile without, too.
 set(ORNA_COMMON_HEADERS
     <QtCore/QObject> <QtCore/QStringList> <QtCore/QVariant> <QtGui/QColor>
     <algorithm> <array> <cmath> <functional> <map> <memory> <optional> <span> <string> <vector>)
