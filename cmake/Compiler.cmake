@@ -1,12 +1,15 @@
-# Flags every target of this project shares, carried by one interface target.
+# Flags every target of this project shares, carried by interface targets: those of every build, and
+# with them those of the sanitizers.
+add_library(orna_warnings INTERFACE)
 add_library(orna_flags INTERFACE)
-target_compile_options(orna_flags INTERFACE
+target_link_libraries(orna_flags INTERFACE orna_warnings)
+target_compile_options(orna_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wnon-virtual-dtor
     -Wold-style-cast -Woverloaded-virtual
     # A fused multiply-add would give other bits on other machines.
     -ffp-contract=off
     $<$<BOOL:${ORNA_WERROR}>:-Werror>)
-target_compile_definitions(orna_flags INTERFACE
+target_compile_definitions(orna_warnings INTERFACE
     QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400 QT_NO_FOREACH)
 if(ORNA_SANITIZE STREQUAL "address")
     set(checks -fsanitize=address,undefined)
@@ -21,8 +24,9 @@ endif()
 if(ORNA_SANITIZE)
     target_link_options(orna_flags INTERFACE ${checks})
     target_compile_options(orna_flags INTERFACE
-        -fno-omit-frame-pointer
-        # GCC loses track of initialisation in instrumented code; the plain build still warns.
+        -fno-omit-frame-pointer)
+    # GCC loses track of initialisation in instrumented code; the plain build still warns.
+    target_compile_options(orna_warnings INTERFACE
         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 if(ORNA_FUZZ)

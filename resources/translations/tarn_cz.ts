@@ -673,6 +673,14 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
         <source>CSV Export</source>
         <translation>Export CSV</translation>
     </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation>Prohlížeč ORNA – upozornění</translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation>Export souboru CSV/CAN se nezdařil !</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvOptions</name>
@@ -789,6 +797,14 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     <message>
         <source>Google Earth KML Export</source>
         <translation>Export Google Earth KML</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA – upozornění</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>Export souboru KML se nezdařil !</translation>
     </message>
 </context>
 <context>
@@ -1332,22 +1348,6 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
 </context>
 <context>
     <name>TARN::ExportRunner</name>
-    <message>
-        <source>ORNA Warning</source>
-        <translation>ORNA – upozornění</translation>
-    </message>
-    <message>
-        <source>Exporting KML file failed !</source>
-        <translation>Export souboru KML se nezdařil !</translation>
-    </message>
-    <message>
-        <source>ORNA Viewer Warning</source>
-        <translation>Prohlížeč ORNA – upozornění</translation>
-    </message>
-    <message>
-        <source>Exporting CSV/CAN file failed !</source>
-        <translation>Export souboru CSV/CAN se nezdařil !</translation>
-    </message>
     <message>
         <source>Written: %1</source>
         <translation>Zapsáno: %1</translation>

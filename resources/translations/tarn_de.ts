@@ -673,6 +673,14 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
         <source>CSV Export</source>
         <translation>CSV-Export</translation>
     </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation>ORNA-Viewer-Warnung</translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation>Export der CSV/CAN-Datei fehlgeschlagen !</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvOptions</name>
@@ -789,6 +797,14 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
     <message>
         <source>Google Earth KML Export</source>
         <translation>Google-Earth-KML-Export</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA-Warnung</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>Export der KML-Datei fehlgeschlagen !</translation>
     </message>
 </context>
 <context>
@@ -1332,22 +1348,6 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
 </context>
 <context>
     <name>TARN::ExportRunner</name>
-    <message>
-        <source>ORNA Warning</source>
-        <translation>ORNA-Warnung</translation>
-    </message>
-    <message>
-        <source>Exporting KML file failed !</source>
-        <translation>Export der KML-Datei fehlgeschlagen !</translation>
-    </message>
-    <message>
-        <source>ORNA Viewer Warning</source>
-        <translation>ORNA-Viewer-Warnung</translation>
-    </message>
-    <message>
-        <source>Exporting CSV/CAN file failed !</source>
-        <translation>Export der CSV/CAN-Datei fehlgeschlagen !</translation>
-    </message>
     <message>
         <source>Written: %1</source>
         <translation>Geschrieben: %1</translation>

@@ -673,6 +673,14 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
         <source>CSV Export</source>
         <translation>Exportación CSV</translation>
     </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation>Aviso de ORNA Viewer</translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation>¡Error al exportar el archivo CSV/CAN!</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvOptions</name>
@@ -789,6 +797,14 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
     <message>
         <source>Google Earth KML Export</source>
         <translation>Exportación KML de Google Earth</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso de ORNA</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>¡Error al exportar el archivo KML!</translation>
     </message>
 </context>
 <context>
@@ -1332,22 +1348,6 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
 </context>
 <context>
     <name>TARN::ExportRunner</name>
-    <message>
-        <source>ORNA Warning</source>
-        <translation>Aviso de ORNA</translation>
-    </message>
-    <message>
-        <source>Exporting KML file failed !</source>
-        <translation>¡Error al exportar el archivo KML!</translation>
-    </message>
-    <message>
-        <source>ORNA Viewer Warning</source>
-        <translation>Aviso de ORNA Viewer</translation>
-    </message>
-    <message>
-        <source>Exporting CSV/CAN file failed !</source>
-        <translation>¡Error al exportar el archivo CSV/CAN!</translation>
-    </message>
     <message>
         <source>Written: %1</source>
         <translation>Escrito: %1</translation>

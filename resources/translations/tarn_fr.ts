@@ -673,6 +673,14 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
         <source>CSV Export</source>
         <translation>Export CSV</translation>
     </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation>Visualiseur ORNA - Avertissement</translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation>Échec de l&apos;export du fichier CSV/CAN !</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvOptions</name>
@@ -789,6 +797,14 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     <message>
         <source>Google Earth KML Export</source>
         <translation>Export KML Google Earth</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA - Avertissement</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>Échec de l&apos;export du fichier KML !</translation>
     </message>
 </context>
 <context>
@@ -1332,22 +1348,6 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
 </context>
 <context>
     <name>TARN::ExportRunner</name>
-    <message>
-        <source>ORNA Warning</source>
-        <translation>ORNA - Avertissement</translation>
-    </message>
-    <message>
-        <source>Exporting KML file failed !</source>
-        <translation>Échec de l&apos;export du fichier KML !</translation>
-    </message>
-    <message>
-        <source>ORNA Viewer Warning</source>
-        <translation>Visualiseur ORNA - Avertissement</translation>
-    </message>
-    <message>
-        <source>Exporting CSV/CAN file failed !</source>
-        <translation>Échec de l&apos;export du fichier CSV/CAN !</translation>
-    </message>
     <message>
         <source>Written: %1</source>
         <translation>Écrit&#xa0;: %1</translation>

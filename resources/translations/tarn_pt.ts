@@ -673,6 +673,14 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
         <source>CSV Export</source>
         <translation>Exportação CSV</translation>
     </message>
+    <message>
+        <source>ORNA Viewer Warning</source>
+        <translation>Aviso do ORNA Viewer</translation>
+    </message>
+    <message>
+        <source>Exporting CSV/CAN file failed !</source>
+        <translation>A exportação do arquivo CSV/CAN falhou !</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogExportCsvOptions</name>
@@ -789,6 +797,14 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     <message>
         <source>Google Earth KML Export</source>
         <translation>Exportação KML do Google Earth</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso do ORNA</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>A exportação do arquivo KML falhou !</translation>
     </message>
 </context>
 <context>
@@ -1332,22 +1348,6 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
 </context>
 <context>
     <name>TARN::ExportRunner</name>
-    <message>
-        <source>ORNA Warning</source>
-        <translation>Aviso do ORNA</translation>
-    </message>
-    <message>
-        <source>Exporting KML file failed !</source>
-        <translation>A exportação do arquivo KML falhou !</translation>
-    </message>
-    <message>
-        <source>ORNA Viewer Warning</source>
-        <translation>Aviso do ORNA Viewer</translation>
-    </message>
-    <message>
-        <source>Exporting CSV/CAN file failed !</source>
-        <translation>A exportação do arquivo CSV/CAN falhou !</translation>
-    </message>
     <message>
         <source>Written: %1</source>
         <translation>Gravado: %1</translation>

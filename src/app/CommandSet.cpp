@@ -9,93 +9,97 @@
 
 namespace TARN {
 
+struct CommandSet::Command
+{
+    enum Place
+    {
+        First, ///< of a group in its menu
+        Next
+    };
+
+    ActionType type;
+    QString menu;
+    Place place;
+    bool inToolbar;
+    const char* keys;
+    const char* icon;
+    QString text;
+    QString statusTip;
+    QString toolText = {}; ///< where it is not the text of the menu
+};
+
+/// In the order of menus and toolbar.
+std::vector<CommandSet::Command> CommandSet::commands()
+{
+    using Type = ActionType;
+    constexpr auto First = Command::First;
+    constexpr auto Next = Command::Next;
+    const QString file = tr("&File");
+    const QString extras = tr("&Extras");
+    const QString help = tr("&Help");
+    return {
+        {Type::NewProject, file, Next, true, "Ctrl+N", "projectNew", tr("&New Project"),
+         tr("Create new Project")},
+        {Type::OpenProject, file, Next, true, "Ctrl+O", "projectOpen", tr("&Open Project"),
+         tr("Open Project"), tr("Open Project File")},
+        {Type::SaveProject, file, Next, true, "Ctrl+S", "projectSave", tr("&Save Project"),
+         tr("Save Project"), tr("Save Project File")},
+        {Type::SaveProjectAs, file, Next, false, "", "projectSaveAs", tr("&Save Project as"),
+         tr("Save Project as"), tr("Save Project File as")},
+        {Type::OpenCard, file, First, true, "Ctrl+C", "cardOpen", tr("&Open Card"), tr("Open Card"),
+         tr("Open SD Card")},
+        {Type::ExportKml, file, First, true, "", "exportKml", tr("Export Google KML File"),
+         tr("Export Google Earth KML File")},
+        {Type::ExportCsv, file, Next, true, "", "exportCsv", tr("Export CSV/CAN File"),
+         tr("Export CSV/CAN File")},
+        {Type::Quit, file, First, false, "Ctrl+Q", "quit", tr("&Quit"), tr("Quit Application")},
+        {Type::RecordDetails, extras, Next, false, "Ctrl+I", "details", tr("Recording Details"),
+         tr("Show the Header and the Damages of the Recording")},
+        {Type::Preferences, extras, Next, false, "", nullptr, tr("Preferences"),
+         tr("Open Preferences Dialog")},
+        {Type::Help, help, Next, false, "F1", "help", tr("Help"), tr("Help Window")},
+        {Type::About, help, Next, false, "", "about", tr("About"), tr("Show License Information")},
+    };
+}
+
 CommandSet::CommandSet(QMainWindow& window) : QObject(&window), mGroup(new QActionGroup(this))
 {
     mGroup->setExclusive(false);
     connect(mGroup, &QActionGroup::triggered, this, [this](const QAction* action) {
         Q_EMIT triggered(static_cast<ActionType>(action->data().toInt()));
     });
-    createActions();
-    createMenu(window);
-    createToolbar(window);
-}
-
-void CommandSet::createActions()
-{
-    addCommand(ActionType::NewProject, tr("&New Project"), "projectNew", tr("Create new Project"),
-               QKeySequence("Ctrl+N"));
-    addCommand(ActionType::OpenProject, tr("&Open Project"), "projectOpen", tr("Open Project"),
-               QKeySequence("Ctrl+O"))
-        ->setIconText(tr("Open Project File"));
-    addCommand(ActionType::SaveProject, tr("&Save Project"), "projectSave", tr("Save Project"),
-               QKeySequence("Ctrl+S"))
-        ->setIconText(tr("Save Project File"));
-    addCommand(ActionType::SaveProjectAs, tr("&Save Project as"), "projectSaveAs",
-               tr("Save Project as"), {})
-        ->setIconText(tr("Save Project File as"));
-    addCommand(ActionType::OpenCard, tr("&Open Card"), "cardOpen", tr("Open Card"),
-               QKeySequence("Ctrl+C"))
-        ->setIconText(tr("Open SD Card"));
-    addCommand(ActionType::Preferences, tr("Preferences"), nullptr, tr("Open Preferences Dialog"),
-               {});
-    addCommand(ActionType::RecordDetails, tr("Recording Details"), "details",
-               tr("Show the Header and the Damages of the Recording"), QKeySequence("Ctrl+I"));
-    addCommand(ActionType::ExportKml, tr("Export Google KML File"), "exportKml",
-               tr("Export Google Earth KML File"), {});
-    addCommand(ActionType::ExportCsv, tr("Export CSV/CAN File"), "exportCsv",
-               tr("Export CSV/CAN File"), {});
-    addCommand(ActionType::Quit, tr("&Quit"), "quit", tr("Quit Application"),
-               QKeySequence("Ctrl+Q"));
-    addCommand(ActionType::About, tr("About"), "about", tr("Show License Information"), {});
-    addCommand(ActionType::Help, tr("Help"), "help", tr("Help Window"), QKeySequence("F1"));
-}
-
-QAction* CommandSet::addCommand(ActionType type, const QString& text, const char* icon,
-                                const QString& statusTip, const QKeySequence& shortcut)
-{
-    auto* action = new QAction(text, this);
-    if (icon != nullptr) {
-        action->setIcon(QIcon(QString(":/icons/%1.svg").arg(icon)));
-    }
-    action->setData(static_cast<int>(type));
-    action->setStatusTip(statusTip);
-    action->setShortcut(shortcut);
-    mGroup->addAction(action);
-    mActions[type] = action;
-    return action;
-}
-
-void CommandSet::createMenu(QMainWindow& window)
-{
-    QMenu* file = window.menuBar()->addMenu(tr("&File"));
-    file->addAction(mActions[ActionType::NewProject]);
-    file->addAction(mActions[ActionType::OpenProject]);
-    file->addAction(mActions[ActionType::SaveProject]);
-    file->addAction(mActions[ActionType::SaveProjectAs]);
-    file->addSeparator();
-    file->addAction(mActions[ActionType::OpenCard]);
-    file->addSeparator();
-    file->addAction(mActions[ActionType::ExportKml]);
-    file->addAction(mActions[ActionType::ExportCsv]);
-    file->addSeparator();
-    file->addAction(mActions[ActionType::Quit]);
-    QMenu* extras = window.menuBar()->addMenu(tr("&Extras"));
-    extras->addAction(mActions[ActionType::RecordDetails]);
-    extras->addAction(mActions[ActionType::Preferences]);
-    QMenu* help = window.menuBar()->addMenu(tr("&Help"));
-    help->addAction(mActions[ActionType::Help]);
-    help->addAction(mActions[ActionType::About]);
-}
-
-void CommandSet::createToolbar(QMainWindow& window)
-{
     QToolBar* toolbar = window.addToolBar(tr("Main Toolbar"));
     toolbar->setObjectName("MainToolbar");
-    for (const ActionType type :
-         {ActionType::NewProject, ActionType::OpenProject, ActionType::SaveProject,
-          ActionType::OpenCard, ActionType::ExportKml, ActionType::ExportCsv}) {
-        toolbar->addAction(mActions[type]);
+    std::map<QString, QMenu*> menus;
+    for (const Command& command : commands()) {
+        QAction* action = createAction(command);
+        QMenu*& menu = menus[command.menu];
+        menu = menu != nullptr ? menu : window.menuBar()->addMenu(command.menu);
+        if (command.place == Command::First) {
+            menu->addSeparator();
+        }
+        menu->addAction(action);
+        if (command.inToolbar) {
+            toolbar->addAction(action);
+        }
     }
+}
+
+QAction* CommandSet::createAction(const Command& command)
+{
+    auto* action = new QAction(command.text, this);
+    if (command.icon != nullptr) {
+        action->setIcon(QIcon(QString(":/icons/%1.svg").arg(command.icon)));
+    }
+    if (!command.toolText.isEmpty()) {
+        action->setIconText(command.toolText);
+    }
+    action->setData(static_cast<int>(command.type));
+    action->setStatusTip(command.statusTip);
+    action->setShortcut(QKeySequence(command.keys));
+    mGroup->addAction(action);
+    mActions[command.type] = action;
+    return action;
 }
 
 void CommandSet::setEnabled(ActionType type, bool enabled)

@@ -3,10 +3,10 @@
 #include <QtCore/QObject>
 
 #include <map>
+#include <vector>
 
 class QAction;
 class QActionGroup;
-class QKeySequence;
 class QMainWindow;
 
 namespace TARN {
@@ -44,11 +44,10 @@ Q_SIGNALS:
     void triggered(ActionType type);
 
 private:
-    void createActions();
-    QAction* addCommand(ActionType type, const QString& text, const char* icon,
-                        const QString& statusTip, const QKeySequence& shortcut);
-    void createMenu(QMainWindow& window);
-    void createToolbar(QMainWindow& window);
+    struct Command;
+
+    static std::vector<Command> commands();
+    QAction* createAction(const Command& command);
 
     QActionGroup* mGroup;
     std::map<ActionType, QAction*> mActions;

@@ -159,8 +159,9 @@ void DialogMain::connectExports()
         const auto& flight = mSession.flight();
         const bool isPossible =
             flight != nullptr && !flight->samples().empty() && !mExports->isRunning();
-        mCommands->setEnabled(ActionType::ExportKml, isPossible);
-        mCommands->setEnabled(ActionType::ExportCsv, isPossible);
+        for (const ActionType command : mExports->commands()) {
+            mCommands->setEnabled(command, isPossible);
+        }
     };
     connect(&mSession, &Session::flightChanged, this, enable);
     connect(&mSession, &Session::profileChanged, this, enable);
@@ -226,12 +227,6 @@ void DialogMain::run(ActionType type)
     case ActionType::SaveProjectAs:
         mProject->saveProject(type == ActionType::SaveProjectAs);
         break;
-    case ActionType::ExportKml:
-        mExports->exportKml();
-        break;
-    case ActionType::ExportCsv:
-        mExports->exportCsv();
-        break;
     case ActionType::Quit:
         close();
         break;
@@ -248,6 +243,9 @@ void DialogMain::run(ActionType type)
         if (!mDetails->showAll(mSession.flight().get(), mOpener->card())) {
             mStatusBar->say(tr("No recording is listed. Open a card first."));
         }
+        break;
+    default:
+        mExports->start(type);
         break;
     }
 }

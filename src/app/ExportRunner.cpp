@@ -2,9 +2,6 @@
 
 #include "export/DialogExportCsv.h"
 #include "export/DialogExportKml.h"
-#include "export/ExportCan.h"
-#include "export/ExportCsv.h"
-#include "export/ExportKml.h"
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QMessageBox>
@@ -12,58 +9,42 @@
 namespace TARN {
 
 ExportRunner::ExportRunner(Session& session, QWidget& window)
-    : QObject(&window), mSession(session), mWindow(window),
-      mKmlWizard(new DialogExportKml(&window)), mCsvWizard(new DialogExportCsv(&window))
+    : QObject(&window), mSession(session),
+      mWindow(window), mFaces{{ActionType::ExportKml, new DialogExportKml(&window)},
+                              {ActionType::ExportCsv, new DialogExportCsv(&window)}}
 {
     mJob.setListener(
         [this](int percent, const QString& task) { Q_EMIT progressed(percent, task); });
 }
 
-/// What is exported is what is shown when the wizard opens.
-ExportInput ExportRunner::input() const
+std::vector<ActionType> ExportRunner::commands() const
 {
-    return {mSession.flight(), mSession.selection(), mSession.offset()};
-}
-
-/// The range marked in the graph, all of it when nothing is marked, and the current time.
-void ExportRunner::preset(ExportOptions& options) const
-{
-    const TimeRange range = mSession.range();
-    options.startTime = range.start;
-    options.stopTime = range.stop;
-    options.currentTime = mSession.time();
-}
-
-void ExportRunner::exportKml()
-{
-    const ExportInput shown = input();
-    const QString path = shown.flight->record()->integrity().files.front().info.fileName;
-    const QString name = path.section('/', -1).section('.', 0, 0);
-    mKmlOptions.fileName = (name + ".kml").toStdString();
-    preset(mKmlOptions);
-    if (mKmlWizard->getOptions(mKmlOptions) == QDialog::Accepted) {
-        run(std::make_shared<ExportKml>(mKmlOptions), shown,
-            {tr("ORNA Warning"), tr("Exporting KML file failed !")});
+    std::vector<ActionType> commands;
+    for (const auto& [command, face] : mFaces) {
+        commands.push_back(command);
     }
+    return commands;
 }
 
-void ExportRunner::exportCsv()
+void ExportRunner::start(ActionType command)
 {
-    const ExportInput shown = input();
-    preset(mCsvOptions);
-    if (mCsvWizard->getOptions(mCsvOptions, shown.flight->range(0.0)) != QDialog::Accepted) {
+    const auto found = mFaces.find(command);
+    if (found == mFaces.end()) {
         return;
     }
-    const Words words{tr("ORNA Viewer Warning"), tr("Exporting CSV/CAN file failed !")};
-    if (mCsvOptions.fileType == CsvExportOptions::Can) {
-        run(std::make_shared<ExportCan>(mCsvOptions), shown, words);
-    } else {
-        run(std::make_shared<ExportCsv>(mCsvOptions), shown, words);
+    // What is exported is what is shown when the wizard opens.
+    const ExportInput shown{mSession.flight(), mSession.selection(), mSession.offset()};
+    ExportOptions preset;
+    preset.startTime = mSession.range().start;
+    preset.stopTime = mSession.range().stop;
+    preset.currentTime = mSession.time();
+    if (auto exporter = found->second->ask(shown, preset)) {
+        run(std::move(exporter), shown, found->second->words());
     }
 }
 
 void ExportRunner::run(std::shared_ptr<Exporter> exporter, const ExportInput& input,
-                       const Words& words)
+                       const ExportFace::Words& words)
 {
     const QString path = QFileInfo(exporter->path()).absoluteFilePath();
     mJob.start([exporter, input](Progress& progress) { return exporter->run(input, progress); },
@@ -71,7 +52,8 @@ void ExportRunner::run(std::shared_ptr<Exporter> exporter, const ExportInput& in
     Q_EMIT started(path);
 }
 
-void ExportRunner::report(const ExportResult& result, const QString& path, const Words& words)
+void ExportRunner::report(const ExportResult& result, const QString& path,
+                          const ExportFace::Words& words)
 {
     if (result) {
         Q_EMIT finished((tr("Written: %1").arg(path) + "   " + result.message).trimmed(), true);

@@ -1,19 +1,13 @@
 #pragma once
 
-#include "export/CsvExportOptions.h"
-#include "export/Exporter.h"
-#include "export/KmlExportOptions.h"
+#include "app/CommandSet.h"
+#include "export/ExportFace.h"
 #include "flight/Job.h"
 #include "flight/Session.h"
-
-#include <QtCore/QObject>
 
 class QWidget;
 
 namespace TARN {
-
-class DialogExportCsv;
-class DialogExportKml;
 
 /// Asks for the options of an export and runs it beside the event loop, one at a time, on the
 /// flight as it is when it starts.
@@ -25,8 +19,10 @@ public:
     /// \p window is the parent of the wizards.
     ExportRunner(Session& session, QWidget& window);
 
-    void exportKml();
-    void exportCsv();
+    /// The commands that export.
+    std::vector<ActionType> commands() const;
+    /// Asks and exports; nothing for another command.
+    void start(ActionType command);
 
     bool isRunning() const { return mJob.isRunning(); }
     /// Stops the export; the old file stays.
@@ -42,24 +38,13 @@ Q_SIGNALS:
     void finished(const QString& message, bool done);
 
 private:
-    /// Titles of the box that tells of a failure.
-    struct Words
-    {
-        QString title;
-        QString failure;
-    };
-
-    ExportInput input() const;
-    void preset(ExportOptions& options) const;
-    void run(std::shared_ptr<Exporter> exporter, const ExportInput& input, const Words& words);
-    void report(const ExportResult& result, const QString& path, const Words& words);
+    void run(std::shared_ptr<Exporter> exporter, const ExportInput& input,
+             const ExportFace::Words& words);
+    void report(const ExportResult& result, const QString& path, const ExportFace::Words& words);
 
     Session& mSession;
     QWidget& mWindow;
-    DialogExportKml* mKmlWizard;
-    DialogExportCsv* mCsvWizard;
-    KmlExportOptions mKmlOptions;
-    CsvExportOptions mCsvOptions;
+    std::map<ActionType, ExportFace*> mFaces; ///< children of the window
     Job<ExportResult> mJob;
 };
 

@@ -13,7 +13,7 @@ namespace TARN {
 namespace {
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
-struct Texts
+struct StartTexts
 {
     Q_DECLARE_TR_FUNCTIONS(StartMessages)
 };
@@ -24,13 +24,13 @@ QString startMessages()
 {
     QStringList texts;
     if (qEnvironmentVariableIsEmpty("HOME")) {
-        texts +=
-            Texts::tr("HOME is not set: settings are kept in \"%1\".").arg(QDir::currentPath());
+        texts += StartTexts::tr("HOME is not set: settings are kept in \"%1\".")
+                     .arg(QDir::currentPath());
     }
     const std::string& damaged = Property::instance()->damagedFile();
     if (!damaged.empty()) {
-        texts += Texts::tr("The settings could not be read, the program starts with its "
-                           "defaults. The damaged file is kept as \"%1\".")
+        texts += StartTexts::tr("The settings could not be read, the program starts with its "
+                                "defaults. The damaged file is kept as \"%1\".")
                      .arg(QString::fromStdString(damaged));
     }
     return texts.join(' ');
@@ -39,10 +39,10 @@ QString startMessages()
 QString loadedMessage(const Flight& flight)
 {
     const QStringList remarks = recordRemarks(flight.record()->integrity());
-    QString text = Texts::tr("Samples loaded: %1")
+    QString text = StartTexts::tr("Samples loaded: %1")
                        .arg(countText(static_cast<qint64>(flight.samples().count())));
     if (!remarks.isEmpty()) {
-        text += Texts::tr(". Remarks (see Recording Details): %1. ").arg(remarks.size()) +
+        text += StartTexts::tr(". Remarks (see Recording Details): %1. ").arg(remarks.size()) +
                 remarks.join(". ");
     }
     return text;

@@ -3,6 +3,8 @@
 #include "base/Property.h"
 #include "export/DialogExportCsvOptions.h"
 #include "export/DialogExportCsvPath.h"
+#include "export/ExportCan.h"
+#include "export/ExportCsv.h"
 
 namespace TARN {
 
@@ -27,6 +29,27 @@ int DialogExportCsv::getOptions(CsvExportOptions& options, const TimeRange& exce
     Property::instance()->writeXmlFile();
     options = mOptions;
     return result;
+}
+
+std::shared_ptr<Exporter> DialogExportCsv::ask(const ExportInput& shown,
+                                               const ExportOptions& preset)
+{
+    CsvExportOptions options = mOptions;
+    options.startTime = preset.startTime;
+    options.stopTime = preset.stopTime;
+    options.currentTime = preset.currentTime;
+    if (getOptions(options, shown.flight->range(0.0)) != Accepted) {
+        return nullptr;
+    }
+    if (options.fileType == CsvExportOptions::Can) {
+        return std::make_shared<ExportCan>(options);
+    }
+    return std::make_shared<ExportCsv>(options);
+}
+
+ExportFace::Words DialogExportCsv::words() const
+{
+    return {tr("ORNA Viewer Warning"), tr("Exporting CSV/CAN file failed !")};
 }
 
 void DialogExportCsv::fitRange()

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "export/CsvExportOptions.h"
+#include "export/ExportFace.h"
 
 #include <QtWidgets/QWizard>
 
 namespace TARN {
 
 /// Collects the options of the CSV and the CAN export.
-class DialogExportCsv : public QWizard
+class DialogExportCsv : public QWizard, public ExportFace
 {
     Q_OBJECT
 
@@ -19,6 +20,9 @@ public:
     /// \p excerpt, whose times carry no offset, when a CAN file is chosen. The result is that of
     /// the dialog.
     int getOptions(CsvExportOptions& options, const TimeRange& excerpt);
+
+    std::shared_ptr<Exporter> ask(const ExportInput& shown, const ExportOptions& preset) override;
+    Words words() const override;
 
 private:
     void fitRange();

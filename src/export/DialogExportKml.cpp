@@ -4,6 +4,7 @@
 #include "export/DialogExportKmlOptions.h"
 #include "export/DialogExportKmlPath.h"
 #include "export/DialogExportKmlPlacemark.h"
+#include "export/ExportKml.h"
 
 namespace TARN {
 
@@ -25,6 +26,24 @@ int DialogExportKml::getOptions(KmlExportOptions& options)
     Property::instance()->writeXmlFile();
     options = mOptions;
     return result;
+}
+
+std::shared_ptr<Exporter> DialogExportKml::ask(const ExportInput& shown,
+                                               const ExportOptions& preset)
+{
+    KmlExportOptions options = mOptions;
+    options.startTime = preset.startTime;
+    options.stopTime = preset.stopTime;
+    options.currentTime = preset.currentTime;
+    const QString first = shown.flight->record()->integrity().files.front().info.fileName;
+    options.fileName = first.section('/', -1).section('.', 0, 0).toStdString() + ".kml";
+    const bool isAccepted = getOptions(options) == Accepted;
+    return isAccepted ? std::make_shared<ExportKml>(options) : nullptr;
+}
+
+ExportFace::Words DialogExportKml::words() const
+{
+    return {tr("ORNA Warning"), tr("Exporting KML file failed !")};
 }
 
 } // namespace TARN

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "export/ExportFace.h"
 #include "export/KmlExportOptions.h"
 
 #include <QtWidgets/QWizard>
@@ -7,7 +8,7 @@
 namespace TARN {
 
 /// Collects the options of the KML export.
-class DialogExportKml : public QWizard
+class DialogExportKml : public QWizard, public ExportFace
 {
     Q_OBJECT
 
@@ -17,6 +18,10 @@ public:
     /// Completes \p options from the settings and the user; the settings take what was chosen,
     /// also when the wizard is cancelled. The result is that of the dialog.
     int getOptions(KmlExportOptions& options);
+
+    /// Proposes the name of the recording's first file.
+    std::shared_ptr<Exporter> ask(const ExportInput& shown, const ExportOptions& preset) override;
+    Words words() const override;
 
 private:
     KmlExportOptions mOptions;

@@ -21,7 +21,7 @@ constexpr std::size_t PrefetchDistance = 8; // samples
 constexpr auto NoTick = std::numeric_limits<std::int64_t>::max();
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
-struct Texts
+struct CsvTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ExportCsv)
 };
@@ -109,15 +109,16 @@ QString ExportCsv::refusal(std::int64_t first, std::int64_t last) const
         return {}; // the title line alone
     }
     const auto times = [this] {
-        return Texts::tr("The first sample is at %1 s, the last at %2 s, the export ends at %3 s. "
-                         "Choose a shorter time range or a coarser resolution.")
+        return CsvTexts::tr(
+                   "The first sample is at %1 s, the last at %2 s, the export ends at %3 s. "
+                   "Choose a shorter time range or a coarser resolution.")
             .arg(mEarliest, 0, 'f', 3)
             .arg(mLatest, 0, 'f', 3)
             .arg(mOptions.stopTime, 0, 'f', 3);
     };
     if (first < std::numeric_limits<std::int32_t>::min() ||
         last > std::numeric_limits<std::int32_t>::max()) {
-        return Texts::tr("The table would have too many rows.") + " " + times();
+        return CsvTexts::tr("The table would have too many rows.") + " " + times();
     }
     constexpr std::size_t TimeWidth = 13;
     std::size_t rowSize = TimeWidth;
@@ -133,7 +134,8 @@ QString ExportCsv::refusal(std::int64_t first, std::int64_t last) const
     const auto disk =
         std::filesystem::space(QFileInfo(path()).absolutePath().toStdString(), unknown);
     if (!unknown && size > static_cast<double>(disk.available)) {
-        return Texts::tr("The table would have %1 rows, about %2 MB, more than is free in \"%3\".")
+        return CsvTexts::tr(
+                   "The table would have %1 rows, about %2 MB, more than is free in \"%3\".")
                    .arg(last - first + 1)
                    .arg(size / 1e6, 0, 'f', 0)
                    .arg(QString::fromStdString(mOptions.directory)) +
@@ -148,7 +150,7 @@ ExportResult ExportCsv::writeFile(std::int64_t first, std::int64_t last, Progres
     if (!file.open()) {
         diagnose("could not open <%s> for write !\n", qUtf8Printable(path()));
         return ExportResult::failure(
-            Texts::tr("\"%1\" can't be written: %2").arg(path(), file.errorText()));
+            CsvTexts::tr("\"%1\" can't be written: %2").arg(path(), file.errorText()));
     }
     std::string title = "Time";
     for (const Column& column : mColumns) {
@@ -160,12 +162,12 @@ ExportResult ExportCsv::writeFile(std::int64_t first, std::int64_t last, Progres
     }
     if (!file.commit()) {
         return ExportResult::failure(
-            Texts::tr("\"%1\" could not be written: %2").arg(path(), file.errorText()));
+            CsvTexts::tr("\"%1\" could not be written: %2").arg(path(), file.errorText()));
     }
     return ExportResult::success(
-        mColumns.empty() ? Texts::tr("No parameter is selected, the file holds its title only.")
-        : first > last   ? Texts::tr("No sample lies in the time range, the file holds its "
-                                       "titles only.")
+        mColumns.empty() ? CsvTexts::tr("No parameter is selected, the file holds its title only.")
+        : first > last   ? CsvTexts::tr("No sample lies in the time range, the file holds its "
+                                          "titles only.")
                          : QString());
 }
 

@@ -18,7 +18,7 @@ namespace TARN {
 namespace {
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
-struct Texts
+struct KmlTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ExportKml)
 };
@@ -78,21 +78,22 @@ ExportResult ExportKml::write(const ExportInput& input, Progress& progress)
 ExportResult ExportKml::notWritten() const
 {
     return ExportResult::failure(
-        Texts::tr("\"%1\" could not be written. Check that the folder exists, may be written "
-                  "to and has room.")
+        KmlTexts::tr("\"%1\" could not be written. Check that the folder exists, may be written "
+                     "to and has room.")
             .arg(path()));
 }
 
 QString ExportKml::noteOf(const FlightPath& path, const LeftOut& leftOut) const
 {
     if (path.points().empty()) {
-        return Texts::tr("No position lies in the time range, the flight path is empty.");
+        return KmlTexts::tr("No position lies in the time range, the flight path is empty.");
     }
     if (leftOut.values + leftOut.events == 0) {
         return {};
     }
-    return Texts::tr("Left out, because no position lies in their time slot: %1 values, %2 events. "
-                     "A longer \"Timestamp every\" keeps them.")
+    return KmlTexts::tr(
+               "Left out, because no position lies in their time slot: %1 values, %2 events. "
+               "A longer \"Timestamp every\" keeps them.")
         .arg(countText(static_cast<qint64>(leftOut.values)),
              countText(static_cast<qint64>(leftOut.events)));
 }

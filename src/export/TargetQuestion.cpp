@@ -9,7 +9,7 @@ namespace TARN {
 namespace {
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
-struct Texts
+struct TargetTexts
 {
     Q_DECLARE_TR_FUNCTIONS(TargetQuestion)
 };
@@ -18,14 +18,14 @@ struct Texts
 QString obstacle(const QFileInfo& folder, const QString& file)
 {
     if (file.isEmpty() || file.contains('/')) {
-        return Texts::tr("Type a file name, without a folder.");
+        return TargetTexts::tr("Type a file name, without a folder.");
     }
     if (!folder.isDir()) {
-        return Texts::tr("The folder \"%1\" does not exist. Choose another.")
+        return TargetTexts::tr("The folder \"%1\" does not exist. Choose another.")
             .arg(folder.filePath());
     }
     if (!folder.isWritable()) {
-        return Texts::tr("The folder \"%1\" may not be written to. Choose another.")
+        return TargetTexts::tr("The folder \"%1\" may not be written to. Choose another.")
             .arg(folder.filePath());
     }
     return {};
@@ -39,15 +39,15 @@ bool confirmTarget(QWidget* parent, const std::string& directory, const std::str
     const QString file = QString::fromStdString(fileName);
     const QString reason = obstacle(folder, file);
     if (!reason.isEmpty()) {
-        QMessageBox::warning(parent, Texts::tr("ORNA Warning"), reason);
+        QMessageBox::warning(parent, TargetTexts::tr("ORNA Warning"), reason);
         return false;
     }
     if (!QFileInfo::exists(folder.filePath() + "/" + file)) {
         return true;
     }
     return QMessageBox::question(
-               parent, Texts::tr("ORNA Warning"),
-               Texts::tr("\"%1\" exists in this folder. Replace it?").arg(file)) ==
+               parent, TargetTexts::tr("ORNA Warning"),
+               TargetTexts::tr("\"%1\" exists in this folder. Replace it?").arg(file)) ==
            QMessageBox::Yes;
 }
 

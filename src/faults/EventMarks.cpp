@@ -9,7 +9,7 @@ namespace TARN {
 namespace {
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
-struct Texts
+struct MarkTexts
 {
     Q_DECLARE_TR_FUNCTIONS(EventMarks)
 };
@@ -33,10 +33,10 @@ EventMark markOf(const FaultHistory& history, const FaultChange& change)
     const FaultMatrix& matrix = history.matrix();
     QStringList words;
     if (change.came != 0) {
-        words += Texts::tr("%1 came").arg(namesOf(matrix, change.came));
+        words += MarkTexts::tr("%1 came").arg(namesOf(matrix, change.came));
     }
     if (change.went != 0) {
-        words += Texts::tr("%1 went").arg(namesOf(matrix, change.went));
+        words += MarkTexts::tr("%1 went").arg(namesOf(matrix, change.went));
     }
     const bool isFault = ((change.came | change.went) & history.bitsOfType(ErrorFault)) != 0;
     return {change.time, EventMark::Fault, matrix.name + ": " + words.join("; "),

@@ -9,7 +9,7 @@ namespace TARN {
 namespace {
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
-struct Texts
+struct EmptyTexts
 {
     Q_DECLARE_TR_FUNCTIONS(EmptyText)
 };
@@ -18,21 +18,23 @@ QString withoutProfile(const Session& session)
 {
     return session.profile()->isLoaded()
                ? QString()
-               : Texts::tr("No profile is loaded, so nothing can be decoded and nothing was "
-                           "checked.\nChoose one in the <a href=\"preferences\">preferences</a>.");
+               : EmptyTexts::tr(
+                     "No profile is loaded, so nothing can be decoded and nothing was "
+                     "checked.\nChoose one in the <a href=\"preferences\">preferences</a>.");
 }
 
 QString withoutSamples(const Session& session)
 {
     if (session.loading().isOn() && session.flight() == nullptr) {
-        return Texts::tr("The recording is being loaded.");
+        return EmptyTexts::tr("The recording is being loaded.");
     }
     if (session.flight() == nullptr) {
-        return Texts::tr("No recording is loaded.\nOpen a card and pick one or more recordings in "
-                         "the list on the left.");
+        return EmptyTexts::tr(
+            "No recording is loaded.\nOpen a card and pick one or more recordings in "
+            "the list on the left.");
     }
     return session.flight()->samples().empty()
-               ? Texts::tr("The recording holds no samples, so nothing was checked.")
+               ? EmptyTexts::tr("The recording holds no samples, so nothing was checked.")
                : QString();
 }
 
@@ -45,8 +47,9 @@ QString emptyTextOf(const Session& session)
         return profile;
     }
     if (session.selection().empty()) {
-        return Texts::tr("No parameter is selected.\nTick parameters in the list on the left and "
-                         "press \"Confirm Selection\".");
+        return EmptyTexts::tr(
+            "No parameter is selected.\nTick parameters in the list on the left and "
+            "press \"Confirm Selection\".");
     }
     return withoutSamples(session);
 }

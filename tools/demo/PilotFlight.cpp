@@ -12,7 +12,7 @@ constexpr double kGateAltitude = 4800.0 * kFoot;
 constexpr double kGateDistance = 10.0 * kNauticalMile; // before the threshold
 constexpr double kGlideSlope = 0.0524;                 // 3 degrees
 constexpr double kAimPoint = 250.0;                    // m past the threshold
-constexpr double kHeadLimit = 238.0;                   // degrees Celsius
+constexpr double kPilotHeadLimit = 238.0;              // degrees Celsius
 constexpr double kReturnSpeed = 72.0;                  // m/s over the ground against the wind
 constexpr double kTimeFromGate = 690.0; // s from the gate until parked, with a margin
 constexpr Position kLake{48.02, 11.18};
@@ -67,7 +67,7 @@ void Pilot::climb(const View& view)
 // nose, opens the cowl flaps, enriches and takes a little power back.
 void Pilot::coolCylinders(const View& view)
 {
-    if (view.thermal.head(2) > kHeadLimit)
+    if (view.thermal.head(2) > kPilotHeadLimit)
         mHotTime += view.dt;
     if (mHotTime > 14.0 && !mCooling) {
         mCooling = true;

@@ -7,7 +7,7 @@ namespace TARN {
 namespace {
 
 constexpr double kHeadWarning = 215.0; // degrees Celsius
-constexpr double kHeadLimit = 238.0;
+constexpr double kStoryHeadLimit = 238.0;
 constexpr double kOilWarning = 1.8; // bar
 constexpr double kOilLimit = 1.0;
 
@@ -92,7 +92,7 @@ void Story::judge(double time, const Controls& controls, bool running, Signals& 
 void Story::judgeLamps(const Controls& controls, bool running, Signals& signals)
 {
     // The head lamp keeps its worst colour until the cylinder is well below the warning again.
-    if (mHottestHead >= kHeadLimit)
+    if (mHottestHead >= kStoryHeadLimit)
         mHeadLamp = 2;
     else if (mHottestHead >= kHeadWarning && mHeadLamp == 0)
         mHeadLamp = 1;

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "export/ExportOptions.h"
+#include "export/Exporter.h"
+
+#include <memory>
+
+namespace TARN {
+
+/// How the window offers an export: asks for its options, names its failure.
+class ExportFace
+{
+public:
+    virtual ~ExportFace() = default;
+
+    /// Asks how to export what is shown. \p preset are the range marked in the graph, all of it
+    /// when nothing is marked, and the current time. Null when the user changed their mind.
+    virtual std::shared_ptr<Exporter> ask(const ExportInput& shown,
+                                          const ExportOptions& preset) = 0;
+
+    /// Title and text of the box that tells of a failure.
+    struct Words
+    {
+        QString title;
+        QString failure;
+    };
+    virtual Words words() const = 0;
+};
+
+} // namespace TARN
