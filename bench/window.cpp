@@ -268,10 +268,10 @@ double confirmRatio(Suite& suite)
     Viewer viewer(suite, ORNA_BENCH_PROFILE);
     const auto card = suite.folder() / "demo";
     std::filesystem::create_directories(card);
-    CardOptions options;
+    Demo::CardOptions options;
     options.folder = card.string();
     options.files = 1;
-    require(writeCard(options).empty(), "the demo flight was not written");
+    require(Demo::writeCard(options).empty(), "the demo flight was not written");
     viewer.pick((card / "LOG_0001.CAN").string());
     viewer.settle();
     const auto flight = viewer.session().flight();

@@ -163,7 +163,7 @@ private Q_SLOTS:
     /// What is written needs memory for one row or mark, not for all.
     void memory()
     {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef ORNA_SANITIZED
         QSKIP("the address sanitizer reserves terabytes, its process can't be limited");
 #endif
         const auto exportTexts = [this](const char* format, unsigned samples, int size,

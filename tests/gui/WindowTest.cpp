@@ -13,11 +13,11 @@ void WindowTest::makeHome(int minutes)
     qputenv("HOME", folder().toUtf8());
     QDir(folder()).mkpath("ORNA");
     QDir(folder()).mkpath("out");
-    TARN::CardOptions card;
+    TARN::Demo::CardOptions card;
     card.folder = cardPath().toStdString();
     card.minutes = minutes;
     card.files = 2;
-    if (!TARN::writeCard(card).empty()) {
+    if (!TARN::Demo::writeCard(card).empty()) {
         qFatal("could not write the card");
     }
     write("Flight.test.xml", R"(<TarnProject><Parameters>

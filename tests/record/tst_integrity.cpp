@@ -29,7 +29,7 @@ private Q_SLOTS:
     /// Comes first: threads that have ended leave memory behind that others then find.
     void tooLittleMemory()
     {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#ifdef ORNA_SANITIZED
         QSKIP("the sanitizers reserve terabytes, their processes can't be limited");
 #endif
         const QString file = write("large.CAN", "");

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -63,4 +63,4 @@ const Runway& arrivalRunway()
     return runway;
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace TARN {
+namespace TARN::Demo {
 
 struct Position
 {
@@ -29,4 +29,4 @@ double bearing(const Position& from, const Position& to);  ///< rad
 const Runway& departureRunway();
 const Runway& arrivalRunway();
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -200,4 +200,4 @@ void Airframe::report(Signals& signals) const
     signals[Signal::Flaps] = mFlaps;
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -6,7 +6,7 @@
 #include "Random.h"
 #include "Signals.h"
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// Motion of the aircraft: a point mass with thrust, drag and lift in moving air, whose attitude
 /// follows from its path. Vertical and forward motion exchange energy, so climb rates and cruise
@@ -71,4 +71,4 @@ private:
     double mRollRate = 0.0;
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -41,4 +41,4 @@ double indicatedSpeed(double trueAirspeed, const Air& air)
     return trueAirspeed * std::sqrt(air.density / kSeaLevelDensity);
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace TARN {
+namespace TARN::Demo {
 
 constexpr double kKnot = 1852.0 / 3600.0;  ///< m/s
 constexpr double kFoot = 0.3048;           ///< m
@@ -31,4 +31,4 @@ double pressureAltitude(double pressure);
 /// Speed in m/s that the airspeed indicator shows for a true airspeed in m/s.
 double indicatedSpeed(double trueAirspeed, const Air& air);
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <utility>
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -111,4 +111,4 @@ bool CanWriter::publish()
     return true;
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// One received message as the recording keeps it.
 struct CanSample
@@ -72,4 +72,4 @@ private:
     std::vector<std::uint8_t> mBuffer;
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

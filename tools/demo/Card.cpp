@@ -11,7 +11,7 @@
 #include <system_error>
 #include <vector>
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -130,4 +130,4 @@ std::string writeCard(const CardOptions& options)
     return Card(options).write();
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace TARN {
+namespace TARN::Demo {
 
 struct CardOptions
 {
@@ -20,4 +20,4 @@ struct CardOptions
 /// replaces an older one. Returns an empty text, or one line that says what failed.
 std::string writeCard(const CardOptions& options);
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace TARN {
+namespace TARN::Demo {
 
 enum class CowlFlaps
 {
@@ -68,4 +68,4 @@ struct Controls
     VerticalDisplay verticalMode = VerticalDisplay::Off;
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -104,4 +104,4 @@ void Engine::report(const Controls& controls, const Air& air, Signals& signals) 
     signals[Signal::EngineSeconds] = mSeconds;
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -5,7 +5,7 @@
 #include "Random.h"
 #include "Signals.h"
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// Six-cylinder injected piston engine of 300 hp with a constant-speed propeller: crankshaft
 /// speed, manifold pressure, power, air and fuel flow. Temperatures are another class's task.
@@ -51,4 +51,4 @@ private:
     double mSeconds = 1238.4 * 3600.0;
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

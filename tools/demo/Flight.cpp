@@ -1,6 +1,6 @@
 #include "Flight.h"
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -46,4 +46,4 @@ void Flight::report()
     mStory.judge(time, controls, mEngine.running(), mAfter);
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -11,7 +11,7 @@
 
 #include <cstdint>
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// The whole aircraft, advanced in fixed steps. The flight depends on the duration and the seed
 /// only, not on how often its signals are looked at.
@@ -52,4 +52,4 @@ private:
     std::int64_t mSteps = 0;
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

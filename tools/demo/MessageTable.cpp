@@ -1,6 +1,6 @@
 #include "MessageTable.h"
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -164,4 +164,4 @@ bool isHeld(Encoding encoding)
     return encoding == Bits16 || encoding == Bits32;
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

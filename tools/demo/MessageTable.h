@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <span>
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// How a message's four data bytes (six for Counter48) are made. The number that goes into the
 /// second payload byte follows from it.
@@ -51,4 +51,4 @@ std::uint8_t typeCode(Encoding encoding);
 /// Whether the value between two moments is the one before, not one in between.
 bool isHeld(Encoding encoding);
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -5,7 +5,7 @@
 #include <bit>
 #include <cmath>
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -123,4 +123,4 @@ Payload makePayload(const MessageRow& row, std::uint8_t counter,
     return payload;
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

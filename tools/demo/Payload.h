@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// Day and clock of the flight: local time runs two hours ahead of UTC.
 struct FlightDay
@@ -24,4 +24,4 @@ struct FlightDay
 std::array<std::uint8_t, 8> makePayload(const MessageRow& row, std::uint8_t counter,
                                         const std::array<double, 3>& values, int secondOfDay);
 
-} // namespace TARN
+} // namespace TARN::Demo

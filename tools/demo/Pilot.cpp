@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace TARN {
+namespace TARN::Demo {
 
 Pilot::Pilot(double duration) : mDuration(duration)
 {
@@ -105,4 +105,4 @@ bool Pilot::followRoute(const View& view, double speed)
     return false;
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

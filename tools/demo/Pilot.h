@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace TARN {
+namespace TARN::Demo {
 
 enum class Phase
 {
@@ -109,4 +109,4 @@ struct Pilot::View
     const Thermal& thermal;
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -3,7 +3,7 @@
 
 // What the pilot does from take-off to touchdown.
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -208,4 +208,4 @@ void Pilot::navigate(const View& view)
     }
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -3,7 +3,7 @@
 
 // What the pilot does while the wheels are on the ground.
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -125,4 +125,4 @@ void Pilot::parked(const View& view)
     holdRpm(view, 1000.0);
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

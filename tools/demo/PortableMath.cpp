@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -135,4 +135,4 @@ double approach(double value, double target, double step)
     return value + clampTo(target - value, -step, step);
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -4,7 +4,7 @@
 // rounded alike on every machine, the ones of the C library are not, and a demo flight has to be
 // the same bytes everywhere. Accurate to about 1e-12, far below the resolution of any sensor.
 
-namespace TARN {
+namespace TARN::Demo {
 
 constexpr double kPi = 3.14159265358979323846;
 constexpr double kDegree = kPi / 180.0;
@@ -34,4 +34,4 @@ double clampTo(double value, double low, double high);
 /// Value moved towards a target by at most step.
 double approach(double value, double target, double step);
 
-} // namespace TARN
+} // namespace TARN::Demo

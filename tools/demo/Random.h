@@ -3,7 +3,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// Small generator of pseudo-random numbers (splitmix64). The distributions of the standard
 /// library differ between implementations, so the few that are needed are made here.
@@ -62,4 +62,4 @@ private:
     double mValue = 0.0;
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

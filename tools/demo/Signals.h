@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// Everything the aircraft's units measure or report, in the units of the parameter profile.
 enum class Signal : std::size_t
@@ -107,4 +107,4 @@ inline Signal ofCylinder(Signal first, std::size_t cylinder)
     return static_cast<Signal>(static_cast<std::size_t>(first) + cylinder);
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

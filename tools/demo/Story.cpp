@@ -2,7 +2,7 @@
 
 #include "PortableMath.h"
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -135,4 +135,4 @@ void Story::judgeSystem(double time, const Controls& controls, Signals& signals)
                                     bit(9, time < 32.0);
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

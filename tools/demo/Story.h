@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// What goes wrong on the way and what the monitoring unit says about it: the oil pressure dip, the
 /// loose wire of the exhaust probe of cylinder 5, the warning lamps and the status words.
@@ -52,4 +52,4 @@ private:
     double mHottestHead = 0.0;
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

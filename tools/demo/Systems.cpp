@@ -2,7 +2,7 @@
 
 #include "PortableMath.h"
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -77,4 +77,4 @@ void Systems::report(Signals& signals) const
     signals[Signal::BatteryTemperature] = mBatteryTemperature;
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -5,7 +5,7 @@
 #include "Random.h"
 #include "Signals.h"
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// Fuel tanks, fuel pressure and the 28 V electrical system.
 class Systems
@@ -44,4 +44,4 @@ private:
     double mBatteryTemperature = 15.0;
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

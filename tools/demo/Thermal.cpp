@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -109,4 +109,4 @@ void Thermal::report(Signals& signals) const
     signals[Signal::OilPressure] = mOilPressure * (1.0 + 0.006 * mOilRipple.value());
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -8,7 +8,7 @@
 
 #include <array>
 
-namespace TARN {
+namespace TARN::Demo {
 
 /// Temperatures and oil of the engine: cylinder heads, exhaust gas, oil temperature and pressure.
 /// Degrees Celsius and bar.
@@ -47,4 +47,4 @@ private:
     double mOilPressure = 0.0;
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

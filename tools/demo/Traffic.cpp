@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace TARN {
+namespace TARN::Demo {
 
 namespace {
 
@@ -96,4 +96,4 @@ std::array<double, 3> Traffic::measure(const MessageRow& row, double time, Fligh
     return values;
 }
 
-} // namespace TARN
+} // namespace TARN::Demo

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <vector>
 
-namespace TARN {
+namespace TARN::Demo {
 
 constexpr std::uint64_t kTicksPerSecond = 32000000;
 
@@ -54,4 +54,4 @@ private:
     std::uint64_t mLastTicks[2] = {0, 0};
 };
 
-} // namespace TARN
+} // namespace TARN::Demo

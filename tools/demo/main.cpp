@@ -7,7 +7,7 @@ namespace {
 
 constexpr int kWrongUsage = 2;
 
-void describe(CLI::App& app, TARN::CardOptions& options)
+void describe(CLI::App& app, TARN::Demo::CardOptions& options)
 {
     app.add_option("--out", options.folder, "Folder that takes the recording files")->required();
     app.add_option("--minutes", options.minutes,
@@ -31,14 +31,14 @@ void describe(CLI::App& app, TARN::CardOptions& options)
 int main(int argc, char** argv)
 {
     CLI::App app{"Writes the card folder of a demo flight.", "orna-demo"};
-    TARN::CardOptions options;
+    TARN::Demo::CardOptions options;
     describe(app, options);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? 0 : kWrongUsage;
     }
-    std::string failure = TARN::writeCard(options);
+    std::string failure = TARN::Demo::writeCard(options);
     if (failure.empty())
         return 0;
     std::fprintf(stderr, "orna-demo: %s\n", failure.c_str());
