@@ -114,15 +114,13 @@ void DialogDataGraph::showFlight()
         model.windowChanged();
         showTime(mSession.time(), nullptr);
     }
-    mIsRefilled = false;
     loadCurves();
 }
 
-/// Another offset: the same window, but in automatic mode, where it ends with the samples.
+/// Another offset leaves the window where it is; the marked range was one of other times.
 void DialogDataGraph::refill()
 {
     mGraph->model().clear();
-    mIsRefilled = true;
     loadCurves();
 }
 
@@ -159,11 +157,7 @@ void DialogDataGraph::takeCurve(unsigned place, std::shared_ptr<const CurveSampl
     curves.curve(place)->isSingle =
         Decoder(mSession.profile()->data(), *selected[place]).isSingle();
     curves.setSeries(place, std::move(samples));
-    if (mIsRefilled && mGraph->model().graphMode() == GraphAutomatic && curves.hasSamples()) {
-        TimeWindow& window = mGraph->model().window();
-        window.shiftTo(curves.timeRange().high - window.width());
-    }
-    mGraph->model().windowChanged();
+    mGraph->model().curvesChanged();
     updateTexts();
 }
 

@@ -75,8 +75,7 @@ private:
     CurveLoader* mLoader;
     QTimer mTimer;
     WidgetGraph* mGraph = nullptr;
-    bool mIsRefilled = false; ///< with the curves of another offset
-    QLabel* mNote;            ///< of what is left out
+    QLabel* mNote; ///< of what is left out
 };
 
 } // namespace TARN
