@@ -120,6 +120,21 @@ public:
         mWindow->findChild<QWidget*>("loading")->findChild<QToolButton*>()->click();
     }
 
+    /// Until a picture with all its curves is on the display.
+    void waitForCurves()
+    {
+        auto* graph = mWindow->findChild<WidgetGraph*>();
+        QEventLoop loop;
+        QObject::connect(graph, &QOpenGLWidget::frameSwapped, &loop, [&] {
+            if (std::ranges::none_of(graph->model().curves().all(), [](const ParStruct& curve) {
+                    return curve.active && curve.samples().empty();
+                })) {
+                loop.quit();
+            }
+        });
+        loop.exec();
+    }
+
     /// Until the graph has been painted and the display has got it.
     void paint()
     {
@@ -231,7 +246,7 @@ double cancelRatio(Suite& suite, Viewer& viewer)
 /// The 30 parameters of the demo flight that are sent most often, as far as they are numbers.
 Selection thirtyOf(const Flight& flight)
 {
-    constexpr std::size_t Curves = 30;
+    constexpr std::size_t Most = 30;
     std::vector<std::pair<std::size_t, const ProfileParameter*>> numbers;
     for (const auto& [device, parameter] : flight.profile()->parameters()) {
         const Series series = flight.series(*parameter, 0.0);
@@ -241,7 +256,7 @@ Selection thirtyOf(const Flight& flight)
     }
     std::ranges::sort(numbers, std::greater());
     Selection selection;
-    for (std::size_t i = 0; i < Curves; ++i) {
+    for (std::size_t i = 0; i < Most; ++i) {
         selection.set(*numbers[i].second, true);
     }
     return selection;
@@ -280,18 +295,12 @@ double confirmRatio(Suite& suite)
     std::vector<double> ratios;
     for (int round = 0; round < Rounds; ++round) {
         viewer.confirm({});
+        viewer.session().setTicks(selection);
         viewer.settle();
         const double shown = secondsOf([&] {
-            viewer.confirm(selection);
-            while (runningJobs() > 0) {
-                live(0);
-            }
-            viewer.paint();
+            viewer.session().confirm();
+            viewer.waitForCurves();
         });
-        decodeSeconds(*flight, selection);
-        std::fprintf(stderr, "shown %.2f ms decode %.2f ms paint %.2f samples %zu\n", shown * 1e3,
-                     decodeSeconds(*flight, selection) * 1e3, viewer.paintSeconds() * 1e3,
-                     flight->samples().count());
         ratios.push_back(shown / decodeSeconds(*flight, selection));
     }
     return median(ratios);

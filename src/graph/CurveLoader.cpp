@@ -42,6 +42,7 @@ void CurveLoader::load(std::shared_ptr<const Flight> flight,
         }
     }
     startNext();
+    Q_EMIT ready();
 }
 
 void CurveLoader::startNext()
@@ -90,6 +91,7 @@ void CurveLoader::take(const std::vector<unsigned>& places, const std::vector<De
     for (std::size_t i = 0; i < places.size(); ++i) {
         Q_EMIT curveReady(places[i], curves[i].samples);
     }
+    Q_EMIT ready();
 }
 
 bool CurveLoader::isBusy() const

@@ -82,7 +82,9 @@ void DialogDataGraph::createGraph()
             [this] { mSession.setMarks(mGraph->model().markers()); });
     connect(mGraph, &WidgetGraph::signalLink, this, &DialogDataGraph::signalLink);
     connect(mLoader, &CurveLoader::curveReady, this, &DialogDataGraph::takeCurve);
+    connect(mLoader, &CurveLoader::ready, this, &DialogDataGraph::showCurves);
     connect(mLoader, &CurveLoader::outOfMemory, this, [this] {
+        mGraph->release();
         mGraph->setEmptyText(
             tr("There is not enough memory for these curves; select fewer parameters."));
     });
@@ -106,6 +108,7 @@ void DialogDataGraph::connectSession()
 void DialogDataGraph::showFlight()
 {
     GraphModel& model = mGraph->model();
+    mGraph->hold(); // what is there at once is painted once, and not an empty plot first
     model.clear();
     if (mSession.flight() != nullptr) {
         const RecordInfo& info = mSession.flight()->info();
@@ -120,6 +123,7 @@ void DialogDataGraph::showFlight()
 /// Another offset leaves the window where it is; the marked range was one of other times.
 void DialogDataGraph::refill()
 {
+    mGraph->hold();
     mGraph->model().clear();
     loadCurves();
 }
@@ -147,7 +151,6 @@ void DialogDataGraph::loadCurves()
     }
     mGraph->model().curvesChanged();
     mLoader->load(mSession.flight(), parameters, mSession.offset());
-    updateTexts();
 }
 
 void DialogDataGraph::takeCurve(unsigned place, std::shared_ptr<const CurveSamples> samples)
@@ -157,8 +160,15 @@ void DialogDataGraph::takeCurve(unsigned place, std::shared_ptr<const CurveSampl
     curves.curve(place)->isSingle =
         Decoder(mSession.profile()->data(), *selected[place]).isSingle();
     curves.setSeries(place, std::move(samples));
+}
+
+void DialogDataGraph::showCurves()
+{
     mGraph->model().curvesChanged();
     updateTexts();
+    if (!mLoader->isBusy()) {
+        mGraph->release();
+    }
 }
 
 void DialogDataGraph::updateTexts()

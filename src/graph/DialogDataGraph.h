@@ -56,6 +56,7 @@ private:
     void refill();
     void loadCurves();
     void takeCurve(unsigned place, std::shared_ptr<const CurveSamples> samples);
+    void showCurves();
     void showTime(double time, const QObject* source);
     void updateDigits();
     void runCommand(int command);

@@ -38,6 +38,7 @@ WidgetGraph::WidgetGraph(QWidget* parent)
 {
     constexpr int RepaintInterval = 30; // ms
     constexpr int RecalcDelay = 50;
+    constexpr int LongestHold = 60;
     setFormat(graphFormat());
     setFont(graphFont());
     setMouseTracking(true);
@@ -46,9 +47,13 @@ WidgetGraph::WidgetGraph(QWidget* parent)
     setMinimumSize(200, 120);
     setMaxParameters(6);
     connect(&mModel, &GraphModel::changed, this, [this] {
-        updateEmptyPlace();
-        update();
+        if (!mHeld.isActive()) {
+            release();
+        }
     });
+    mHeld.setSingleShot(true);
+    mHeld.setInterval(LongestHold);
+    connect(&mHeld, &QTimer::timeout, this, &WidgetGraph::release);
     connect(mEmpty, &QLabel::linkActivated, this, &WidgetGraph::signalLink);
     connect(&mGestures, &GraphGestures::cursorMoved, this, &WidgetGraph::signalCursor);
     connect(&mGestures, &GraphGestures::markersMoved, this, &WidgetGraph::signalMarker);
@@ -60,6 +65,13 @@ WidgetGraph::WidgetGraph(QWidget* parent)
     mRecalcTimer.setInterval(RecalcDelay);
     connect(&mRecalcTimer, &QTimer::timeout, this, &WidgetGraph::slotTimeoutRecalc);
     mSinceRedraw.start();
+}
+
+void WidgetGraph::release()
+{
+    mHeld.stop();
+    updateEmptyPlace();
+    update();
 }
 
 bool WidgetGraph::canDraw()
@@ -88,8 +100,10 @@ void WidgetGraph::setGraphStyle(const GraphStyle& style)
 
 void WidgetGraph::setEmptyText(const QString& text)
 {
-    mEmpty->setText(text);
-    updateEmptyPlace();
+    mEmptyText = text;
+    if (!mHeld.isActive()) {
+        updateEmptyPlace();
+    }
 }
 
 void WidgetGraph::setMaxParameters(unsigned n)
@@ -190,8 +204,7 @@ void WidgetGraph::resizeGL(int width, int height)
 {
     mModel.layout().setSize(width, height);
     mGestures.setSize({width, height});
-    updateEmptyPlace();
-    update();
+    release();
 }
 
 void WidgetGraph::paintGL()
@@ -237,6 +250,7 @@ void WidgetGraph::updateEmptyPlace()
     const bool isDark = mStyle.back.toColor().lightness() < 128;
     mEmpty->setTextColor(isDark ? Qt::lightGray : Qt::darkGray);
     mEmpty->setGeometry(plot.toRect().adjusted(Margin, Margin, -Margin, -Margin));
+    mEmpty->setText(mEmptyText);
     mEmpty->setVisible(!mModel.curves().hasSamples());
 }
 

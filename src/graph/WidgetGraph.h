@@ -33,6 +33,11 @@ public:
     /// Told in the middle of the plot while no active curve has a sample; may hold links.
     void setEmptyText(const QString& text);
 
+    /// Leaves the picture as it is until release(), a few paints at most, while the model becomes
+    /// another one.
+    void hold() { mHeld.start(); }
+    void release();
+
     const TARN::GraphGestures& gestures() const { return mGestures; }
 
     // Short forms. Colours are parts from 0 to 1.
@@ -103,7 +108,9 @@ private:
     TARN::GlCanvas mCanvas;
     TARN::TextLayout mTexts;
     TARN::EmptyPlace* mEmpty;
+    QString mEmptyText;
     QTimer mRepaintTimer;
     QTimer mRecalcTimer;
+    QTimer mHeld; ///< runs while the picture is left as it is
     QElapsedTimer mSinceRedraw;
 };

@@ -19,6 +19,9 @@ EmptyPlace::EmptyPlace(QWidget* view) : QLabel(view)
 
 void EmptyPlace::setText(const QString& text)
 {
+    if (text == mText) {
+        return; // a repaint for nothing
+    }
     mText = text;
     QString rich = text;
     QLabel::setText(rich.replace('\n', "<br>"));
@@ -27,6 +30,9 @@ void EmptyPlace::setText(const QString& text)
 void EmptyPlace::setTextColor(const QColor& color)
 {
     QPalette colors = palette();
+    if (colors.color(QPalette::Link) == color) {
+        return;
+    }
     colors.setColor(QPalette::PlaceholderText, color);
     colors.setColor(QPalette::Link, color);
     setPalette(colors);
