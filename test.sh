@@ -73,7 +73,7 @@ ASAN_OPTIONS=detect_leaks=0:quarantine_size_mb=16 \
 
 step "the core without a widget toolkit, under the thread sanitizer"
 build core -DORNA_SANITIZE=thread -DCMAKE_CXX_FLAGS_RELEASE=-Og \
-    --target orna-cli tst_record tst_flight tst_curves
+    --target tst_record tst_flight tst_curves
 # Its shadow memory lies at fixed addresses, which a random layout may have taken.
 TSAN_OPTIONS=ignore_noninstrumented_modules=1 QT_QPA_PLATFORM=offscreen \
     quietly setarch --addr-no-randomize ctest --preset core \

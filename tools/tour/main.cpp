@@ -8,6 +8,7 @@
 #include "flight/Job.h"
 #include "graph/DialogGraphSetup.h"
 
+#include <QtCore/QCommandLineParser>
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
 #include <QtGui/QAction>
@@ -20,7 +21,6 @@
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QWizard>
 
-#include <CLI/CLI.hpp>
 #include <functional>
 #include <iostream>
 
@@ -29,9 +29,9 @@ namespace {
 struct Arguments
 {
     std::string out;
-    bool dark = false;
-    int width = 1280;
-    int height = 860;
+    bool dark;
+    int width;
+    int height;
 };
 
 /// Runs the event loop for a while: timers fire, windows are painted.
@@ -199,13 +199,20 @@ int main(int argc, char** argv)
     TARN::useDecimalPoint();
     QApplication application(argc, argv);
     TARN::useDecimalPoint();
-    Arguments arguments;
-    CLI::App command("Takes screenshots of the viewer at work.", "orna-tour");
-    command.add_option("OUT", arguments.out, "existing folder for the pictures")->required();
-    command.add_flag("--dark", arguments.dark, "with a dark theme");
-    command.add_option("--width", arguments.width, "window width, pixels");
-    command.add_option("--height", arguments.height, "window height, pixels");
-    CLI11_PARSE(command, argc, argv);
+    QCommandLineParser command;
+    command.setApplicationDescription("Takes screenshots of the viewer at work.");
+    command.addHelpOption();
+    command.addPositionalArgument("OUT", "existing folder for the pictures");
+    command.addOptions({{"dark", "with a dark theme"},
+                        {"width", "window width, pixels", "pixels", "1280"},
+                        {"height", "window height, pixels", "pixels", "860"}});
+    command.process(application);
+    if (command.positionalArguments().size() != 1) {
+        command.showHelp(2);
+    }
+    const Arguments arguments{command.positionalArguments().front().toStdString(),
+                              command.isSet("dark"), command.value("width").toInt(),
+                              command.value("height").toInt()};
     if (arguments.dark) {
         QApplication::setPalette(darkPalette());
     }
