@@ -211,10 +211,11 @@ private Q_SLOTS:
         QVERIFY(store.writeXmlFile(file + "/below-a-file"));
         QCOMPARE(read("ORNA.ini"), expected);
         // What another file holds is added, the last of equal keys wins.
-        copy.readXmlFile(write("c.xml", "<Any><Property id='Locale' value='1'/><Other id='Third'/>"
-                                        "<!-- --><Property id='Locale' value='2'/><Group>"
-                                        "<Property id='Third' value='deep'/></Group></Any>")
-                             .toStdString());
+        const QString more =
+            write("c.xml", "<Any><Property id='Locale' value='1'/><Other id='Third'/>"
+                           "<!-- --><Property id='Locale' value='2'/><Group>"
+                           "<Property id='Third' value='deep'/></Group></Any>");
+        QVERIFY(copy.readXmlFile(more.toStdString()));
         QCOMPARE(copy.getString("Locale", ""), std::string("2"));
         QCOMPARE(copy.getString("Third", ""), std::string("0.333333"));
     }

@@ -3,6 +3,8 @@
 #include "fuzz/Fuzz.h"
 #include "profile/Profile.h"
 
+#include <tuple>
+
 using namespace TARN;
 using Fuzz::require;
 
@@ -18,23 +20,16 @@ void checkParameter(const Profile& profile, const ProfileParameter& parameter)
 
 /// All that a profile makes of a sample whose every byte differs from the next, so that any field
 /// reads something.
-QStringList summary(const Profile& profile, const ProfileParameter& parameter)
+auto summary(const Profile& profile, const ProfileParameter& parameter)
 {
     const RecordEntry entry{{0, 2, 4, 8, 16, 32, 64, 128}, 1, 3, 0, 0, 0x1234, 0x5678, 1, 2};
     QColor color;
     const QString text = profile.getDataString(entry, parameter, color);
     const int state = profile.getState(entry, parameter);
     require(!text.isEmpty() && state >= StateOk && state <= StateLimit);
-    return {parameter.fullName,
-            parameter.title(),
-            parameter.viewId,
-            text,
-            color.name(),
-            QString::number(state),
-            QString::number(profile.getDouble(entry, parameter, true)),
-            QString::number(profile.getInt(entry, parameter)),
-            QString::number(parameter.id),
-            QString::number(parameter.channel)};
+    return std::make_tuple(parameter.fullName, parameter.title(), parameter.viewId, text, color,
+                           state, QString::number(profile.getDouble(entry, parameter, true)),
+                           profile.getInt(entry, parameter), parameter.id, parameter.channel);
 }
 
 } // namespace

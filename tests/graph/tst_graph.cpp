@@ -113,6 +113,8 @@ private Q_SLOTS:
             QVERIFY(GraphTicks::ofTimes(5.0, max, 100.0, 25.0).ticks.empty());
             QVERIFY(GraphTicks::ofValues(5.0, max, 100.0, 25.0).ticks.empty());
         }
+        QVERIFY(GraphTicks::ofValues(1e12, 1e12 + 0.05, 100.0, 25.0).ticks.empty());
+        QCOMPARE(ValueAxis::ofPlot({0.0, 150.0, 0.0, 100.0}).labels.size(), 6U);
     }
 
     void labels()
@@ -299,7 +301,11 @@ private Q_SLOTS:
                 },
                 [&] {
                     plain[i] = {{at, at + 1, at + 300},
-                                {900 - at, at < 99 ? INFINITY : None, at * at}};
+                                {900 - at,
+                                 at < 99    ? INFINITY
+                                 : at < 500 ? None
+                                            : 2 * at,
+                                 at * at}};
                     model.curves().setSeries(i, seriesOf(plain[i].times, plain[i].values));
                     model.curvesChanged();
                 },
@@ -456,7 +462,18 @@ private Q_SLOTS:
             }
             QCOMPARE(drawn, " 1:2 3:1 2:0 1:2 3:1 2:0 1:2 3:1 2:0 3:3"); // a dot beyond the gap
             QCOMPARE(paint.shapes[0].color, style.back);
-            QCOMPARE(std::ranges::count(paint.shapes, style.grid, &Shape::color), 4);
+            int grids = 0; // of dots, to the end of their last line
+            for (const Shape& shape : paint.shapes) {
+                const bool isGrid = shape.color == style.grid;
+                grids += isGrid ? 1 : 0;
+                QVERIFY(!isGrid || *(shape.points.end() - 2) > 588.0F ||
+                        shape.points.back() > 388.0F);
+            }
+            QCOMPARE(grids, 4);
+            const auto cursorLine = std::ranges::find_if(paint.shapes, [](const Shape& shape) {
+                return shape.kind == GraphPaint::Lines && shape.color == GraphColor{1, 1, 1};
+            });
+            QCOMPARE(cursorLine->points.size(), isShown ? 8U : 4U); // and that of the value
             const auto marker = std::ranges::find(paint.shapes, GraphColor{1, 1, 0}, &Shape::color);
             QCOMPARE(marker->points,
                      (std::vector{float(view.xToViewport(50)), 40.0F, 590.0F, 390.0F}));

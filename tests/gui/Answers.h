@@ -20,10 +20,8 @@ public:
 
     /// Fills a page of a wizard before it goes on; without, it is cancelled.
     std::function<void(QWizard&, QWizardPage&)> atPage;
-    int cancelAt = -1; ///< number of the page at which a wizard is cancelled
     std::function<QAbstractButton*(QMessageBox&)> chooseButton; ///< instead of the texts
 
-    int pages = 0;    ///< of wizards that were seen
     QStringList said; ///< title, text and further text of boxes; title and choice of file dialogs
 
 private:

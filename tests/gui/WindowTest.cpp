@@ -133,12 +133,10 @@ void WindowTest::useProfile(const QString& file)
 void WindowTest::type(QWidget* field, const QString& text)
 {
     field->setFocus();
-    if (auto* edit = qobject_cast<QLineEdit*>(field)) {
-        edit->selectAll();
-    } else if (auto* number = qobject_cast<QDoubleSpinBox*>(field)) {
-        number->selectAll();
-    } else {
+    if (qobject_cast<QTimeEdit*>(field) != nullptr) {
         QTest::keyClick(field, Qt::Key_Home);
+    } else {
+        QMetaObject::invokeMethod(field, "selectAll");
     }
     QTest::keyClicks(field, text);
 }
@@ -149,4 +147,14 @@ QLineEdit* WindowTest::folderOf(const QWizardPage& page)
     const auto edits = page.findChildren<QLineEdit*>();
     const bool isFirst = page.findChild<QLineEdit*>("fileName") != nullptr;
     return isFirst ? edits[edits[0]->objectName() == "fileName" ? 1 : 0] : nullptr;
+}
+
+void WindowTest::fillPages(const std::function<void(QWizardPage&)>& fill)
+{
+    answers().atPage = [this, fill](QWizard&, QWizardPage& page) {
+        if (QLineEdit* folder = folderOf(page)) {
+            type(folder, exportPath());
+        }
+        fill(page);
+    };
 }

@@ -99,6 +99,8 @@ public:
     }
     /// The field of the folder on the first page of a wizard, null on others.
     static QLineEdit* folderOf(const QWizardPage& page);
+    /// Lets wizards write to the folder "out"; all else that a page asks for is for \p fill.
+    void fillPages(const std::function<void(QWizardPage&)>& fill);
     static void clickCell(QTableView* table, int row, int column = 0)
     {
         QTest::mouseClick(table->viewport(), Qt::LeftButton, {},

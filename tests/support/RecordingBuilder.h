@@ -20,7 +20,7 @@ constexpr std::uint64_t ticks(double seconds)
     return static_cast<std::uint64_t>(seconds * 32e6 + 0.5);
 }
 
-/// Writes recordings byte by byte, in either byte order, and damages them on demand.
+/// Writes recordings byte by byte, in either byte order.
 class RecordingBuilder
 {
 public:
@@ -63,11 +63,6 @@ public:
     RecordingBuilder& setByte(qsizetype at, int value)
     {
         mBytes[at] = static_cast<char>(value);
-        return *this;
-    }
-    RecordingBuilder& cutAt(qsizetype size)
-    {
-        mBytes.truncate(size);
         return *this;
     }
     RecordingBuilder& append(const QByteArray& bytes)
