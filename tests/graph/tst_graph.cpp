@@ -466,14 +466,16 @@ private Q_SLOTS:
             for (const Shape& shape : paint.shapes) {
                 const bool isGrid = shape.color == style.grid;
                 grids += isGrid ? 1 : 0;
-                QVERIFY(!isGrid || *(shape.points.end() - 2) > 588.0F ||
-                        shape.points.back() > 388.0F);
+                const float x = isGrid ? *(shape.points.end() - 2) : 590.0F;
+                const float y = isGrid ? shape.points.back() : 390.0F;
+                QVERIFY(x < 591.0F && y < 391.0F && (x > 588.0F || y > 388.0F));
             }
             QCOMPARE(grids, 4);
             const auto cursorLine = std::ranges::find_if(paint.shapes, [](const Shape& shape) {
                 return shape.kind == GraphPaint::Lines && shape.color == GraphColor{1, 1, 1};
             });
             QCOMPARE(cursorLine->points.size(), isShown ? 8U : 4U); // and that of the value
+            QCOMPARE(paint.shapes.back().points.size(), 16U);       // the outline, all around
             const auto marker = std::ranges::find(paint.shapes, GraphColor{1, 1, 0}, &Shape::color);
             QCOMPARE(marker->points,
                      (std::vector{float(view.xToViewport(50)), 40.0F, 590.0F, 390.0F}));
