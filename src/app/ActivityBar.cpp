@@ -36,6 +36,7 @@ void ActivityBar::begin(const QString& text, double amount, const QString& unit)
     mAmount = amount;
     mUnit = unit;
     mClock.start();
+    mSincePaint.start();
     mHideTimer.stop();
     showText(text);
     mProgress->setValue(0);
@@ -45,6 +46,12 @@ void ActivityBar::begin(const QString& text, double amount, const QString& unit)
 
 void ActivityBar::setProgress(int percent, const QString& task)
 {
+    constexpr qint64 PaintInterval =
+        100; // ms; each paint of the window takes from what it tells of
+    if (mSincePaint.elapsed() < PaintInterval) {
+        return;
+    }
+    mSincePaint.start();
     mProgress->setValue(percent);
     showText(task.isEmpty() ? mText : task, remark(percent));
 }

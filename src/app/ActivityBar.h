@@ -43,6 +43,7 @@ private:
     QString mUnit;
     double mAmount = 0.0;
     QElapsedTimer mClock;
+    QElapsedTimer mSincePaint;
     QTimer mHideTimer;
     QLabel* mLabel;
     QProgressBar* mProgress;

@@ -152,7 +152,7 @@ private Q_SLOTS:
     void memory()
     {
 #ifdef ORNA_SANITIZED
-        QSKIP("the address sanitizer reserves terabytes, its process can't be limited");
+        QSKIP("the sanitizers reserve terabytes, their processes can't be limited");
 #endif
         const auto exportTexts = [this](const char* format, unsigned samples, int size,
                                         int columns) {
