@@ -56,6 +56,17 @@ void storeSetting(const char* key, const QString& value)
     Property::instance()->writeXmlFile();
 }
 
+std::list<QString> filesOf(const Flight* flight)
+{
+    std::list<QString> paths;
+    if (flight != nullptr) {
+        for (const FileIntegrity& file : flight->record()->integrity().files) {
+            paths.push_back(file.info.fileName);
+        }
+    }
+    return paths;
+}
+
 } // namespace
 
 DialogMain::DialogMain(QWidget* parent)
@@ -135,6 +146,7 @@ void DialogMain::connectLoading()
         bar.abandon();
         mStatusBar->say(reason.isEmpty() ? tr("Loading was cancelled.")
                                          : tr("Not loaded: %1").arg(reason));
+        mCard->showLoaded(filesOf(mSession.flight().get())); // a click on the others tries again
     });
     connect(mLoader, &FlightLoader::profileReady, this, &DialogMain::takeProfile);
     connect(mOpener, &CardOpener::listed, this, [this] {

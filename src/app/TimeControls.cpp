@@ -102,20 +102,24 @@ void TimeControls::createControls()
     mTimeEdit->setToolTip(
         tr("Current time on the recording's clock; type a time and press Enter to go there"));
     mTimeEdit->setAccessibleName(tr("Go to time"));
-    mPrevious = createEventButton("eventPrevious", tr("Previous event"), "P, Shift+F4",
-                                  &TimeControls::slotPreviousEvent);
-    mNext = createEventButton("eventNext", tr("Next event"), "N, F4", &TimeControls::slotNextEvent);
+    mPrevious =
+        createEventButton("eventPrevious", tr("Previous event"),
+                          {Qt::Key_P, Qt::SHIFT | Qt::Key_F4}, &TimeControls::slotPreviousEvent);
+    mNext = createEventButton("eventNext", tr("Next event"), {Qt::Key_N, Qt::Key_F4},
+                              &TimeControls::slotNextEvent);
     // A number is complete with Enter, not after its first digit.
     mOffset->setKeyboardTracking(false);
     mTimeEdit->setKeyboardTracking(false);
 }
 
 QToolButton* TimeControls::createEventButton(const char* icon, const QString& toolTip,
-                                             const char* keys, void (TimeControls::*slot)())
+                                             const QList<QKeySequence>& keys,
+                                             void (TimeControls::*slot)())
 {
     auto* button = new QToolButton;
     button->setIcon(QIcon(QString(":/icons/%1.svg").arg(icon)));
-    button->setToolTip(QString("%1 (%2)").arg(toolTip, keys));
+    button->setToolTip(QString("%1 (%2)").arg(
+        toolTip, QKeySequence::listToString(keys, QKeySequence::NativeText)));
     button->setAccessibleName(toolTip);
     button->setObjectName(icon);
     connect(button, &QToolButton::clicked, this, slot);

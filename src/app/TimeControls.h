@@ -39,8 +39,8 @@ private Q_SLOTS:
 private:
     void createControls();
     void addDisplay(QGridLayout* grid, int row, const QString& clock, QLCDNumber* display);
-    QToolButton* createEventButton(const char* icon, const QString& toolTip, const char* keys,
-                                   void (TimeControls::*slot)());
+    QToolButton* createEventButton(const char* icon, const QString& toolTip,
+                                   const QList<QKeySequence>& keys, void (TimeControls::*slot)());
     QLCDNumber* createDisplay(int digits, const QString& name);
     void updateFlight();
     void updateDisplay();

@@ -76,6 +76,14 @@ void DialogCard::selectRecords(const std::list<QString>& paths)
     }
 }
 
+void DialogCard::showLoaded(const std::list<QString>& paths)
+{
+    if (!mTimer.isActive()) { // else others are already picked
+        const QSignalBlocker quiet(mTree);
+        selectRecords(paths);
+    }
+}
+
 void DialogCard::addRecord(const QString& path, const RecordInfo& info)
 {
     auto* item = new QTreeWidgetItem(mTree);

@@ -30,6 +30,10 @@ public:
     /// Picks recordings as clicks on them do; those that are not listed are left out.
     void selectRecords(const std::list<QString>& paths);
 
+    /// Shows these as picked, without announcing them: what was asked for last did not load. Does
+    /// nothing where others were picked just now.
+    void showLoaded(const std::list<QString>& paths);
+
     /// Adds what reading their samples has shown to the tool tips of the files read.
     void setIntegrity(const RecordIntegrity& integrity);
 

@@ -67,13 +67,15 @@ FileReport headerReport(const QString& path)
     return {fieldsOf(info), integrityOf(info), recordRemarks(info)};
 }
 
-FileReport sampleReport(const QString& path, const std::string& profile,
-                        std::vector<FileIntegrity>& files)
+FileReport sampleReport(const QString& path, const std::string& profile, RecordIntegrity& checked)
 {
     const std::shared_ptr<const Profile> known = profile.empty() ? nullptr : loadProfile(profile);
     const auto record = loadRecord({path.toStdString()});
     const FileIntegrity& file = record->integrity().files.front();
-    files.push_back(file);
+    checked.files.push_back(file);
+    if (!record->integrity().damagedOffset.isEmpty()) {
+        checked.damagedOffset = record->integrity().damagedOffset;
+    }
     FileReport report{fieldsOf(file.info), integrityOf(file), recordRemarks(file)};
     if (known != nullptr) {
         const auto unknown = unknownIdentifiers(record->recordData(), *known);
@@ -107,10 +109,10 @@ void print(const FileReport& report, bool json, std::ostream& out)
 }
 
 /// What speaks against reading the files as one recording; nothing where nothing does.
-void printTogether(const std::vector<FileIntegrity>& files, bool json, std::ostream& out)
+void printTogether(const RecordIntegrity& checked, bool json, std::ostream& out)
 {
     Json lines = Json::array();
-    for (const QString& remark : togetherRemarks(files)) {
+    for (const QString& remark : togetherRemarks(checked)) {
         lines.push_back(remark.toStdString());
         if (!json) {
             out << "remark: " << remark.toStdString() << '\n';
@@ -125,7 +127,7 @@ void printTogether(const std::vector<FileIntegrity>& files, bool json, std::ostr
 
 void runInfo(const InfoArguments& arguments, std::ostream& out)
 {
-    std::vector<FileIntegrity> checked;
+    RecordIntegrity checked;
     for (const std::string& argument : arguments.paths) {
         const QString path = QString::fromStdString(argument);
         const auto files = QFileInfo(path).isDir() ? cardFiles(path) : std::vector<QString>{path};

@@ -13,18 +13,19 @@ GraphButtons::GraphButtons(QWidget* parent) : QScrollArea(parent), mGroup(new QB
     const struct
     {
         Command command;
-        QString toolTip;
+        QString name;
         const char* icon; ///< null for the text "Auto"
+        Qt::Key key = Qt::Key_unknown;
     } commands[] = {
         {ZoomIn, tr("Zoom In"), "zoomin"},
         {ZoomOut, tr("Zoom Out"), "zoomout"},
         {ZoomOneToOne, tr("Zoom 1:1"), "zoom1"},
-        {ZoomMarker, tr("Zoom Marker") + " (Z)", "zoomrect"},
-        {ShowAll, tr("Show all") + " (Home)", "showAll"},
-        {ClearAll, tr("Clear All") + " (X)", "fail"},
-        {AutomaticMode, tr("Automatic Mode") + " (A)", nullptr},
-        {SplitMode, tr("Split Mode") + " (F3)", "graphSplit"},
-        {SingleMode, tr("Single Graph Mode") + " (F2)", "graphSingle"},
+        {ZoomMarker, tr("Zoom Marker"), "zoomrect", Qt::Key_Z},
+        {ShowAll, tr("Show all"), "showAll", Qt::Key_Home},
+        {ClearAll, tr("Clear All"), "fail", Qt::Key_X},
+        {AutomaticMode, tr("Automatic Mode"), nullptr, Qt::Key_A},
+        {SplitMode, tr("Split Mode"), "graphSplit", Qt::Key_F3},
+        {SingleMode, tr("Single Graph Mode"), "graphSingle", Qt::Key_F2},
         {ResetAll, tr("Reset all to default"), "undo"},
         {Setup, tr("Setup"), "configure2"},
         {Snapshot, tr("Snapshot"), "frame_image"},
@@ -33,8 +34,8 @@ GraphButtons::GraphButtons(QWidget* parent) : QScrollArea(parent), mGroup(new QB
     auto* layout = new QVBoxLayout(column);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
-    for (const auto& [command, toolTip, icon] : commands) {
-        layout->addWidget(createButton(command, toolTip, icon));
+    for (const auto& [command, name, icon, key] : commands) {
+        layout->addWidget(createButton(command, name, icon, key));
         if (command == ShowAll || command == AutomaticMode || command == SingleMode) {
             layout->addSpacing(GroupGap);
         }
@@ -53,12 +54,16 @@ GraphButtons::GraphButtons(QWidget* parent) : QScrollArea(parent), mGroup(new QB
     setFixedWidth(column->sizeHint().width() + verticalScrollBar()->sizeHint().width());
 }
 
-QToolButton* GraphButtons::createButton(int command, const QString& toolTip, const char* icon)
+QToolButton* GraphButtons::createButton(int command, const QString& name, const char* icon,
+                                        Qt::Key key)
 {
     constexpr int IconSize = 32;
     auto* button = new QToolButton;
-    button->setToolTip(toolTip);
-    button->setAccessibleName(toolTip);
+    button->setToolTip(
+        key == Qt::Key_unknown
+            ? name
+            : QString("%1 (%2)").arg(name, QKeySequence(key).toString(QKeySequence::NativeText)));
+    button->setAccessibleName(name);
     button->setIconSize({IconSize, IconSize});
     if (icon != nullptr) {
         button->setIcon(QIcon(QString(":/icons/%1.svg").arg(icon)));

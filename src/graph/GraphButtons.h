@@ -46,7 +46,7 @@ Q_SIGNALS:
     void released(int command);
 
 private:
-    QToolButton* createButton(int command, const QString& toolTip, const char* icon);
+    QToolButton* createButton(int command, const QString& name, const char* icon, Qt::Key key);
 
     QButtonGroup* mGroup;
     std::array<QToolButton*, CommandCount> mButtons{};

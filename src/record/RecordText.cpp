@@ -154,26 +154,26 @@ QStringList recordRemarks(const FileIntegrity& file)
     return lines;
 }
 
-QStringList togetherRemarks(const std::vector<FileIntegrity>& files)
+QStringList togetherRemarks(const RecordIntegrity& integrity)
 {
-    QStringList lines = overlapRemark(files);
-    lines += dateRemark(files);
+    QStringList lines = overlapRemark(integrity.files);
+    lines += dateRemark(integrity.files);
+    if (!integrity.damagedOffset.isEmpty()) {
+        lines += RecordText::tr("The time offset could not be read: \"%1\" is damaged. Setting "
+                                "another offset keeps that file aside")
+                     .arg(integrity.damagedOffset);
+    }
     return lines;
 }
 
 QStringList recordRemarks(const RecordIntegrity& integrity)
 {
-    QStringList lines = togetherRemarks(integrity.files);
+    QStringList lines = togetherRemarks(integrity);
     for (const FileIntegrity& file : integrity.files) {
         const QString name = nameOf(file);
         for (const QString& line : recordRemarks(file)) {
             lines += name + ": " + line;
         }
-    }
-    if (!integrity.damagedOffset.isEmpty()) {
-        lines += RecordText::tr("The time offset could not be read: \"%1\" is damaged. Setting "
-                                "another offset keeps that file aside")
-                     .arg(integrity.damagedOffset);
     }
     return lines;
 }

@@ -35,10 +35,9 @@ QStringList recordRemarks(const FileIntegrity& file);
 /// file's name.
 QStringList recordRemarks(const RecordIntegrity& integrity);
 
-/// What speaks against reading these files as one recording: one begins more than
-/// a second before another ends, or their headers' dates are further apart than the recording
-/// lasts.
-QStringList togetherRemarks(const std::vector<FileIntegrity>& files);
+/// Of the recording as a whole: one file begins more than a second before another ends, their
+/// headers' dates are further apart than the recording lasts, or the offset can't be read.
+QStringList togetherRemarks(const RecordIntegrity& integrity);
 
 /// All about a file: its fields and the remarks on it, "none" when there are none.
 RecordSection recordSection(const RecordInfo& info);

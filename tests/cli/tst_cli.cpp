@@ -169,11 +169,13 @@ private Q_SLOTS:
         const std::string overlap = "Files that overlap in time: 2, the first are a.CAN and "
                                     "REC_8000.CAN. They do not belong together";
         QCOMPARE(checked.at(2).dump(), "{\"remarks\":[\"" + overlap + "\"]}");
+        write("Offset.xml", "garbage");
         const std::string text = run("info --check --profile P T/a.CAN R").out;
         for (const std::string& remark :
              {std::string("\nremark: Identifiers that the profile does not describe: 2, their "
                           "samples: 3\n\n"),
-              std::string("\nremark: none\n\n"), "\nremark: " + overlap + "\n"}) {
+              std::string("\nremark: none\n\n"), "\nremark: " + overlap + "\n",
+              std::string("\nremark: The time offset could not be read: ")}) {
             QVERIFY2(text.find(remark) != std::string::npos, text.c_str());
         }
     }

@@ -67,6 +67,11 @@ private Q_SLOTS:
         QVERIFY(!session.loading().isOn() && !bar.isVisible());
         QVERIFY(session.flight() == flight && session.time() == time);
         QCOMPARE(rowOf(table()), row);
+        if (how == "button") { // a click on what did not load tries again
+            QVERIFY(recordings()->topLevelItem(1)->isSelected());
+            pick({0});
+            QVERIFY(session.loading().isOn());
+        }
     }
 
     void windowAndCommandLineWriteTheSame_data()

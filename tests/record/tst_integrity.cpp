@@ -124,7 +124,8 @@ private Q_SLOTS:
     {
         QFETCH(const QString, overlap);
         QFETCH(const QString, dates);
-        std::vector<FileIntegrity> files;
+        RecordIntegrity integrity;
+        std::vector<FileIntegrity>& files = integrity.files;
         for (const QString& text : QString(QTest::currentDataTag()).split(' ')) {
             FileIntegrity& file = files.emplace_back();
             file.info.fileName = QString("/card/%1").arg(files.size() - 1);
@@ -142,7 +143,7 @@ private Q_SLOTS:
         if (!dates.isEmpty()) {
             expected += "Header dates from " + dates + " s: the files are not of one flight";
         }
-        QCOMPARE(togetherRemarks(files), expected);
+        QCOMPARE(togetherRemarks(integrity), expected);
     }
 
     void everyRemark()
