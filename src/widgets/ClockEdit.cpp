@@ -17,6 +17,10 @@ void ClockEdit::keyPressEvent(QKeyEvent* event)
     if (isSeparator && currentSectionIndex() > 0 && lineEdit()->hasSelectedText()) {
         return;
     }
+    const bool isDigit = !event->text().isEmpty() && event->text().front().isDigit();
+    if (isDigit && lineEdit()->selectedText() == lineEdit()->text()) {
+        setSelectedSection(sectionAt(0)); // all of it is typed anew, from its first part on
+    }
     QTimeEdit::keyPressEvent(event);
 }
 

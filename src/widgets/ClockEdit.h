@@ -5,7 +5,7 @@
 namespace TARN {
 
 /// Edits a time of day. Where the field has gone on to the next part by itself, a separator typed
-/// there is not a second step.
+/// there is not a second step; where all of it is selected, typing begins with the first part.
 class ClockEdit : public QTimeEdit
 {
     Q_OBJECT

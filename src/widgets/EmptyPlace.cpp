@@ -23,8 +23,16 @@ void EmptyPlace::setText(const QString& text)
         return; // a repaint for nothing
     }
     mText = text;
-    QString rich = text;
-    QLabel::setText(rich.replace('\n', "<br>"));
+    layText();
+}
+
+/// Links are colored in the text itself: rich text takes their color from the application.
+void EmptyPlace::layText()
+{
+    const QString color = palette().color(QPalette::Link).name();
+    QString rich = mText;
+    QLabel::setText(
+        rich.replace('\n', "<br>").replace("<a ", QString("<a style=\"color:%1\" ").arg(color)));
 }
 
 void EmptyPlace::setTextColor(const QColor& color)
@@ -36,6 +44,7 @@ void EmptyPlace::setTextColor(const QColor& color)
     colors.setColor(QPalette::PlaceholderText, color);
     colors.setColor(QPalette::Link, color);
     setPalette(colors);
+    layText();
 }
 
 } // namespace TARN

@@ -19,6 +19,8 @@ public:
     void setTextColor(const QColor& color);
 
 private:
+    void layText();
+
     QString mText;
 };
 

@@ -133,11 +133,7 @@ void WindowTest::useProfile(const QString& file)
 void WindowTest::type(QWidget* field, const QString& text)
 {
     field->setFocus();
-    if (qobject_cast<QTimeEdit*>(field) != nullptr) {
-        QTest::keyClick(field, Qt::Key_Home);
-    } else {
-        QMetaObject::invokeMethod(field, "selectAll");
-    }
+    QMetaObject::invokeMethod(field, "selectAll");
     QTest::keyClicks(field, text);
 }
 
