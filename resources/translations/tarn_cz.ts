@@ -316,8 +316,8 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
         <translation>%1 a %2</translation>
     </message>
     <message>
-        <source>Files that overlap in time: %1, the first are %2. They do not belong together</source>
-        <translation>Soubory, které se časově překrývají: %1, první jsou %2. Nepatří k sobě</translation>
+        <source>Files that overlap in time: %1, the first are %2. Check that they belong together</source>
+        <translation>Soubory, které se časově překrývají: %1, první jsou %2. Ověřte, zda patří k sobě</translation>
     </message>
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
@@ -339,8 +339,8 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
         <translation>Načteno vzorků: %1</translation>
     </message>
     <message>
-        <source>. Remarks (see Recording Details): %1. </source>
-        <translation>. Poznámky (viz Podrobnosti záznamu): %1. </translation>
+        <source>. Remarks: %1 (see Recording Details). </source>
+        <translation>. Poznámky: %1 (viz Podrobnosti záznamu). </translation>
     </message>
 </context>
 <context>
@@ -570,14 +570,6 @@ Otevřete kartu (Ctrl+C) nebo přetáhněte její složku do okna.</translation>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
-        <source>%1 of %2 selected parameters shown</source>
-        <translation>Zobrazené parametry: %1 z %2 vybraných</translation>
-    </message>
-    <message>
-        <source>The recording holds no sample of the selected parameters.</source>
-        <translation>Záznam neobsahuje žádný vzorek vybraných parametrů.</translation>
-    </message>
-    <message>
         <source>Save Snapshot</source>
         <translation>Uložit snímek</translation>
     </message>
@@ -598,24 +590,6 @@ Zvolte složku, do které lze zapisovat a kde je dost volného místa, a název 
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Graf nelze vykreslit: tento displej nepodporuje OpenGL.
 Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL 2.1 nebo softwarový ovladač Mesa.</translation>
-    </message>
-    <message>
-        <source>The graph was cleared.
-Press &quot;Confirm Selection&quot; to fill it again.</source>
-        <translation>Graf byl vymazán.
-Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for these curves; select fewer parameters.</source>
-        <translation>Pro tyto křivky není dost paměti; vyberte méně parametrů.</translation>
-    </message>
-    <message>
-        <source>Left out of the graph, because their time falls: %1 samples</source>
-        <translation>Vzorky vynechané z grafu, protože jejich čas jde zpět: %1</translation>
-    </message>
-    <message>
-        <source>The graph is being filled.</source>
-        <translation>Graf se naplňuje.</translation>
     </message>
 </context>
 <context>
@@ -1502,6 +1476,35 @@ Původní soubor zůstal beze změny; uložte projekt do jiné složky.</transla
     <message>
         <source>ORNA Warning</source>
         <translation>ORNA – upozornění</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::SessionGraph</name>
+    <message>
+        <source>There is not enough memory for these curves; select fewer parameters.</source>
+        <translation>Pro tyto křivky není dost paměti; vyberte méně parametrů.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected parameters shown</source>
+        <translation>Zobrazené parametry: %1 z %2 vybraných</translation>
+    </message>
+    <message>
+        <source>Left out of the graph, because their time falls: %1 samples</source>
+        <translation>Vzorky vynechané z grafu, protože jejich čas jde zpět: %1</translation>
+    </message>
+    <message>
+        <source>The graph was cleared.
+Press &quot;Confirm Selection&quot; to fill it again.</source>
+        <translation>Graf byl vymazán.
+Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
+    </message>
+    <message>
+        <source>The graph is being filled.</source>
+        <translation>Graf se naplňuje.</translation>
+    </message>
+    <message>
+        <source>The recording holds no sample of the selected parameters.</source>
+        <translation>Záznam neobsahuje žádný vzorek vybraných parametrů.</translation>
     </message>
 </context>
 <context>

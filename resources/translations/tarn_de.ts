@@ -316,8 +316,8 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
         <translation>%1 und %2</translation>
     </message>
     <message>
-        <source>Files that overlap in time: %1, the first are %2. They do not belong together</source>
-        <translation>Dateien, die sich zeitlich überschneiden: %1, die ersten sind %2. Sie gehören nicht zusammen</translation>
+        <source>Files that overlap in time: %1, the first are %2. Check that they belong together</source>
+        <translation>Dateien, die sich zeitlich überschneiden: %1, die ersten sind %2. Prüfen Sie, ob sie zusammengehören</translation>
     </message>
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
@@ -339,8 +339,8 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
         <translation>Geladene Messwerte: %1</translation>
     </message>
     <message>
-        <source>. Remarks (see Recording Details): %1. </source>
-        <translation>. Anmerkungen (siehe Aufzeichnungsdetails): %1. </translation>
+        <source>. Remarks: %1 (see Recording Details). </source>
+        <translation>. Anmerkungen: %1 (siehe Aufzeichnungsdetails). </translation>
     </message>
 </context>
 <context>
@@ -570,14 +570,6 @@ Open a card (Ctrl+C) or drop its folder on the window.</source>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
-        <source>%1 of %2 selected parameters shown</source>
-        <translation>%1 von %2 ausgewählten Parametern dargestellt</translation>
-    </message>
-    <message>
-        <source>The recording holds no sample of the selected parameters.</source>
-        <translation>Die Aufzeichnung enthält keinen Messwert der ausgewählten Parameter.</translation>
-    </message>
-    <message>
         <source>Save Snapshot</source>
         <translation>Bild speichern</translation>
     </message>
@@ -598,24 +590,6 @@ Wählen Sie einen beschreibbaren Ordner mit genügend freiem Platz und einen Nam
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Das Diagramm kann nicht gezeichnet werden: Diese Anzeige bietet kein OpenGL.
 Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 oder dem Softwaretreiber von Mesa erscheint auch das Diagramm.</translation>
-    </message>
-    <message>
-        <source>The graph was cleared.
-Press &quot;Confirm Selection&quot; to fill it again.</source>
-        <translation>Das Diagramm wurde geleert.
-Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for these curves; select fewer parameters.</source>
-        <translation>Zu wenig Speicher für diese Kurven; wählen Sie weniger Parameter aus.</translation>
-    </message>
-    <message>
-        <source>Left out of the graph, because their time falls: %1 samples</source>
-        <translation>Messwerte, die wegen rückläufiger Zeit im Diagramm fehlen: %1</translation>
-    </message>
-    <message>
-        <source>The graph is being filled.</source>
-        <translation>Das Diagramm wird gefüllt.</translation>
     </message>
 </context>
 <context>
@@ -1502,6 +1476,35 @@ Die alte Datei ist unverändert; speichern Sie das Projekt in einem anderen Ordn
     <message>
         <source>ORNA Warning</source>
         <translation>ORNA-Warnung</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::SessionGraph</name>
+    <message>
+        <source>There is not enough memory for these curves; select fewer parameters.</source>
+        <translation>Zu wenig Speicher für diese Kurven; wählen Sie weniger Parameter aus.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected parameters shown</source>
+        <translation>%1 von %2 ausgewählten Parametern dargestellt</translation>
+    </message>
+    <message>
+        <source>Left out of the graph, because their time falls: %1 samples</source>
+        <translation>Messwerte, die wegen rückläufiger Zeit im Diagramm fehlen: %1</translation>
+    </message>
+    <message>
+        <source>The graph was cleared.
+Press &quot;Confirm Selection&quot; to fill it again.</source>
+        <translation>Das Diagramm wurde geleert.
+Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation>
+    </message>
+    <message>
+        <source>The graph is being filled.</source>
+        <translation>Das Diagramm wird gefüllt.</translation>
+    </message>
+    <message>
+        <source>The recording holds no sample of the selected parameters.</source>
+        <translation>Die Aufzeichnung enthält keinen Messwert der ausgewählten Parameter.</translation>
     </message>
 </context>
 <context>

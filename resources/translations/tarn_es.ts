@@ -316,8 +316,8 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
         <translation>%1 y %2</translation>
     </message>
     <message>
-        <source>Files that overlap in time: %1, the first are %2. They do not belong together</source>
-        <translation>Archivos que se solapan en el tiempo: %1, los primeros son %2. No van juntos</translation>
+        <source>Files that overlap in time: %1, the first are %2. Check that they belong together</source>
+        <translation>Archivos que se solapan en el tiempo: %1, los primeros son %2. Compruebe que van juntos</translation>
     </message>
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
@@ -339,8 +339,8 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
         <translation>Muestras cargadas: %1</translation>
     </message>
     <message>
-        <source>. Remarks (see Recording Details): %1. </source>
-        <translation>. Observaciones (véase Detalles de la grabación): %1. </translation>
+        <source>. Remarks: %1 (see Recording Details). </source>
+        <translation>. Observaciones: %1 (véase Detalles de la grabación). </translation>
     </message>
 </context>
 <context>
@@ -570,14 +570,6 @@ Abra una tarjeta (Ctrl+C) o suelte su carpeta en la ventana.</translation>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
-        <source>%1 of %2 selected parameters shown</source>
-        <translation>Se muestran %1 de %2 parámetros seleccionados</translation>
-    </message>
-    <message>
-        <source>The recording holds no sample of the selected parameters.</source>
-        <translation>La grabación no contiene ninguna muestra de los parámetros seleccionados.</translation>
-    </message>
-    <message>
         <source>Save Snapshot</source>
         <translation>Guardar captura</translation>
     </message>
@@ -598,24 +590,6 @@ Elija una carpeta en la que se pueda escribir, con suficiente espacio libre, y u
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>No se puede dibujar la gráfica: esta pantalla no ofrece OpenGL.
 Las demás vistas funcionan; la gráfica requiere un controlador gráfico con OpenGL 2.1, o el de software de Mesa.</translation>
-    </message>
-    <message>
-        <source>The graph was cleared.
-Press &quot;Confirm Selection&quot; to fill it again.</source>
-        <translation>Se ha vaciado la gráfica.
-Pulse «Confirmar selección» para volver a llenarla.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for these curves; select fewer parameters.</source>
-        <translation>No hay memoria suficiente para estas curvas; seleccione menos parámetros.</translation>
-    </message>
-    <message>
-        <source>Left out of the graph, because their time falls: %1 samples</source>
-        <translation>Omitidas de la gráfica porque su tiempo retrocede: %1 muestras</translation>
-    </message>
-    <message>
-        <source>The graph is being filled.</source>
-        <translation>La gráfica se está llenando.</translation>
     </message>
 </context>
 <context>
@@ -1502,6 +1476,35 @@ El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
     <message>
         <source>ORNA Warning</source>
         <translation>Aviso de ORNA</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::SessionGraph</name>
+    <message>
+        <source>There is not enough memory for these curves; select fewer parameters.</source>
+        <translation>No hay memoria suficiente para estas curvas; seleccione menos parámetros.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected parameters shown</source>
+        <translation>Se muestran %1 de %2 parámetros seleccionados</translation>
+    </message>
+    <message>
+        <source>Left out of the graph, because their time falls: %1 samples</source>
+        <translation>Omitidas de la gráfica porque su tiempo retrocede: %1 muestras</translation>
+    </message>
+    <message>
+        <source>The graph was cleared.
+Press &quot;Confirm Selection&quot; to fill it again.</source>
+        <translation>Se ha vaciado la gráfica.
+Pulse «Confirmar selección» para volver a llenarla.</translation>
+    </message>
+    <message>
+        <source>The graph is being filled.</source>
+        <translation>La gráfica se está llenando.</translation>
+    </message>
+    <message>
+        <source>The recording holds no sample of the selected parameters.</source>
+        <translation>La grabación no contiene ninguna muestra de los parámetros seleccionados.</translation>
     </message>
 </context>
 <context>

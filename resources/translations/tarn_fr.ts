@@ -316,8 +316,8 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
         <translation>%1 et %2</translation>
     </message>
     <message>
-        <source>Files that overlap in time: %1, the first are %2. They do not belong together</source>
-        <translation>Fichiers qui se chevauchent dans le temps&#xa0;: %1, les premiers sont %2. Ils ne vont pas ensemble</translation>
+        <source>Files that overlap in time: %1, the first are %2. Check that they belong together</source>
+        <translation>Fichiers qui se chevauchent dans le temps&#xa0;: %1, les premiers sont %2. Vérifiez qu&apos;ils vont ensemble</translation>
     </message>
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
@@ -339,8 +339,8 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
         <translation>Échantillons chargés&#xa0;: %1</translation>
     </message>
     <message>
-        <source>. Remarks (see Recording Details): %1. </source>
-        <translation>. Remarques (voir Détails de l&apos;enregistrement)&#xa0;: %1. </translation>
+        <source>. Remarks: %1 (see Recording Details). </source>
+        <translation>. Remarques&#xa0;: %1 (voir Détails de l&apos;enregistrement). </translation>
     </message>
 </context>
 <context>
@@ -570,14 +570,6 @@ Ouvrez une carte (Ctrl+C) ou déposez son dossier sur la fenêtre.</translation>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
-        <source>%1 of %2 selected parameters shown</source>
-        <translation>%1 paramètres affichés sur %2 sélectionnés</translation>
-    </message>
-    <message>
-        <source>The recording holds no sample of the selected parameters.</source>
-        <translation>L&apos;enregistrement ne contient aucun échantillon des paramètres sélectionnés.</translation>
-    </message>
-    <message>
         <source>Save Snapshot</source>
         <translation>Enregistrer la capture</translation>
     </message>
@@ -598,24 +590,6 @@ Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, e
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Le graphique ne peut pas être tracé&#xa0;: cet affichage n&apos;offre pas OpenGL.
 Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, ou le pilote logiciel de Mesa, rend le graphique disponible.</translation>
-    </message>
-    <message>
-        <source>The graph was cleared.
-Press &quot;Confirm Selection&quot; to fill it again.</source>
-        <translation>Le graphique a été effacé.
-Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for these curves; select fewer parameters.</source>
-        <translation>Mémoire insuffisante pour ces courbes&#xa0;; sélectionnez moins de paramètres.</translation>
-    </message>
-    <message>
-        <source>Left out of the graph, because their time falls: %1 samples</source>
-        <translation>Écartés du graphique, car leur heure recule&#xa0;: %1 échantillons</translation>
-    </message>
-    <message>
-        <source>The graph is being filled.</source>
-        <translation>Le graphique est en cours de remplissage.</translation>
     </message>
 </context>
 <context>
@@ -1502,6 +1476,35 @@ L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre d
     <message>
         <source>ORNA Warning</source>
         <translation>ORNA - Avertissement</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::SessionGraph</name>
+    <message>
+        <source>There is not enough memory for these curves; select fewer parameters.</source>
+        <translation>Mémoire insuffisante pour ces courbes ; sélectionnez moins de paramètres.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected parameters shown</source>
+        <translation>%1 paramètres affichés sur %2 sélectionnés</translation>
+    </message>
+    <message>
+        <source>Left out of the graph, because their time falls: %1 samples</source>
+        <translation>Écartés du graphique, car leur heure recule : %1 échantillons</translation>
+    </message>
+    <message>
+        <source>The graph was cleared.
+Press &quot;Confirm Selection&quot; to fill it again.</source>
+        <translation>Le graphique a été effacé.
+Appuyez sur « Confirmer la sélection » pour le remplir à nouveau.</translation>
+    </message>
+    <message>
+        <source>The graph is being filled.</source>
+        <translation>Le graphique est en cours de remplissage.</translation>
+    </message>
+    <message>
+        <source>The recording holds no sample of the selected parameters.</source>
+        <translation>L&apos;enregistrement ne contient aucun échantillon des paramètres sélectionnés.</translation>
     </message>
 </context>
 <context>

@@ -316,8 +316,8 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
         <translation>%1 e %2</translation>
     </message>
     <message>
-        <source>Files that overlap in time: %1, the first are %2. They do not belong together</source>
-        <translation>Arquivos que se sobrepõem no tempo: %1, os primeiros são %2. Eles não fazem parte do mesmo conjunto</translation>
+        <source>Files that overlap in time: %1, the first are %2. Check that they belong together</source>
+        <translation>Arquivos que se sobrepõem no tempo: %1, os primeiros são %2. Verifique se fazem parte do mesmo conjunto</translation>
     </message>
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
@@ -339,8 +339,8 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
         <translation>Amostras carregadas: %1</translation>
     </message>
     <message>
-        <source>. Remarks (see Recording Details): %1. </source>
-        <translation>. Observações (ver Detalhes da gravação): %1. </translation>
+        <source>. Remarks: %1 (see Recording Details). </source>
+        <translation>. Observações: %1 (ver Detalhes da gravação). </translation>
     </message>
 </context>
 <context>
@@ -570,14 +570,6 @@ Abra um cartão (Ctrl+C) ou solte a pasta dele na janela.</translation>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
-        <source>%1 of %2 selected parameters shown</source>
-        <translation>%1 de %2 parâmetros selecionados são mostrados</translation>
-    </message>
-    <message>
-        <source>The recording holds no sample of the selected parameters.</source>
-        <translation>A gravação não contém nenhuma amostra dos parâmetros selecionados.</translation>
-    </message>
-    <message>
         <source>Save Snapshot</source>
         <translation>Salvar captura</translation>
     </message>
@@ -598,24 +590,6 @@ Escolha uma pasta que permita gravação, com espaço livre suficiente, e um nom
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Não é possível desenhar o gráfico: esta tela não oferece OpenGL.
 Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou o do Mesa por software, possibilita o gráfico.</translation>
-    </message>
-    <message>
-        <source>The graph was cleared.
-Press &quot;Confirm Selection&quot; to fill it again.</source>
-        <translation>O gráfico foi limpo.
-Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translation>
-    </message>
-    <message>
-        <source>There is not enough memory for these curves; select fewer parameters.</source>
-        <translation>Memória insuficiente para estas curvas; selecione menos parâmetros.</translation>
-    </message>
-    <message>
-        <source>Left out of the graph, because their time falls: %1 samples</source>
-        <translation>Omitidas do gráfico, porque o seu tempo retrocede: %1 amostras</translation>
-    </message>
-    <message>
-        <source>The graph is being filled.</source>
-        <translation>O gráfico está sendo preenchido.</translation>
     </message>
 </context>
 <context>
@@ -1502,6 +1476,35 @@ O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translat
     <message>
         <source>ORNA Warning</source>
         <translation>Aviso do ORNA</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::SessionGraph</name>
+    <message>
+        <source>There is not enough memory for these curves; select fewer parameters.</source>
+        <translation>Memória insuficiente para estas curvas; selecione menos parâmetros.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected parameters shown</source>
+        <translation>%1 de %2 parâmetros selecionados são mostrados</translation>
+    </message>
+    <message>
+        <source>Left out of the graph, because their time falls: %1 samples</source>
+        <translation>Omitidas do gráfico, porque o seu tempo retrocede: %1 amostras</translation>
+    </message>
+    <message>
+        <source>The graph was cleared.
+Press &quot;Confirm Selection&quot; to fill it again.</source>
+        <translation>O gráfico foi limpo.
+Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translation>
+    </message>
+    <message>
+        <source>The graph is being filled.</source>
+        <translation>O gráfico está sendo preenchido.</translation>
+    </message>
+    <message>
+        <source>The recording holds no sample of the selected parameters.</source>
+        <translation>A gravação não contém nenhuma amostra dos parâmetros selecionados.</translation>
     </message>
 </context>
 <context>

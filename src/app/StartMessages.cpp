@@ -42,7 +42,7 @@ QString loadedMessage(const Flight& flight)
     QString text = StartTexts::tr("Samples loaded: %1")
                        .arg(countText(static_cast<qint64>(flight.samples().count())));
     if (!remarks.isEmpty()) {
-        text += StartTexts::tr(". Remarks (see Recording Details): %1. ").arg(remarks.size()) +
+        text += StartTexts::tr(". Remarks: %1 (see Recording Details). ").arg(remarks.size()) +
                 remarks.join(". ");
     }
     return text;

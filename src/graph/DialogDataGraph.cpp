@@ -1,11 +1,9 @@
 #include "graph/DialogDataGraph.h"
 
-#include "base/CountText.h"
 #include "base/OutputFile.h"
-#include "flight/EmptyText.h"
-#include "graph/CurveLoader.h"
 #include "graph/DialogGraphSetup.h"
 #include "graph/GraphButtons.h"
+#include "graph/SessionGraph.h"
 #include "graph/WidgetGraph.h"
 
 #include <QtCore/QBuffer>
@@ -28,8 +26,7 @@ constexpr int NoCommand = 99;
 
 DialogDataGraph::DialogDataGraph(Session& session, QWidget* parent)
     : QWidget(parent), mSession(session), mCommand(NoCommand),
-      mSetup(new DialogGraphSetup(this, mData)), mButtons(new GraphButtons),
-      mLoader(new CurveLoader(this)), mNote(new QLabel)
+      mSetup(new DialogGraphSetup(this, mData)), mButtons(new GraphButtons), mNote(new QLabel)
 {
     constexpr int HeldInterval = 50; // ms
     mTimer.setInterval(HeldInterval);
@@ -76,152 +73,13 @@ void DialogDataGraph::createGraph()
     mGraph->setDisplayMode(DisplaySplit);
     mGraph->setGraphMode(GraphManual);
     connect(&mGraph->model(), &GraphModel::modeChanged, this, &DialogDataGraph::slotModeChanged);
-    connect(mGraph, &WidgetGraph::signalCursor, this,
-            [this](float time) { mSession.setTime(time, this); });
-    connect(&mGraph->model(), &GraphModel::changed, this,
-            [this] { mSession.setMarks(mGraph->model().markers()); });
     connect(mGraph, &WidgetGraph::signalLink, this, &DialogDataGraph::signalLink);
-    connect(mLoader, &CurveLoader::curveReady, this, &DialogDataGraph::takeCurve);
-    connect(mLoader, &CurveLoader::ready, this, &DialogDataGraph::showCurves);
-    connect(mLoader, &CurveLoader::outOfMemory, this, [this] {
-        mGraph->release();
-        mGraph->setEmptyText(
-            tr("There is not enough memory for these curves; select fewer parameters."));
+    auto* curves = new SessionGraph(mSession, *mGraph, this);
+    connect(curves, &SessionGraph::noteChanged, this, [this](const QString& note) {
+        mNote->setText(note);
+        mNote->setVisible(!note.isEmpty());
     });
     slotModeChanged();
-    connectSession();
-    showSelection();
-}
-
-void DialogDataGraph::connectSession()
-{
-    connect(&mSession, &Session::profileChanged, this, &DialogDataGraph::showSelection);
-    connect(&mSession, &Session::flightChanged, this, &DialogDataGraph::showFlight);
-    connect(&mSession, &Session::selectionChanged, this, &DialogDataGraph::showSelection);
-    connect(&mSession, &Session::offsetChanged, this, &DialogDataGraph::refill);
-    connect(&mSession, &Session::timeChanged, this, &DialogDataGraph::showTime);
-    connect(&mSession.loading(), &Switch::turned, this, &DialogDataGraph::updateTexts);
-    connect(&mSession.allDigits(), &Switch::turned, this, &DialogDataGraph::updateDigits);
-}
-
-/// Shows the whole flight at the current time.
-void DialogDataGraph::showFlight()
-{
-    GraphModel& model = mGraph->model();
-    mGraph->hold(); // what is there at once is painted once, and not an empty plot first
-    model.clear();
-    if (mSession.flight() != nullptr) {
-        const RecordInfo& info = mSession.flight()->info();
-        model.window().setWhole(info.startTime, info.stopTime);
-        model.window().showAll();
-        model.windowChanged();
-        showTime(mSession.time(), nullptr);
-    }
-    loadCurves();
-}
-
-/// Another offset leaves the window where it is; the marked range was one of other times.
-void DialogDataGraph::refill()
-{
-    mGraph->hold();
-    mGraph->model().clear();
-    loadCurves();
-}
-
-void DialogDataGraph::showSelection()
-{
-    const auto selected = mSession.selection().parameters(*mSession.profile());
-    for (unsigned k = 0; k < CurveSet::MaxCurves; ++k) {
-        const bool isShown = k < selected.size();
-        ParStruct& curve = *mGraph->model().curves().curve(k);
-        curve.active = isShown;
-        curve.name = isShown ? selected[k]->name : QString();
-        curve.unit = isShown ? selected[k]->unit : QString();
-    }
-    showFlight();
-}
-
-void DialogDataGraph::loadCurves()
-{
-    auto parameters = mSession.selection().parameters(*mSession.profile());
-    parameters.resize(std::min<std::size_t>(parameters.size(), CurveSet::MaxCurves));
-    // None stands under another parameter's name while it is decoded.
-    for (unsigned k = 0; k < CurveSet::MaxCurves; ++k) {
-        mGraph->model().curves().setSeries(k, std::make_shared<CurveSamples>());
-    }
-    mGraph->model().curvesChanged();
-    mLoader->load(mSession.flight(), parameters, mSession.offset());
-}
-
-void DialogDataGraph::takeCurve(unsigned place, std::shared_ptr<const CurveSamples> samples)
-{
-    const auto selected = mSession.selection().parameters(*mSession.profile());
-    CurveSet& curves = mGraph->model().curves();
-    curves.curve(place)->isSingle =
-        Decoder(mSession.profile()->data(), *selected[place]).isSingle();
-    curves.setSeries(place, std::move(samples));
-}
-
-void DialogDataGraph::showCurves()
-{
-    mGraph->model().curvesChanged();
-    updateTexts();
-    if (!mLoader->isBusy()) {
-        mGraph->release();
-    }
-}
-
-void DialogDataGraph::updateTexts()
-{
-    const QString note = noteText();
-    mNote->setText(note);
-    mNote->setVisible(!note.isEmpty());
-    mGraph->setEmptyText(emptyText());
-}
-
-QString DialogDataGraph::noteText() const
-{
-    QStringList notes;
-    const auto selected = mSession.selection().parameters(*mSession.profile()).size();
-    if (selected > CurveSet::MaxCurves) {
-        notes += tr("%1 of %2 selected parameters shown").arg(CurveSet::MaxCurves).arg(selected);
-    }
-    if (mLoader->leftOut() > 0) {
-        notes += tr("Left out of the graph, because their time falls: %1 samples")
-                     .arg(countText(static_cast<qint64>(mLoader->leftOut())));
-    }
-    return notes.join(". ");
-}
-
-QString DialogDataGraph::emptyText() const
-{
-    const QString general = emptyTextOf(mSession);
-    if (!general.isEmpty()) {
-        return general;
-    }
-    if (mGraph->model().curves().hasSamples()) {
-        // Read when they are gone.
-        return tr("The graph was cleared.\nPress \"Confirm Selection\" to fill it again.");
-    }
-    return mLoader->isBusy() ? tr("The graph is being filled.")
-                             : tr("The recording holds no sample of the selected parameters.");
-}
-
-void DialogDataGraph::showTime(double time, const QObject* source)
-{
-    if (source != this) {
-        GraphModel& model = mGraph->model();
-        model.setCursorPosition(time);
-        model.window().follow(time);
-        model.windowChanged();
-    }
-}
-
-void DialogDataGraph::updateDigits()
-{
-    GraphStyle style = mGraph->graphStyle();
-    style.allDigits = mSession.allDigits().isOn();
-    mGraph->setGraphStyle(style);
 }
 
 void DialogDataGraph::slotCommandPress(int command)

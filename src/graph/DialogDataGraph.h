@@ -11,11 +11,8 @@ class WidgetGraph;
 
 namespace TARN {
 
-class CurveLoader;
-class CurveSamples;
 class DialogGraphSetup;
 class GraphButtons;
-class GraphModel;
 
 /// The "Graph" tab: the selected parameters as curves, and the buttons beside them. Where no
 /// OpenGL is to be had a message stands in the graph's place and every operation does nothing.
@@ -50,21 +47,9 @@ private Q_SLOTS:
 private:
     QWidget* createPlot();
     void createGraph();
-    void connectSession();
-    void showFlight();
-    void showSelection();
-    void refill();
-    void loadCurves();
-    void takeCurve(unsigned place, std::shared_ptr<const CurveSamples> samples);
-    void showCurves();
-    void showTime(double time, const QObject* source);
-    void updateDigits();
     void runCommand(int command);
     void setRange(double seconds);
     void openSetup();
-    void updateTexts();
-    QString emptyText() const;
-    QString noteText() const;
     bool saveImage(const QString& file);
 
     Session& mSession;
@@ -73,7 +58,6 @@ private:
     GraphData mApplied; ///< the settings as the graph has them
     DialogGraphSetup* mSetup;
     GraphButtons* mButtons;
-    CurveLoader* mLoader;
     QTimer mTimer;
     WidgetGraph* mGraph = nullptr;
     QLabel* mNote; ///< of what is left out

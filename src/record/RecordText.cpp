@@ -70,7 +70,7 @@ QStringList overlapRemark(const std::vector<FileIntegrity>& files)
     return overlapping.empty()
                ? QStringList()
                : QStringList(RecordText::tr("Files that overlap in time: %1, the first "
-                                            "are %2. They do not belong together")
+                                            "are %2. Check that they belong together")
                                  .arg(overlapping.size())
                                  .arg(pair));
 }

@@ -167,7 +167,7 @@ private Q_SLOTS:
                      .toStdString());
         QVERIFY(!checked.at(1)["integrity"]["unknownSamples"].is_null());
         const std::string overlap = "Files that overlap in time: 2, the first are a.CAN and "
-                                    "REC_8000.CAN. They do not belong together";
+                                    "REC_8000.CAN. Check that they belong together";
         QCOMPARE(checked.at(2).dump(), "{\"remarks\":[\"" + overlap + "\"]}");
         write("Offset.xml", "garbage");
         const std::string text = run("info --check --profile P T/a.CAN R").out;

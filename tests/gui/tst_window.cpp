@@ -363,7 +363,8 @@ private Q_SLOTS:
         file.close();
         open({0, 1});
         const QString impossible = "Samples with an impossible time: 1, the first is number 1001";
-        const QString both = "Details): 2. LOG_0002.CAN: " + remark + ". LOG_0002.CAN: ";
+        const QString both =
+            "2 (see Recording Details). LOG_0002.CAN: " + remark + ". LOG_0002.CAN: ";
         QVERIFY2(said().contains(both + impossible), qUtf8Printable(said()));
         QVERIFY(item->toolTip(0).endsWith(remark + "\n" + impossible));
 

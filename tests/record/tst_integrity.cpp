@@ -138,7 +138,8 @@ private Q_SLOTS:
         }
         QStringList expected;
         if (!overlap.isEmpty()) {
-            expected += "Files that overlap in time: " + overlap + ". They do not belong together";
+            expected +=
+                "Files that overlap in time: " + overlap + ". Check that they belong together";
         }
         if (!dates.isEmpty()) {
             expected += "Header dates from " + dates + " s: the files are not of one flight";
@@ -154,7 +155,7 @@ private Q_SLOTS:
             load({write("a.CAN", file.bytes()), writeRecording("500@3000", "b.CAN")});
         const QStringList remarks = recordRemarks(record->integrity());
         const char* expected[] = {
-            "Files that overlap in time: 2, the first are a.CAN and b.CAN. They do not belong "
+            "Files that overlap in time: 2, the first are a.CAN and b.CAN. Check that they belong "
             "together",
             "a.CAN: Ignored at the end, bytes that are no whole sample: 4",
             "a.CAN: Samples with an impossible time: 1, the first is number 2",

@@ -7,6 +7,7 @@
 #include "base/Property.h"
 #include "flight/Job.h"
 #include "graph/DialogGraphSetup.h"
+#include "graph/WidgetGraph.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QEventLoop>
@@ -108,6 +109,10 @@ public:
             settle();
             shoot(QString("%1-tab-%2").arg(tab + 3, 2, 10, QChar('0')).arg(tab));
         }
+        tabs->setCurrentIndex(2);
+        mWindow.findChild<WidgetGraph*>()->setDisplayMode(TARN::DisplaySingle);
+        settle();
+        shoot("08-graph-single");
         passDialogs();
         return !mFailed;
     }
