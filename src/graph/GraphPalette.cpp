@@ -9,12 +9,13 @@ namespace TARN {
 namespace {
 
 // The last 24 were chosen one by one, each as far as could be from all before it for eyes that
-// see all colours, for those that do not see red and for those that do not see green.
+// see all colours, for those that do not see red and for those that do not see green. The last 16
+// then stand in an order that keeps neighbours apart: related parameters are picked together.
 constexpr std::uint32_t Colors[] = {0xff0000, 0x00ff00, 0x8080ff, 0xffff00, 0x00ffff, 0xff00ff,
                                     0xff0078, 0xc8ffa0, 0xe600a0, 0x00ffc8, 0x00c850, 0x28a0c8,
-                                    0xe6ff78, 0xe6a0ff, 0x00c8a0, 0x50c8c8, 0xe62850, 0xa0c828,
-                                    0xa0e6a0, 0x787878, 0xffc878, 0xc8a078, 0x50ffe6, 0x5078a0,
-                                    0x5078c8, 0x00a000, 0x787850, 0xc8e650, 0xe6a050, 0xc878a0};
+                                    0xe6ff78, 0xe6a0ff, 0x5078c8, 0x50ffe6, 0x787878, 0xa0e6a0,
+                                    0xc8a078, 0xc8e650, 0x00c8a0, 0x5078a0, 0xe62850, 0xe6a050,
+                                    0xc878a0, 0x50c8c8, 0xa0c828, 0xffc878, 0x787850, 0x00a000};
 
 constexpr float part(std::uint32_t color, int shift)
 {
