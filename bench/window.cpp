@@ -100,7 +100,7 @@ public:
         constexpr int Turn = 20; // ms
         do {
             live(Turn);
-        } while (runningJobs() > 0 || session().loading().isOn());
+        } while (pendingWork() > 0 || session().loading().isOn());
     }
 
     void pick(const std::string& recording)

@@ -1482,7 +1482,7 @@ L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre d
     <name>TARN::SessionGraph</name>
     <message>
         <source>There is not enough memory for these curves; select fewer parameters.</source>
-        <translation>Mémoire insuffisante pour ces courbes ; sélectionnez moins de paramètres.</translation>
+        <translation>Mémoire insuffisante pour ces courbes&#xa0;; sélectionnez moins de paramètres.</translation>
     </message>
     <message>
         <source>%1 of %2 selected parameters shown</source>
@@ -1490,13 +1490,13 @@ L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre d
     </message>
     <message>
         <source>Left out of the graph, because their time falls: %1 samples</source>
-        <translation>Écartés du graphique, car leur heure recule : %1 échantillons</translation>
+        <translation>Écartés du graphique, car leur heure recule&#xa0;: %1 échantillons</translation>
     </message>
     <message>
         <source>The graph was cleared.
 Press &quot;Confirm Selection&quot; to fill it again.</source>
         <translation>Le graphique a été effacé.
-Appuyez sur « Confirmer la sélection » pour le remplir à nouveau.</translation>
+Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.</translation>
     </message>
     <message>
         <source>The graph is being filled.</source>

@@ -145,7 +145,7 @@ std::vector<Episode> findEpisodes(const RecordData& data, const Profile& profile
         const Series series(data, profile, *entry.parameter, offset);
         Finder finder(entry, series);
         if (finder.findsAny()) {
-            const auto found = finder.find(series.gapRule(silences()));
+            const auto found = finder.find(series.gapRule(silences));
             episodes.insert(episodes.end(), found.begin(), found.end());
         }
     }

@@ -2,9 +2,8 @@
 
 #include "base/Progress.h"
 #include "profile/ProfileTypes.h"
+#include "record/GapRule.h"
 
-#include <functional>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -12,7 +11,6 @@ namespace TARN {
 
 class Profile;
 class RecordData;
-class Silences;
 
 /// A time during which a parameter was out of its normal range: a longest run, in time order, of
 /// its samples whose cell state is StateWarning or StateLimit, not across a gap. Times carry the
@@ -54,7 +52,6 @@ struct Episode
 /// document order, a value of state OK stands after the threshold value it reached and none before
 /// it, otherwise upwards. An episode ends with the time of the next sample where that one is normal
 /// and no gap lies between, otherwise with its own last sample.
-using SilencesSource = std::function<std::shared_ptr<const Silences>()>;
 std::vector<Episode> findEpisodes(const RecordData& data, const Profile& profile, double offset,
                                   const SilencesSource& silences, Progress& progress);
 

@@ -1,15 +1,6 @@
 #include "flight/Job.h"
 
-#include <algorithm>
-#include <atomic>
-
 namespace TARN {
-
-namespace {
-
-std::atomic<int> running = 0;
-
-} // namespace
 
 QThreadPool& jobThreads()
 {
@@ -21,16 +12,6 @@ QThreadPool& jobThreads()
         return made;
     }();
     return *pool;
-}
-
-int runningJobs()
-{
-    return running;
-}
-
-void countJobs(int difference)
-{
-    running += difference;
 }
 
 } // namespace TARN

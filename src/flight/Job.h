@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/PendingWork.h"
 #include "base/Progress.h"
 
 #include <QtCore/QFutureWatcher>
@@ -19,12 +20,6 @@ namespace TARN {
 /// The threads that jobs run on. They are never waited for: one may hang in a file system that
 /// does not answer, and the program must be able to end all the same.
 QThreadPool& jobThreads();
-
-/// Jobs that are running or waiting for a thread, of the whole program.
-int runningJobs();
-
-/// Changes the count of running jobs.
-void countJobs(int difference);
 
 /// A piece of work on another thread. It is a function of things that do not change meanwhile; its
 /// result arrives in the event loop of the thread that the job lives in. A job that is cancelled,
@@ -107,10 +102,10 @@ private:
         Task(Work work, std::stop_token stop, std::shared_ptr<Outcome> outcome)
             : mWork(std::move(work)), mStop(std::move(stop)), mOutcome(std::move(outcome))
         {
-            countJobs(1);
+            countPendingWork(1);
             mPromise.start();
         }
-        ~Task() override { countJobs(-1); }
+        ~Task() override { countPendingWork(-1); }
 
         QFuture<void> future() const { return mPromise.future(); }
 

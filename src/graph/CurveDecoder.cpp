@@ -8,10 +8,12 @@ namespace TARN {
 DecodedCurve decodeCurve(const Flight& flight, const ProfileParameter& parameter, double offset,
                          Progress& progress)
 {
-    constexpr std::size_t Chunk = 65536; // samples decoded at once
+    constexpr std::size_t Chunk = 4096; // samples decoded at once, which stay in the cache
     const Series series = flight.series(parameter, offset);
     auto samples = std::make_shared<CurveSamples>();
+    samples->reserve(series.size());
     DecodedCurve curve;
+    QuickRhythm rhythm;
     std::vector<double> times(std::min(Chunk, series.size()));
     std::vector<double> values(times.size());
     for (auto rest = series.entries(); !rest.empty();) {
@@ -20,13 +22,16 @@ DecodedCurve decodeCurve(const Flight& flight, const ProfileParameter& parameter
         }
         const auto entries = rest.first(std::min(Chunk, rest.size()));
         series.timesOf(entries, times.data());
+        rhythm.add(std::span(times).first(entries.size()));
         series.decoder().toDoubles(entries, true, values.data());
         curve.leftOut += samples->putSeries(std::span(times).first(entries.size()),
                                             std::span(values).first(entries.size()));
         rest = rest.subspan(entries.size());
         progress.report(series.size() - rest.size(), series.size());
     }
-    samples->setGapRule(series.gapRule(flight.silences(offset)));
+    samples->setGapRule(rhythm.isProven() ? QuickRhythm::rule() : series.gapRule([&] {
+        return flight.silences(offset);
+    }));
     curve.samples = std::move(samples);
     return curve;
 }

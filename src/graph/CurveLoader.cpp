@@ -41,11 +41,10 @@ void CurveLoader::load(std::shared_ptr<const Flight> flight,
             mWaiting.push_back(place);
         }
     }
-    startNext();
     Q_EMIT ready();
 }
 
-void CurveLoader::startNext()
+void CurveLoader::start()
 {
     for (std::size_t lane = 0; lane < Lanes && !mWaiting.empty(); ++lane) {
         if (mJobs[lane].isRunning()) {
@@ -87,7 +86,7 @@ void CurveLoader::take(const std::vector<unsigned>& places, const std::vector<De
     for (std::size_t i = 0; i < places.size(); ++i) {
         mDecoded[mParameters[places[i]]->uid] = curves[i];
     }
-    startNext();
+    start();
     for (std::size_t i = 0; i < places.size(); ++i) {
         Q_EMIT curveReady(places[i], curves[i].samples);
     }

@@ -23,9 +23,12 @@ public:
     explicit CurveLoader(QObject* parent = nullptr);
 
     /// Asks for the curves of these parameters of a flight; what was asked for before does not
-    /// count any more. Those that are known are told before it returns.
+    /// count any more. Those that are known are told before it returns, the others after start().
     void load(std::shared_ptr<const Flight> flight,
               const std::vector<const ProfileParameter*>& parameters, double offset);
+
+    /// Decodes what was asked for.
+    void start();
 
     /// Whether curves that were asked for are still to come.
     bool isBusy() const;
@@ -41,7 +44,6 @@ Q_SIGNALS:
     void outOfMemory();
 
 private:
-    void startNext();
     std::vector<unsigned> takeWaiting();
     void take(const std::vector<unsigned>& places, const std::vector<DecodedCurve>& curves);
 

@@ -47,6 +47,12 @@ std::size_t partitionNear(std::size_t begin, std::size_t end, std::size_t guess,
 
 } // namespace
 
+void CurveSamples::reserve(std::size_t count)
+{
+    mTimes.reserve(count);
+    mValues.reserve(count);
+}
+
 bool CurveSamples::put(double time, double value)
 {
     if (size() > 1 && lastTime() > time) {

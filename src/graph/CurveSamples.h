@@ -35,6 +35,9 @@ public:
     double dataMin() const { return mDataMin; }
     double dataMax() const { return mDataMax; }
 
+    /// Makes room for a series of this many samples, so that it is not moved while it grows.
+    void reserve(std::size_t count);
+
     /// Adds a sample. A time before that of the last of several samples is refused: neither
     /// sample can be trusted, so the last one goes too, and the result is false.
     bool put(double time, double value);

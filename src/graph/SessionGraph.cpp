@@ -9,7 +9,7 @@
 namespace TARN {
 
 SessionGraph::SessionGraph(Session& session, WidgetGraph& graph, QObject* parent)
-    : QObject(parent), mSession(session), mGraph(graph), mModel(graph.model())
+    : QObject(parent), mSession(session), mGraph(graph), mModel(graph.model()), mSeenFirst(graph)
 {
     connect(&mSession, &Session::profileChanged, this, &SessionGraph::showSelection);
     connect(&mSession, &Session::flightChanged, this, &SessionGraph::showFlight);
@@ -77,6 +77,7 @@ void SessionGraph::loadCurves()
     }
     mModel.curvesChanged();
     mLoader.load(mSession.flight(), parameters, mSession.offset());
+    mSeenFirst.run([this] { mLoader.start(); });
 }
 
 void SessionGraph::takeCurve(unsigned place, std::shared_ptr<const CurveSamples> samples)

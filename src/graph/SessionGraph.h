@@ -2,6 +2,7 @@
 
 #include "flight/Session.h"
 #include "graph/CurveLoader.h"
+#include "widgets/SeenFirst.h"
 
 class WidgetGraph;
 
@@ -40,7 +41,8 @@ private:
     Session& mSession;
     WidgetGraph& mGraph;
     GraphModel& mModel;
-    CurveLoader mLoader{this};
+    CurveLoader mLoader;
+    SeenFirst mSeenFirst;
 };
 
 } // namespace TARN

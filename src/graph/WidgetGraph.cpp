@@ -232,10 +232,13 @@ void WidgetGraph::paintTexts(QPainter& painter) const
     constexpr float Opacity = 0.7F; // a peak behind a name is seen all the same
     QColor plate = mStyle.back.toColor();
     plate.setAlphaF(Opacity);
+    // Going back and forth between plates and texts takes longer than painting them.
     for (const TextLayout::Text& text : mTexts.texts()) {
         if (text.backed) {
             painter.fillRect(text.box.adjusted(-2.0, 0.0, 2.0, 0.0), plate);
         }
+    }
+    for (const TextLayout::Text& text : mTexts.texts()) {
         painter.setPen(text.color.toColor());
         painter.drawText(text.box.topLeft() + QPointF(0.0, ascent), text.text);
     }

@@ -63,7 +63,7 @@ const RecordEntry& Series::lastInList(std::size_t begin, std::size_t end) const
     return mEntries[last];
 }
 
-GapRule Series::gapRule(std::shared_ptr<const Silences> silences) const
+GapRule Series::gapRule(const SilencesSource& silences) const
 {
     std::vector<double> steps;
     for (std::size_t k = 1; k < size(); ++k) {
@@ -72,7 +72,7 @@ GapRule Series::gapRule(std::shared_ptr<const Silences> silences) const
             steps.push_back(step);
         }
     }
-    return {std::move(steps), std::move(silences)};
+    return {std::move(steps), silences};
 }
 
 } // namespace TARN

@@ -63,7 +63,7 @@ public:
     const RecordEntry& lastInList(std::size_t begin, std::size_t end) const;
 
     /// Where the parameter has no value; \p silences of the recording at the same offset.
-    GapRule gapRule(std::shared_ptr<const Silences> silences) const;
+    GapRule gapRule(const SilencesSource& silences) const;
 
 private:
     void findOrder() const

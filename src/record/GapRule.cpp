@@ -13,7 +13,7 @@ constexpr double Unsteadiness = 4.0; ///< of the longer steps against the median
 
 } // namespace
 
-GapRule::GapRule(std::vector<double> positiveSteps, std::shared_ptr<const Silences> silences)
+GapRule::GapRule(std::vector<double> positiveSteps, const SilencesSource& silences)
 {
     if (positiveSteps.empty()) {
         mLimit = ShortestLimit;
@@ -29,10 +29,45 @@ GapRule::GapRule(std::vector<double> positiveSteps, std::shared_ptr<const Silenc
     const auto late = at(9 * last / 10);
     std::ranges::nth_element(middle, late, positiveSteps.end());
     if (positiveSteps.size() >= FewestSteps && *late > Unsteadiness * median) {
-        mSilences = std::move(silences);
+        mSilences = silences();
     } else {
         mLimit = std::max(ShortestLimit, StepsOfLimit * median);
     }
+}
+
+void QuickRhythm::add(std::span<const double> times)
+{
+    if (times.empty()) {
+        return;
+    }
+    if (mBound == 0.0) {
+        // Any would do; half the mean of some steps mostly proves it.
+        const double span = times.back() - times.front();
+        mBound = span / static_cast<double>(times.size()) / 2.0;
+    }
+    for (const double time : times) {
+        const double step = time - mBefore;
+        mSteps += step > 0.0 ? 1 : 0;
+        mBelow += step > 0.0 && step < mBound ? 1 : 0;
+        mBeyond += step > Unsteadiness * mBound ? 1 : 0;
+        mSlow += StepsOfLimit * step > ShortestLimit ? 1 : 0;
+        mFalls |= step < 0.0;
+        mBefore = time;
+    }
+}
+
+bool QuickRhythm::isProven() const
+{
+    if (mSteps == 0 || mFalls || !(mBound > 0.0)) {
+        return false;
+    }
+    const std::size_t last = mSteps - 1;
+    return mBelow <= last / 2 && mSteps - mBeyond > 9 * last / 10 && mSteps - mSlow > last / 2;
+}
+
+GapRule QuickRhythm::rule()
+{
+    return {{}, nullptr};
 }
 
 } // namespace TARN

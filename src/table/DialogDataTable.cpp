@@ -49,15 +49,18 @@ void DialogDataTable::fill()
     mIsShort = false;
     updateEmptyText();
     mJob.cancel();
+    mSeenFirst.cancel();
     if (mSession.flight() == nullptr || mSession.selection().empty()) {
         return;
     }
-    mJob.start(
-        [flight = mSession.flight(), selection = mSession.selection(),
-         offset = mSession.offset()](Progress& progress) -> std::shared_ptr<const TableRows> {
-            return std::make_shared<TableRows>(flight, selection, offset, progress);
-        },
-        [this](std::shared_ptr<const TableRows> rows) { showRows(std::move(rows)); });
+    mSeenFirst.run([this] {
+        mJob.start(
+            [flight = mSession.flight(), selection = mSession.selection(),
+             offset = mSession.offset()](Progress& progress) -> std::shared_ptr<const TableRows> {
+                return std::make_shared<TableRows>(flight, selection, offset, progress);
+            },
+            [this](std::shared_ptr<const TableRows> rows) { showRows(std::move(rows)); });
+    });
 }
 
 void DialogDataTable::showRows(std::shared_ptr<const TableRows> rows)
@@ -93,8 +96,9 @@ void DialogDataTable::updateEmptyText()
     mTable->setEmptyText(
         !general.isEmpty() ? general
         : mIsShort         ? tr("There is not enough memory for this table; load fewer recordings.")
-        : mJob.isRunning() ? tr("The table is being filled.")
-                           : tr("The recording holds no sample of the selected parameters."));
+        : mJob.isRunning() || mSeenFirst.isWaiting()
+            ? tr("The table is being filled.")
+            : tr("The recording holds no sample of the selected parameters."));
 }
 
 } // namespace TARN

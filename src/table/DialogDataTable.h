@@ -3,6 +3,7 @@
 #include "flight/Job.h"
 #include "flight/Session.h"
 #include "table/TableRows.h"
+#include "widgets/SeenFirst.h"
 
 #include <QtWidgets/QWidget>
 
@@ -38,6 +39,7 @@ private:
     Session& mSession;
     TableModel* mModel;
     DataTableView* mTable;
+    SeenFirst mSeenFirst{*this};
     Job<std::shared_ptr<const TableRows>> mJob;
     bool mIsShort = false; ///< there was not enough memory for the rows
 };

@@ -59,7 +59,8 @@ std::vector<Episode> plainEpisodes(const Flight& flight, const ProfileParameter&
     }
     const Decoder decoder(flight.profile()->data(), parameter);
     const auto& limits = flight.profile()->data().thresholds.at(parameter.thresholdId).values;
-    const GapRule gaps = flight.series(parameter, offset).gapRule(flight.silences(offset));
+    const GapRule gaps =
+        flight.series(parameter, offset).gapRule([&] { return flight.silences(offset); });
     const auto entryAt = [&](std::size_t place) { return list->entries[place]; };
     const auto timeAt = [&](std::size_t place) {
         return entryAt(place).time() + list->shift(offset);

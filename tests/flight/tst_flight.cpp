@@ -246,7 +246,7 @@ private Q_SLOTS:
         QTRY_COMPARE(result, 2);
         QVERIFY(!job.isRunning());
         QVERIFY(!percents.empty() && percents.size() <= timer.elapsed() / 40 + 3);
-        QTRY_COMPARE(runningJobs(), 0);
+        QTRY_COMPARE(pendingWork(), 0);
     }
 
     void jobThatEndsOtherwise()
@@ -280,7 +280,7 @@ private Q_SLOTS:
         QTRY_COMPARE(heard.last(), QString("from its own answer"));
         job->start(untilStopped, done("destroyed"));
         job.reset();
-        QTRY_COMPARE(runningJobs(), 0);
+        QTRY_COMPARE(pendingWork(), 0);
         QCoreApplication::processEvents();
         QCOMPARE(heard, QStringList({"stopped", "no memory", "from its own answer"}));
         QCOMPARE(stopped, 4);
@@ -301,7 +301,7 @@ private Q_SLOTS:
         QCOMPARE(changed.count(), 4);
         const auto kept = watch.episodes();
         const std::weak_ptr<const Profile> profile = session.profile();
-        QTRY_COMPARE(runningJobs(), 0);
+        QTRY_COMPARE(pendingWork(), 0);
         session.setProfile(profileOf("<Device/>"), {}, nullptr);
         QVERIFY(watch.episodes() == nullptr && changed.count() == 5);
         QVERIFY(kept->at(0).start == 6.0 && !profile.expired()); // what they refer to
@@ -326,7 +326,7 @@ private Q_SLOTS:
         session.setOffset(22.0);
         keeper.finish();
         QCOMPARE(saved(), 22.0);
-        QTRY_COMPARE(runningJobs(), 0);
+        QTRY_COMPARE(pendingWork(), 0);
         QCoreApplication::processEvents();
         QCOMPARE(failed.count(), 0);
         QVERIFY(QDir(path("card")).removeRecursively());

@@ -310,6 +310,7 @@ private Q_SLOTS:
                 [&](unsigned place, auto samples) { told.emplace_back(place, samples); });
         loader.load(flight, all, Offset);
         QVERIFY(loader.isBusy());
+        loader.start();
         QTRY_COMPARE(told.size(), all.size());
         QVERIFY(!loader.isBusy());
         QCOMPARE(loader.leftOut(), 10U);
@@ -333,8 +334,10 @@ private Q_SLOTS:
         }
         told.clear();
         loader.load(flight, all, 0.0); // nothing of it is told: another is asked for meanwhile
+        loader.start();
         loader.load(Flight::make(record, profile), {all[2]}, 0.0);
-        QTRY_VERIFY(!loader.isBusy() && runningJobs() == 0);
+        loader.start();
+        QTRY_VERIFY(!loader.isBusy() && pendingWork() == 0);
         QCoreApplication::processEvents();
         loader.load(nullptr, {all[0]}, 0.0);
         QVERIFY(!loader.isBusy());

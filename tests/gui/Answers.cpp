@@ -70,7 +70,7 @@ void settle()
 {
     constexpr int Turn = 30; // ms
     constexpr int Quiet = 3; // turns: what one ended may have started the next
-    for (int quiet = 0; quiet<Quiet; quiet = TARN::runningJobs()> 0 ? 0 : quiet + 1) {
+    for (int quiet = 0; quiet<Quiet; quiet = TARN::pendingWork()> 0 ? 0 : quiet + 1) {
         QEventLoop loop; // results arrive in it without delay
         QTimer::singleShot(Turn, &loop, &QEventLoop::quit);
         loop.exec();

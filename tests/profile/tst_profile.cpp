@@ -335,7 +335,9 @@ private Q_SLOTS:
                 const auto last = std::max_element(places.begin() + begin, places.begin() + end);
                 QCOMPARE(&series.lastInList(begin, end), &series.entries()[*last]);
             }
-            const auto silences = std::make_shared<Silences>(record->recordData(), offset);
+            const auto silences = [&] {
+                return std::make_shared<Silences>(record->recordData(), offset);
+            };
             const GapRule rule = series.gapRule(silences);
             QCOMPARE(rule.limit(), GapRule(steps, silences).limit());
             QVERIFY(rule.limit() || rule.isGap(-1000.0, 1000.0)); // from the recording's silence

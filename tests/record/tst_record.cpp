@@ -266,9 +266,10 @@ private Q_SLOTS:
     void gapRule()
     {
         const auto record = load({writeRecording("1@0 2@20 1@25")});
-        const auto silences = std::make_shared<Silences>(record->recordData(), 0.0);
+        const auto silences = [&] { return std::make_shared<Silences>(record->recordData(), 0.0); };
         std::mt19937 random(6);
         int withoutRhythm = 0;
+        int proven = 0;
         for (int round = 0; round < 5000; ++round) {
             const double scale = std::array{0.01, 0.2, 0.25, 3.0}[random() % 4];
             const unsigned kinds = 1 + random() % 4;
@@ -276,20 +277,34 @@ private Q_SLOTS:
             for (double& step : steps) {
                 step = scale * std::array{1.0, 2.0, 4.0, 4.25}[random() % 2 * (random() % kinds)];
             }
+            std::vector<double> times{scale};
+            for (double& step : steps) {
+                times.insert(times.end(), round % 2, times.back()); // equal times are no step
+                times.push_back(times.back() + step);
+                step = times.back() - times[times.size() - 2]; // as rounded
+            }
             const GapRule rule(steps, silences);
+            QuickRhythm rhythm;
+            const auto [first, rest] = std::pair(times.size() / 3, times.size() - times.size() / 3);
+            rhythm.add(std::span(times).first(first));
+            rhythm.add(std::span(times).last(rest));
+            proven += rhythm.isProven() ? 1 : 0;
+            QVERIFY(!rhythm.isProven() || rule.limit() == QuickRhythm::rule().limit());
             std::ranges::sort(steps);
             const std::size_t n = steps.size();
             if (n >= 16 && steps[9 * (n - 1) / 10] > 4 * steps[(n - 1) / 2]) {
                 ++withoutRhythm;
                 QVERIFY(!rule.limit() && rule.isGap(0, 20) && !rule.isGap(20, 25));
-                QVERIFY(!GapRule(steps, nullptr).isGap(0, 20));
                 continue;
             }
             const double limit = n == 0 ? 2 : std::max(2.0, 10 * steps[(n - 1) / 2]);
             QVERIFY(rule.limit() == limit && !rule.isGap(0, limit) &&
                     rule.isGap(0, std::nextafter(limit, 1e3)));
         }
-        QVERIFY(withoutRhythm > 50);
+        QVERIFY(withoutRhythm > 50 && proven > 500);
+        QuickRhythm falling;
+        falling.add(std::array{0.0, 0.1, 0.2, 0.1, 0.2, 0.3, 0.4});
+        QVERIFY(!falling.isProven());
         QVERIFY(!GapRule().limit() && !GapRule().isGap(0, 1e9));
     }
 

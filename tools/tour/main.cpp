@@ -49,7 +49,7 @@ void settle()
     constexpr int Turn = 100; // ms
     do {
         live(Turn);
-    } while (TARN::runningJobs() > 0);
+    } while (TARN::pendingWork() > 0);
     live(Turn);
 }
 
