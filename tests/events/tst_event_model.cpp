@@ -63,6 +63,7 @@ private Q_SLOTS:
         }
         QCOMPARE(header.join('|'), QString("Time|Limits|Until|Duration|Peak|Threshold"));
         QVERIFY(!model.headerData(6, Qt::Horizontal, Qt::DisplayRole).isValid());
+        QVERIFY(model.headerData(0, Qt::Horizontal, Qt::FontRole).value<QFont>().bold());
         QCOMPARE(model.rowCount(), 2);
         QCOMPARE(rowOf(model, 0), QString("00:00:02.000|E up 15 bar|||||#e6e6e6|#ffff00|-|2000"));
 
