@@ -26,6 +26,12 @@ void addSelection(CLI::App& command, SelectionArguments& selection)
     parameter->excludes(all);
 }
 
+void addRange(CLI::App& command, Range& range)
+{
+    command.add_option("--start", range.start, "first second, on the recording's clock");
+    command.add_option("--stop", range.stop, "last second, on the recording's clock");
+}
+
 void addProfile(CLI::App& command, std::string& profile)
 {
     command.add_option("--profile", profile, "parameter profile")->required();
@@ -59,12 +65,6 @@ void addDecode(CLI::App& app, DecodeArguments& arguments, std::ostream& out)
     command->final_callback([&] { runDecode(arguments, out); });
 }
 
-void addRange(CLI::App& command, Range& range)
-{
-    command.add_option("--start", range.start, "first second, on the recording's clock");
-    command.add_option("--stop", range.stop, "last second, on the recording's clock");
-}
-
 void addOut(CLI::App& command, std::string& out)
 {
     command.add_option("-o,--out", out, "file to write")->required();
@@ -78,6 +78,17 @@ void addEvents(CLI::App& app, EventsArguments& arguments, std::ostream& out)
                       "also every time during which a parameter was out of range");
     addFiles(*command, arguments.files);
     command->final_callback([&] { runEvents(arguments, out); });
+}
+
+void addStats(CLI::App& app, StatsArguments& arguments, std::ostream& out)
+{
+    CLI::App* command =
+        app.add_subcommand("stats", "Statistics of every selected parameter, as JSON lines");
+    addProfile(*command, arguments.profile);
+    addSelection(*command, arguments.selection);
+    addRange(*command, arguments.range);
+    addFiles(*command, arguments.files);
+    command->final_callback([&] { runStats(arguments, out); });
 }
 
 void addFaults(CLI::App& app, FaultsArguments& arguments, std::ostream& out)
@@ -163,6 +174,7 @@ struct Arguments
     InfoArguments info;
     DecodeArguments decode;
     EventsArguments events;
+    StatsArguments stats;
     FaultsArguments faults;
     CsvArguments csv;
     KmlArguments kml;
@@ -180,6 +192,7 @@ int runCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
     addInfo(app, arguments.info, out);
     addDecode(app, arguments.decode, out);
     addEvents(app, arguments.events, out);
+    addStats(app, arguments.stats, out);
     addFaults(app, arguments.faults, out);
     addCsv(app, arguments.csv);
     addKml(app, arguments.kml);

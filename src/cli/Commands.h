@@ -32,19 +32,27 @@ struct EventsArguments
     std::vector<std::string> files;
 };
 
-struct FaultsArguments
-{
-    std::string profile;
-    std::optional<double> time; ///< seconds on the recording's clock; its start when absent
-    std::vector<std::string> files;
-};
-
 /// Seconds on the recording's clock; what is absent is the recording's own, with its offset
 /// where exported times carry it.
 struct Range
 {
     std::optional<double> start;
     std::optional<double> stop;
+};
+
+struct StatsArguments
+{
+    std::string profile;
+    SelectionArguments selection;
+    Range range;
+    std::vector<std::string> files;
+};
+
+struct FaultsArguments
+{
+    std::string profile;
+    std::optional<double> time; ///< seconds on the recording's clock; its start when absent
+    std::vector<std::string> files;
 };
 
 struct CsvArguments
@@ -86,6 +94,9 @@ void runDecode(const DecodeArguments& arguments, std::ostream& out);
 /// Limit events, then warning-lamp events, then episodes where they are asked for, one JSON
 /// object a line.
 void runEvents(const EventsArguments& arguments, std::ostream& out);
+
+/// The statistics of every selected parameter, one JSON object a line, in profile order.
+void runStats(const StatsArguments& arguments, std::ostream& out);
 
 /// Each error matrix with its timeline and its active bits at a time, one JSON object a line.
 void runFaults(const FaultsArguments& arguments, std::ostream& out);

@@ -37,6 +37,14 @@ public:
     /// Seconds; nothing for a parameter without rhythm and for one that never has a gap.
     const std::optional<double>& limit() const { return mLimit; }
 
+    /// Seconds; no step up to this is a gap.
+    double shortest() const
+    {
+        return mLimit                 ? *mLimit
+               : mSilences != nullptr ? Silences::Shortest
+                                      : std::numeric_limits<double>::infinity();
+    }
+
     /// Whether there is no value between samples at these times, which follow each other.
     bool isGap(double from, double to) const
     {

@@ -180,6 +180,24 @@ private Q_SLOTS:
         }
     }
 
+    void stats()
+    {
+        writeOffset("100"); // the range has it too
+        const auto all = QByteArray::fromStdString(run("stats --profile P R").out).split('\n');
+        QCOMPARE(all.size(), 7); // with the end of the last line
+        QCOMPARE(all.at(0),
+                 quoted("{'device':'ECU','parameter':'Oil','channel':0,'id':500,'unit':'bar',"
+                        "'samples':3,'invalid':0,'first':2.5,'last':12.0,'min':2.5,"
+                        "'minTime':101.0,'max':12.0,'maxTime':103.0,'mean':7.166666666666667,"
+                        "'stddev':3.8801489089409387,'timeMean':4.1875,'integral':13.0625,'gaps':0,"
+                        "'gapSeconds':0.0,'gapLimit':7.5,'above':[{'value':5.0,'color':'#ffff00',"
+                        "'state':1,'seconds':0.75},{'value':10.0,'color':null,'state':2,"
+                        "'seconds':0.0}]}"));
+        const auto part =
+            linesOf(run("stats --profile P --parameter NAV/Oil --start 102.25 R").out);
+        QCOMPARE(part.at(0)["invalid"].dump() + part.at(0)["mean"].dump(), "1null");
+    }
+
     void selections_data()
     {
         QTest::addColumn<QByteArray>("titles"); // of the table

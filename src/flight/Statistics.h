@@ -1,0 +1,79 @@
+#pragma once
+
+#include "flight/Flight.h"
+#include "flight/RangeSummary.h"
+
+#include <QtGui/QColor>
+
+#include <array>
+
+namespace TARN {
+
+/// What is said about the values of a parameter between two times. Sample values are
+/// Decoder::toDouble, scaled, in the order of time. What has no number is nothing; infinities are
+/// values, and a sum that meets one is nothing.
+struct Statistics
+{
+    struct Moment
+    {
+        double value;
+        double time; ///< the earliest at which it stands
+    };
+    struct Above
+    {
+        double value;   ///< of the threshold: val x factor + offset
+        QColor color;   ///< as ProfileThrValue
+        int state;      ///< as ProfileThrValue
+        double seconds; ///< held by values that are greater or equal
+    };
+
+    std::size_t samples = 0;
+    std::size_t invalid = 0; ///< of them NaN
+    std::optional<double> first;
+    std::optional<double> last;
+    std::optional<Moment> min;
+    std::optional<Moment> max;
+    std::optional<double> mean;
+    std::optional<double> stddev;   ///< of the population: sqrt(sum (v - mean)^2 / n)
+    std::optional<double> timeMean; ///< sum of v x seconds held / sum of seconds held
+    std::optional<double> integral; ///< trapezoids, value seconds; 0 without a step
+    std::size_t gaps = 0;           ///< between two samples of the range
+    double gapSeconds = 0.0;
+    std::optional<double> gapLimit; ///< see GapRule
+    std::vector<Above> above;       ///< for each threshold value in document order
+};
+
+/// Answers for the statistics of a parameter between any two times at once, however many samples
+/// lie between: sums and extremes of blocks are kept, and blocks of blocks. Never changes; any
+/// number of threads may ask it.
+class StatisticsIndex
+{
+public:
+    /// Takes a walk over all samples; ends early, and knows of none, when it is asked to stop.
+    /// \p gaps are those of the parameter at the offset.
+    StatisticsIndex(std::shared_ptr<const Flight> flight, const ProfileParameter& parameter,
+                    double offset, const GapRule& gaps, Progress& progress);
+
+    const ProfileParameter& parameter() const { return mSeries.parameter(); }
+
+    /// Of the samples from start to stop, both included.
+    Statistics range(const TimeRange& range) const;
+
+private:
+    static constexpr std::size_t Block = 256;
+    static constexpr std::size_t FanOut = 64;
+
+    void build(Progress& progress);
+    RangeSummary scan(std::size_t begin, std::size_t end) const;
+    RangeSummary summary(std::size_t begin, std::size_t end) const;
+    Statistics statistics(const RangeSummary& summary) const;
+
+    std::shared_ptr<const Flight> mFlight;
+    Series mSeries;
+    const ProfileThr* mThresholds; ///< null when there are none
+    SummaryRule mRule;
+    std::size_t mSize = 0;                            ///< samples that are known
+    std::array<std::vector<RangeSummary>, 2> mLevels; ///< of blocks, and of FanOut blocks
+};
+
+} // namespace TARN
