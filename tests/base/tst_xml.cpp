@@ -24,7 +24,7 @@ private Q_SLOTS:
         QDomElement root = mXml.xmlCreateElement(document, document, "r");
         mXml.xmlCreateParameter(root, "f", "\xEF\xBB\xBFmarked");
         mXml.xmlCreateAttribute(document, root, "e", 1);
-        mXml.xmlCreateAttribute(document, root, "e", 2); // replaces
+        QCOMPARE(mXml.xmlCreateAttribute(document, root, "e", 2).value(), "2"); // replaces
         mXml.xmlCreateAttribute(document, root, "d", -7L);
         mXml.xmlCreateAttribute(document, root, "c", ~0UL);
         mXml.xmlCreateAttribute(document, root, "b", -1e22);
@@ -120,6 +120,7 @@ private Q_SLOTS:
         const auto nested = [](int depth) {
             return QByteArray("<e>").repeated(depth) + QByteArray("</e>").repeated(depth);
         };
+        row("a prefix that is declared nowhere", "<a:b c:d='1'/>");
         const auto attributes = [](int count) {
             QByteArray text;
             for (int i = 0; i < count; ++i) {

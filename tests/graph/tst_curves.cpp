@@ -267,12 +267,15 @@ private Q_SLOTS:
             {{1, 1.2, 3}, {1, 1, 1}, {2}, 0},            // what is the same is drawn once
             {{0.9, 1.6, 2.8, 3.5}, {0, 1, 0, 1}, {4}, 1},
             {{0.9, 1.6, 2.8, 3.5}, {0, 1, 2, 3}, {4}, 0}, // side by side, but nothing in common
+            {{0.9, 1.6, 3.8, 4.5}, {0, 1, 0, 1}, {4}, 0}, // in common, but not side by side
             {{0.9, 1.6, 4.8, 5.5}, {0, 1, 0, 1}, {2, 2}, 0}};
-        for (const auto& [times, values, counts, fillings] : rows) {
+        for (const auto& [pixels, values, counts, fillings] : rows) {
             CurveSamples samples;
+            Values times = pixels;
+            std::ranges::for_each(times, [](double& time) { time *= 4.0; });
             samples.putSeries(times, values);
-            samples.setGapRule(gapsBeyond(3.0));
-            const Line line(samples, {0.0, 10.0, 0.0, 1.0}, {0.0, 0.0, 20.0, 10.0, 0.0, 20.0});
+            samples.setGapRule(gapsBeyond(12.0));
+            const Line line(samples, {0.0, 10.0, 0.0, 1.0}, {0.0, 0.0, 20.0, 10.0, 0.0, 80.0});
             Counts found;
             std::ranges::transform(line.strips(), std::back_inserter(found), &Line::Strip::count);
             QCOMPARE(found, counts);

@@ -238,6 +238,7 @@ private Q_SLOTS:
             {[](auto& m) { m.setCursorPosition(1000.0); }, 10, 60, 1, 0},
             {[](auto& m) { m.setCursorMode(CursorCenter); }, 10, 60, 0, 0},
             {[](auto& m) { m.setCursorPosition(100.0); }, 75, 125, 1, 0},
+            {[](auto& m) { QCOMPARE(m.cursor(), 100.0); }, 75, 125, 0, 0},
             {[](auto& m) { m.setCursorPosition(None); }, 75, 125, 0, 0},
             {[](auto& m) { m.setCursor(90.0); }, 75, 125, 1, 0},
             {[](auto& m) { m.setMarker(30.0, 30.2); }, 75, 125, 1, 0},
@@ -305,7 +306,7 @@ private Q_SLOTS:
                                  at < 99    ? INFINITY
                                  : at < 500 ? None
                                             : 2 * at,
-                                 at * at}};
+                                 at < 700 ? at * at : 0.0}};
                     model.curves().setSeries(i, seriesOf(plain[i].times, plain[i].values));
                     model.curvesChanged();
                 },
@@ -462,7 +463,8 @@ private Q_SLOTS:
                 }
             }
             QCOMPARE(drawn, " 1:2 3:1 2:0 1:2 3:1 2:0 1:2 3:1 2:0 3:4"); // a dot beyond the gap
-            QCOMPARE(paint.shapes[0].color, style.back);
+            QVERIFY(paint.shapes[0].kind == GraphPaint::Fill &&
+                    paint.shapes[0].color == style.back);
             int grids = 0; // of dots, to the end of their last line
             for (const Shape& shape : paint.shapes) {
                 const bool isGrid = shape.color == style.grid;
@@ -476,12 +478,19 @@ private Q_SLOTS:
                 return shape.kind == GraphPaint::Lines && shape.color == GraphColor{1, 1, 1};
             });
             QCOMPARE(cursorLine->points.size(), isShown ? 8U : 4U); // and that of the value
+            QCOMPARE(cursorLine->points[1], 30.0F);                 // from below the plot
             QCOMPARE(paint.shapes.back().points.size(), 16U);       // the outline, all around
+            QCOMPARE(paint.shapes.back().points[2], 589.5F);
             const auto marker = std::ranges::find(paint.shapes, GraphColor{1, 1, 0}, &Shape::color);
             QCOMPARE(marker->points,
                      (std::vector{float(view.xToViewport(50)), 40.0F, 590.0F, 390.0F}));
         }
         QCOMPARE(model.curves().at(5.0), model.curves().curve(1)); // below all: the first
+        for (const unsigned i : {1U, 2U, 4U}) {
+            QVERIFY(model.curves().hasSamples());
+            model.curves().curve(i)->active = false;
+        }
+        QVERIFY(!model.curves().hasSamples()); // that are shown
     }
 
     void legendHasRoomForAll()
