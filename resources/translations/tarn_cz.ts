@@ -1404,6 +1404,172 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
         <source>Auto</source>
         <translation>Auto</translation>
     </message>
+    <message>
+        <source>Measuring Panel</source>
+        <translation>Měřicí panel</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::MeasureModel</name>
+    <message>
+        <source>Of them without a number: %1</source>
+        <translation>Z toho bez čísla: %1</translation>
+    </message>
+    <message>
+        <source>Steps of more than %1 s, together %2 s</source>
+        <translation>Kroky delší než %1 s, celkem %2 s</translation>
+    </message>
+    <message>
+        <source>Sent only when something changes</source>
+        <translation>Posílá se, jen když se něco změní</translation>
+    </message>
+    <message>
+        <source>Click to go there</source>
+        <translation>Kliknutím tam přejdete</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parametr</translation>
+    </message>
+    <message>
+        <source>Curves of the graph, in their order</source>
+        <translation>Křivky grafu v jejich pořadí</translation>
+    </message>
+    <message>
+        <source>Value at A</source>
+        <translation>Hodnota v A</translation>
+    </message>
+    <message>
+        <source>Value at B</source>
+        <translation>Hodnota v B</translation>
+    </message>
+    <message>
+        <source>Difference of the values at A and B</source>
+        <translation>Rozdíl hodnot v A a B</translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation>za s</translation>
+    </message>
+    <message>
+        <source>Difference a second from A to B</source>
+        <translation>Rozdíl za sekundu od A do B</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Smallest value from A to B</source>
+        <translation>Nejmenší hodnota od A do B</translation>
+    </message>
+    <message>
+        <source>Min at</source>
+        <translation>Min v</translation>
+    </message>
+    <message>
+        <source>When it stands first, recording clock</source>
+        <translation>Kdy nastává poprvé, hodiny záznamu</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Greatest value from A to B</source>
+        <translation>Největší hodnota od A do B</translation>
+    </message>
+    <message>
+        <source>Max at</source>
+        <translation>Max v</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Průměr</translation>
+    </message>
+    <message>
+        <source>Mean of the values from A to B</source>
+        <translation>Průměr hodnot od A do B</translation>
+    </message>
+    <message>
+        <source>Time mean</source>
+        <translation>Časový průměr</translation>
+    </message>
+    <message>
+        <source>Mean of the values, each weighed with the time that it holds</source>
+        <translation>Průměr hodnot, každá vážená dobou, po kterou platí</translation>
+    </message>
+    <message>
+        <source>Std. dev.</source>
+        <translation>Směr. odch.</translation>
+    </message>
+    <message>
+        <source>Standard deviation of the values from A to B</source>
+        <translation>Směrodatná odchylka hodnot od A do B</translation>
+    </message>
+    <message>
+        <source>Integral</source>
+        <translation>Integrál</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Vzorky</translation>
+    </message>
+    <message>
+        <source>Samples from A to B</source>
+        <translation>Vzorky od A do B</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Mezery</translation>
+    </message>
+    <message>
+        <source>Stretches from A to B in which the parameter was not heard</source>
+        <translation>Úseky od A do B, ve kterých nebyl parametr přijímán</translation>
+    </message>
+    <message>
+        <source>Above thresholds</source>
+        <translation>Nad prahy</translation>
+    </message>
+    <message>
+        <source>For each threshold the seconds that the value was not below</source>
+        <translation>Pro každý práh sekundy, kdy hodnota nebyla pod ním</translation>
+    </message>
+    <message>
+        <source>Area below the curve from A to B: of litres an hour the litres</source>
+        <translation>Plocha pod křivkou od A do B: z litrů za hodinu litry</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::MeasurePanel</name>
+    <message>
+        <source>Time of A, recording clock</source>
+        <translation>Čas A, hodiny záznamu</translation>
+    </message>
+    <message>
+        <source>Time of B, recording clock</source>
+        <translation>Čas B, hodiny záznamu</translation>
+    </message>
+    <message>
+        <source>Close the measuring panel</source>
+        <translation>Zavřít měřicí panel</translation>
+    </message>
+    <message>
+        <source>What is measured of the curves</source>
+        <translation>Co se měří na křivkách</translation>
+    </message>
+    <message>
+        <source>Copy with Headers</source>
+        <translation>Kopírovat se záhlavím</translation>
+    </message>
+    <message>
+        <source>B − A: %1 s</source>
+        <translation>B − A: %1 s</translation>
+    </message>
+    <message>
+        <source>Nothing is marked: the whole flight</source>
+        <translation>Nic není označeno: celý let</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ProjectKeeper</name>

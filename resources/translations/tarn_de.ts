@@ -1404,6 +1404,172 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
         <source>Auto</source>
         <translation>Auto</translation>
     </message>
+    <message>
+        <source>Measuring Panel</source>
+        <translation>Messfeld</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::MeasureModel</name>
+    <message>
+        <source>Of them without a number: %1</source>
+        <translation>Davon ohne Zahl: %1</translation>
+    </message>
+    <message>
+        <source>Steps of more than %1 s, together %2 s</source>
+        <translation>Schritte von mehr als %1 s, zusammen %2 s</translation>
+    </message>
+    <message>
+        <source>Sent only when something changes</source>
+        <translation>Wird nur gesendet, wenn sich etwas ändert</translation>
+    </message>
+    <message>
+        <source>Click to go there</source>
+        <translation>Klicken, um dorthin zu gehen</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Curves of the graph, in their order</source>
+        <translation>Kurven des Diagramms in ihrer Reihenfolge</translation>
+    </message>
+    <message>
+        <source>Value at A</source>
+        <translation>Wert bei A</translation>
+    </message>
+    <message>
+        <source>Value at B</source>
+        <translation>Wert bei B</translation>
+    </message>
+    <message>
+        <source>Difference of the values at A and B</source>
+        <translation>Differenz der Werte bei A und B</translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation>je s</translation>
+    </message>
+    <message>
+        <source>Difference a second from A to B</source>
+        <translation>Differenz je Sekunde von A bis B</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Smallest value from A to B</source>
+        <translation>Kleinster Wert von A bis B</translation>
+    </message>
+    <message>
+        <source>Min at</source>
+        <translation>Min um</translation>
+    </message>
+    <message>
+        <source>When it stands first, recording clock</source>
+        <translation>Wann er zuerst auftritt, Uhr der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Greatest value from A to B</source>
+        <translation>Größter Wert von A bis B</translation>
+    </message>
+    <message>
+        <source>Max at</source>
+        <translation>Max um</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Mean of the values from A to B</source>
+        <translation>Mittelwert der Werte von A bis B</translation>
+    </message>
+    <message>
+        <source>Time mean</source>
+        <translation>Zeitmittel</translation>
+    </message>
+    <message>
+        <source>Mean of the values, each weighed with the time that it holds</source>
+        <translation>Mittelwert der Werte, jeder gewichtet mit der Zeit, die er gilt</translation>
+    </message>
+    <message>
+        <source>Std. dev.</source>
+        <translation>Std.-Abw.</translation>
+    </message>
+    <message>
+        <source>Standard deviation of the values from A to B</source>
+        <translation>Standardabweichung der Werte von A bis B</translation>
+    </message>
+    <message>
+        <source>Integral</source>
+        <translation>Integral</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Messwerte</translation>
+    </message>
+    <message>
+        <source>Samples from A to B</source>
+        <translation>Messwerte von A bis B</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Lücken</translation>
+    </message>
+    <message>
+        <source>Stretches from A to B in which the parameter was not heard</source>
+        <translation>Strecken von A bis B, in denen der Parameter nicht zu hören war</translation>
+    </message>
+    <message>
+        <source>Above thresholds</source>
+        <translation>Über Schwellen</translation>
+    </message>
+    <message>
+        <source>For each threshold the seconds that the value was not below</source>
+        <translation>Für jede Schwelle die Sekunden, in denen der Wert nicht darunter lag</translation>
+    </message>
+    <message>
+        <source>Area below the curve from A to B: of litres an hour the litres</source>
+        <translation>Fläche unter der Kurve von A bis B: bei Litern je Stunde die Liter</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::MeasurePanel</name>
+    <message>
+        <source>Time of A, recording clock</source>
+        <translation>Zeit von A, Uhr der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Time of B, recording clock</source>
+        <translation>Zeit von B, Uhr der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Close the measuring panel</source>
+        <translation>Messfeld schließen</translation>
+    </message>
+    <message>
+        <source>What is measured of the curves</source>
+        <translation>Was an den Kurven gemessen wird</translation>
+    </message>
+    <message>
+        <source>Copy with Headers</source>
+        <translation>Mit Überschriften kopieren</translation>
+    </message>
+    <message>
+        <source>B − A: %1 s</source>
+        <translation>B − A: %1 s</translation>
+    </message>
+    <message>
+        <source>Nothing is marked: the whole flight</source>
+        <translation>Nichts ist markiert: der ganze Flug</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ProjectKeeper</name>

@@ -1404,6 +1404,172 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
         <source>Auto</source>
         <translation>Auto</translation>
     </message>
+    <message>
+        <source>Measuring Panel</source>
+        <translation>Panel de medición</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::MeasureModel</name>
+    <message>
+        <source>Of them without a number: %1</source>
+        <translation>De ellas sin número: %1</translation>
+    </message>
+    <message>
+        <source>Steps of more than %1 s, together %2 s</source>
+        <translation>Pasos de más de %1 s, en total %2 s</translation>
+    </message>
+    <message>
+        <source>Sent only when something changes</source>
+        <translation>Solo se envía cuando algo cambia</translation>
+    </message>
+    <message>
+        <source>Click to go there</source>
+        <translation>Clic para ir allí</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parámetro</translation>
+    </message>
+    <message>
+        <source>Curves of the graph, in their order</source>
+        <translation>Curvas del gráfico, en su orden</translation>
+    </message>
+    <message>
+        <source>Value at A</source>
+        <translation>Valor en A</translation>
+    </message>
+    <message>
+        <source>Value at B</source>
+        <translation>Valor en B</translation>
+    </message>
+    <message>
+        <source>Difference of the values at A and B</source>
+        <translation>Diferencia de los valores en A y B</translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation>por s</translation>
+    </message>
+    <message>
+        <source>Difference a second from A to B</source>
+        <translation>Diferencia por segundo de A a B</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Mín</translation>
+    </message>
+    <message>
+        <source>Smallest value from A to B</source>
+        <translation>Valor mínimo de A a B</translation>
+    </message>
+    <message>
+        <source>Min at</source>
+        <translation>Mín a las</translation>
+    </message>
+    <message>
+        <source>When it stands first, recording clock</source>
+        <translation>Cuándo aparece por primera vez, reloj de la grabación</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Máx</translation>
+    </message>
+    <message>
+        <source>Greatest value from A to B</source>
+        <translation>Valor máximo de A a B</translation>
+    </message>
+    <message>
+        <source>Max at</source>
+        <translation>Máx a las</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Mean of the values from A to B</source>
+        <translation>Media de los valores de A a B</translation>
+    </message>
+    <message>
+        <source>Time mean</source>
+        <translation>Media temporal</translation>
+    </message>
+    <message>
+        <source>Mean of the values, each weighed with the time that it holds</source>
+        <translation>Media de los valores, cada uno ponderado con el tiempo que vale</translation>
+    </message>
+    <message>
+        <source>Std. dev.</source>
+        <translation>Desv. est.</translation>
+    </message>
+    <message>
+        <source>Standard deviation of the values from A to B</source>
+        <translation>Desviación estándar de los valores de A a B</translation>
+    </message>
+    <message>
+        <source>Integral</source>
+        <translation>Integral</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Muestras</translation>
+    </message>
+    <message>
+        <source>Samples from A to B</source>
+        <translation>Muestras de A a B</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Huecos</translation>
+    </message>
+    <message>
+        <source>Stretches from A to B in which the parameter was not heard</source>
+        <translation>Tramos de A a B en los que no se recibió el parámetro</translation>
+    </message>
+    <message>
+        <source>Above thresholds</source>
+        <translation>Sobre umbrales</translation>
+    </message>
+    <message>
+        <source>For each threshold the seconds that the value was not below</source>
+        <translation>Para cada umbral, los segundos en que el valor no estuvo por debajo</translation>
+    </message>
+    <message>
+        <source>Area below the curve from A to B: of litres an hour the litres</source>
+        <translation>Área bajo la curva de A a B: de litros por hora, los litros</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::MeasurePanel</name>
+    <message>
+        <source>Time of A, recording clock</source>
+        <translation>Hora de A, reloj de la grabación</translation>
+    </message>
+    <message>
+        <source>Time of B, recording clock</source>
+        <translation>Hora de B, reloj de la grabación</translation>
+    </message>
+    <message>
+        <source>Close the measuring panel</source>
+        <translation>Cerrar el panel de medición</translation>
+    </message>
+    <message>
+        <source>What is measured of the curves</source>
+        <translation>Lo que se mide de las curvas</translation>
+    </message>
+    <message>
+        <source>Copy with Headers</source>
+        <translation>Copiar con encabezados</translation>
+    </message>
+    <message>
+        <source>B − A: %1 s</source>
+        <translation>B − A: %1 s</translation>
+    </message>
+    <message>
+        <source>Nothing is marked: the whole flight</source>
+        <translation>Nada está marcado: el vuelo entero</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ProjectKeeper</name>

@@ -1404,6 +1404,172 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
         <source>Auto</source>
         <translation>Auto</translation>
     </message>
+    <message>
+        <source>Measuring Panel</source>
+        <translation>Panneau de mesure</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::MeasureModel</name>
+    <message>
+        <source>Of them without a number: %1</source>
+        <translation>Dont sans nombre&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Steps of more than %1 s, together %2 s</source>
+        <translation>Pas de plus de %1 s, au total %2 s</translation>
+    </message>
+    <message>
+        <source>Sent only when something changes</source>
+        <translation>Envoyé seulement quand quelque chose change</translation>
+    </message>
+    <message>
+        <source>Click to go there</source>
+        <translation>Cliquer pour y aller</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Curves of the graph, in their order</source>
+        <translation>Courbes du graphique, dans leur ordre</translation>
+    </message>
+    <message>
+        <source>Value at A</source>
+        <translation>Valeur en A</translation>
+    </message>
+    <message>
+        <source>Value at B</source>
+        <translation>Valeur en B</translation>
+    </message>
+    <message>
+        <source>Difference of the values at A and B</source>
+        <translation>Différence des valeurs en A et B</translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation>par s</translation>
+    </message>
+    <message>
+        <source>Difference a second from A to B</source>
+        <translation>Différence par seconde de A à B</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Smallest value from A to B</source>
+        <translation>Plus petite valeur de A à B</translation>
+    </message>
+    <message>
+        <source>Min at</source>
+        <translation>Min à</translation>
+    </message>
+    <message>
+        <source>When it stands first, recording clock</source>
+        <translation>Quand elle apparaît d&apos;abord, horloge de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Greatest value from A to B</source>
+        <translation>Plus grande valeur de A à B</translation>
+    </message>
+    <message>
+        <source>Max at</source>
+        <translation>Max à</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>Mean of the values from A to B</source>
+        <translation>Moyenne des valeurs de A à B</translation>
+    </message>
+    <message>
+        <source>Time mean</source>
+        <translation>Moyenne temporelle</translation>
+    </message>
+    <message>
+        <source>Mean of the values, each weighed with the time that it holds</source>
+        <translation>Moyenne des valeurs, chacune pondérée par sa durée</translation>
+    </message>
+    <message>
+        <source>Std. dev.</source>
+        <translation>Écart type</translation>
+    </message>
+    <message>
+        <source>Standard deviation of the values from A to B</source>
+        <translation>Écart type des valeurs de A à B</translation>
+    </message>
+    <message>
+        <source>Integral</source>
+        <translation>Intégrale</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Échantillons</translation>
+    </message>
+    <message>
+        <source>Samples from A to B</source>
+        <translation>Échantillons de A à B</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Trous</translation>
+    </message>
+    <message>
+        <source>Stretches from A to B in which the parameter was not heard</source>
+        <translation>Intervalles de A à B où le paramètre n&apos;a pas été reçu</translation>
+    </message>
+    <message>
+        <source>Above thresholds</source>
+        <translation>Au-dessus des seuils</translation>
+    </message>
+    <message>
+        <source>For each threshold the seconds that the value was not below</source>
+        <translation>Pour chaque seuil, les secondes où la valeur n&apos;était pas au-dessous</translation>
+    </message>
+    <message>
+        <source>Area below the curve from A to B: of litres an hour the litres</source>
+        <translation>Aire sous la courbe de A à B&#xa0;: de litres par heure, les litres</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::MeasurePanel</name>
+    <message>
+        <source>Time of A, recording clock</source>
+        <translation>Heure de A, horloge de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Time of B, recording clock</source>
+        <translation>Heure de B, horloge de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Close the measuring panel</source>
+        <translation>Fermer le panneau de mesure</translation>
+    </message>
+    <message>
+        <source>What is measured of the curves</source>
+        <translation>Ce qui est mesuré sur les courbes</translation>
+    </message>
+    <message>
+        <source>Copy with Headers</source>
+        <translation>Copier avec les en-têtes</translation>
+    </message>
+    <message>
+        <source>B − A: %1 s</source>
+        <translation>B − A&#xa0;: %1 s</translation>
+    </message>
+    <message>
+        <source>Nothing is marked: the whole flight</source>
+        <translation>Rien n&apos;est marqué&#xa0;: le vol entier</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ProjectKeeper</name>

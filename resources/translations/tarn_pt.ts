@@ -1404,6 +1404,172 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
         <source>Auto</source>
         <translation>Auto</translation>
     </message>
+    <message>
+        <source>Measuring Panel</source>
+        <translation>Painel de medição</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::MeasureModel</name>
+    <message>
+        <source>Of them without a number: %1</source>
+        <translation>Das quais sem número: %1</translation>
+    </message>
+    <message>
+        <source>Steps of more than %1 s, together %2 s</source>
+        <translation>Passos de mais de %1 s, no total %2 s</translation>
+    </message>
+    <message>
+        <source>Sent only when something changes</source>
+        <translation>Só é enviado quando algo muda</translation>
+    </message>
+    <message>
+        <source>Click to go there</source>
+        <translation>Clique para ir até lá</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parâmetro</translation>
+    </message>
+    <message>
+        <source>Curves of the graph, in their order</source>
+        <translation>Curvas do gráfico, na sua ordem</translation>
+    </message>
+    <message>
+        <source>Value at A</source>
+        <translation>Valor em A</translation>
+    </message>
+    <message>
+        <source>Value at B</source>
+        <translation>Valor em B</translation>
+    </message>
+    <message>
+        <source>Difference of the values at A and B</source>
+        <translation>Diferença dos valores em A e B</translation>
+    </message>
+    <message>
+        <source>per s</source>
+        <translation>por s</translation>
+    </message>
+    <message>
+        <source>Difference a second from A to B</source>
+        <translation>Diferença por segundo de A a B</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Mín</translation>
+    </message>
+    <message>
+        <source>Smallest value from A to B</source>
+        <translation>Menor valor de A a B</translation>
+    </message>
+    <message>
+        <source>Min at</source>
+        <translation>Mín às</translation>
+    </message>
+    <message>
+        <source>When it stands first, recording clock</source>
+        <translation>Quando aparece primeiro, relógio da gravação</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Máx</translation>
+    </message>
+    <message>
+        <source>Greatest value from A to B</source>
+        <translation>Maior valor de A a B</translation>
+    </message>
+    <message>
+        <source>Max at</source>
+        <translation>Máx às</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Média</translation>
+    </message>
+    <message>
+        <source>Mean of the values from A to B</source>
+        <translation>Média dos valores de A a B</translation>
+    </message>
+    <message>
+        <source>Time mean</source>
+        <translation>Média temporal</translation>
+    </message>
+    <message>
+        <source>Mean of the values, each weighed with the time that it holds</source>
+        <translation>Média dos valores, cada um ponderado com o tempo que vale</translation>
+    </message>
+    <message>
+        <source>Std. dev.</source>
+        <translation>Desvio p.</translation>
+    </message>
+    <message>
+        <source>Standard deviation of the values from A to B</source>
+        <translation>Desvio padrão dos valores de A a B</translation>
+    </message>
+    <message>
+        <source>Integral</source>
+        <translation>Integral</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Amostras</translation>
+    </message>
+    <message>
+        <source>Samples from A to B</source>
+        <translation>Amostras de A a B</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Lacunas</translation>
+    </message>
+    <message>
+        <source>Stretches from A to B in which the parameter was not heard</source>
+        <translation>Trechos de A a B em que o parâmetro não foi recebido</translation>
+    </message>
+    <message>
+        <source>Above thresholds</source>
+        <translation>Acima dos limiares</translation>
+    </message>
+    <message>
+        <source>For each threshold the seconds that the value was not below</source>
+        <translation>Para cada limiar, os segundos em que o valor não esteve abaixo</translation>
+    </message>
+    <message>
+        <source>Area below the curve from A to B: of litres an hour the litres</source>
+        <translation>Área sob a curva de A a B: de litros por hora, os litros</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::MeasurePanel</name>
+    <message>
+        <source>Time of A, recording clock</source>
+        <translation>Hora de A, relógio da gravação</translation>
+    </message>
+    <message>
+        <source>Time of B, recording clock</source>
+        <translation>Hora de B, relógio da gravação</translation>
+    </message>
+    <message>
+        <source>Close the measuring panel</source>
+        <translation>Fechar o painel de medição</translation>
+    </message>
+    <message>
+        <source>What is measured of the curves</source>
+        <translation>O que é medido das curvas</translation>
+    </message>
+    <message>
+        <source>Copy with Headers</source>
+        <translation>Copiar com cabeçalhos</translation>
+    </message>
+    <message>
+        <source>B − A: %1 s</source>
+        <translation>B − A: %1 s</translation>
+    </message>
+    <message>
+        <source>Nothing is marked: the whole flight</source>
+        <translation>Nada está marcado: o voo inteiro</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ProjectKeeper</name>

@@ -71,10 +71,7 @@ void runStats(const StatsArguments& arguments, std::ostream& out)
     Progress none;
     for (const auto& [device, parameter] : flight->profile()->parameters()) {
         if (selection.contains(*parameter)) {
-            const GapRule gaps = flight->series(*parameter, offset).gapRule([&] {
-                return flight->silences(offset);
-            });
-            const StatisticsIndex index(flight, *parameter, offset, gaps, none);
+            const StatisticsIndex index(flight, *parameter, offset, none);
             print(*device, *parameter, index.range(range), out);
         }
     }

@@ -23,7 +23,7 @@ std::optional<double> numberOf(double value)
 
 StatisticsIndex::StatisticsIndex(std::shared_ptr<const Flight> flight,
                                  const ProfileParameter& parameter, double offset,
-                                 const GapRule& gaps, Progress& progress)
+                                 Progress& progress)
     : mFlight(std::move(flight)), mSeries(mFlight->series(parameter, offset)),
       mThresholds(thresholdsOf(*mFlight, parameter))
 {
@@ -32,7 +32,7 @@ StatisticsIndex::StatisticsIndex(std::shared_ptr<const Flight> flight,
             mRule.thresholds.push_back(threshold.val * parameter.factor + parameter.offset);
         }
     }
-    mRule.gaps = gaps;
+    mRule.gaps = mSeries.gapRule([&] { return mFlight->silences(offset); });
     mSeries.isInOrder(); // is found out now: many threads may ask later
     build(progress);
 }

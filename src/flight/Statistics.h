@@ -49,10 +49,9 @@ struct Statistics
 class StatisticsIndex
 {
 public:
-    /// Takes a walk over all samples; ends early, and knows of none, when it is asked to stop.
-    /// \p gaps are those of the parameter at the offset.
+    /// Takes walks over all samples; ends early, and knows of none, when it is asked to stop.
     StatisticsIndex(std::shared_ptr<const Flight> flight, const ProfileParameter& parameter,
-                    double offset, const GapRule& gaps, Progress& progress);
+                    double offset, Progress& progress);
 
     const ProfileParameter& parameter() const { return mSeries.parameter(); }
 

@@ -1,8 +1,10 @@
 #include "graph/DialogDataGraph.h"
 
 #include "base/OutputFile.h"
+#include "base/Property.h"
 #include "graph/DialogGraphSetup.h"
 #include "graph/GraphButtons.h"
+#include "graph/MeasurePanel.h"
 #include "graph/SessionGraph.h"
 #include "graph/WidgetGraph.h"
 
@@ -12,6 +14,7 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QSplitter>
 
 #include <algorithm>
 
@@ -47,7 +50,7 @@ QWidget* DialogDataGraph::createPlot()
     layout->setContentsMargins(0, 0, 0, 0);
     if (WidgetGraph::canDraw()) {
         createGraph();
-        layout->addWidget(mGraph, 1);
+        layout->addWidget(createPanes(), 1);
         setFocusProxy(mGraph);
     } else {
         auto* message = new QLabel(tr("The graph cannot be drawn: this display offers no OpenGL.\n"
@@ -64,6 +67,37 @@ QWidget* DialogDataGraph::createPlot()
     mNote->setVisible(false);
     layout->addWidget(mNote);
     return plot;
+}
+
+/// The graph above what is measured of it.
+QWidget* DialogDataGraph::createPanes()
+{
+    constexpr QSize First(700, 190); // heights
+    Property* settings = Property::instance();
+    auto* panes = new QSplitter(Qt::Vertical);
+    mMeasuring = new MeasurePanel(mSession, *mGraph);
+    panes->addWidget(mGraph);
+    panes->addWidget(mMeasuring);
+    panes->setStretchFactor(0, 1);
+    panes->setCollapsible(0, false);
+    panes->setCollapsible(1, false);
+    panes->setSizes({First.width(), settings->getInt("MeasureHeight", First.height())});
+    connect(panes, &QSplitter::splitterMoved, this,
+            [=] { settings->setInt("MeasureHeight", panes->sizes()[1]); });
+    connect(mMeasuring, &MeasurePanel::closed, this, [this] { showMeasuring(false); });
+    showMeasuring(settings->getSwitch("MeasurePanel", true));
+    return panes;
+}
+
+void DialogDataGraph::showMeasuring(bool isOn)
+{
+    mMeasuring->setVisible(isOn);
+    mButtons->showMeasuring(isOn);
+    Property* settings = Property::instance();
+    if (settings->getSwitch("MeasurePanel", true) != isOn) {
+        settings->setSwitch("MeasurePanel", isOn);
+        settings->writeXmlFile();
+    }
 }
 
 void DialogDataGraph::createGraph()
@@ -132,6 +166,9 @@ void DialogDataGraph::runCommand(int command)
         break;
     case GraphButtons::Setup:
         openSetup();
+        break;
+    case GraphButtons::Measure:
+        showMeasuring(mMeasuring->isHidden());
         break;
     case GraphButtons::Snapshot:
         saveSnapshot();

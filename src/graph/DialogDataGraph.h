@@ -13,6 +13,7 @@ namespace TARN {
 
 class DialogGraphSetup;
 class GraphButtons;
+class MeasurePanel;
 
 /// The "Graph" tab: the selected parameters as curves, and the buttons beside them. Where no
 /// OpenGL is to be had a message stands in the graph's place and every operation does nothing.
@@ -46,10 +47,12 @@ private Q_SLOTS:
 
 private:
     QWidget* createPlot();
+    QWidget* createPanes();
     void createGraph();
     void runCommand(int command);
     void setRange(double seconds);
     void openSetup();
+    void showMeasuring(bool isOn);
     bool saveImage(const QString& file);
 
     Session& mSession;
@@ -60,6 +63,7 @@ private:
     GraphButtons* mButtons;
     QTimer mTimer;
     WidgetGraph* mGraph = nullptr;
+    MeasurePanel* mMeasuring = nullptr;
     QLabel* mNote; ///< of what is left out
 };
 

@@ -29,6 +29,7 @@ GraphButtons::GraphButtons(QWidget* parent) : QScrollArea(parent), mGroup(new QB
         {ResetAll, tr("Reset all to default"), "undo"},
         {Setup, tr("Setup"), "configure2"},
         {Snapshot, tr("Snapshot"), "frame_image"},
+        {Measure, tr("Measuring Panel"), "measure"},
     };
     auto* column = new QWidget;
     auto* layout = new QVBoxLayout(column);
@@ -71,7 +72,7 @@ QToolButton* GraphButtons::createButton(int command, const QString& name, const 
         button->setText(tr("Auto"));
     }
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    button->setCheckable(command >= AutomaticMode && command <= SingleMode);
+    button->setCheckable((command >= AutomaticMode && command <= SingleMode) || command == Measure);
     mGroup->addButton(button, command);
     mButtons[static_cast<std::size_t>(command)] = button;
     return button;
@@ -91,6 +92,11 @@ void GraphButtons::showDisplayMode(eDisplayMode mode)
 void GraphButtons::showGraphMode(eGraphMode mode)
 {
     mButtons[AutomaticMode]->setChecked(mode == GraphAutomatic);
+}
+
+void GraphButtons::showMeasuring(bool isOn)
+{
+    mButtons[Measure]->setChecked(isOn);
 }
 
 } // namespace TARN

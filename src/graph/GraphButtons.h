@@ -32,6 +32,7 @@ public:
         Setup,
         Snapshot,
         ShowAll,
+        Measure,
         CommandCount
     };
 
@@ -40,6 +41,7 @@ public:
     bool isAutomaticChecked() const;
     void showDisplayMode(eDisplayMode mode);
     void showGraphMode(eGraphMode mode);
+    void showMeasuring(bool isOn);
 
 Q_SIGNALS:
     void pressed(int command);

@@ -54,6 +54,7 @@ void GraphDrawing::draw()
     if (mStyle.legendOn) {
         drawLabels();
     }
+    drawMarkerEnds();
     if (mStyle.cursorOn) {
         drawCursor();
     }
@@ -174,6 +175,33 @@ void GraphDrawing::drawMarker()
         mCanvas.fill(std::max(start, left), mView.y0, std::min(stop, right),
                      mView.y0 + mView.height, Yellow, Alpha);
     }
+}
+
+/// The two handles of the marked range with their times.
+void GraphDrawing::drawMarkerEnds()
+{
+    const TimeRange& marks = mModel.markers();
+    if (!marks.hasExtent()) {
+        return;
+    }
+    const QRectF plot = plotBox();
+    const double top = plot.bottom() - Gap - mTexts.sizeOf("0").height();
+    std::vector<float> points;
+    for (const auto& [name, time] : {std::pair("A ", marks.start), std::pair("B ", marks.stop)}) {
+        const double x = mView.xToViewport(time);
+        if (x < mView.x0 || x > mView.x0 + mView.width) {
+            continue;
+        }
+        const double sharp = mCanvas.sharp(x);
+        addLine(points, sharp, mView.y0, sharp, mView.y0 + mView.height);
+        const QString text = name + clockTime(millisecondsOf(time)).toString("hh:mm:ss.zzz");
+        const double width = mTexts.sizeOf(text).width();
+        // Outside of the range, where both have room.
+        const bool isLeft = (name[0] == 'A') == (x - Gap - width >= plot.left());
+        mTexts.addNear(text, {isLeft ? x - Gap - width : x + Gap, top},
+                       legibleOn(mStyle.back, Yellow), plot);
+    }
+    mCanvas.lines(points, Yellow);
 }
 
 void GraphDrawing::drawOutline()

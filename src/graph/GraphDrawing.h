@@ -27,6 +27,7 @@ private:
     void drawTicksY(const ParStruct* curve);
     void drawParameter(const ParStruct& curve);
     void drawMarker();
+    void drawMarkerEnds();
     void drawLabels();
     void drawCursor();
     void drawCursorValues(double x, double y);

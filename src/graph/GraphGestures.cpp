@@ -80,6 +80,15 @@ bool GraphGestures::changeByKey(int key)
     case Qt::Key_Z:
         mModel.zoomToMarker();
         break;
+    case Qt::Key_1:
+    case Qt::Key_2: {
+        const MarkerEnd end = key == Qt::Key_1 ? MarkerEnd::A : MarkerEnd::B;
+        const TimeRange range =
+            withEnd(mModel.markers(), mModel.window().whole(), end, mModel.cursor());
+        mModel.setMarker(range.start, range.stop);
+        reportMarkers();
+        break;
+    }
     case Qt::Key_Home:
         mModel.window().showAll();
         mModel.windowChanged();
@@ -150,9 +159,10 @@ void GraphGestures::press(const QMouseEvent& event)
     const double time = timeAt(event.position());
     switch (event.button()) {
     case Qt::LeftButton:
+        mHeld = endAt(event.position());
         if (event.modifiers().testFlag(Qt::ShiftModifier)) {
             moveNearerMarker(time);
-        } else {
+        } else if (!mHeld) {
             mModel.setMarker(time, time);
         }
         reportMarkers();
@@ -170,10 +180,23 @@ void GraphGestures::press(const QMouseEvent& event)
     }
 }
 
+std::optional<MarkerEnd> GraphGestures::endAt(QPointF position) const
+{
+    constexpr double Reach = 4.0; // pixels
+    return endNear(mModel.markers(), timeAt(position), Reach * mModel.layout().view().pixelTime());
+}
+
 void GraphGestures::move(const QMouseEvent& event)
 {
     if (event.buttons().testFlag(Qt::LeftButton)) {
-        moveNearerMarker(timeAt(event.position()));
+        const double time = timeAt(event.position());
+        if (mHeld) {
+            TimeRange marks = mModel.markers();
+            endOf(marks, *mHeld) = time;
+            mModel.setMarker(marks.start, marks.stop);
+        } else {
+            moveNearerMarker(time);
+        }
         reportMarkers();
         reportMarkers(); // once more, when it is drawn
     }

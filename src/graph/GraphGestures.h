@@ -2,6 +2,7 @@
 
 #include "graph/GraphModel.h"
 #include "graph/GraphStyle.h"
+#include "graph/MarkerEnds.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QObject>
@@ -38,6 +39,8 @@ public:
     void setSize(QSize size) { mSize = size; }
     void press(const QMouseEvent& event);
     void move(const QMouseEvent& event);
+    /// The end of the marked range that a press there takes hold of.
+    std::optional<MarkerEnd> endAt(QPointF position) const;
     void release(const QMouseEvent& event);
     void turn(const QWheelEvent& event);
 
@@ -64,6 +67,7 @@ private:
     KeyCursor mKeyCursor;
     QTimer mCursorTimer; ///< until it goes by itself
     QSize mSize;
+    std::optional<MarkerEnd> mHeld; ///< by the left button
     bool mIsPanning = false;
     double mPanX = 0.0;   ///< where a pan began
     double mPanMin = 0.0; ///< the window then

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "record/TimeRange.h"
+
 #include <vector>
 
 namespace TARN {
@@ -34,6 +36,7 @@ public:
 
     /// All there is to be seen, for showAll().
     void setWhole(double start, double stop) { mWhole = {start, stop}; }
+    TimeRange whole() const { return {mWhole.min, mWhole.max}; }
     /// Shows all of it with a tenth more at both ends.
     void showAll();
 

@@ -298,6 +298,7 @@ void WidgetGraph::mousePressEvent(QMouseEvent* event)
 void WidgetGraph::mouseMoveEvent(QMouseEvent* event)
 {
     mGestures.move(*event);
+    setCursor(mGestures.endAt(event->position()) ? Qt::SplitHCursor : Qt::ArrowCursor);
 }
 
 void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)

@@ -3,6 +3,7 @@
 #include "profile/Profile.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <ranges>
 
@@ -65,6 +66,17 @@ const RecordEntry& Series::lastInList(std::size_t begin, std::size_t end) const
 
 GapRule Series::gapRule(const SilencesSource& silences) const
 {
+    QuickRhythm rhythm;
+    std::array<double, 512> times;
+    for (auto rest = mEntries; isInOrder() && !rest.empty();) {
+        const auto entries = rest.first(std::min(times.size(), rest.size()));
+        timesOf(entries, times.data());
+        rhythm.add(std::span(times).first(entries.size()));
+        rest = rest.subspan(entries.size());
+    }
+    if (rhythm.isProven()) {
+        return QuickRhythm::rule();
+    }
     std::vector<double> steps;
     for (std::size_t k = 1; k < size(); ++k) {
         const double step = time(k) - time(k - 1);

@@ -116,11 +116,11 @@ private Q_SLOTS:
                 const Series series = flight->series(parameter, 0.0);
                 const GapRule gaps = series.gapRule([&] { return flight->silences(0.0); });
                 Progress progress;
-                const StatisticsIndex index(flight, parameter, 0.0, gaps, progress);
+                const StatisticsIndex index(flight, parameter, 0.0, progress);
                 std::stop_source stop;
                 stop.request_stop();
                 Progress stopped({}, stop.get_token());
-                const StatisticsIndex none(flight, parameter, 0.0, gaps, stopped);
+                const StatisticsIndex none(flight, parameter, 0.0, stopped);
                 QCOMPARE(none.range({-1e9, 1e9}).samples, size < 256 ? size : 0U);
                 std::vector<Sample> whole;
                 for (std::size_t k = 0; k < series.size(); ++k) {

@@ -109,6 +109,7 @@ private Q_SLOTS:
                 QCOMPARE(next, std::floor((min + extent) / step) + 1.0);
             }
         }
+        QCOMPARE(GraphTicks::ofTimes(0.0, 150.0, 1000.0, 100.0).step, 15.0); // just wide enough
         for (const double max : {5.0, double(INFINITY), None}) {
             QVERIFY(GraphTicks::ofTimes(5.0, max, 100.0, 25.0).ticks.empty());
             QVERIFY(GraphTicks::ofValues(5.0, max, 100.0, 25.0).ticks.empty());

@@ -198,16 +198,26 @@ private Q_SLOTS:
             {200, 300, {}, 200, 300},
             {290, 320, Qt::ShiftModifier, 200, 320}, // the nearer one
             {210, 180, Qt::ShiftModifier, 180, 320},
-            {320, 180, {}, 180, 320}};
+            {310, 180, {}, 180, 310},
+            {181, 150, {}, 150, 310}, // the handles
+            {307, 320, {}, 150, 320}};
         for (const auto& [from, to, keys, start, stop] : drags) {
             marked.clear();
             graph.drag(Qt::LeftButton, from, to, keys);
             QCOMPARE(model.markers().start, graph.timeAt(start));
             QCOMPARE(model.markers().stop, graph.timeAt(stop));
+            QCOMPARE(graph.cursor().shape(), Qt::SplitHCursor);
             QCOMPARE(marked.size(), 3); // the press, and twice for the move
         }
-        QCOMPARE(graph.count(MarkedBlack, 250, 280, 300), 20);
+        QCOMPARE(graph.count(MarkedBlack, 290, 280, 300), 20);
         QCOMPARE(graph.count(MarkedBlack, 340, 280, 300), 0);
+
+        model.setCursor(graph.timeAt(200));
+        QTest::keyClick(&graph, Qt::Key_1);
+        QVERIFY(model.markers() == TimeRange(graph.timeAt(200), graph.timeAt(320)));
+        model.setCursor(graph.timeAt(160));
+        QTest::keyClick(&graph, Qt::Key_2); // before A, which goes back to the start of it all
+        QVERIFY(model.markers() == TimeRange(0.0, graph.timeAt(160)));
 
         QTest::keyClick(&graph, Qt::Key_C); // the window stays under the mouse all the same
         graph.send(QEvent::MouseButtonPress, {200, 100}, Qt::MiddleButton, Qt::MiddleButton);

@@ -4,6 +4,8 @@
 #include "graph/WidgetGraph.h"
 #include "gui/WindowTest.h"
 
+#include <QtGui/QClipboard>
+
 #include <sys/stat.h>
 
 using namespace TARN;
@@ -443,6 +445,38 @@ private Q_SLOTS:
                 QCOMPARE(rowOf(lamps), present(flight.events().warnings));
             }
         }
+    }
+
+    void measuringPanelMeasures()
+    {
+        makeHome(60);
+        start();
+        views()->setCurrentIndex(Graph);
+        open({0, 1});
+        auto* table = find<QTableView>("measures");
+        QTRY_COMPARE(table->model()->rowCount(), 2);
+        const auto cell = [&](int column) { return table->model()->index(0, column); };
+        const auto text = [&](int column) { return cell(column).data().toString(); };
+        const QString whole = text(13);
+        find<WidgetGraph>()->model().setMarker(34800.0, 34900.0);
+        QCOMPARE(text(3), QString::number(cell(2).data(Qt::UserRole).toDouble() -
+                                              cell(1).data(Qt::UserRole).toDouble(),
+                                          'g', 6));
+        QVERIFY(!text(13).isEmpty() && text(13) != whole);
+        table->scrollTo(cell(7));
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                          table->visualRect(cell(7)).center());
+        QCOMPARE(session().time(), cell(8).data(Qt::UserRole).toDouble());
+        auto* panel = find<QWidget>("measuringPanel");
+        type(panel->findChildren<QTimeEdit*>()[1], "09:41:00.500\r");
+        QVERIFY(session().marks() == TimeRange(34800.0, 34860.5));
+        table->setFocus();
+        QTest::keyClick(table, Qt::Key_Insert, Qt::ControlModifier);
+        QVERIFY(QGuiApplication::clipboard()->text().startsWith("Parameter\tA\tB\t"));
+        panel->findChild<QToolButton*>()->click();
+        QVERIFY(panel->isHidden());
+        start();
+        QVERIFY(find<QWidget>("measuringPanel")->isHidden()); // remembered
     }
 
     void matricesShowTheMoment()

@@ -1,0 +1,237 @@
+#include "graph/MeasureModel.h"
+
+#include "base/ClockTime.h"
+#include "base/CountText.h"
+#include "base/Numbers.h"
+
+#include <utility>
+
+namespace TARN {
+
+namespace {
+
+QString numberText(double number, int digits = 6)
+{
+    std::string text;
+    appendGeneral(number, digits, text);
+    return QString::fromStdString(text);
+}
+
+QString aboveText(const Statistics::Above& above)
+{
+    return QString("\u2265 %1: %2 s")
+        .arg(numberText(above.value), fixedText(above.seconds, 1).c_str());
+}
+
+} // namespace
+
+QString integralText(double valueSeconds, const QString& unit)
+{
+    const std::pair<const char*, double> rates[] = {{"/h", 3600.0}, {"/min", 60.0}, {"/s", 1.0}};
+    for (const auto& [ending, seconds] : rates) {
+        if (unit.endsWith(ending)) {
+            const QString whole = unit.chopped(static_cast<qsizetype>(qstrlen(ending)));
+            const QString text = numberText(valueSeconds / seconds);
+            return whole == "1" ? text : text + " " + whole; // what is counted has no unit
+        }
+    }
+    return numberText(valueSeconds) + (unit.isEmpty() ? " s" : " " + unit + "\u00B7s");
+}
+
+void MeasureModel::setCurves(std::vector<MeasuredCurve> curves, const TimeRange& range)
+{
+    const bool isSameSize = curves.size() == mCurves.size();
+    if (!isSameSize) {
+        beginResetModel();
+    }
+    mCurves = std::move(curves);
+    mRange = range;
+    if (!isSameSize) {
+        endResetModel();
+    } else if (!mCurves.empty()) {
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    }
+}
+
+std::optional<double> MeasureModel::timeOf(const QModelIndex& index) const
+{
+    const Statistics& found = mCurves[static_cast<std::size_t>(index.row())].statistics;
+    const int column = index.column();
+    const bool isMin = column == MinColumn || column == MinTimeColumn;
+    const bool isMax = column == MaxColumn || column == MaxTimeColumn;
+    const auto& moment = isMin ? found.min : found.max;
+    return (isMin || isMax) && moment ? std::optional(moment->time) : std::nullopt;
+}
+
+int MeasureModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(mCurves.size());
+}
+
+int MeasureModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(ColumnCount);
+}
+
+std::optional<double> MeasureModel::number(const MeasuredCurve& curve, int column) const
+{
+    const Statistics& found = curve.statistics;
+    const auto valueOf = [](const auto& moment) {
+        return moment ? std::optional(moment->value) : std::nullopt;
+    };
+    const auto timeOf = [](const auto& moment) {
+        return moment ? std::optional(moment->time) : std::nullopt;
+    };
+    const auto difference =
+        curve.atA && curve.atB ? std::optional(*curve.atB - *curve.atA) : std::optional<double>();
+    switch (column) {
+    case AColumn:
+        return curve.atA;
+    case BColumn:
+        return curve.atB;
+    case DifferenceColumn:
+        return difference;
+    case RateColumn:
+        return difference && mRange.hasExtent()
+                   ? std::optional(*difference / (mRange.stop - mRange.start))
+                   : std::nullopt;
+    case MinColumn:
+        return valueOf(found.min);
+    case MinTimeColumn:
+        return timeOf(found.min);
+    case MaxColumn:
+        return valueOf(found.max);
+    case MaxTimeColumn:
+        return timeOf(found.max);
+    case MeanColumn:
+        return found.mean;
+    case TimeMeanColumn:
+        return found.timeMean;
+    case DeviationColumn:
+        return found.stddev;
+    case IntegralColumn:
+        return found.integral;
+    case SamplesColumn:
+        return static_cast<double>(found.samples);
+    case GapsColumn:
+        return static_cast<double>(found.gaps);
+    case AboveColumn:
+        return found.above.empty() ? std::nullopt : std::optional(found.above.back().seconds);
+    default:
+        return {};
+    }
+}
+
+QString MeasureModel::text(const MeasuredCurve& curve, int column) const
+{
+    const auto found = number(curve, column);
+    if (column == NameColumn) {
+        return curve.parameter->title();
+    }
+    if (!found) {
+        return column == AboveColumn ? QString() : "---";
+    }
+    switch (column) {
+    case MinTimeColumn:
+    case MaxTimeColumn:
+        return clockTime(millisecondsOf(*found)).toString("hh:mm:ss.zzz");
+    case IntegralColumn:
+        return integralText(*found, curve.parameter->unit);
+    case SamplesColumn:
+    case GapsColumn:
+        return countText(static_cast<qint64>(*found));
+    case AboveColumn: {
+        QStringList all;
+        for (const Statistics::Above& above : curve.statistics.above) {
+            all += aboveText(above);
+        }
+        return all.join("  ");
+    }
+    default:
+        return numberText(*found);
+    }
+}
+
+QString MeasureModel::toolTip(const MeasuredCurve& curve, int column) const
+{
+    constexpr int AllDigits = 17;
+    const auto found = number(curve, column);
+    switch (column) {
+    case NameColumn:
+        return curve.parameter->fullName;
+    case SamplesColumn:
+        return tr("Of them without a number: %1")
+            .arg(countText(static_cast<qint64>(curve.statistics.invalid)));
+    case GapsColumn:
+        return curve.statistics.gapLimit ? tr("Steps of more than %1 s, together %2 s")
+                                               .arg(numberText(*curve.statistics.gapLimit),
+                                                    numberText(curve.statistics.gapSeconds))
+                                         : tr("Sent only when something changes");
+    case AboveColumn:
+        return text(curve, column).replace("  ", "\n");
+    case MinColumn:
+    case MaxColumn:
+    case MinTimeColumn:
+    case MaxTimeColumn:
+        return found ? tr("Click to go there") : QString();
+    default:
+        return found ? numberText(*found, AllDigits) : QString();
+    }
+}
+
+QVariant MeasureModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid()) {
+        return {};
+    }
+    const MeasuredCurve& curve = mCurves[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(curve, index.column());
+    case Qt::ToolTipRole:
+        return toolTip(curve, index.column());
+    case Qt::UserRole: {
+        const auto found = number(curve, index.column());
+        return index.column() == NameColumn ? QVariant(index.row())
+               : found                      ? QVariant(*found)
+                                            : QVariant();
+    }
+    case Qt::DecorationRole:
+        return index.column() == NameColumn ? QVariant(curve.color) : QVariant();
+    case Qt::TextAlignmentRole:
+        return index.column() == NameColumn ? QVariant()
+                                            : QVariant(int(Qt::AlignRight | Qt::AlignVCenter));
+    default:
+        return {};
+    }
+}
+
+QVariant MeasureModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount ||
+        (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
+        return {};
+    }
+    const std::pair<QString, QString> titles[] = {
+        {tr("Parameter"), tr("Curves of the graph, in their order")},
+        {"A", tr("Value at A")},
+        {"B", tr("Value at B")},
+        {"B \u2212 A", tr("Difference of the values at A and B")},
+        {tr("per s"), tr("Difference a second from A to B")},
+        {tr("Min"), tr("Smallest value from A to B")},
+        {tr("Min at"), tr("When it stands first, recording clock")},
+        {tr("Max"), tr("Greatest value from A to B")},
+        {tr("Max at"), tr("When it stands first, recording clock")},
+        {tr("Mean"), tr("Mean of the values from A to B")},
+        {tr("Time mean"), tr("Mean of the values, each weighed with the time that it holds")},
+        {tr("Std. dev."), tr("Standard deviation of the values from A to B")},
+        {tr("Integral"), tr("Area below the curve from A to B: of litres an hour the litres")},
+        {tr("Samples"), tr("Samples from A to B")},
+        {tr("Gaps"), tr("Stretches from A to B in which the parameter was not heard")},
+        {tr("Above thresholds"),
+         tr("For each threshold the seconds that the value was not below")}};
+    const auto& [title, help] = titles[section];
+    return role == Qt::DisplayRole ? title : help;
+}
+
+} // namespace TARN

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "flight/Statistics.h"
+
+#include <QtCore/QAbstractTableModel>
+
+namespace TARN {
+
+/// What is measured of one curve.
+struct MeasuredCurve
+{
+    const ProfileParameter* parameter;
+    QColor color;
+    std::optional<double> atA; ///< nothing where it has no value
+    std::optional<double> atB;
+    Statistics statistics; ///< from A to B
+};
+
+/// The table of the measuring panel: a row for each curve, its values at two moments A and B and
+/// the statistics from A to B. Numbers have six digits, their tool tips all. Qt::UserRole gives
+/// what a column is sorted by.
+class MeasureModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column
+    {
+        NameColumn,
+        AColumn,
+        BColumn,
+        DifferenceColumn, ///< B - A
+        RateColumn,       ///< the difference a second
+        MinColumn,
+        MinTimeColumn,
+        MaxColumn,
+        MaxTimeColumn,
+        MeanColumn,
+        TimeMeanColumn,
+        DeviationColumn,
+        IntegralColumn,
+        SamplesColumn,
+        GapsColumn,
+        AboveColumn, ///< seconds not below each threshold
+        ColumnCount
+    };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// \p range from A to B.
+    void setCurves(std::vector<MeasuredCurve> curves, const TimeRange& range);
+
+    /// The moment that a cell tells of, seconds: that of an extreme.
+    std::optional<double> timeOf(const QModelIndex& index) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    std::optional<double> number(const MeasuredCurve& curve, int column) const;
+    QString text(const MeasuredCurve& curve, int column) const;
+    QString toolTip(const MeasuredCurve& curve, int column) const;
+
+    std::vector<MeasuredCurve> mCurves;
+    TimeRange mRange;
+};
+
+/// An integral in the unit that people ask for: of "l/h" in "l", of "m/min" in "m", of "1/min"
+/// as a count; of others in the unit times seconds. \p valueSeconds as Statistics::integral.
+QString integralText(double valueSeconds, const QString& unit);
+
+} // namespace TARN

@@ -1,0 +1,243 @@
+#include "graph/MeasurePanel.h"
+
+#include "base/ClockTime.h"
+#include "base/Property.h"
+#include "flight/TimeScale.h"
+#include "graph/MeasureModel.h"
+#include "graph/WidgetGraph.h"
+#include "widgets/ClockEdit.h"
+
+#include <QtCore/QSortFilterProxyModel>
+#include <QtGui/QAction>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QTableView>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+
+namespace TARN {
+
+namespace {
+
+constexpr const char* HiddenKey = "MeasureHidden"; ///< columns, as bits
+
+} // namespace
+
+MeasurePanel::MeasurePanel(Session& session, WidgetGraph& graph, QWidget* parent)
+    : QWidget(parent), mSession(session), mGraph(graph), mModel(new MeasureModel(this)),
+      mSorted(new QSortFilterProxyModel(this)), mTable(createTable()),
+      mStart(createTime(MarkerEnd::A, tr("Time of A, recording clock"))),
+      mStop(createTime(MarkerEnd::B, tr("Time of B, recording clock"))), mSpan(new QLabel)
+{
+    constexpr int Delay = 100; // ms
+    setObjectName("measuringPanel");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addWidget(createTimes());
+    layout->addWidget(mTable);
+    mTimer.setSingleShot(true);
+    mTimer.setInterval(Delay);
+    connect(&mTimer, &QTimer::timeout, this, &MeasurePanel::load);
+    connect(&mSession, &Session::profileChanged, this, &MeasurePanel::reload);
+    connect(&mSession, &Session::flightChanged, this, &MeasurePanel::reload);
+    connect(&mSession, &Session::selectionChanged, this, &MeasurePanel::reload);
+    connect(&mSession, &Session::offsetChanged, this, &MeasurePanel::reload);
+    connect(&mSession, &Session::marksChanged, this, &MeasurePanel::measure);
+    reload();
+}
+
+QWidget* MeasurePanel::createTimes()
+{
+    auto* bar = new QWidget;
+    auto* layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (const auto& [name, field] : {std::pair("A", mStart), std::pair("B", mStop)}) {
+        auto* label = new QLabel(name);
+        label->setBuddy(field);
+        layout->addWidget(label);
+        layout->addWidget(field);
+    }
+    layout->addWidget(mSpan, 1);
+    auto* close = new QToolButton;
+    close->setAutoRaise(true);
+    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    close->setToolTip(tr("Close the measuring panel"));
+    close->setAccessibleName(close->toolTip());
+    connect(close, &QToolButton::clicked, this, &MeasurePanel::closed);
+    layout->addWidget(close);
+    return bar;
+}
+
+ClockEdit* MeasurePanel::createTime(MarkerEnd end, const QString& name)
+{
+    auto* field = new ClockEdit("hh:mm:ss.zzz");
+    field->setToolTip(name);
+    field->setAccessibleName(name);
+    field->setKeyboardTracking(false);
+    connect(field, &QTimeEdit::timeChanged, this, [this, end](QTime time) {
+        TimeRange range = mSession.range();
+        const double typed =
+            timeInRange(time.msecsSinceStartOfDay() * 0.001,
+                        mSession.flight()->range(mSession.offset()), endOf(range, end));
+        range = withEnd(mSession.marks(), mSession.range(), end, typed);
+        mGraph.model().setMarker(range.start, range.stop);
+    });
+    return field;
+}
+
+QTableView* MeasurePanel::createTable()
+{
+    mSorted->setSourceModel(mModel);
+    mSorted->setSortRole(Qt::UserRole);
+    auto* table = new QTableView;
+    table->setObjectName("measures");
+    table->setAccessibleName(tr("What is measured of the curves"));
+    table->setModel(mSorted);
+    table->setSortingEnabled(true);
+    table->sortByColumn(MeasureModel::NameColumn, Qt::AscendingOrder);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setWordWrap(false);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 4);
+    table->horizontalHeader()->setHighlightSections(false);
+    connect(table, &QTableView::clicked, this, &MeasurePanel::goTo);
+    connect(table, &QTableView::activated, this, &MeasurePanel::goTo);
+    auto* copying = new QAction(tr("Copy with Headers"), table);
+    copying->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Insert)});
+    copying->setShortcutContext(Qt::WidgetShortcut);
+    connect(copying, &QAction::triggered, this, &MeasurePanel::copy);
+    table->addAction(copying);
+    table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    const int hidden = Property::instance()->getInt(HiddenKey, 0);
+    QHeaderView* header = table->horizontalHeader();
+    for (int column = 1; column < MeasureModel::ColumnCount; ++column) {
+        table->setColumnHidden(column, (hidden >> column & 1) != 0);
+        auto* action = new QAction(
+            mModel->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), header);
+        action->setCheckable(true);
+        action->setChecked(!table->isColumnHidden(column));
+        connect(action, &QAction::toggled, table, [table, column](bool isShown) {
+            table->setColumnHidden(column, !isShown);
+            const int before = Property::instance()->getInt(HiddenKey, 0);
+            const int bit = 1 << column;
+            Property::instance()->setInt(HiddenKey, isShown ? before & ~bit : before | bit);
+        });
+        header->addAction(action);
+    }
+    header->setContextMenuPolicy(Qt::ActionsContextMenu);
+    return table;
+}
+
+void MeasurePanel::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (mIsStale) {
+        mTimer.start();
+    }
+}
+
+/// What was measured belongs to other curves.
+void MeasurePanel::reload()
+{
+    mJob.cancel();
+    mIsStale = true;
+    mIndexes.clear();
+    measure();
+    if (isVisible()) {
+        mTimer.start();
+    }
+}
+
+void MeasurePanel::load()
+{
+    mIsStale = false;
+    if (mSession.flight() == nullptr) {
+        return;
+    }
+    auto parameters = mSession.selection().parameters(*mSession.profile());
+    parameters.resize(std::min<std::size_t>(parameters.size(), CurveSet::MaxCurves));
+    mJob.start(
+        [flight = mSession.flight(), parameters, offset = mSession.offset()](Progress& progress) {
+            Indexes made;
+            for (const ProfileParameter* parameter : parameters) {
+                made.push_back(
+                    std::make_shared<StatisticsIndex>(flight, *parameter, offset, progress));
+            }
+            return made;
+        },
+        [this](Indexes made) {
+            mIndexes = std::move(made);
+            mTable->resizeColumnsToContents();
+            measure();
+        });
+}
+
+void MeasurePanel::measure()
+{
+    const bool isEmpty = mSession.flight() == nullptr;
+    const TimeRange range = isEmpty ? TimeRange() : mSession.range();
+    for (const auto& [field, time] :
+         {std::pair(mStart, range.start), std::pair(mStop, range.stop)}) {
+        const QSignalBlocker quiet(field);
+        field->setTime(clockTime(millisecondsOf(time)));
+        field->setEnabled(!isEmpty);
+    }
+    mSpan->setText(isEmpty ? QString()
+                   : mSession.marks().hasExtent()
+                       ? tr("B \u2212 A: %1 s").arg(range.stop - range.start, 0, 'f', 3)
+                       : tr("Nothing is marked: the whole flight"));
+    std::vector<MeasuredCurve> curves;
+    for (unsigned k = 0; k < mIndexes.size(); ++k) {
+        const auto valueAt = [&](double time) {
+            double value = 0.0;
+            const ParStruct* curve = mGraph.model().curves().curve(k);
+            return curve->samples().valueAt(time, value) ? std::optional(value) : std::nullopt;
+        };
+        curves.push_back({&mIndexes[k]->parameter(),
+                          mGraph.model().curves().curve(k)->color.toColor(), valueAt(range.start),
+                          valueAt(range.stop), mIndexes[k]->range(range)});
+    }
+    mModel->setCurves(std::move(curves), range);
+    for (int column = 0; column < MeasureModel::ColumnCount; ++column) {
+        const int before = mTable->columnWidth(column);
+        mTable->resizeColumnToContents(column);
+        if (mTable->columnWidth(column) < before) {
+            mTable->setColumnWidth(column, before); // nothing jumps while an end is dragged
+        }
+    }
+}
+
+void MeasurePanel::goTo(const QModelIndex& index)
+{
+    if (const auto time = mModel->timeOf(mSorted->mapToSource(index))) {
+        mSession.setTime(*time);
+    }
+}
+
+/// The rows that are picked, all of them when none is, as a spreadsheet takes them.
+void MeasurePanel::copy() const
+{
+    QStringList lines;
+    const QItemSelectionModel* picked = mTable->selectionModel();
+    for (int row = -1; row < mSorted->rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < MeasureModel::ColumnCount; ++column) {
+            if (!mTable->isColumnHidden(column)) {
+                cells += row < 0 ? mSorted->headerData(column, Qt::Horizontal).toString()
+                                 : mSorted->index(row, column).data().toString();
+            }
+        }
+        if (row < 0 || !picked->hasSelection() || picked->isRowSelected(row)) {
+            lines += cells.join('\t');
+        }
+    }
+    QGuiApplication::clipboard()->setText(lines.join('\n') + "\n");
+}
+
+} // namespace TARN

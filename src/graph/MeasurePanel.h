@@ -1,0 +1,64 @@
+#pragma once
+
+#include "flight/Job.h"
+#include "flight/Session.h"
+#include "flight/Statistics.h"
+#include "graph/MarkerEnds.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QWidget>
+
+class QLabel;
+class QSortFilterProxyModel;
+class QTableView;
+class WidgetGraph;
+
+namespace TARN {
+
+class ClockEdit;
+class MeasureModel;
+
+/// Below the graph: what is measured of each of its curves between the ends A and B of the marked
+/// range, or over the whole flight where nothing is marked.
+class MeasurePanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// \p graph lives as long.
+    MeasurePanel(Session& session, WidgetGraph& graph, QWidget* parent = nullptr);
+
+Q_SIGNALS:
+    /// The user does not want to see it.
+    void closed();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QWidget* createTimes();
+    QTableView* createTable();
+    ClockEdit* createTime(MarkerEnd end, const QString& name);
+    void reload();
+    void load();
+    void measure();
+    void goTo(const QModelIndex& index);
+    void copy() const;
+
+    using Indexes = std::vector<std::shared_ptr<const StatisticsIndex>>;
+
+    Session& mSession;
+    WidgetGraph& mGraph;
+    MeasureModel* mModel;
+    QSortFilterProxyModel* mSorted;
+    QTableView* mTable;
+    ClockEdit* mStart;
+    ClockEdit* mStop;
+    QLabel* mSpan;
+    QTimer mTimer; ///< until curves that are seen have been decoded
+    Job<Indexes> mJob;
+    Indexes mIndexes;
+    bool mIsStale = true; ///< another selection, flight or offset
+};
+
+} // namespace TARN
