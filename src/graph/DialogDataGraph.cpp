@@ -1,10 +1,9 @@
 #include "graph/DialogDataGraph.h"
 
 #include "base/OutputFile.h"
-#include "base/Property.h"
 #include "graph/DialogGraphSetup.h"
 #include "graph/GraphButtons.h"
-#include "graph/MeasurePanel.h"
+#include "graph/GraphPanes.h"
 #include "graph/SessionGraph.h"
 #include "graph/WidgetGraph.h"
 
@@ -14,7 +13,6 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMessageBox>
-#include <QtWidgets/QSplitter>
 
 #include <algorithm>
 
@@ -50,7 +48,10 @@ QWidget* DialogDataGraph::createPlot()
     layout->setContentsMargins(0, 0, 0, 0);
     if (WidgetGraph::canDraw()) {
         createGraph();
-        layout->addWidget(createPanes(), 1);
+        mPanes = new GraphPanes(mSession, *mGraph);
+        connect(mPanes, &GraphPanes::measuringChanged, mButtons, &GraphButtons::showMeasuring);
+        mButtons->showMeasuring(mPanes->isMeasuring());
+        layout->addWidget(mPanes, 1);
         setFocusProxy(mGraph);
     } else {
         auto* message = new QLabel(tr("The graph cannot be drawn: this display offers no OpenGL.\n"
@@ -67,37 +68,6 @@ QWidget* DialogDataGraph::createPlot()
     mNote->setVisible(false);
     layout->addWidget(mNote);
     return plot;
-}
-
-/// The graph above what is measured of it.
-QWidget* DialogDataGraph::createPanes()
-{
-    constexpr QSize First(700, 190); // heights
-    Property* settings = Property::instance();
-    auto* panes = new QSplitter(Qt::Vertical);
-    mMeasuring = new MeasurePanel(mSession, *mGraph);
-    panes->addWidget(mGraph);
-    panes->addWidget(mMeasuring);
-    panes->setStretchFactor(0, 1);
-    panes->setCollapsible(0, false);
-    panes->setCollapsible(1, false);
-    panes->setSizes({First.width(), settings->getInt("MeasureHeight", First.height())});
-    connect(panes, &QSplitter::splitterMoved, this,
-            [=] { settings->setInt("MeasureHeight", panes->sizes()[1]); });
-    connect(mMeasuring, &MeasurePanel::closed, this, [this] { showMeasuring(false); });
-    showMeasuring(settings->getSwitch("MeasurePanel", true));
-    return panes;
-}
-
-void DialogDataGraph::showMeasuring(bool isOn)
-{
-    mMeasuring->setVisible(isOn);
-    mButtons->showMeasuring(isOn);
-    Property* settings = Property::instance();
-    if (settings->getSwitch("MeasurePanel", true) != isOn) {
-        settings->setSwitch("MeasurePanel", isOn);
-        settings->writeXmlFile();
-    }
 }
 
 void DialogDataGraph::createGraph()
@@ -168,7 +138,7 @@ void DialogDataGraph::runCommand(int command)
         openSetup();
         break;
     case GraphButtons::Measure:
-        showMeasuring(mMeasuring->isHidden());
+        mPanes->toggleMeasuring();
         break;
     case GraphButtons::Snapshot:
         saveSnapshot();

@@ -13,7 +13,7 @@ namespace TARN {
 
 class DialogGraphSetup;
 class GraphButtons;
-class MeasurePanel;
+class GraphPanes;
 
 /// The "Graph" tab: the selected parameters as curves, and the buttons beside them. Where no
 /// OpenGL is to be had a message stands in the graph's place and every operation does nothing.
@@ -47,12 +47,10 @@ private Q_SLOTS:
 
 private:
     QWidget* createPlot();
-    QWidget* createPanes();
     void createGraph();
     void runCommand(int command);
     void setRange(double seconds);
     void openSetup();
-    void showMeasuring(bool isOn);
     bool saveImage(const QString& file);
 
     Session& mSession;
@@ -63,7 +61,7 @@ private:
     GraphButtons* mButtons;
     QTimer mTimer;
     WidgetGraph* mGraph = nullptr;
-    MeasurePanel* mMeasuring = nullptr;
+    GraphPanes* mPanes = nullptr;
     QLabel* mNote; ///< of what is left out
 };
 

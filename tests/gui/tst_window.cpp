@@ -473,8 +473,17 @@ private Q_SLOTS:
         table->setFocus();
         QTest::keyClick(table, Qt::Key_Insert, Qt::ControlModifier);
         QVERIFY(QGuiApplication::clipboard()->text().startsWith("Parameter\tA\tB\t"));
-        panel->findChild<QToolButton*>()->click();
+        session().setTicks(Selection::all(*session().profile())); // as many strips come first
+        session().confirm();
         QVERIFY(panel->isHidden());
+        const auto buttons = window().findChildren<QToolButton*>();
+        QToolButton* toggle =
+            *std::ranges::find(buttons, "Measuring Panel", &QToolButton::accessibleName);
+        QVERIFY(!toggle->isChecked());
+        QTest::mouseClick(toggle, Qt::LeftButton);
+        QVERIFY(panel->isVisible() && toggle->isChecked());
+        panel->findChild<QToolButton*>()->click();
+        QVERIFY(panel->isHidden() && !toggle->isChecked());
         start();
         QVERIFY(find<QWidget>("measuringPanel")->isHidden()); // remembered
     }
