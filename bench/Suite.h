@@ -70,6 +70,7 @@ int measure(const Options& options, std::initializer_list<void (*)(Suite&)> grou
 // The figures, one source for each subject.
 void loadFigures(Suite& suite);
 void decodeFigures(Suite& suite);
+void statisticsFigures(Suite& suite);
 void tableFigures(Suite& suite);
 void graphFigures(Suite& suite);
 void exportFigures(Suite& suite);

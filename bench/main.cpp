@@ -11,5 +11,6 @@ int main(int argc, char** argv)
     }
     qputenv("QT_QPA_PLATFORM", QByteArray("offscreen")); // rivals with windows need no display
     return Bench::measure(options, {Bench::loadFigures, Bench::decodeFigures, Bench::tableFigures,
-                                    Bench::graphFigures, Bench::exportFigures, Bench::peerFigures});
+                                    Bench::graphFigures, Bench::statisticsFigures,
+                                    Bench::exportFigures, Bench::peerFigures});
 }

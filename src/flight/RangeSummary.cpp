@@ -1,6 +1,7 @@
 #include "flight/RangeSummary.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace TARN {
@@ -103,9 +104,12 @@ void addSteps(std::span<const double> times, std::span<const double> values,
     for (const double threshold : rule.thresholds) {
         double seconds = all.min >= threshold ? all.held : 0.0;
         if (all.min < threshold && all.max >= threshold) {
-            for (std::size_t k = 0; k + 1 < times.size(); ++k) {
-                seconds += values[k] >= threshold ? times[k + 1] - times[k] : 0.0;
-            }
+            std::array<double, Lanes> held{};
+            inLanes(times.size() - 1, [&](std::size_t lane, std::size_t k) {
+                const double step = times[k + 1] - times[k];
+                held[lane] += values[k] >= threshold ? step : 0.0;
+            });
+            seconds = (held[0] + held[1]) + (held[2] + held[3]);
         }
         all.above.push_back(seconds);
     }
@@ -182,16 +186,13 @@ void RangeSummary::append(const RangeSummary& next, const SummaryRule& rule)
     }
 }
 
-RangeSummary summaryOf(std::span<const double> times, std::span<const double> values,
-                       const SummaryRule& rule)
+std::optional<RangeSummary> plainSummaryOf(std::span<const double> times,
+                                           std::span<const double> values, const SummaryRule& rule)
 {
-    RangeSummary all;
     if (times.empty() || !isPlain(times, values, rule.gaps)) {
-        for (std::size_t k = 0; k < times.size(); ++k) {
-            all.append(summaryOfOne(times[k], values[k], rule), rule);
-        }
-        return all;
+        return std::nullopt;
     }
+    RangeSummary all;
     all.samples = times.size();
     all.frontTime = times.front();
     all.frontValue = all.first = values.front();
@@ -199,6 +200,19 @@ RangeSummary summaryOf(std::span<const double> times, std::span<const double> va
     all.backValue = all.last = values.back();
     addExtremes(times, values, all);
     addSteps(times, values, rule, all);
+    return all;
+}
+
+RangeSummary summaryOf(std::span<const double> times, std::span<const double> values,
+                       const SummaryRule& rule)
+{
+    if (auto plain = plainSummaryOf(times, values, rule)) {
+        return *plain;
+    }
+    RangeSummary all;
+    for (std::size_t k = 0; k < times.size(); ++k) {
+        all.append(summaryOfOne(times[k], values[k], rule), rule);
+    }
     return all;
 }
 

@@ -32,51 +32,71 @@ StatisticsIndex::StatisticsIndex(std::shared_ptr<const Flight> flight,
             mRule.thresholds.push_back(threshold.val * parameter.factor + parameter.offset);
         }
     }
-    mRule.gaps = mSeries.gapRule([&] { return mFlight->silences(offset); });
     mSeries.isInOrder(); // is found out now: many threads may ask later
-    build(progress);
+    build(offset, progress);
 }
 
-void StatisticsIndex::build(Progress& progress)
+/// Where gaps are is known at the end only; what has none by the shortest limit has none by any.
+void StatisticsIndex::build(double offset, Progress& progress)
 {
     const std::size_t blocks = mSeries.size() / Block;
-    mLevels[0].reserve(blocks);
-    mLevels[1].reserve(blocks / FanOut);
-    for (std::size_t block = 0; block < blocks; ++block) {
+    mLevels[0].resize(blocks);
+    mRule.gaps = QuickRhythm::rule();
+    QuickRhythm rhythm;
+    std::vector<std::size_t> left;
+    Decoded samples;
+    for (std::size_t block = 0; block <= blocks; ++block) {
         if (block % FanOut == 0) {
-            progress.report(block, blocks);
+            progress.report(block, blocks + 1);
         }
         if (progress.stopRequested()) {
             return;
         }
-        mLevels[0].push_back(scan(block * Block, (block + 1) * Block));
-        if (mLevels[0].size() % FanOut == 0) {
-            RangeSummary& above = mLevels[1].emplace_back();
-            for (std::size_t k = mLevels[0].size() - FanOut; k < mLevels[0].size(); ++k) {
-                above.append(mLevels[0][k], mRule);
-            }
+        decode(block * Block, std::min((block + 1) * Block, mSeries.size()), samples);
+        rhythm.add(samples.allTimes());
+        if (block == blocks) {
+            break; // the samples after the last whole block
         }
+        auto plain = plainSummaryOf(samples.allTimes(), samples.allValues(), mRule);
+        if (plain) {
+            mLevels[0][block] = std::move(*plain);
+        } else {
+            left.push_back(block);
+        }
+    }
+    if (!rhythm.isProven()) {
+        mRule.gaps = mSeries.gapRule([&] { return mFlight->silences(offset); });
+    }
+    for (const std::size_t block : left) {
+        mLevels[0][block] = scan(block * Block, (block + 1) * Block);
+    }
+    mLevels[1].resize(blocks / FanOut);
+    for (std::size_t block = 0; block < blocks / FanOut * FanOut; ++block) {
+        mLevels[1][block / FanOut].append(mLevels[0][block], mRule);
     }
     mSize = mSeries.size();
 }
 
-/// Of fewer samples than make two blocks.
+void StatisticsIndex::decode(std::size_t begin, std::size_t end, Decoded& samples) const
+{
+    samples.count = end - begin;
+    if (mSeries.isInOrder()) {
+        const auto entries = mSeries.entries().subspan(begin, samples.count);
+        mSeries.timesOf(entries, samples.times.data());
+        mSeries.decoder().toDoubles(entries, true, samples.values.data());
+        return;
+    }
+    for (std::size_t k = 0; k < samples.count; ++k) {
+        samples.times[k] = mSeries.time(begin + k);
+        samples.values[k] = mSeries.value(begin + k);
+    }
+}
+
 RangeSummary StatisticsIndex::scan(std::size_t begin, std::size_t end) const
 {
-    std::array<double, 2 * Block> times;
-    std::array<double, 2 * Block> values;
-    const std::size_t count = end - begin;
-    if (mSeries.isInOrder()) {
-        const auto entries = mSeries.entries().subspan(begin, count);
-        mSeries.timesOf(entries, times.data());
-        mSeries.decoder().toDoubles(entries, true, values.data());
-    } else {
-        for (std::size_t k = 0; k < count; ++k) {
-            times[k] = mSeries.time(begin + k);
-            values[k] = mSeries.value(begin + k);
-        }
-    }
-    return summaryOf(std::span(times).first(count), std::span(values).first(count), mRule);
+    Decoded samples;
+    decode(begin, end, samples);
+    return summaryOf(samples.allTimes(), samples.allValues(), mRule);
 }
 
 RangeSummary StatisticsIndex::summary(std::size_t begin, std::size_t end) const

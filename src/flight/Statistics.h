@@ -49,7 +49,7 @@ struct Statistics
 class StatisticsIndex
 {
 public:
-    /// Takes walks over all samples; ends early, and knows of none, when it is asked to stop.
+    /// Takes a walk over all samples; ends early, and knows of none, when it is asked to stop.
     StatisticsIndex(std::shared_ptr<const Flight> flight, const ProfileParameter& parameter,
                     double offset, Progress& progress);
 
@@ -62,7 +62,19 @@ private:
     static constexpr std::size_t Block = 256;
     static constexpr std::size_t FanOut = 64;
 
-    void build(Progress& progress);
+    /// Samples decoded at once, fewer than make two blocks.
+    struct Decoded
+    {
+        std::array<double, 2 * Block> times;
+        std::array<double, 2 * Block> values;
+        std::size_t count;
+
+        std::span<const double> allTimes() const { return std::span(times).first(count); }
+        std::span<const double> allValues() const { return std::span(values).first(count); }
+    };
+
+    void build(double offset, Progress& progress);
+    void decode(std::size_t begin, std::size_t end, Decoded& samples) const;
     RangeSummary scan(std::size_t begin, std::size_t end) const;
     RangeSummary summary(std::size_t begin, std::size_t end) const;
     Statistics statistics(const RangeSummary& summary) const;

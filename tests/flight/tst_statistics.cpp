@@ -121,7 +121,7 @@ private Q_SLOTS:
                 stop.request_stop();
                 Progress stopped({}, stop.get_token());
                 const StatisticsIndex none(flight, parameter, 0.0, stopped);
-                QCOMPARE(none.range({-1e9, 1e9}).samples, size < 256 ? size : 0U);
+                QCOMPARE(none.range({-1e9, 1e9}).samples, 0U);
                 std::vector<Sample> whole;
                 for (std::size_t k = 0; k < series.size(); ++k) {
                     whole.push_back({series.time(k), series.value(k)});
