@@ -72,7 +72,8 @@ void GraphPanes::fit()
 {
     const int wanted = Property::instance()->getInt(HeightKey, FirstHeight);
     const int room = height() - handleWidth() - heightOfStrips();
-    const bool isShown = mIsWanted && (mIsForced || room >= LeastHeight);
+    const bool isShown =
+        mIsWanted && !mSession.selection().empty() && (mIsForced || room >= LeastHeight);
     if (isShown == mPanel->isHidden()) {
         mPanel->setVisible(isShown);
     }

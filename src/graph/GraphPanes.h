@@ -10,9 +10,9 @@ namespace TARN {
 
 class MeasurePanel;
 
-/// The graph above the measuring panel. Where both have no room the panel gives way, so that the
-/// strips of the graph can be read; asked for, it is shown all the same. Wish and height are kept
-/// in the settings.
+/// The graph above the measuring panel, which is there where something is selected. Where both
+/// have no room the panel gives way, so that the strips of the graph can be read; asked for, it is
+/// shown all the same. Wish and height are kept in the settings.
 class GraphPanes : public QSplitter
 {
     Q_OBJECT
