@@ -7,7 +7,7 @@ namespace TARN {
 
 namespace {
 
-Json jsonOf(const std::vector<FaultPoint>& points)
+Json listOf(const std::vector<FaultPoint>& points)
 {
     Json list = Json::array();
     for (const FaultPoint& point : points) {
@@ -16,7 +16,7 @@ Json jsonOf(const std::vector<FaultPoint>& points)
     return list;
 }
 
-Json jsonOf(std::uint32_t word)
+Json bitsOf(std::uint32_t word)
 {
     Json bits = Json::array();
     for (int bit = 0; bit < 32; ++bit) {
@@ -36,10 +36,10 @@ void runFaults(const FaultsArguments& arguments, std::ostream& out)
     for (const FaultHistory& history : flight->faults()) {
         const Json line = {{"id", history.matrix().id},
                            {"name", history.matrix().name.toStdString()},
-                           {"info", jsonOf(history.points(ErrorInfo))},
-                           {"warning", jsonOf(history.points(ErrorWarning))},
-                           {"fault", jsonOf(history.points(ErrorFault))},
-                           {"bits", jsonOf(history.bitsAt(time))}};
+                           {"info", listOf(history.points(ErrorInfo))},
+                           {"warning", listOf(history.points(ErrorWarning))},
+                           {"fault", listOf(history.points(ErrorFault))},
+                           {"bits", bitsOf(history.bitsAt(time))}};
         out << line.dump() << '\n';
     }
 }

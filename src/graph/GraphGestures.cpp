@@ -161,7 +161,8 @@ void GraphGestures::press(const QMouseEvent& event)
     case Qt::LeftButton:
         mHeld = endAt(event.position());
         if (event.modifiers().testFlag(Qt::ShiftModifier)) {
-            moveNearerMarker(time);
+            const TimeRange marks = withNearerEnd(mModel.markers(), time);
+            mModel.setMarker(marks.start, marks.stop);
         } else if (!mHeld) {
             mModel.setMarker(time, time);
         }
@@ -190,13 +191,13 @@ void GraphGestures::move(const QMouseEvent& event)
 {
     if (event.buttons().testFlag(Qt::LeftButton)) {
         const double time = timeAt(event.position());
+        TimeRange marks = mModel.markers();
         if (mHeld) {
-            TimeRange marks = mModel.markers();
             endOf(marks, *mHeld) = time;
-            mModel.setMarker(marks.start, marks.stop);
         } else {
-            moveNearerMarker(time);
+            marks = withNearerEnd(marks, time);
         }
+        mModel.setMarker(marks.start, marks.stop);
         reportMarkers();
         reportMarkers(); // once more, when it is drawn
     }
@@ -215,17 +216,6 @@ void GraphGestures::release(const QMouseEvent& event)
         mModel.setMarker(marks.stop, marks.start);
     } else if (event.button() == Qt::MiddleButton) {
         hideKeyCursor();
-    }
-}
-
-void GraphGestures::moveNearerMarker(double time)
-{
-    const TimeRange marks = mModel.markers();
-    const double middle = (marks.start + marks.stop) / 2.0;
-    if (time >= middle) {
-        mModel.setMarker(marks.start, time);
-    } else {
-        mModel.setMarker(time, marks.stop);
     }
 }
 

@@ -58,7 +58,6 @@ private:
     void takeValueAt(double y);
     void reportCursor();
     void setCursorFrom(QPointF position);
-    void moveNearerMarker(double time);
     void reportMarkers();
     void pan(double x);
     double timeAt(QPointF position) const;

@@ -32,6 +32,14 @@ inline TimeRange withEnd(const TimeRange& marks, const TimeRange& whole, MarkerE
     return range;
 }
 
+/// The marked range with the end elsewhere that a time is nearer to; in the middle the later one.
+inline TimeRange withNearerEnd(TimeRange marks, double time)
+{
+    const bool isLate = time >= (marks.start + marks.stop) / 2.0;
+    endOf(marks, isLate ? MarkerEnd::B : MarkerEnd::A) = time;
+    return marks;
+}
+
 /// The end that lies within \p reach of a time; nothing when none does or nothing is marked.
 inline std::optional<MarkerEnd> endNear(const TimeRange& marks, double time, double reach)
 {
