@@ -80,12 +80,12 @@ ClockEdit* MeasurePanel::createTime(MarkerEnd end, const QString& name)
     field->setAccessibleName(name);
     field->setKeyboardTracking(false);
     connect(field, &QTimeEdit::timeChanged, this, [this, end](QTime time) {
-        TimeRange range = mSession.range();
+        const TimeRange whole = mSession.flight()->range(mSession.offset());
+        TimeRange now = mSession.range();
         const double typed =
-            timeInRange(time.msecsSinceStartOfDay() * 0.001,
-                        mSession.flight()->range(mSession.offset()), endOf(range, end));
-        range = withEnd(mSession.marks(), mSession.range(), end, typed);
-        mGraph.model().setMarker(range.start, range.stop);
+            timeInRange(time.msecsSinceStartOfDay() * 0.001, whole, endOf(now, end));
+        const TimeRange marks = withEnd(mSession.marks(), whole, end, typed);
+        mGraph.model().setMarker(marks.start, marks.stop);
     });
     return field;
 }

@@ -470,6 +470,8 @@ private Q_SLOTS:
         auto* panel = find<QWidget>("measuringPanel");
         type(panel->findChildren<QTimeEdit*>()[1], "09:41:00.500\r");
         QVERIFY(session().marks() == TimeRange(34800.0, 34860.5));
+        type(panel->findChildren<QTimeEdit*>()[0], "09:45:00.000\r"); // beyond B
+        QVERIFY(session().marks() == TimeRange(35100.0, session().flight()->range(0.0).stop));
         table->setFocus();
         QTest::keyClick(table, Qt::Key_Insert, Qt::ControlModifier);
         QVERIFY(QGuiApplication::clipboard()->text().startsWith("Parameter\tA\tB\t"));
