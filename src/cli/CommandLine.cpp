@@ -1,7 +1,12 @@
 #include "cli/CommandLine.h"
 
 #include "base/Revision.h"
-#include "cli/Commands.h"
+#include "cli/DecodeCommand.h"
+#include "cli/EventsCommand.h"
+#include "cli/ExportCommands.h"
+#include "cli/FaultsCommand.h"
+#include "cli/InfoCommand.h"
+#include "cli/StatsCommand.h"
 
 #include <CLI/CLI.hpp>
 #include <new>

@@ -1,4 +1,5 @@
-#include "cli/Commands.h"
+#include "cli/DecodeCommand.h"
+
 #include "cli/Json.h"
 
 #include <nlohmann/json.hpp>

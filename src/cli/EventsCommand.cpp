@@ -1,4 +1,6 @@
-#include "cli/Commands.h"
+#include "cli/EventsCommand.h"
+
+#include "cli/Inputs.h"
 #include "cli/Json.h"
 
 #include <ostream>

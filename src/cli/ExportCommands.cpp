@@ -1,5 +1,6 @@
+#include "cli/ExportCommands.h"
+
 #include "base/Diagnostics.h"
-#include "cli/Commands.h"
 #include "export/ExportCan.h"
 #include "export/ExportCsv.h"
 #include "export/ExportKml.h"

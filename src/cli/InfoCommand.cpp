@@ -1,4 +1,6 @@
-#include "cli/Commands.h"
+#include "cli/InfoCommand.h"
+
+#include "cli/Inputs.h"
 #include "cli/Json.h"
 #include "record/CardInfo.h"
 #include "record/RecordText.h"

@@ -2,6 +2,7 @@
 
 #include "export/Exporter.h"
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -20,6 +21,14 @@ struct SelectionArguments
     std::string project;
     std::vector<std::string> parameters; ///< "Device/Name"
     bool all = false;
+};
+
+/// Seconds on the recording's clock; what is absent is the recording's own, with its offset
+/// where exported times carry it.
+struct Range
+{
+    std::optional<double> start;
+    std::optional<double> stop;
 };
 
 // Each throws CommandFailure.

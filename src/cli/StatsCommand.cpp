@@ -1,4 +1,5 @@
-#include "cli/Commands.h"
+#include "cli/StatsCommand.h"
+
 #include "cli/Json.h"
 #include "flight/Statistics.h"
 

@@ -123,6 +123,24 @@ Statistics StatisticsIndex::range(const TimeRange& range) const
     return statistics(summary(begin, end));
 }
 
+std::optional<double> StatisticsIndex::valueAt(double time) const
+{
+    const std::size_t k = mSeries.firstNotBefore(time);
+    if (k >= mSize || (k == 0 && mSeries.time(0) != time)) {
+        return std::nullopt;
+    }
+    double value = mSeries.value(k);
+    if (mSeries.time(k) != time) {
+        const double before = mSeries.time(k - 1);
+        if (mRule.gaps.isGap(before, mSeries.time(k))) {
+            return std::nullopt;
+        }
+        const double share = (time - before) / (mSeries.time(k) - before);
+        value = mSeries.value(k - 1) + share * (value - mSeries.value(k - 1));
+    }
+    return std::isnan(value) ? std::nullopt : std::optional(value);
+}
+
 Statistics StatisticsIndex::statistics(const RangeSummary& summary) const
 {
     Statistics result;

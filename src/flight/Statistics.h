@@ -58,6 +58,10 @@ public:
     /// Of the samples from start to stop, both included.
     Statistics range(const TimeRange& range) const;
 
+    /// The value at a time: a sample's, the first of equal times, or interpolated between two.
+    /// Nothing outside of them all, inside a gap, and where there is no number.
+    std::optional<double> valueAt(double time) const;
+
 private:
     static constexpr std::size_t Block = 256;
     static constexpr std::size_t FanOut = 64;

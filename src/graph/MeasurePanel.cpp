@@ -194,14 +194,10 @@ void MeasurePanel::measure()
                        : tr("Nothing is marked: the whole flight"));
     std::vector<MeasuredCurve> curves;
     for (unsigned k = 0; k < mIndexes.size(); ++k) {
-        const auto valueAt = [&](double time) {
-            double value = 0.0;
-            const ParStruct* curve = mGraph.model().curves().curve(k);
-            return curve->samples().valueAt(time, value) ? std::optional(value) : std::nullopt;
-        };
-        curves.push_back({&mIndexes[k]->parameter(),
-                          mGraph.model().curves().curve(k)->color.toColor(), valueAt(range.start),
-                          valueAt(range.stop), mIndexes[k]->range(range)});
+        const StatisticsIndex& index = *mIndexes[k];
+        curves.push_back({&index.parameter(), mGraph.model().curves().curve(k)->color.toColor(),
+                          index.valueAt(range.start), index.valueAt(range.stop),
+                          index.range(range)});
     }
     mModel->setCurves(std::move(curves), range);
     for (int column = 0; column < MeasureModel::ColumnCount; ++column) {

@@ -24,6 +24,11 @@ private:
                      : !std::isfinite(expected);
     }
 
+    static double firstAt(const std::vector<Sample>& whole, double time)
+    {
+        return std::ranges::find(whole, time, &Sample::time)->value;
+    }
+
     /// \p whole in the order of time; \p thresholds on the scale of the values.
     static bool isRight(const Statistics& found, const std::vector<Sample>& whole,
                         const GapRule& gaps, const TimeRange& range,
@@ -125,6 +130,20 @@ private Q_SLOTS:
                 std::vector<Sample> whole;
                 for (std::size_t k = 0; k < series.size(); ++k) {
                     whole.push_back({series.time(k), series.value(k)});
+                }
+                for (int query = 0; query < 40 && !whole.empty(); ++query) {
+                    const std::size_t k = random() % whole.size();
+                    const Sample& from = whole[k];
+                    const Sample& to = whole[std::min(k + 1, whole.size() - 1)];
+                    const double middle = from.time + (to.time - from.time) / 4.0;
+                    const bool isGap = gaps.isGap(from.time, to.time);
+                    const double expected = isGap ? NAN
+                                            : from.time == to.time
+                                                ? firstAt(whole, from.time)
+                                                : from.value * 0.75 + to.value * 0.25;
+                    QVERIFY(std::isinf(expected) || isNear(index.valueAt(middle), expected));
+                    QVERIFY(!index.valueAt(whole.front().time - 1.0));
+                    QVERIFY(!index.valueAt(whole.back().time + 1.0));
                 }
                 for (int query = 0; query < 40; ++query) {
                     const auto any = [&] {

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "cli/Inputs.h"
+
+#include <iosfwd>
+
+namespace TARN {
+
+struct DecodeArguments
+{
+    std::string profile;
+    SelectionArguments selection;
+    std::vector<std::string> files;
+};
+
+/// Every sample of every selected parameter, one JSON object a line, parameters in profile
+/// order, samples in file order.
+void runDecode(const DecodeArguments& arguments, std::ostream& out);
+
+} // namespace TARN
