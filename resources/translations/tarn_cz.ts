@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="cs" sourcelanguage="en">
 <context>
+    <name>CurveMenu</name>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zobrazit</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Skrýt</translation>
+    </message>
+    <message>
+        <source>&amp;Only This</source>
+        <translation>&amp;Jen tuto</translation>
+    </message>
+    <message>
+        <source>&amp;Color...</source>
+        <translation>&amp;Barva...</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Curves</source>
+        <translation>Zobrazit &amp;všechny křivky</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Posunout &amp;nahoru</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>Posunout &amp;dolů</translation>
+    </message>
+    <message>
+        <source>Own &amp;Range...</source>
+        <translation>V&amp;lastní rozsah...</translation>
+    </message>
+    <message>
+        <source>Au&amp;tomatic Range</source>
+        <translation>Au&amp;tomatický rozsah</translation>
+    </message>
+    <message>
+        <source>Color of %1</source>
+        <translation>Barva: %1</translation>
+    </message>
+    <message>
+        <source>Range of %1</source>
+        <translation>Rozsah: %1</translation>
+    </message>
+</context>
+<context>
     <name>DialogAbout</name>
     <message>
         <source>About ORNA</source>
@@ -180,6 +227,40 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     </message>
 </context>
 <context>
+    <name>GraphCaption</name>
+    <message>
+        <source>%1 to %2 (%3 recordings)</source>
+        <translation>%1 až %2 (%3 záznamů)</translation>
+    </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock</source>
+        <translation>%1 až %2 na hodinách záznamu</translation>
+    </message>
+</context>
+<context>
+    <name>NotePlaces</name>
+    <message>
+        <source>%1 to %2, %3 s</source>
+        <translation>%1 až %2, %3 s</translation>
+    </message>
+    <message>
+        <source>%1 at its limit</source>
+        <translation>%1 na limitu</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 ve varování</translation>
+    </message>
+    <message>
+        <source>, peak %1 %2 at %3</source>
+        <translation>, vrchol %1 %2 v %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>a dalších %1</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>it is no file</source>
@@ -322,6 +403,25 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
         <translation>Datum v hlavičkách od %1 do %2, vzorky však pokrývají jen %3 s: soubory nejsou z jednoho letu</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshot</name>
+    <message>
+        <source>Save Snapshot</source>
+        <translation>Uložit snímek</translation>
+    </message>
+    <message>
+        <source>BMP File (*.bmp);;PNG File (*.png);;SVG File (*.svg);;All Files (*.*)</source>
+        <translation>Soubor BMP (*.bmp);;Soubor PNG (*.png);;Soubor SVG (*.svg);;Všechny soubory (*.*)</translation>
+    </message>
+    <message>
+        <source>The snapshot could not be saved as
+%1
+Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png, .svg or .jpg.</source>
+        <translation>Snímek nebylo možné uložit jako
+%1
+Zvolte složku, do které lze zapisovat, s dostatkem volného místa, a název končící na .bmp, .png, .svg nebo .jpg.</translation>
     </message>
 </context>
 <context>
@@ -570,26 +670,18 @@ Otevřete kartu (Ctrl+C) nebo přetáhněte její složku do okna.</translation>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
-        <source>Save Snapshot</source>
-        <translation>Uložit snímek</translation>
-    </message>
-    <message>
-        <source>BMP File (*.bmp);;All Files (*.*)</source>
-        <translation>Soubor BMP (*.bmp);;Všechny soubory (*.*)</translation>
-    </message>
-    <message>
-        <source>The snapshot could not be saved as
-%1
-Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png or .jpg.</source>
-        <translation>Snímek se nepodařilo uložit jako
-%1
-Zvolte složku, do které lze zapisovat a kde je dost volného místa, a název s příponou .bmp, .png nebo .jpg.</translation>
-    </message>
-    <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Graf nelze vykreslit: tento displej nepodporuje OpenGL.
 Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL 2.1 nebo softwarový ovladač Mesa.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Picture...</source>
+        <translation>&amp;Uložit obrázek...</translation>
+    </message>
+    <message>
+        <source>Co&amp;py Picture</source>
+        <translation>&amp;Kopírovat obrázek</translation>
     </message>
 </context>
 <context>
@@ -1027,6 +1119,82 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     <message>
         <source>Y-Scale :</source>
         <translation>Měřítko Y :</translation>
+    </message>
+    <message>
+        <source>Colors of the plot</source>
+        <translation>Barvy plochy grafu</translation>
+    </message>
+    <message>
+        <source>Colors of pictures</source>
+        <translation>Barvy obrázků</translation>
+    </message>
+    <message>
+        <source>Colors/Of Pictures :</source>
+        <translation>Barvy/obrázků :</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Tmavé</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Světlé</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Jako plocha systému</translation>
+    </message>
+    <message>
+        <source>As the graph</source>
+        <translation>Jako graf</translation>
+    </message>
+    <message>
+        <source>Thresholds :</source>
+        <translation>Prahy :</translation>
+    </message>
+    <message>
+        <source>Thresholds On</source>
+        <translation>Prahy zapnuty</translation>
+    </message>
+    <message>
+        <source>Lines and bands at the values where a range begins; a name stands on the color of the range that its value is in</source>
+        <translation>Čáry a pásy u hodnot, kde začíná rozsah; název stojí na barvě rozsahu, ve kterém je jeho hodnota</translation>
+    </message>
+    <message>
+        <source>Events :</source>
+        <translation>Události :</translation>
+    </message>
+    <message>
+        <source>Events On</source>
+        <translation>Události zapnuty</translation>
+    </message>
+    <message>
+        <source>Ticks over the plot for limits, lamps and faults, bars for as long as a limit was exceeded</source>
+        <translation>Značky nad grafem pro limity, kontrolky a závady, pruhy po dobu překročení limitu</translation>
+    </message>
+    <message>
+        <source>Error Lanes :</source>
+        <translation>Pruhy chyb :</translation>
+    </message>
+    <message>
+        <source>Error Lanes On</source>
+        <translation>Pruhy chyb zapnuty</translation>
+    </message>
+    <message>
+        <source>The active errors of each error matrix below the curves</source>
+        <translation>Aktivní chyby každé chybové matice pod křivkami</translation>
+    </message>
+    <message>
+        <source>States :</source>
+        <translation>Stavy :</translation>
+    </message>
+    <message>
+        <source>States in Words</source>
+        <translation>Stavy slovy</translation>
+    </message>
+    <message>
+        <source>Names of states beside their numbers</source>
+        <translation>Názvy stavů vedle jejich čísel</translation>
     </message>
 </context>
 <context>
@@ -1570,6 +1738,10 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
         <source>Nothing is marked: the whole flight</source>
         <translation>Nic není označeno: celý let</translation>
     </message>
+    <message>
+        <source>Sort as the Curves</source>
+        <translation>Seřadit jako křivky</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ProjectKeeper</name>
@@ -1642,6 +1814,17 @@ Původní soubor zůstal beze změny; uložte projekt do jiné složky.</transla
     <message>
         <source>ORNA Warning</source>
         <translation>ORNA – upozornění</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::RangeDialog</name>
+    <message>
+        <source>Highest value :</source>
+        <translation>Nejvyšší hodnota :</translation>
+    </message>
+    <message>
+        <source>Lowest value :</source>
+        <translation>Nejnižší hodnota :</translation>
     </message>
 </context>
 <context>
@@ -1828,6 +2011,14 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     <message>
         <source>Graph of the selected parameters</source>
         <translation>Graf vybraných parametrů</translation>
+    </message>
+    <message>
+        <source>Click to show the curve</source>
+        <translation>Kliknutím křivku zobrazíte</translation>
+    </message>
+    <message>
+        <source>Click to hide the curve, drag to move it, right click for more</source>
+        <translation>Kliknutím křivku skryjete, tažením přesunete, pravým tlačítkem další možnosti</translation>
     </message>
 </context>
 </TS>

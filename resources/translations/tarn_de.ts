@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>CurveMenu</name>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Ausblenden</translation>
+    </message>
+    <message>
+        <source>&amp;Only This</source>
+        <translation>&amp;Nur diese</translation>
+    </message>
+    <message>
+        <source>&amp;Color...</source>
+        <translation>&amp;Farbe...</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Curves</source>
+        <translation>A&amp;lle Kurven anzeigen</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>Nach &amp;unten</translation>
+    </message>
+    <message>
+        <source>Own &amp;Range...</source>
+        <translation>&amp;Eigener Bereich...</translation>
+    </message>
+    <message>
+        <source>Au&amp;tomatic Range</source>
+        <translation>Au&amp;tomatischer Bereich</translation>
+    </message>
+    <message>
+        <source>Color of %1</source>
+        <translation>Farbe von %1</translation>
+    </message>
+    <message>
+        <source>Range of %1</source>
+        <translation>Bereich von %1</translation>
+    </message>
+</context>
+<context>
     <name>DialogAbout</name>
     <message>
         <source>About ORNA</source>
@@ -180,6 +227,40 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     </message>
 </context>
 <context>
+    <name>GraphCaption</name>
+    <message>
+        <source>%1 to %2 (%3 recordings)</source>
+        <translation>%1 bis %2 (%3 Aufzeichnungen)</translation>
+    </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock</source>
+        <translation>%1 bis %2 auf der Uhr der Aufzeichnung</translation>
+    </message>
+</context>
+<context>
+    <name>NotePlaces</name>
+    <message>
+        <source>%1 to %2, %3 s</source>
+        <translation>%1 bis %2, %3 s</translation>
+    </message>
+    <message>
+        <source>%1 at its limit</source>
+        <translation>%1 am Grenzwert</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 im Warnbereich</translation>
+    </message>
+    <message>
+        <source>, peak %1 %2 at %3</source>
+        <translation>, Spitze %1 %2 um %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>it is no file</source>
@@ -322,6 +403,25 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
         <translation>Datumsangaben der Dateiköpfe von %1 bis %2, die Messwerte umfassen aber nur %3 s: Die Dateien stammen nicht von einem Flug</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshot</name>
+    <message>
+        <source>Save Snapshot</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>BMP File (*.bmp);;PNG File (*.png);;SVG File (*.svg);;All Files (*.*)</source>
+        <translation>BMP-Datei (*.bmp);;PNG-Datei (*.png);;SVG-Datei (*.svg);;Alle Dateien (*.*)</translation>
+    </message>
+    <message>
+        <source>The snapshot could not be saved as
+%1
+Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png, .svg or .jpg.</source>
+        <translation>Das Bild konnte nicht gespeichert werden als
+%1
+Wählen Sie einen beschreibbaren Ordner mit genügend freiem Platz und einen Namen, der auf .bmp, .png, .svg oder .jpg endet.</translation>
     </message>
 </context>
 <context>
@@ -570,26 +670,18 @@ Open a card (Ctrl+C) or drop its folder on the window.</source>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
-        <source>Save Snapshot</source>
-        <translation>Bild speichern</translation>
-    </message>
-    <message>
-        <source>BMP File (*.bmp);;All Files (*.*)</source>
-        <translation>BMP-Datei (*.bmp);;Alle Dateien (*.*)</translation>
-    </message>
-    <message>
-        <source>The snapshot could not be saved as
-%1
-Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png or .jpg.</source>
-        <translation>Das Bild konnte nicht gespeichert werden als
-%1
-Wählen Sie einen beschreibbaren Ordner mit genügend freiem Platz und einen Namen, der auf .bmp, .png oder .jpg endet.</translation>
-    </message>
-    <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Das Diagramm kann nicht gezeichnet werden: Diese Anzeige bietet kein OpenGL.
 Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 oder dem Softwaretreiber von Mesa erscheint auch das Diagramm.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Picture...</source>
+        <translation>Bild &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>Co&amp;py Picture</source>
+        <translation>Bild &amp;kopieren</translation>
     </message>
 </context>
 <context>
@@ -1027,6 +1119,82 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     <message>
         <source>Y-Scale :</source>
         <translation>Y-Skala :</translation>
+    </message>
+    <message>
+        <source>Colors of the plot</source>
+        <translation>Farben der Zeichenfläche</translation>
+    </message>
+    <message>
+        <source>Colors of pictures</source>
+        <translation>Farben von Bildern</translation>
+    </message>
+    <message>
+        <source>Colors/Of Pictures :</source>
+        <translation>Farben/von Bildern :</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Wie der Desktop</translation>
+    </message>
+    <message>
+        <source>As the graph</source>
+        <translation>Wie das Diagramm</translation>
+    </message>
+    <message>
+        <source>Thresholds :</source>
+        <translation>Schwellen :</translation>
+    </message>
+    <message>
+        <source>Thresholds On</source>
+        <translation>Schwellen an</translation>
+    </message>
+    <message>
+        <source>Lines and bands at the values where a range begins; a name stands on the color of the range that its value is in</source>
+        <translation>Linien und Bänder an den Werten, bei denen ein Bereich beginnt; ein Name steht auf der Farbe des Bereichs, in dem sein Wert liegt</translation>
+    </message>
+    <message>
+        <source>Events :</source>
+        <translation>Ereignisse :</translation>
+    </message>
+    <message>
+        <source>Events On</source>
+        <translation>Ereignisse an</translation>
+    </message>
+    <message>
+        <source>Ticks over the plot for limits, lamps and faults, bars for as long as a limit was exceeded</source>
+        <translation>Marken über der Zeichenfläche für Grenzwerte, Lampen und Fehler, Balken für die Dauer einer Überschreitung</translation>
+    </message>
+    <message>
+        <source>Error Lanes :</source>
+        <translation>Fehlerspuren :</translation>
+    </message>
+    <message>
+        <source>Error Lanes On</source>
+        <translation>Fehlerspuren an</translation>
+    </message>
+    <message>
+        <source>The active errors of each error matrix below the curves</source>
+        <translation>Die aktiven Fehler jeder Fehlermatrix unter den Kurven</translation>
+    </message>
+    <message>
+        <source>States :</source>
+        <translation>Zustände :</translation>
+    </message>
+    <message>
+        <source>States in Words</source>
+        <translation>Zustände in Worten</translation>
+    </message>
+    <message>
+        <source>Names of states beside their numbers</source>
+        <translation>Namen der Zustände neben ihren Zahlen</translation>
     </message>
 </context>
 <context>
@@ -1570,6 +1738,10 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
         <source>Nothing is marked: the whole flight</source>
         <translation>Nichts ist markiert: der ganze Flug</translation>
     </message>
+    <message>
+        <source>Sort as the Curves</source>
+        <translation>Wie die Kurven sortieren</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ProjectKeeper</name>
@@ -1642,6 +1814,17 @@ Die alte Datei ist unverändert; speichern Sie das Projekt in einem anderen Ordn
     <message>
         <source>ORNA Warning</source>
         <translation>ORNA-Warnung</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::RangeDialog</name>
+    <message>
+        <source>Highest value :</source>
+        <translation>Höchster Wert :</translation>
+    </message>
+    <message>
+        <source>Lowest value :</source>
+        <translation>Niedrigster Wert :</translation>
     </message>
 </context>
 <context>
@@ -1828,6 +2011,14 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
     <message>
         <source>Graph of the selected parameters</source>
         <translation>Diagramm der ausgewählten Parameter</translation>
+    </message>
+    <message>
+        <source>Click to show the curve</source>
+        <translation>Klicken, um die Kurve anzuzeigen</translation>
+    </message>
+    <message>
+        <source>Click to hide the curve, drag to move it, right click for more</source>
+        <translation>Klicken blendet die Kurve aus, Ziehen verschiebt sie, Rechtsklick für mehr</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>CurveMenu</name>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Ocultar</translation>
+    </message>
+    <message>
+        <source>&amp;Only This</source>
+        <translation>&amp;Solo esta</translation>
+    </message>
+    <message>
+        <source>&amp;Color...</source>
+        <translation>&amp;Color...</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Curves</source>
+        <translation>Mostrar &amp;todas las curvas</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Subir</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>&amp;Bajar</translation>
+    </message>
+    <message>
+        <source>Own &amp;Range...</source>
+        <translation>&amp;Rango propio...</translation>
+    </message>
+    <message>
+        <source>Au&amp;tomatic Range</source>
+        <translation>Rango au&amp;tomático</translation>
+    </message>
+    <message>
+        <source>Color of %1</source>
+        <translation>Color de %1</translation>
+    </message>
+    <message>
+        <source>Range of %1</source>
+        <translation>Rango de %1</translation>
+    </message>
+</context>
+<context>
     <name>DialogAbout</name>
     <message>
         <source>About ORNA</source>
@@ -180,6 +227,40 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     </message>
 </context>
 <context>
+    <name>GraphCaption</name>
+    <message>
+        <source>%1 to %2 (%3 recordings)</source>
+        <translation>%1 a %2 (%3 grabaciones)</translation>
+    </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock</source>
+        <translation>%1 a %2 en el reloj de la grabación</translation>
+    </message>
+</context>
+<context>
+    <name>NotePlaces</name>
+    <message>
+        <source>%1 to %2, %3 s</source>
+        <translation>%1 a %2, %3 s</translation>
+    </message>
+    <message>
+        <source>%1 at its limit</source>
+        <translation>%1 en su límite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 en aviso</translation>
+    </message>
+    <message>
+        <source>, peak %1 %2 at %3</source>
+        <translation>, pico %1 %2 a las %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>it is no file</source>
@@ -322,6 +403,25 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
         <translation>Fechas de cabecera de %1 a %2, pero las muestras abarcan %3 s: los archivos no son de un mismo vuelo</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshot</name>
+    <message>
+        <source>Save Snapshot</source>
+        <translation>Guardar captura</translation>
+    </message>
+    <message>
+        <source>BMP File (*.bmp);;PNG File (*.png);;SVG File (*.svg);;All Files (*.*)</source>
+        <translation>Archivo BMP (*.bmp);;Archivo PNG (*.png);;Archivo SVG (*.svg);;Todos los archivos (*.*)</translation>
+    </message>
+    <message>
+        <source>The snapshot could not be saved as
+%1
+Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png, .svg or .jpg.</source>
+        <translation>La imagen no se pudo guardar como
+%1
+Elija una carpeta en la que se pueda escribir, con espacio libre suficiente, y un nombre que termine en .bmp, .png, .svg o .jpg.</translation>
     </message>
 </context>
 <context>
@@ -570,26 +670,18 @@ Abra una tarjeta (Ctrl+C) o suelte su carpeta en la ventana.</translation>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
-        <source>Save Snapshot</source>
-        <translation>Guardar captura</translation>
-    </message>
-    <message>
-        <source>BMP File (*.bmp);;All Files (*.*)</source>
-        <translation>Archivo BMP (*.bmp);;Todos los archivos (*.*)</translation>
-    </message>
-    <message>
-        <source>The snapshot could not be saved as
-%1
-Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png or .jpg.</source>
-        <translation>No se pudo guardar la captura como
-%1
-Elija una carpeta en la que se pueda escribir, con suficiente espacio libre, y un nombre que termine en .bmp, .png o .jpg.</translation>
-    </message>
-    <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>No se puede dibujar la gráfica: esta pantalla no ofrece OpenGL.
 Las demás vistas funcionan; la gráfica requiere un controlador gráfico con OpenGL 2.1, o el de software de Mesa.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Picture...</source>
+        <translation>&amp;Guardar imagen...</translation>
+    </message>
+    <message>
+        <source>Co&amp;py Picture</source>
+        <translation>Co&amp;piar imagen</translation>
     </message>
 </context>
 <context>
@@ -1027,6 +1119,82 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     <message>
         <source>Y-Scale :</source>
         <translation>Escala Y :</translation>
+    </message>
+    <message>
+        <source>Colors of the plot</source>
+        <translation>Colores del gráfico</translation>
+    </message>
+    <message>
+        <source>Colors of pictures</source>
+        <translation>Colores de las imágenes</translation>
+    </message>
+    <message>
+        <source>Colors/Of Pictures :</source>
+        <translation>Colores/de imágenes :</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Como el escritorio</translation>
+    </message>
+    <message>
+        <source>As the graph</source>
+        <translation>Como el gráfico</translation>
+    </message>
+    <message>
+        <source>Thresholds :</source>
+        <translation>Umbrales :</translation>
+    </message>
+    <message>
+        <source>Thresholds On</source>
+        <translation>Umbrales activados</translation>
+    </message>
+    <message>
+        <source>Lines and bands at the values where a range begins; a name stands on the color of the range that its value is in</source>
+        <translation>Líneas y bandas en los valores donde empieza un rango; un nombre aparece sobre el color del rango en que está su valor</translation>
+    </message>
+    <message>
+        <source>Events :</source>
+        <translation>Eventos :</translation>
+    </message>
+    <message>
+        <source>Events On</source>
+        <translation>Eventos activados</translation>
+    </message>
+    <message>
+        <source>Ticks over the plot for limits, lamps and faults, bars for as long as a limit was exceeded</source>
+        <translation>Marcas sobre el gráfico para límites, luces y fallos; barras mientras se superó un límite</translation>
+    </message>
+    <message>
+        <source>Error Lanes :</source>
+        <translation>Bandas de errores :</translation>
+    </message>
+    <message>
+        <source>Error Lanes On</source>
+        <translation>Bandas de errores activadas</translation>
+    </message>
+    <message>
+        <source>The active errors of each error matrix below the curves</source>
+        <translation>Los errores activos de cada matriz de errores bajo las curvas</translation>
+    </message>
+    <message>
+        <source>States :</source>
+        <translation>Estados :</translation>
+    </message>
+    <message>
+        <source>States in Words</source>
+        <translation>Estados en palabras</translation>
+    </message>
+    <message>
+        <source>Names of states beside their numbers</source>
+        <translation>Nombres de los estados junto a sus números</translation>
     </message>
 </context>
 <context>
@@ -1570,6 +1738,10 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
         <source>Nothing is marked: the whole flight</source>
         <translation>Nada está marcado: el vuelo entero</translation>
     </message>
+    <message>
+        <source>Sort as the Curves</source>
+        <translation>Ordenar como las curvas</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ProjectKeeper</name>
@@ -1642,6 +1814,17 @@ El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
     <message>
         <source>ORNA Warning</source>
         <translation>Aviso de ORNA</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::RangeDialog</name>
+    <message>
+        <source>Highest value :</source>
+        <translation>Valor máximo :</translation>
+    </message>
+    <message>
+        <source>Lowest value :</source>
+        <translation>Valor mínimo :</translation>
     </message>
 </context>
 <context>
@@ -1828,6 +2011,14 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
     <message>
         <source>Graph of the selected parameters</source>
         <translation>Gráfica de los parámetros seleccionados</translation>
+    </message>
+    <message>
+        <source>Click to show the curve</source>
+        <translation>Clic para mostrar la curva</translation>
+    </message>
+    <message>
+        <source>Click to hide the curve, drag to move it, right click for more</source>
+        <translation>Clic para ocultar la curva, arrastrar para moverla, clic derecho para más</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>CurveMenu</name>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Afficher</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Masquer</translation>
+    </message>
+    <message>
+        <source>&amp;Only This</source>
+        <translation>&amp;Seulement celle-ci</translation>
+    </message>
+    <message>
+        <source>&amp;Color...</source>
+        <translation>&amp;Couleur...</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Curves</source>
+        <translation>Afficher &amp;toutes les courbes</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>&amp;Monter</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>&amp;Descendre</translation>
+    </message>
+    <message>
+        <source>Own &amp;Range...</source>
+        <translation>&amp;Plage propre...</translation>
+    </message>
+    <message>
+        <source>Au&amp;tomatic Range</source>
+        <translation>Plage au&amp;tomatique</translation>
+    </message>
+    <message>
+        <source>Color of %1</source>
+        <translation>Couleur de %1</translation>
+    </message>
+    <message>
+        <source>Range of %1</source>
+        <translation>Plage de %1</translation>
+    </message>
+</context>
+<context>
     <name>DialogAbout</name>
     <message>
         <source>About ORNA</source>
@@ -180,6 +227,40 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
 </context>
 <context>
+    <name>GraphCaption</name>
+    <message>
+        <source>%1 to %2 (%3 recordings)</source>
+        <translation>%1 à %2 (%3 enregistrements)</translation>
+    </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock</source>
+        <translation>%1 à %2 à l&apos;horloge de l&apos;enregistrement</translation>
+    </message>
+</context>
+<context>
+    <name>NotePlaces</name>
+    <message>
+        <source>%1 to %2, %3 s</source>
+        <translation>%1 à %2, %3 s</translation>
+    </message>
+    <message>
+        <source>%1 at its limit</source>
+        <translation>%1 à sa limite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 en alerte</translation>
+    </message>
+    <message>
+        <source>, peak %1 %2 at %3</source>
+        <translation>, pic %1 %2 à %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>it is no file</source>
@@ -322,6 +403,25 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
         <translation>Dates d&apos;en-tête de %1 à %2, mais les échantillons couvrent %3 s&#xa0;: les fichiers ne sont pas d&apos;un même vol</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshot</name>
+    <message>
+        <source>Save Snapshot</source>
+        <translation>Enregistrer la capture</translation>
+    </message>
+    <message>
+        <source>BMP File (*.bmp);;PNG File (*.png);;SVG File (*.svg);;All Files (*.*)</source>
+        <translation>Fichier BMP (*.bmp);;Fichier PNG (*.png);;Fichier SVG (*.svg);;Tous les fichiers (*.*)</translation>
+    </message>
+    <message>
+        <source>The snapshot could not be saved as
+%1
+Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png, .svg or .jpg.</source>
+        <translation>L&apos;image n&apos;a pas pu être enregistrée sous
+%1
+Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, et un nom qui se termine par .bmp, .png, .svg ou .jpg.</translation>
     </message>
 </context>
 <context>
@@ -570,26 +670,18 @@ Ouvrez une carte (Ctrl+C) ou déposez son dossier sur la fenêtre.</translation>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
-        <source>Save Snapshot</source>
-        <translation>Enregistrer la capture</translation>
-    </message>
-    <message>
-        <source>BMP File (*.bmp);;All Files (*.*)</source>
-        <translation>Fichier BMP (*.bmp);;Tous les fichiers (*.*)</translation>
-    </message>
-    <message>
-        <source>The snapshot could not be saved as
-%1
-Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png or .jpg.</source>
-        <translation>La capture n&apos;a pas pu être enregistrée sous
-%1
-Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, et un nom se terminant par .bmp, .png ou .jpg.</translation>
-    </message>
-    <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Le graphique ne peut pas être tracé&#xa0;: cet affichage n&apos;offre pas OpenGL.
 Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, ou le pilote logiciel de Mesa, rend le graphique disponible.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Picture...</source>
+        <translation>&amp;Enregistrer l&apos;image...</translation>
+    </message>
+    <message>
+        <source>Co&amp;py Picture</source>
+        <translation>Co&amp;pier l&apos;image</translation>
     </message>
 </context>
 <context>
@@ -1027,6 +1119,82 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     <message>
         <source>Y-Scale :</source>
         <translation>Échelle Y :</translation>
+    </message>
+    <message>
+        <source>Colors of the plot</source>
+        <translation>Couleurs du tracé</translation>
+    </message>
+    <message>
+        <source>Colors of pictures</source>
+        <translation>Couleurs des images</translation>
+    </message>
+    <message>
+        <source>Colors/Of Pictures :</source>
+        <translation>Couleurs/des images&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>As the graph</source>
+        <translation>Comme le graphique</translation>
+    </message>
+    <message>
+        <source>Thresholds :</source>
+        <translation>Seuils&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Thresholds On</source>
+        <translation>Seuils affichés</translation>
+    </message>
+    <message>
+        <source>Lines and bands at the values where a range begins; a name stands on the color of the range that its value is in</source>
+        <translation>Lignes et bandes aux valeurs où commence une plage ; un nom apparaît sur la couleur de la plage où se trouve sa valeur</translation>
+    </message>
+    <message>
+        <source>Events :</source>
+        <translation>Événements&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Events On</source>
+        <translation>Événements affichés</translation>
+    </message>
+    <message>
+        <source>Ticks over the plot for limits, lamps and faults, bars for as long as a limit was exceeded</source>
+        <translation>Marques au-dessus du tracé pour limites, voyants et défauts, barres pour la durée d&apos;un dépassement</translation>
+    </message>
+    <message>
+        <source>Error Lanes :</source>
+        <translation>Bandes d&apos;erreurs&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Error Lanes On</source>
+        <translation>Bandes d&apos;erreurs affichées</translation>
+    </message>
+    <message>
+        <source>The active errors of each error matrix below the curves</source>
+        <translation>Les erreurs actives de chaque matrice d&apos;erreurs sous les courbes</translation>
+    </message>
+    <message>
+        <source>States :</source>
+        <translation>États&#xa0;:</translation>
+    </message>
+    <message>
+        <source>States in Words</source>
+        <translation>États en toutes lettres</translation>
+    </message>
+    <message>
+        <source>Names of states beside their numbers</source>
+        <translation>Noms des états à côté de leurs numéros</translation>
     </message>
 </context>
 <context>
@@ -1570,6 +1738,10 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
         <source>Nothing is marked: the whole flight</source>
         <translation>Rien n&apos;est marqué&#xa0;: le vol entier</translation>
     </message>
+    <message>
+        <source>Sort as the Curves</source>
+        <translation>Trier comme les courbes</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ProjectKeeper</name>
@@ -1642,6 +1814,17 @@ L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre d
     <message>
         <source>ORNA Warning</source>
         <translation>ORNA - Avertissement</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::RangeDialog</name>
+    <message>
+        <source>Highest value :</source>
+        <translation>Valeur maximale&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Lowest value :</source>
+        <translation>Valeur minimale&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1828,6 +2011,14 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     <message>
         <source>Graph of the selected parameters</source>
         <translation>Graphique des paramètres sélectionnés</translation>
+    </message>
+    <message>
+        <source>Click to show the curve</source>
+        <translation>Cliquer pour afficher la courbe</translation>
+    </message>
+    <message>
+        <source>Click to hide the curve, drag to move it, right click for more</source>
+        <translation>Cliquer pour masquer la courbe, glisser pour la déplacer, clic droit pour plus</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,53 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>CurveMenu</name>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Ocultar</translation>
+    </message>
+    <message>
+        <source>&amp;Only This</source>
+        <translation>&amp;Só esta</translation>
+    </message>
+    <message>
+        <source>&amp;Color...</source>
+        <translation>&amp;Cor...</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Curves</source>
+        <translation>Mostrar &amp;todas as curvas</translation>
+    </message>
+    <message>
+        <source>Move &amp;Up</source>
+        <translation>S&amp;ubir</translation>
+    </message>
+    <message>
+        <source>Move &amp;Down</source>
+        <translation>&amp;Descer</translation>
+    </message>
+    <message>
+        <source>Own &amp;Range...</source>
+        <translation>&amp;Intervalo próprio...</translation>
+    </message>
+    <message>
+        <source>Au&amp;tomatic Range</source>
+        <translation>Intervalo au&amp;tomático</translation>
+    </message>
+    <message>
+        <source>Color of %1</source>
+        <translation>Cor de %1</translation>
+    </message>
+    <message>
+        <source>Range of %1</source>
+        <translation>Intervalo de %1</translation>
+    </message>
+</context>
+<context>
     <name>DialogAbout</name>
     <message>
         <source>About ORNA</source>
@@ -180,6 +227,40 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     </message>
 </context>
 <context>
+    <name>GraphCaption</name>
+    <message>
+        <source>%1 to %2 (%3 recordings)</source>
+        <translation>%1 a %2 (%3 gravações)</translation>
+    </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock</source>
+        <translation>%1 a %2 no relógio da gravação</translation>
+    </message>
+</context>
+<context>
+    <name>NotePlaces</name>
+    <message>
+        <source>%1 to %2, %3 s</source>
+        <translation>%1 a %2, %3 s</translation>
+    </message>
+    <message>
+        <source>%1 at its limit</source>
+        <translation>%1 no seu limite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 em aviso</translation>
+    </message>
+    <message>
+        <source>, peak %1 %2 at %3</source>
+        <translation>, pico %1 %2 às %3</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e mais %1</translation>
+    </message>
+</context>
+<context>
     <name>OutputFile</name>
     <message>
         <source>it is no file</source>
@@ -322,6 +403,25 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
         <translation>Datas dos cabeçalhos de %1 a %2, mas as amostras abrangem %3 s: os arquivos não são de um mesmo voo</translation>
+    </message>
+</context>
+<context>
+    <name>Snapshot</name>
+    <message>
+        <source>Save Snapshot</source>
+        <translation>Salvar captura</translation>
+    </message>
+    <message>
+        <source>BMP File (*.bmp);;PNG File (*.png);;SVG File (*.svg);;All Files (*.*)</source>
+        <translation>Ficheiro BMP (*.bmp);;Ficheiro PNG (*.png);;Ficheiro SVG (*.svg);;Todos os ficheiros (*.*)</translation>
+    </message>
+    <message>
+        <source>The snapshot could not be saved as
+%1
+Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png, .svg or .jpg.</source>
+        <translation>Não foi possível guardar a imagem como
+%1
+Escolha uma pasta em que se possa escrever, com espaço livre suficiente, e um nome que termine em .bmp, .png, .svg ou .jpg.</translation>
     </message>
 </context>
 <context>
@@ -570,26 +670,18 @@ Abra um cartão (Ctrl+C) ou solte a pasta dele na janela.</translation>
 <context>
     <name>TARN::DialogDataGraph</name>
     <message>
-        <source>Save Snapshot</source>
-        <translation>Salvar captura</translation>
-    </message>
-    <message>
-        <source>BMP File (*.bmp);;All Files (*.*)</source>
-        <translation>Arquivo BMP (*.bmp);;Todos os arquivos (*.*)</translation>
-    </message>
-    <message>
-        <source>The snapshot could not be saved as
-%1
-Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png or .jpg.</source>
-        <translation>Não foi possível salvar a captura como
-%1
-Escolha uma pasta que permita gravação, com espaço livre suficiente, e um nome que termine em .bmp, .png ou .jpg.</translation>
-    </message>
-    <message>
         <source>The graph cannot be drawn: this display offers no OpenGL.
 All other views work; a graphics driver with OpenGL 2.1, or Mesa&apos;s software one, brings the graph.</source>
         <translation>Não é possível desenhar o gráfico: esta tela não oferece OpenGL.
 Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou o do Mesa por software, possibilita o gráfico.</translation>
+    </message>
+    <message>
+        <source>&amp;Save Picture...</source>
+        <translation>&amp;Guardar imagem...</translation>
+    </message>
+    <message>
+        <source>Co&amp;py Picture</source>
+        <translation>Co&amp;piar imagem</translation>
     </message>
 </context>
 <context>
@@ -1027,6 +1119,82 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     <message>
         <source>Y-Scale :</source>
         <translation>Escala Y :</translation>
+    </message>
+    <message>
+        <source>Colors of the plot</source>
+        <translation>Cores do gráfico</translation>
+    </message>
+    <message>
+        <source>Colors of pictures</source>
+        <translation>Cores das imagens</translation>
+    </message>
+    <message>
+        <source>Colors/Of Pictures :</source>
+        <translation>Cores/de imagens :</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Escuro</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Como o ambiente de trabalho</translation>
+    </message>
+    <message>
+        <source>As the graph</source>
+        <translation>Como o gráfico</translation>
+    </message>
+    <message>
+        <source>Thresholds :</source>
+        <translation>Limiares :</translation>
+    </message>
+    <message>
+        <source>Thresholds On</source>
+        <translation>Limiares ativados</translation>
+    </message>
+    <message>
+        <source>Lines and bands at the values where a range begins; a name stands on the color of the range that its value is in</source>
+        <translation>Linhas e faixas nos valores em que começa um intervalo; um nome aparece sobre a cor do intervalo em que está o seu valor</translation>
+    </message>
+    <message>
+        <source>Events :</source>
+        <translation>Eventos :</translation>
+    </message>
+    <message>
+        <source>Events On</source>
+        <translation>Eventos ativados</translation>
+    </message>
+    <message>
+        <source>Ticks over the plot for limits, lamps and faults, bars for as long as a limit was exceeded</source>
+        <translation>Marcas sobre o gráfico para limites, luzes e falhas; barras enquanto um limite foi excedido</translation>
+    </message>
+    <message>
+        <source>Error Lanes :</source>
+        <translation>Faixas de erros :</translation>
+    </message>
+    <message>
+        <source>Error Lanes On</source>
+        <translation>Faixas de erros ativadas</translation>
+    </message>
+    <message>
+        <source>The active errors of each error matrix below the curves</source>
+        <translation>Os erros ativos de cada matriz de erros sob as curvas</translation>
+    </message>
+    <message>
+        <source>States :</source>
+        <translation>Estados :</translation>
+    </message>
+    <message>
+        <source>States in Words</source>
+        <translation>Estados por palavras</translation>
+    </message>
+    <message>
+        <source>Names of states beside their numbers</source>
+        <translation>Nomes dos estados ao lado dos seus números</translation>
     </message>
 </context>
 <context>
@@ -1570,6 +1738,10 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
         <source>Nothing is marked: the whole flight</source>
         <translation>Nada está marcado: o voo inteiro</translation>
     </message>
+    <message>
+        <source>Sort as the Curves</source>
+        <translation>Ordenar como as curvas</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ProjectKeeper</name>
@@ -1642,6 +1814,17 @@ O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translat
     <message>
         <source>ORNA Warning</source>
         <translation>Aviso do ORNA</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::RangeDialog</name>
+    <message>
+        <source>Highest value :</source>
+        <translation>Valor máximo :</translation>
+    </message>
+    <message>
+        <source>Lowest value :</source>
+        <translation>Valor mínimo :</translation>
     </message>
 </context>
 <context>
@@ -1828,6 +2011,14 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     <message>
         <source>Graph of the selected parameters</source>
         <translation>Gráfico dos parâmetros selecionados</translation>
+    </message>
+    <message>
+        <source>Click to show the curve</source>
+        <translation>Clique para mostrar a curva</translation>
+    </message>
+    <message>
+        <source>Click to hide the curve, drag to move it, right click for more</source>
+        <translation>Clique para ocultar a curva, arraste para a mover, clique direito para mais</translation>
     </message>
 </context>
 </TS>

@@ -21,7 +21,7 @@ DialogData::DialogData(Session& session, QWidget* parent)
     mTabs->setObjectName("views");
     addView(new DialogDataTable(session), "canStatistic", tr("Data"));
     addView(new DialogDataLimit(session, mEpisodes), "limit", tr("Limit/Warning Exceed"));
-    addView(new DialogDataGraph(session), "graphSingle", tr("Graph"));
+    addView(new DialogDataGraph(session, mEpisodes), "graphSingle", tr("Graph"));
     addView(new DialogDataWarning(session), "warningLamp", tr("Warning Lamps"), hasWarningLamps);
     addView(new DialogDataErrorMatrix(session), "faultMatrix", tr("Fault Matrix"),
             [](const ProfileInfo& profile) { return !profile.faultMatrices.empty(); });

@@ -30,11 +30,12 @@ ProjectKeeper::ProjectKeeper(Session& session, QWidget& window)
     : QObject(&window), mSession(session), mWindow(window)
 {
     connect(&session, &Session::ticksChanged, this, &ProjectKeeper::changed);
+    connect(&session, &Session::looksChanged, this, &ProjectKeeper::changed);
 }
 
 bool ProjectKeeper::isEdited() const
 {
-    return !(mSession.ticks() == mSaved);
+    return !(mSession.ticks() == mSaved) || !(mSession.looks() == mSavedLooks);
 }
 
 bool ProjectKeeper::newProject()
@@ -85,7 +86,9 @@ void ProjectKeeper::take(const QString& file)
 {
     mFileName = file;
     mSaved = mProject.selection(*mSession.profile());
+    mSavedLooks = mProject.looks();
     mSession.setTicks(mSaved);
+    mSession.setLooks(mSavedLooks);
     mSession.confirm();
     Q_EMIT changed();
 }
@@ -153,6 +156,7 @@ bool ProjectKeeper::saveProject(bool askName)
 
 bool ProjectKeeper::write(const QString& file)
 {
+    mProject.setLooks(mSession.looks());
     if (!mProject.saveProject(file.toStdString(), *mSession.profile(), mSession.ticks())) {
         warn(tr("The project could not be written to \"%1\".\nThe old file is unchanged; save it "
                 "in another folder.")
@@ -162,6 +166,7 @@ bool ProjectKeeper::write(const QString& file)
     mFileName = file;
     mProject.setSelection(*mSession.profile(), mSession.ticks());
     mSaved = mSession.ticks();
+    mSavedLooks = mSession.looks();
     storePath(file);
     Q_EMIT signalMessage(tr("Project saved: %1").arg(QFileInfo(file).absoluteFilePath()));
     Q_EMIT changed();

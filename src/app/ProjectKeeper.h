@@ -21,7 +21,7 @@ public:
 
     /// Empty when no project file is known.
     const QString& fileName() const { return mFileName; }
-    /// Whether the ticks differ from those of the file, or of a new project.
+    /// Whether the ticks, or how curves look, differ from the file, or from a new project.
     bool isEdited() const;
 
     // The commands; each asks first where something unsaved would be lost. False when nothing
@@ -64,6 +64,7 @@ private:
     Project mProject;
     QString mFileName;
     Selection mSaved; ///< the ticks as the file has them
+    CurveLooks mSavedLooks;
 };
 
 } // namespace TARN

@@ -5,6 +5,7 @@
 #include "cli/EventsCommand.h"
 #include "cli/ExportCommands.h"
 #include "cli/FaultsCommand.h"
+#include "cli/GraphCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/StatsCommand.h"
 
@@ -96,6 +97,35 @@ void addStats(CLI::App& app, StatsArguments& arguments, std::ostream& out)
     command->final_callback([&] { runStats(arguments, out); });
 }
 
+void addGraph(CLI::App& app, GraphArguments& arguments)
+{
+    constexpr int Least = 100; // pixels
+    constexpr int Most = 8000;
+    CLI::App* command = app.add_subcommand("graph", "The selected parameters as a picture");
+    addProfile(*command, arguments.profile);
+    addSelection(*command, arguments.selection);
+    addRange(*command, arguments.range);
+    command->add_option("--width", arguments.width, "pixels")->check(CLI::Range(Least, Most));
+    command->add_option("--height", arguments.height, "pixels")->check(CLI::Range(Least, Most));
+    command->add_option("--scale", arguments.scale, "device pixels that make a pixel")
+        ->check(CLI::Range(1.0, 4.0));
+    command->add_option("--cursor", arguments.cursor, "second of which values are shown");
+    command->add_flag("--single", arguments.single, "one scale for all curves");
+    command->add_flag("--light", arguments.light, "dark on light, for print");
+    const auto addSwitch = [&](const char* name, bool& on, const char* help) {
+        command->add_flag_callback(
+            name, [&on] { on = false; }, help);
+    };
+    addSwitch("--no-thresholds", arguments.thresholds, "no lines where a range begins");
+    addSwitch("--no-events", arguments.events, "no ticks and bars where something went wrong");
+    addSwitch("--no-lanes", arguments.lanes, "no error matrices");
+    addSwitch("--no-words", arguments.words, "states as numbers only");
+    addSwitch("--no-caption", arguments.caption, "no line that says what is shown");
+    addOut(*command, arguments.out);
+    addFiles(*command, arguments.files);
+    command->final_callback([&] { runGraph(arguments); });
+}
+
 void addFaults(CLI::App& app, FaultsArguments& arguments, std::ostream& out)
 {
     CLI::App* command = app.add_subcommand("faults", "Error matrices: timeline and active bits");
@@ -181,6 +211,7 @@ struct Arguments
     EventsArguments events;
     StatsArguments stats;
     FaultsArguments faults;
+    GraphArguments graph;
     CsvArguments csv;
     KmlArguments kml;
     CanArguments can;
@@ -199,6 +230,7 @@ int runCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
     addEvents(app, arguments.events, out);
     addStats(app, arguments.stats, out);
     addFaults(app, arguments.faults, out);
+    addGraph(app, arguments.graph);
     addCsv(app, arguments.csv);
     addKml(app, arguments.kml);
     addCan(app, arguments.can);

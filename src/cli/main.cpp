@@ -1,11 +1,21 @@
 #include "base/Diagnostics.h"
 #include "cli/CommandLine.h"
 
+#include <QtGui/QGuiApplication>
+
 #include <iostream>
+#include <optional>
+#include <string_view>
 
 int main(int argc, char** argv)
 {
     std::ios::sync_with_stdio(false);
     TARN::setDiagnosticStream(stderr);
+    // Pictures need fonts; no other command shall wait for them.
+    std::optional<QGuiApplication> fonts;
+    if (argc > 1 && std::string_view(argv[1]) == "graph") {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        fonts.emplace(argc, argv);
+    }
     return TARN::runCommandLine(argc, argv, std::cout, std::cerr);
 }

@@ -17,42 +17,37 @@ struct MarkTexts
 /// Views tell times in milliseconds, rounded.
 constexpr double SameMoment = 0.001;
 
-QString namesOf(const FaultMatrix& matrix, std::uint32_t bits)
-{
-    QStringList names;
-    for (const auto& [bit, parameter] : matrix.parameters) {
-        if ((bits >> bit & 1U) != 0) {
-            names += parameter.name;
-        }
-    }
-    return names.join(", ");
-}
-
 EventMark markOf(const FaultHistory& history, const FaultChange& change)
 {
     const FaultMatrix& matrix = history.matrix();
     QStringList words;
     if (change.came != 0) {
-        words += MarkTexts::tr("%1 came").arg(namesOf(matrix, change.came));
+        words += MarkTexts::tr("%1 came").arg(history.namesOf(change.came));
     }
     if (change.went != 0) {
-        words += MarkTexts::tr("%1 went").arg(namesOf(matrix, change.went));
+        words += MarkTexts::tr("%1 went").arg(history.namesOf(change.went));
     }
     const bool isFault = ((change.came | change.went) & history.bitsOfType(ErrorFault)) != 0;
     return {change.time, EventMark::Fault, matrix.name + ": " + words.join("; "),
-            errorColor(isFault ? ErrorFault : ErrorWarning)};
+            errorColor(isFault ? ErrorFault : ErrorWarning), history.shift(1.0) != 0.0};
 }
 
 } // namespace
 
-EventMarks::EventMarks(const Events& events, const std::vector<FaultHistory>& faults)
+EventMarks::EventMarks(const RecordData& samples, const Events& events,
+                       const std::vector<FaultHistory>& faults)
 {
-    for (const RecordLimit& event : events.limits) {
-        mMarks.push_back({event.time, EventMark::Limit, event.shortText, event.color});
-    }
-    for (const RecordWarning& event : events.warnings) {
-        mMarks.push_back({event.time, EventMark::Lamp, event.shortText, event.color});
-    }
+    const auto add = [&](const std::vector<RecordEvent>& list, EventMark::Kind kind) {
+        for (const RecordEvent& event : list) {
+            const RecordIdList* entries =
+                samples.find(static_cast<unsigned>(event.parameter->channel),
+                             static_cast<unsigned>(event.parameter->id));
+            mMarks.push_back({event.time, kind, event.shortText, event.color,
+                              entries != nullptr && entries->highFile});
+        }
+    };
+    add(events.limits, EventMark::Limit);
+    add(events.warnings, EventMark::Lamp);
     for (const FaultHistory& history : faults) {
         const auto bits = history.bitsOfType(ErrorWarning) | history.bitsOfType(ErrorFault);
         for (const FaultChange& change : history.changes(bits)) {

@@ -22,6 +22,7 @@ struct EventMark
     Kind kind;
     QString text; ///< what happened, in one line
     QColor color; ///< may be invalid
+    bool isShifted = false; ///< the time offset applies to its samples
 };
 
 /// All of them, for going from one to the next: limit and warning-lamp events, and warnings and
@@ -30,7 +31,8 @@ class EventMarks
 {
 public:
     EventMarks() = default;
-    EventMarks(const Events& events, const std::vector<FaultHistory>& faults);
+    EventMarks(const RecordData& samples, const Events& events,
+               const std::vector<FaultHistory>& faults);
 
     bool empty() const { return mMarks.empty(); }
 

@@ -31,6 +31,22 @@ std::vector<FaultPoint> pointsOf(std::span<const RecordEntry> entries, std::uint
     return points;
 }
 
+std::vector<FaultRun> runsOf(std::span<const RecordEntry> entries, std::uint32_t mask)
+{
+    std::vector<FaultRun> runs;
+    for (const RecordEntry& entry : entries) {
+        const std::uint32_t bits = wordOf(entry) & mask;
+        const double time = runs.empty() ? entry.time() : std::max(runs.back().stop, entry.time());
+        if (!runs.empty()) {
+            runs.back().stop = time;
+        }
+        if (runs.empty() || runs.back().bits != bits) {
+            runs.push_back({time, time, bits});
+        }
+    }
+    return runs;
+}
+
 } // namespace
 
 QColor errorColor(int type)
@@ -56,6 +72,12 @@ FaultHistory::FaultHistory(const RecordData& record, const FaultMatrix& matrix) 
         return;
     }
     mEntries = list->entries;
+    mIsShifted = list->highFile;
+    std::uint32_t known = 0;
+    for (const auto& [bit, parameter] : matrix.parameters) {
+        known |= 1U << bit;
+    }
+    mRuns = runsOf(mEntries, known);
     if (!std::ranges::is_sorted(mEntries, {}, &RecordEntry::time)) {
         double latest = 0.0;
         for (const RecordEntry& entry : mEntries) {
@@ -77,6 +99,29 @@ std::uint32_t FaultHistory::bitsOfType(int type) const
         }
     }
     return mask;
+}
+
+int FaultHistory::worstOf(std::uint32_t bits) const
+{
+    for (const int type : {ErrorFault, ErrorWarning, ErrorInfo}) {
+        if ((bits & bitsOfType(type)) != 0) {
+            return type;
+        }
+    }
+    return ErrorNone;
+}
+
+QString FaultHistory::namesOf(std::uint32_t bits) const
+{
+    QStringList names;
+    for (const int type : {ErrorFault, ErrorWarning, ErrorInfo, ErrorNone}) {
+        for (const auto& [bit, parameter] : mMatrix->parameters) {
+            if (parameter.errorType == type && (bits >> bit & 1U) != 0) {
+                names += parameter.name;
+            }
+        }
+    }
+    return names.join(", ");
 }
 
 std::vector<FaultChange> FaultHistory::changes(std::uint32_t bits) const

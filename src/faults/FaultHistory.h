@@ -30,6 +30,14 @@ struct FaultChange
     std::uint32_t went;
 };
 
+/// Active errors from one message with others to the next; seconds.
+struct FaultRun
+{
+    double start;
+    double stop;
+    std::uint32_t bits;
+};
+
 /// What an error matrix reported over a recording: its status messages stand on channel 0 under
 /// the matrix's identifier, bit b of the word in bytes 4 to 7 is error b. Refers to the recording
 /// and to the matrix.
@@ -54,8 +62,20 @@ public:
         return mPoints[static_cast<std::size_t>(type - ErrorInfo)];
     }
 
+    /// The same errors were active from the start of each to its stop; the last one ends with the
+    /// last message. Times of messages that fall are taken for the latest time before them.
+    const std::vector<FaultRun>& runs() const { return mRuns; }
+
+    /// Seconds to add to every time, given the recording's offset.
+    double shift(double offset) const { return mIsShifted ? offset : 0.0; }
+
     /// Bits whose errors are of a type.
     std::uint32_t bitsOfType(int type) const;
+
+    /// The worst type among errors; ErrorNone without one.
+    int worstOf(std::uint32_t bits) const;
+    /// Names of errors, the worst first.
+    QString namesOf(std::uint32_t bits) const;
 
     /// The messages with which one of these bits changed, in message order.
     std::vector<FaultChange> changes(std::uint32_t bits) const;
@@ -76,6 +96,8 @@ private:
     /// Latest time up to each message; empty where the messages ascend in time anyway.
     std::vector<double> mLatest;
     std::array<std::vector<FaultPoint>, Types> mPoints; ///< by type
+    std::vector<FaultRun> mRuns;
+    bool mIsShifted = false; ///< the time offset applies to the messages
 };
 
 } // namespace TARN

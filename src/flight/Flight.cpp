@@ -36,7 +36,7 @@ Flight::Flight(std::shared_ptr<const Record> record, std::shared_ptr<const Profi
     for (const FaultMatrix& matrix : mProfile->data().faultMatrices) {
         mFaults.emplace_back(samples(), matrix);
     }
-    mMarks = EventMarks(mEvents, mFaults);
+    mMarks = EventMarks(samples(), mEvents, mFaults);
     if (std::ranges::any_of(samples().lists(), &RecordIdList::highFile)) {
         mFixed = timesOf(samples(), false);
         mShifted = timesOf(samples(), true);

@@ -48,6 +48,14 @@ void Session::confirm()
     Q_EMIT selectionChanged(); // the same again too: a graph that was emptied is filled
 }
 
+void Session::setLooks(const CurveLooks& looks)
+{
+    if (!(looks == mLooks)) {
+        mLooks = looks;
+        Q_EMIT looksChanged();
+    }
+}
+
 void Session::setOffset(double seconds)
 {
     if (mOffset != seconds) {

@@ -2,6 +2,7 @@
 
 #include "flight/Flight.h"
 #include "flight/Switch.h"
+#include "profile/CurveLooks.h"
 #include "profile/Selection.h"
 
 #include <QtCore/QObject>
@@ -30,6 +31,9 @@ public:
     /// The ticks in the tree, which nobody has confirmed yet.
     const Selection& ticks() const { return mTicks; }
 
+    /// How the user wants curves to look.
+    const CurveLooks& looks() const { return mLooks; }
+
     double offset() const { return mOffset; } ///< time offset, seconds
     double time() const { return mTime; }     ///< current time, seconds with the offset
     /// The range marked in the graph; without extent when nothing is marked.
@@ -51,6 +55,7 @@ public:
 
     void setTicks(const Selection& ticks);
     void confirm();
+    void setLooks(const CurveLooks& looks);
     void setOffset(double seconds);
     /// Moves the current time. \p source, which may be null, shows it already.
     void setTime(double time, const QObject* source = nullptr);
@@ -69,6 +74,7 @@ Q_SIGNALS:
     void flightChanged();
     void ticksChanged();
     void selectionChanged();
+    void looksChanged();
     void offsetChanged();
     void timeChanged(double time, const QObject* source);
     void marksChanged();
@@ -78,6 +84,7 @@ private:
     std::shared_ptr<const Flight> mFlight;
     Selection mSelection;
     Selection mTicks;
+    CurveLooks mLooks;
     double mOffset = 0.0;
     double mTime = 0.0;
     TimeRange mMarks;

@@ -5,11 +5,11 @@
 
 namespace TARN {
 
-DecodedCurve decodeCurve(const Flight& flight, const ProfileParameter& parameter, double offset,
-                         Progress& progress)
+DecodedCurve decodeCurve(const std::shared_ptr<const Flight>& flight,
+                         const ProfileParameter& parameter, double offset, Progress& progress)
 {
     constexpr std::size_t Chunk = 4096; // samples decoded at once, which stay in the cache
-    const Series series = flight.series(parameter, offset);
+    Series series = flight->series(parameter, offset);
     auto samples = std::make_shared<CurveSamples>();
     samples->reserve(series.size());
     DecodedCurve curve;
@@ -30,8 +30,12 @@ DecodedCurve decodeCurve(const Flight& flight, const ProfileParameter& parameter
         progress.report(series.size() - rest.size(), series.size());
     }
     samples->setGapRule(rhythm.isProven() ? QuickRhythm::rule() : series.gapRule([&] {
-        return flight.silences(offset);
+        return flight->silences(offset);
     }));
+    if (curve.leftOut == 0 && (samples->size() < 2 || samples->time(0) <= samples->time(1))) {
+        series.setInOrder();
+    }
+    curve.facts = std::make_shared<CurveFacts>(flight, std::move(series), samples->gapRule());
     curve.samples = std::move(samples);
     return curve;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "flight/Flight.h"
+#include "graph/CurveFacts.h"
 #include "graph/CurveSamples.h"
 
 #include <memory>
@@ -12,10 +12,11 @@ struct DecodedCurve
 {
     std::shared_ptr<const CurveSamples> samples; ///< null when it was asked to stop
     std::size_t leftOut = 0;                     ///< samples left out, because their time falls
+    std::shared_ptr<const CurveFacts> facts;     ///< null with the samples
 };
 
 /// Decodes all samples of a parameter, at a time offset, and finds where it has no value.
-DecodedCurve decodeCurve(const Flight& flight, const ProfileParameter& parameter, double offset,
+DecodedCurve decodeCurve(const std::shared_ptr<const Flight>& flight, const ProfileParameter& parameter, double offset,
                          Progress& progress);
 
 } // namespace TARN

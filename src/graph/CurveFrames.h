@@ -21,6 +21,13 @@ struct FrameType
     double last = 0.0;
     bool afterGap = false; ///< there is no value between the frame before and this one
 
+    /// The value of the last sample.
+    double latest() const
+    {
+        const double values[] = {first, low, high, last};
+        return values[state - 1];
+    }
+
     /// Range of the values that count, of those that are numbers.
     ValueRange range() const;
 };

@@ -36,7 +36,7 @@ void CurveLoader::load(std::shared_ptr<const Flight> flight,
     for (unsigned place = 0; place < parameters.size(); ++place) {
         const auto known = mDecoded.find(parameters[place]->uid);
         if (known != mDecoded.end()) {
-            Q_EMIT curveReady(place, known->second.samples);
+            Q_EMIT curveReady(place, known->second);
         } else if (mFlight != nullptr) {
             mWaiting.push_back(place);
         }
@@ -59,7 +59,7 @@ void CurveLoader::start()
             [flight = mFlight, parameters, offset = mOffset](Progress& progress) {
                 std::vector<DecodedCurve> curves;
                 for (const ProfileParameter* parameter : parameters) {
-                    curves.push_back(decodeCurve(*flight, *parameter, offset, progress));
+                    curves.push_back(decodeCurve(flight, *parameter, offset, progress));
                 }
                 return curves;
             },
@@ -88,7 +88,7 @@ void CurveLoader::take(const std::vector<unsigned>& places, const std::vector<De
     }
     start();
     for (std::size_t i = 0; i < places.size(); ++i) {
-        Q_EMIT curveReady(places[i], curves[i].samples);
+        Q_EMIT curveReady(places[i], curves[i]);
     }
     Q_EMIT ready();
 }

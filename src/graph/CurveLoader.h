@@ -38,7 +38,7 @@ public:
 
 Q_SIGNALS:
     /// A curve, by its place among the parameters asked for.
-    void curveReady(unsigned place, std::shared_ptr<const CurveSamples> samples);
+    void curveReady(unsigned place, const DecodedCurve& curve);
     /// Curves were told, some or all of those that were asked for.
     void ready();
     void outOfMemory();

@@ -11,11 +11,26 @@ CurveSet::CurveSet(unsigned n) : mCurves(std::clamp(n, 1U, MaxCurves))
     for (unsigned k = 0; k < count(); ++k) {
         mCurves[k].color = curveColor(k);
     }
+    setOrder({});
 }
 
-std::size_t CurveSet::activeCount() const
+std::vector<unsigned> CurveSet::shown() const
 {
-    return static_cast<std::size_t>(std::ranges::count_if(mCurves, &ParStruct::active));
+    std::vector<unsigned> indexes;
+    std::ranges::copy_if(mOrder, std::back_inserter(indexes),
+                         [this](unsigned k) { return mCurves[k].isShown(); });
+    return indexes;
+}
+
+void CurveSet::setOrder(std::vector<unsigned> order)
+{
+    std::erase_if(order, [this](unsigned k) { return k >= count(); });
+    for (unsigned k = 0; k < count(); ++k) {
+        if (std::ranges::find(order, k) == order.end()) {
+            order.push_back(k);
+        }
+    }
+    mOrder = std::move(order);
 }
 
 bool CurveSet::hasSamples() const
@@ -49,8 +64,20 @@ void CurveSet::clear()
     for (ParStruct& curve : mCurves) {
         curve.live.clear();
         curve.series = nullptr;
+        curve.facts = nullptr;
         curve.frames.clear();
         curve.valueSet = false;
+    }
+}
+
+void CurveSet::moveTo(unsigned curve, unsigned place)
+{
+    const auto from = std::ranges::find(mOrder, curve);
+    const auto to = std::ranges::find(mOrder, place);
+    if (from < to) {
+        std::rotate(from, from + 1, to + 1);
+    } else if (from != mOrder.end() && to != mOrder.end()) {
+        std::rotate(to, from, from + 1);
     }
 }
 
@@ -67,17 +94,12 @@ ValueRange CurveSet::timeRange() const
 
 ParStruct* CurveSet::at(double y)
 {
-    ParStruct* first = nullptr;
-    for (ParStruct& curve : mCurves) {
-        if (!curve.active) {
-            continue;
-        }
-        if (y >= curve.strip.y0 && y < curve.strip.y0 + curve.strip.height) {
-            return &curve;
-        }
-        first = first != nullptr ? first : &curve;
-    }
-    return first;
+    const std::vector<unsigned> all = shown();
+    const auto found = std::ranges::find_if(all, [&](unsigned k) {
+        const GraphStrip& strip = mCurves[k].strip;
+        return y >= strip.y0 && y < strip.y0 + strip.height;
+    });
+    return all.empty() ? nullptr : &mCurves[found != all.end() ? *found : all.front()];
 }
 
 } // namespace TARN

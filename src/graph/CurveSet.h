@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graph/CurveFacts.h"
 #include "graph/CurveFrames.h"
 #include "graph/GraphTypes.h"
 #include "graph/GraphView.h"
@@ -28,7 +29,12 @@ struct ParStruct
     QString unit;
     bool isSingle = false; ///< its numbers are of single precision
     bool showSamples = false;
+    std::shared_ptr<const CurveFacts> facts; ///< of a recording's; may be null
+    bool hidden = false;                     ///< active, but not drawn
+    std::optional<ValueRange> ownRange;      ///< Y range of its strip, instead of what is in sight
+    std::optional<ValueRange> zoomed;        ///< for as long as the user looks at it so
 
+    bool isShown() const { return active && !hidden; }
     const CurveSamples& samples() const { return series != nullptr ? *series : live; }
 };
 
@@ -53,8 +59,15 @@ public:
         return static_cast<unsigned>(&curve - mCurves.data());
     }
 
-    std::size_t activeCount() const;
+    /// The active curves that are not hidden, in the order of their strips, by index.
+    std::vector<unsigned> shown() const;
     bool hasSamples() const; ///< of an active curve
+
+    /// Indexes in the order of the strips; those that are not named follow. None is named twice.
+    void setOrder(std::vector<unsigned> order);
+    const std::vector<unsigned>& order() const { return mOrder; }
+    /// Puts a curve where another one stands in the order.
+    void moveTo(unsigned curve, unsigned place);
 
     /// Adds a sample. False when its time falls; it and the one before it are not there then.
     bool put(unsigned i, double time, double value);
@@ -68,12 +81,13 @@ public:
     /// Earliest and latest time of any sample; empty when there is none.
     ValueRange timeRange() const;
 
-    /// The active curve whose strip holds a pixel row; the first active one when none does. Null
-    /// when none is active.
+    /// The shown curve whose strip holds a pixel row; the first one when none does. Null when none
+    /// is shown.
     ParStruct* at(double y);
 
 private:
     std::vector<ParStruct> mCurves;
+    std::vector<unsigned> mOrder;
 };
 
 } // namespace TARN

@@ -1,6 +1,8 @@
 #include "graph/CurveText.h"
 
+#include "base/ClockTime.h"
 #include "base/Numbers.h"
+#include "graph/NotePlaces.h"
 
 #include <algorithm>
 #include <cmath>
@@ -46,6 +48,28 @@ QString curveText(const ParStruct& curve, double time, const char* format)
     const int decimals = std::max(decimalsOf(recorded(curve, samples.value(k - 1))),
                                   decimalsOf(recorded(curve, samples.value(k))));
     return std::fabs(value) < 1e12 ? QString::number(value, 'f', decimals) : recorded(curve, value);
+}
+
+QString shownText(const ParStruct& curve, double time, const GraphStyle& style, const char* digits)
+{
+    if (style.wordsOn && curve.facts != nullptr && curve.facts->hasWords()) {
+        return curve.facts->wordsAt(time);
+    }
+    return curveText(curve, time, style.allDigits ? digits : nullptr);
+}
+
+QString spokenText(const GraphModel& model, const GraphStyle& style)
+{
+    QStringList words = {clockTime(millisecondsOf(model.cursor())).toString("hh:mm:ss.zzz")};
+    std::vector<unsigned> places = model.curves().shown();
+    std::ranges::stable_partition(places, [&](unsigned k) { return k == model.pointed(); });
+    for (const unsigned k : places) {
+        const ParStruct& curve = *model.curves().curve(k);
+        const QString value = shownText(curve, model.cursor(), style, "%f");
+        words += curve.name + " " + (value.isEmpty() ? "---" : value + " " + curve.unit).trimmed();
+    }
+    const auto notes = NotePlaces(model, style).eventsAt(model.cursor());
+    return (words.join(", ") + "\n" + textOf(notes)).trimmed();
 }
 
 } // namespace TARN

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "graph/CurveSet.h"
+#include "graph/GraphModel.h"
+#include "graph/GraphStyle.h"
 
 #include <QtCore/QString>
 
@@ -11,5 +12,12 @@ namespace TARN {
 /// it has as many decimals as these two have. With \p format, "%.2f" or the like, it is printed
 /// in that form instead.
 QString curveText(const ParStruct& curve, double time, const char* format = nullptr);
+
+/// The same as a style wants it, a state in words; \p digits is the format where all of them are
+/// wanted.
+QString shownText(const ParStruct& curve, double time, const GraphStyle& style, const char* digits);
+
+/// Cursor and values in words, for those who can't see the graph: the curve pointed at first.
+QString spokenText(const GraphModel& model, const GraphStyle& style);
 
 } // namespace TARN

@@ -1,18 +1,16 @@
 #include "graph/DialogDataGraph.h"
 
-#include "base/OutputFile.h"
 #include "graph/DialogGraphSetup.h"
 #include "graph/GraphButtons.h"
 #include "graph/GraphPanes.h"
 #include "graph/SessionGraph.h"
 #include "graph/WidgetGraph.h"
 
-#include <QtCore/QBuffer>
-#include <QtCore/QFileInfo>
-#include <QtWidgets/QFileDialog>
+#include <QtCore/QEvent>
+#include <QtGui/QAction>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
-#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QMenu>
 
 #include <algorithm>
 
@@ -25,8 +23,8 @@ constexpr int NoCommand = 99;
 
 } // namespace
 
-DialogDataGraph::DialogDataGraph(Session& session, QWidget* parent)
-    : QWidget(parent), mSession(session), mCommand(NoCommand),
+DialogDataGraph::DialogDataGraph(Session& session, EpisodeWatch& episodes, QWidget* parent)
+    : QWidget(parent), mSession(session), mEpisodes(episodes), mCommand(NoCommand),
       mSetup(new DialogGraphSetup(this, mData)), mButtons(new GraphButtons), mNote(new QLabel)
 {
     constexpr int HeldInterval = 50; // ms
@@ -76,9 +74,19 @@ void DialogDataGraph::createGraph()
     mGraph->setMaxParameters(CurveSet::MaxCurves);
     mGraph->setDisplayMode(DisplaySplit);
     mGraph->setGraphMode(GraphManual);
+    mData.load();
+    applySettings();
+    mSnapshot.emplace(mSession, *mGraph, mData);
+    mMenu.emplace(mGraph->model(), *this);
+    connect(mGraph, &WidgetGraph::signalMenu, this, &DialogDataGraph::openMenu);
+    auto* copying = new QAction(mGraph);
+    copying->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Insert)); // Ctrl+C opens a card
+    copying->setShortcutContext(Qt::WidgetShortcut);
+    connect(copying, &QAction::triggered, this, [this] { mSnapshot->copy(); });
+    mGraph->addAction(copying);
     connect(&mGraph->model(), &GraphModel::modeChanged, this, &DialogDataGraph::slotModeChanged);
     connect(mGraph, &WidgetGraph::signalLink, this, &DialogDataGraph::signalLink);
-    auto* curves = new SessionGraph(mSession, *mGraph, this);
+    auto* curves = new SessionGraph(mSession, mEpisodes, *mGraph, this);
     connect(curves, &SessionGraph::noteChanged, this, [this](const QString& note) {
         mNote->setText(note);
         mNote->setVisible(!note.isEmpty());
@@ -114,8 +122,7 @@ void DialogDataGraph::runCommand(int command)
         model.zoomToMarker();
         break;
     case GraphButtons::ShowAll:
-        model.window().showAll();
-        model.windowChanged();
+        model.showAll();
         break;
     case GraphButtons::ClearAll:
         model.clear();
@@ -194,6 +201,7 @@ void DialogDataGraph::openSetup()
     mData.gridColor = style.grid.toColor().name();
     mData.labelColor = style.label.toColor().name();
     mData.labelBackColor = style.labelBack.toColor().name();
+    mData.autoScale = model.layout().isAutoScaleY();
     mApplied = mData;
     mSetup->updateDialog();
     mSetup->show();
@@ -208,6 +216,7 @@ void DialogDataGraph::slotGraphSetup()
         return;
     }
     GraphModel& model = mGraph->model();
+    applySettings();
     GraphStyle style = mGraph->graphStyle();
     const auto color = [](GraphColor& to, const QString& now, const QString& before) {
         to = now != before ? GraphColor::of(QColor(now)) : to;
@@ -232,37 +241,51 @@ void DialogDataGraph::slotGraphSetup()
     }
     model.window().keepInside(model.cursor());
     model.windowChanged();
+    mData.store();
     mApplied = mData;
+}
+
+/// What is remembered from session to session.
+void DialogDataGraph::applySettings()
+{
+    GraphStyle style = mGraph->graphStyle();
+    if (mData.theme != mApplied.theme) {
+        style = themed(style, isLight(mData.theme));
+    }
+    style.thresholdsOn = mData.thresholdsOn;
+    style.eventsOn = mData.eventsOn;
+    style.lanesOn = mData.lanesOn;
+    style.wordsOn = mData.wordsOn;
+    mGraph->setGraphStyle(style);
+    mApplied.theme = mData.theme;
 }
 
 void DialogDataGraph::saveSnapshot()
 {
-    if (mGraph == nullptr) {
-        return;
-    }
-    const QString file = QFileDialog::getSaveFileName(this, tr("Save Snapshot"), "./snapshot.bmp",
-                                                      tr("BMP File (*.bmp);;All Files (*.*)"));
-    if (!file.isEmpty() && !saveImage(file)) {
-        QMessageBox::warning(this, tr("Save Snapshot"),
-                             tr("The snapshot could not be saved as\n%1\nChoose a folder that can "
-                                "be written, with enough free space, and a name that ends in "
-                                ".bmp, .png or .jpg.")
-                                 .arg(file));
+    if (mSnapshot) {
+        mSnapshot->save(*this);
     }
 }
 
-bool DialogDataGraph::saveImage(const QString& file)
+void DialogDataGraph::openMenu(QPoint global)
 {
-    const QByteArray suffix = QFileInfo(file).suffix().toLatin1();
-    const QImage image = mGraph->grabFramebuffer().convertToFormat(QImage::Format_RGB32);
-    QBuffer encoded;
-    OutputFile out(file);
-    if (!encoded.open(QIODevice::WriteOnly) ||
-        !image.save(&encoded, suffix.isEmpty() ? "BMP" : suffix.constData()) || !out.open()) {
-        return false;
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    mMenu->addTo(*menu);
+    menu->addSeparator();
+    menu->addAction(tr("&Save Picture..."), this, &DialogDataGraph::saveSnapshot);
+    menu->addAction(tr("Co&py Picture"), this, [this] { mSnapshot->copy(); });
+    menu->popup(global);
+}
+
+/// A light desktop may have become a dark one.
+void DialogDataGraph::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && mGraph != nullptr &&
+        mData.theme == GraphTheme::Desktop) {
+        mGraph->setGraphStyle(themed(mGraph->graphStyle(), isLight(mData.theme)));
     }
-    out.write(encoded.data().toStdString());
-    return out.commit();
 }
 
 } // namespace TARN

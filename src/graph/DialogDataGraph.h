@@ -1,10 +1,14 @@
 #pragma once
 
 #include "flight/Session.h"
+#include "graph/CurveMenu.h"
 #include "graph/GraphData.h"
+#include "graph/Snapshot.h"
 
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
+
+#include <optional>
 
 class QLabel;
 class WidgetGraph;
@@ -12,6 +16,7 @@ class WidgetGraph;
 namespace TARN {
 
 class DialogGraphSetup;
+class EpisodeWatch;
 class GraphButtons;
 class GraphPanes;
 
@@ -22,7 +27,7 @@ class DialogDataGraph : public QWidget
     Q_OBJECT
 
 public:
-    explicit DialogDataGraph(Session& session, QWidget* parent = nullptr);
+    DialogDataGraph(Session& session, EpisodeWatch& episodes, QWidget* parent = nullptr);
 
     // The marked range, seconds; both 0 when nothing is marked.
     double markStart() const { return mSession.marks().start; }
@@ -38,6 +43,9 @@ Q_SIGNALS:
     /// The user follows a link of the empty text.
     void signalLink(const QString& link);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private Q_SLOTS:
     void slotCommandPress(int command);
     void slotCommandRelease(int command);
@@ -51,9 +59,11 @@ private:
     void runCommand(int command);
     void setRange(double seconds);
     void openSetup();
-    bool saveImage(const QString& file);
+    void openMenu(QPoint global);
+    void applySettings();
 
     Session& mSession;
+    EpisodeWatch& mEpisodes;
     int mCommand; ///< that is held
     GraphData mData;
     GraphData mApplied; ///< the settings as the graph has them
@@ -62,6 +72,8 @@ private:
     QTimer mTimer;
     WidgetGraph* mGraph = nullptr;
     GraphPanes* mPanes = nullptr;
+    std::optional<Snapshot> mSnapshot; ///< where there is a graph
+    std::optional<CurveMenu> mMenu;
     QLabel* mNote; ///< of what is left out
 };
 

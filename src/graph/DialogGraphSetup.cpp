@@ -23,6 +23,8 @@ DialogGraphSetup::DialogGraphSetup(QWidget* parent, GraphData& settings)
       mCursorOn(new QCheckBox(tr("Cursor On"))), mCursorMode(new QComboBox),
       mLegendOn(new QCheckBox(tr("Legend On"))), mAutoscaleOn(new QCheckBox(tr("Autoscale On"))),
       mYmin(createNumber(tr("Y minimum"))), mYmax(createNumber(tr("Y maximum"))),
+      mTheme(createTheme(&GraphData::theme, tr("Colors of the plot"), false)),
+      mPictureTheme(createTheme(&GraphData::pictureTheme, tr("Colors of pictures"), true)),
       mClose(new QPushButton(tr("Close")))
 {
     setWindowTitle(tr("Oscilloscope Setup"));
@@ -65,7 +67,57 @@ void DialogGraphSetup::createRows()
     addRow(tr("Cursor On/Mode :"), {mCursorOn, mCursorMode});
     addRow(tr("Legend :"), {mLegendOn});
     addRow(tr("Y-Scale :"), {mAutoscaleOn, mYmin, mYmax});
+    addRow(tr("Colors/Of Pictures :"), {mTheme, mPictureTheme});
+    createSwitches();
     mLayout->addWidget(mClose, mLayout->rowCount(), 3);
+}
+
+QComboBox* DialogGraphSetup::createTheme(GraphTheme GraphData::*theme, const QString& name,
+                                         bool mayFollow)
+{
+    auto* box = new QComboBox;
+    box->addItems({tr("Dark"), tr("Light"), tr("As the desktop")});
+    if (mayFollow) {
+        box->addItem(tr("As the graph"));
+    }
+    box->setAccessibleName(name);
+    box->setToolTip(name);
+    connect(box, &QComboBox::activated, this, [this, theme](int chosen) {
+        mData.*theme = static_cast<GraphTheme>(chosen);
+        Q_EMIT signalChanged();
+    });
+    return box;
+}
+
+void DialogGraphSetup::createSwitches()
+{
+    const struct
+    {
+        QString label;
+        QString text;
+        QString toolTip;
+        bool GraphData::*on;
+    } rows[] = {
+        {tr("Thresholds :"), tr("Thresholds On"),
+         tr("Lines and bands at the values where a range begins; a name stands on the color of the "
+            "range that its value is in"),
+         &GraphData::thresholdsOn},
+        {tr("Events :"), tr("Events On"),
+         tr("Ticks over the plot for limits, lamps and faults, bars for as long as a limit was "
+            "exceeded"),
+         &GraphData::eventsOn},
+        {tr("Error Lanes :"), tr("Error Lanes On"),
+         tr("The active errors of each error matrix below the curves"), &GraphData::lanesOn},
+        {tr("States :"), tr("States in Words"), tr("Names of states beside their numbers"),
+         &GraphData::wordsOn}};
+    for (const auto& [label, text, toolTip, on] : rows) {
+        auto* box = new QCheckBox(text);
+        box->setToolTip(toolTip);
+        connect(box, &QCheckBox::stateChanged, this,
+                [this, on = on](int state) { storeSwitch(mData.*on, state); });
+        mSwitches.push_back({box, on});
+        addRow(label, {box});
+    }
 }
 
 void DialogGraphSetup::addRow(const QString& label, std::initializer_list<QWidget*> controls)
@@ -113,7 +165,13 @@ void DialogGraphSetup::updateDialog()
         const QSignalBlocker blocker(box); // showing is no change
         box->setChecked(on);
     }
+    for (const auto& [box, on] : mSwitches) {
+        const QSignalBlocker blocker(box);
+        box->setChecked(mData.*on);
+    }
     mCursorMode->setCurrentIndex(mData.cursorMode);
+    mTheme->setCurrentIndex(static_cast<int>(mData.theme));
+    mPictureTheme->setCurrentIndex(static_cast<int>(mData.pictureTheme));
     mYmin->setText(QString("%1").arg(mData.yMin));
     mYmax->setText(QString("%1").arg(mData.yMax));
 }

@@ -4,6 +4,8 @@
 
 #include <QtWidgets/QDialog>
 
+#include <vector>
+
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
@@ -43,6 +45,15 @@ private Q_SLOTS:
     void slotClose();
 
 private:
+    /// A check box of a setting without a slot of its own.
+    struct Switch
+    {
+        QCheckBox* box;
+        bool GraphData::*on;
+    };
+
+    QComboBox* createTheme(GraphTheme GraphData::*theme, const QString& name, bool mayFollow);
+    void createSwitches();
     void addRow(const QString& label, std::initializer_list<QWidget*> controls);
     void createRows();
     void connectControls();
@@ -65,6 +76,9 @@ private:
     QCheckBox* mAutoscaleOn;
     QLineEdit* mYmin;
     QLineEdit* mYmax;
+    QComboBox* mTheme;
+    QComboBox* mPictureTheme;
+    std::vector<Switch> mSwitches;
     QPushButton* mClose;
 };
 

@@ -79,6 +79,19 @@ void GlCanvas::lines(const std::vector<float>& points, const GraphColor& color)
     draw(GL_LINES, points.data(), static_cast<int>(points.size() / 2), color);
 }
 
+void GlCanvas::dotted(const std::vector<float>& points, const GraphColor& color)
+{
+    constexpr float Step = 2.0F;
+    std::vector<float> all;
+    for (std::size_t i = 0; i + 3 < points.size(); i += 4) {
+        for (float x = points[i], y = points[i + 1]; x <= points[i + 2] && y <= points[i + 3];) {
+            all.insert(all.end(), {x, y});
+            (points[i] == points[i + 2] ? y : x) += Step;
+        }
+    }
+    dots(all.data(), static_cast<int>(all.size() / 2), color, 1.0F);
+}
+
 void GlCanvas::dots(const float* points, int count, const GraphColor& color, float size)
 {
     glPointSize(size * static_cast<float>(mRatio));

@@ -20,6 +20,7 @@ public:
               float alpha = 1.0F) override;
     void strip(const float* points, int count, const GraphColor& color) override;
     void lines(const std::vector<float>& points, const GraphColor& color) override;
+    void dotted(const std::vector<float>& points, const GraphColor& color) override;
     void dots(const float* points, int count, const GraphColor& color, float size) override;
     double sharp(double pixel) const override;
 

@@ -25,6 +25,8 @@ public:
     // One pixel wide.
     virtual void strip(const float* points, int count, const GraphColor& color) = 0;
     virtual void lines(const std::vector<float>& points, const GraphColor& color) = 0;
+    /// Level and upright lines of which every other pixel is drawn.
+    virtual void dotted(const std::vector<float>& points, const GraphColor& color) = 0;
     virtual void dots(const float* points, int count, const GraphColor& color, float size) = 0;
 
     /// Where a level or upright line through \p pixel is drawn sharp.

@@ -14,8 +14,6 @@ namespace {
 constexpr double MajorTick = 10.0; // pixels
 constexpr double MinorTick = 5.0;
 constexpr double Gap = 5.0; // between a line and its text
-constexpr GraphColor White{1.0F, 1.0F, 1.0F};
-constexpr GraphColor Yellow{1.0F, 1.0F, 0.0F};
 
 void addLine(std::vector<float>& points, double x0, double y0, double x1, double y1)
 {
@@ -27,10 +25,10 @@ void addLine(std::vector<float>& points, double x0, double y0, double x1, double
 } // namespace
 
 GraphDrawing::GraphDrawing(const GraphModel& model, const GraphStyle& style,
-                           const KeyCursor& keyCursor, QSizeF size, GraphCanvas& canvas,
-                           TextLayout& texts)
-    : mModel(model), mStyle(style), mKeyCursor(keyCursor), mSize(size), mCanvas(canvas),
-      mTexts(texts), mView(model.layout().view())
+                           const KeyCursor& keyCursor, GraphCanvas& canvas, TextLayout& texts)
+    : mModel(model), mStyle(style), mKeyCursor(keyCursor),
+      mSize(model.layout().width(), model.layout().height()), mCanvas(canvas), mTexts(texts),
+      mView(model.layout().view()), mNotes(model, style, canvas, texts)
 {}
 
 void GraphDrawing::draw()
@@ -41,18 +39,28 @@ void GraphDrawing::draw()
         drawTicksY(nullptr);
     }
     drawTicksX();
-    for (const ParStruct& curve : mModel.curves().all()) {
-        if (curve.active) {
-            if (split) {
-                drawTicksY(&curve);
-            }
-            drawParameter(curve);
+    if (!split && mModel.curves().curve(mModel.pointed())->isShown()) {
+        mNotes.drawThresholds(*mModel.curves().curve(mModel.pointed()));
+    }
+    const std::vector<unsigned> shown = mModel.curves().shown();
+    for (const unsigned k : shown) {
+        const ParStruct& curve = *mModel.curves().curve(k);
+        if (split) {
+            drawTicksY(&curve);
+            mNotes.drawThresholds(curve);
         }
+        drawParameter(curve);
+        mNotes.drawEpisodes(curve);
     }
     drawMarker();
     // Texts are painted on top of it all; the cursor's keep clear of the legend.
     if (mStyle.legendOn) {
         drawLabels();
+    }
+    mNotes.drawLanes();
+    mNotes.drawEvents();
+    for (const unsigned k : shown) {
+        mNotes.drawWords(*mModel.curves().curve(k));
     }
     drawMarkerEnds();
     if (mStyle.cursorOn) {
@@ -64,20 +72,6 @@ void GraphDrawing::draw()
 void GraphDrawing::drawBackground()
 {
     mCanvas.fill(mView.x0, mView.y0, mView.x0 + mView.width, mView.y0 + mView.height, mStyle.back);
-}
-
-/// Every other pixel of these lines.
-void GraphDrawing::drawGrid(const std::vector<float>& lines)
-{
-    constexpr float Step = 2.0F;
-    std::vector<float> dots;
-    for (std::size_t i = 0; i + 3 < lines.size(); i += 4) {
-        for (float x = lines[i], y = lines[i + 1]; x <= lines[i + 2] && y <= lines[i + 3];) {
-            dots.insert(dots.end(), {x, y});
-            (lines[i] == lines[i + 2] ? y : x) += Step;
-        }
-    }
-    mCanvas.dots(dots.data(), static_cast<int>(dots.size() / 2), mStyle.grid, 1.0F);
 }
 
 void GraphDrawing::drawTicksX()
@@ -93,18 +87,18 @@ void GraphDrawing::drawTicksX()
     std::vector<float> grid;
     for (const GraphTick& tick : axis.ticks) {
         const double x = mCanvas.sharp(mView.xToViewport(tick.value));
-        addLine(marks, x, mView.y0 - (tick.major ? MajorTick : MinorTick), x, mView.y0);
+        addLine(marks, x, mView.base - (tick.major ? MajorTick : MinorTick), x, mView.base);
         if (tick.major) {
             addLine(grid, x, mView.y0, x, mView.y0 + mView.height);
             const QString text = timeLabel(tick.value, axis.step);
             const double left = mView.xToViewport(tick.value) - mTexts.sizeOf(text).width() / 2.0;
-            mTexts.add(text, {left, mSize.height() - mView.y0 + LabelTop},
+            mTexts.add(text, {left, mSize.height() - mView.base + LabelTop},
                        legibleOn(mStyle.labelBack, mStyle.label), area);
         }
     }
     mCanvas.lines(marks, mStyle.label);
     if (mStyle.gridOn) {
-        drawGrid(grid);
+        mCanvas.dotted(grid, mStyle.grid);
     }
 }
 
@@ -127,7 +121,7 @@ void GraphDrawing::drawTicksY(const ParStruct* curve)
     }
     mCanvas.lines(marks, color);
     if (mStyle.gridOn) {
-        drawGrid(grid);
+        mCanvas.dotted(grid, mStyle.grid);
     }
     for (const ValueAxis::Label& label : axis.labels) {
         const QSizeF size = mTexts.sizeOf(label.text);
@@ -140,21 +134,22 @@ void GraphDrawing::drawTicksY(const ParStruct* curve)
 void GraphDrawing::drawParameter(const ParStruct& curve)
 {
     constexpr float MarkSize = 3.0F;
+    const GraphColor color = inkOf(curve);
     mCanvas.clip(mView.x0, curve.strip.y0, mView.width, curve.strip.height);
     mLine.buildLine(curve, mView);
     for (const GraphLine::Strip& strip : mLine.strips()) {
         const float* points = mLine.points().data() + std::ptrdiff_t(strip.first) * 2;
         if (strip.count > 1) {
-            mCanvas.strip(points, strip.count, curve.color);
+            mCanvas.strip(points, strip.count, color);
         } else {
-            mCanvas.dots(points, 1, curve.color, MarkSize); // a line needs two
+            mCanvas.dots(points, 1, color, MarkSize); // a line needs two
         }
     }
-    mCanvas.lines(mLine.fillings(), curve.color);
+    mCanvas.lines(mLine.fillings(), color);
     if (curve.showSamples) {
         mLine.buildSamples(curve, mView);
-        mCanvas.dots(mLine.points().data(), static_cast<int>(mLine.points().size() / 2), White,
-                     MarkSize);
+        mCanvas.dots(mLine.points().data(), static_cast<int>(mLine.points().size() / 2),
+                     mStyle.fore, MarkSize);
     }
     mCanvas.clipNone();
 }
@@ -173,7 +168,7 @@ void GraphDrawing::drawMarker()
     stop = std::max(stop, start + 1.0); // a click shows too
     if (stop > left && start < right) {
         mCanvas.fill(std::max(start, left), mView.y0, std::min(stop, right),
-                     mView.y0 + mView.height, Yellow, Alpha);
+                     mView.y0 + mView.height, mStyle.marks, Alpha);
     }
 }
 
@@ -199,23 +194,23 @@ void GraphDrawing::drawMarkerEnds()
         // Outside of the range, where both have room.
         const bool isLeft = (name[0] == 'A') == (x - Gap - width >= plot.left());
         mTexts.addNear(text, {isLeft ? x - Gap - width : x + Gap, top},
-                       legibleOn(mStyle.back, Yellow), plot);
+                       legibleOn(mStyle.back, mStyle.marks), plot);
     }
-    mCanvas.lines(points, Yellow);
+    mCanvas.lines(points, mStyle.marks);
 }
 
 void GraphDrawing::drawOutline()
 {
     const double left = mCanvas.sharp(mView.x0);
     const double right = mCanvas.sharp(mView.x0 + mView.width - 1.0);
-    const double bottom = mCanvas.sharp(mView.y0);
+    const double bottom = mCanvas.sharp(mView.base);
     const double top = mCanvas.sharp(mView.y0 + mView.height - 1.0);
     std::vector<float> points;
     addLine(points, left, bottom, right, bottom);
     addLine(points, right, bottom, right, top);
     addLine(points, right, top, left, top);
     addLine(points, left, top, left, bottom);
-    mCanvas.lines(points, White);
+    mCanvas.lines(points, mStyle.fore);
 }
 
 /// The plot area in pixels from the upper left corner, as text is painted.
@@ -245,13 +240,13 @@ void GraphDrawing::drawCursor()
     std::vector<float> points;
     if (inside) {
         const double sharp = mCanvas.sharp(x);
-        addLine(points, sharp, mView.y0 - Overhang, sharp, top);
+        addLine(points, sharp, mView.base - Overhang, sharp, top);
     }
     if (mKeyCursor.isShown && y >= mView.y0 && y <= top) {
         const double sharp = mCanvas.sharp(y);
         addLine(points, mView.x0 - Overhang, sharp, right, sharp);
     }
-    mCanvas.lines(points, White);
+    mCanvas.lines(points, mStyle.fore);
     if (mKeyCursor.isShown && inside) {
         drawCursorValues(x, y);
     }
@@ -271,26 +266,48 @@ void GraphDrawing::drawCursorValues(double x, double y)
     const QTime time =
         clockTime(millisecondsOf(isReported ? mKeyCursor.reportedTime : mModel.cursor()));
     add(time.toString("hh:mm:ss.zzz") + QString::asprintf("/%.2f", mKeyCursor.value),
-        mSize.height() - y - Gap - lineHeight, legibleOn(mStyle.back, White));
+        mSize.height() - y - Gap - lineHeight, legibleOn(mStyle.back, mStyle.fore));
     for (const ParStruct& curve : mModel.curves().all()) {
         double value = 0.0;
-        if (curve.active && curve.samples().valueAt(mModel.cursor(), value)) {
+        if (curve.isShown() && curve.samples().valueAt(mModel.cursor(), value)) {
             const double row = mSize.height() - mView.yToViewport(curve.strip, value);
-            add(curveText(curve, mModel.cursor(), mStyle.allDigits ? "%.2f" : nullptr),
-                row - lineHeight / 2.0, curve.color);
+            add(shownText(curve, mModel.cursor(), mStyle, "%.2f"), row - lineHeight / 2.0,
+                inkOf(curve));
         }
     }
 }
 
+/// A curve's colour, dark enough on a light plot.
+GraphColor GraphDrawing::inkOf(const ParStruct& curve) const
+{
+    return mStyle.isLight() ? legibleOn(mStyle.back, curve.color) : curve.color;
+}
+
 QString GraphDrawing::legendOf(const ParStruct& curve, double room) const
 {
-    QString value = curveText(curve, mModel.cursor(), mStyle.allDigits ? "%f" : nullptr);
+    const QString name = mTexts.elided(curve.name, room);
+    if (!mStyle.valuesOn) {
+        return name;
+    }
+    QString value = shownText(curve, mModel.cursor(), mStyle, "%f");
     if (value.isEmpty()) {
         value = "---";
     } else if (!curve.unit.isEmpty()) {
         value += " " + curve.unit;
     }
-    return mTexts.elided(curve.name, room) + "   " + value;
+    return name + "   " + value;
+}
+
+void GraphDrawing::addLegend(unsigned k, QPointF place, const QRectF& plot)
+{
+    const ParStruct& curve = *mModel.curves().curve(k);
+    const QString text = legendOf(curve, plot.width() / 2.0);
+    const auto alert = mStyle.thresholdsOn && mStyle.valuesOn && curve.facts != nullptr
+                           ? curve.facts->alertAt(mModel.cursor())
+                           : std::nullopt;
+    mTexts.add({text, QRectF(place, mTexts.sizeOf(text)),
+                legibleOn(alert.value_or(mStyle.back), curve.color), true, alert, k},
+               plot);
 }
 
 void GraphDrawing::drawLabels()
@@ -302,10 +319,8 @@ void GraphDrawing::drawLabels()
     double left = plot.left() + Gap;
     double top = plot.top() + Gap;
     double widest = 0.0;
-    for (const ParStruct& curve : mModel.curves().all()) {
-        if (!curve.active) {
-            continue;
-        }
+    for (const unsigned k : mModel.curves().shown()) {
+        const ParStruct& curve = *mModel.curves().curve(k);
         if (split) {
             top = mSize.height() - curve.strip.y0 - curve.strip.height +
                   std::min(Gap, (curve.strip.height - lineHeight) / 2.0);
@@ -315,10 +330,31 @@ void GraphDrawing::drawLabels()
             top = plot.top() + Gap;
             widest = 0.0;
         }
-        const QString text = legendOf(curve, plot.width() / 2.0);
-        mTexts.add(text, {left, top}, legibleOn(mStyle.back, curve.color), plot, true);
-        widest = std::max(widest, mTexts.sizeOf(text).width());
+        addLegend(k, {left, top}, plot);
+        widest = std::max(widest, mTexts.sizeOf(legendOf(curve, plot.width() / 2.0)).width());
         top += lineHeight + Gap;
+    }
+    drawHiddenLabels();
+}
+
+/// The names of hidden curves, so that they can be shown again, along the plot's lower edge.
+void GraphDrawing::drawHiddenLabels()
+{
+    constexpr double NameGap = 12.0;
+    const QRectF plot = plotBox();
+    const double top = plot.bottom() - Gap - mTexts.sizeOf("0").height();
+    double right = plot.right() - Gap;
+    for (const unsigned k : mModel.curves().order()) {
+        const ParStruct& curve = *mModel.curves().curve(k);
+        if (curve.active && curve.hidden) {
+            const QString text = "(" + mTexts.elided(curve.name, plot.width() / 4.0) + ")";
+            const QSizeF size = mTexts.sizeOf(text);
+            right -= size.width();
+            mTexts.add({text, QRectF(QPointF(right, top), size),
+                        legibleOn(mStyle.back, mStyle.grid), true, std::nullopt, k},
+                       plot);
+            right -= NameGap;
+        }
     }
 }
 

@@ -4,6 +4,7 @@
 #include "graph/GraphLine.h"
 #include "graph/GraphModel.h"
 #include "graph/GraphStyle.h"
+#include "graph/NoteDrawing.h"
 #include "graph/TextLayout.h"
 
 #include <QtCore/QSizeF>
@@ -15,9 +16,9 @@ namespace TARN {
 class GraphDrawing
 {
 public:
-    /// Everything is referred to. \p size of the whole area in pixels.
+    /// Everything is referred to. The model is laid out.
     GraphDrawing(const GraphModel& model, const GraphStyle& style, const KeyCursor& keyCursor,
-                 QSizeF size, GraphCanvas& canvas, TextLayout& texts);
+                 GraphCanvas& canvas, TextLayout& texts);
 
     void draw();
 
@@ -32,8 +33,10 @@ private:
     void drawCursor();
     void drawCursorValues(double x, double y);
     void drawOutline();
-    void drawGrid(const std::vector<float>& lines);
     QString legendOf(const ParStruct& curve, double room) const;
+    void addLegend(unsigned k, QPointF place, const QRectF& plot);
+    void drawHiddenLabels();
+    GraphColor inkOf(const ParStruct& curve) const;
     QRectF plotBox() const;
     double keyCursorY() const;
 
@@ -44,6 +47,7 @@ private:
     GraphCanvas& mCanvas;
     TextLayout& mTexts;
     const GraphView& mView;
+    NoteDrawing mNotes;
     GraphLine mLine;
 };
 

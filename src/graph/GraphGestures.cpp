@@ -4,6 +4,8 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWheelEvent>
 
+#include <utility>
+
 namespace TARN {
 
 GraphGestures::GraphGestures(GraphModel& model, QObject* parent) : QObject(parent), mModel(model)
@@ -46,7 +48,7 @@ void GraphGestures::press(QKeyEvent& event)
     default:
         // With these held a letter is a command of the window, and some letters here lose data.
         if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) ||
-            !changeByKey(event.key())) {
+            !changeByKey(event.key(), event.modifiers())) {
             event.ignore();
         }
         break;
@@ -54,7 +56,7 @@ void GraphGestures::press(QKeyEvent& event)
 }
 
 /// Whether the key was one of the graph's.
-bool GraphGestures::changeByKey(int key)
+bool GraphGestures::changeByKey(int key, Qt::KeyboardModifiers modifiers)
 {
     switch (key) {
     case Qt::Key_F2:
@@ -90,18 +92,26 @@ bool GraphGestures::changeByKey(int key)
         break;
     }
     case Qt::Key_Home:
-        mModel.window().showAll();
-        mModel.windowChanged();
+        mModel.showAll();
+        break;
+    case Qt::Key_M:
+        mModel.zoomToMinute(mModel.cursor());
         break;
     case Qt::Key_Backspace:
-        if (mModel.window().back()) {
-            mModel.windowChanged();
-        }
+        step(!modifiers.testFlag(Qt::ShiftModifier));
         break;
     default:
         return false;
     }
     return true;
+}
+
+/// Through the windows that were left by zooms.
+void GraphGestures::step(bool isBack)
+{
+    if (isBack ? mModel.window().back() : mModel.window().forth()) {
+        mModel.windowChanged();
+    }
 }
 
 void GraphGestures::moveCursorX(double pixels)
@@ -112,15 +122,20 @@ void GraphGestures::moveCursorX(double pixels)
     reportCursor();
 }
 
-void GraphGestures::moveCursorY(double pixels)
+double GraphGestures::keyCursorRow() const
 {
     const ParStruct* curve = mModel.curves().curve(mKeyCursor.curve);
     const bool isOfStrip =
         mModel.layout().displayMode() == DisplaySplit && curve != nullptr && curve->active;
     const GraphView& view = mModel.layout().view();
-    const double y = isOfStrip ? view.yToViewport(curve->strip, mKeyCursor.value)
-                               : view.yToViewport(mKeyCursor.value);
-    takeValueAt(y + pixels);
+    return isOfStrip ? view.yToViewport(curve->strip, mKeyCursor.value)
+                     : view.yToViewport(mKeyCursor.value);
+}
+
+void GraphGestures::moveCursorY(double pixels)
+{
+    takeValueAt(keyCursorRow() + pixels);
+    mModel.pointAt(mModel.cursor(), keyCursorRow());
     mCursorTimer.start();
     reportCursor();
 }
@@ -160,6 +175,9 @@ void GraphGestures::press(const QMouseEvent& event)
     switch (event.button()) {
     case Qt::LeftButton:
         mHeld = endAt(event.position());
+        if (!mHeld && event.modifiers() == Qt::NoModifier) {
+            mPressed = event.position();
+        }
         if (event.modifiers().testFlag(Qt::ShiftModifier)) {
             const TimeRange marks = withNearerEnd(mModel.markers(), time);
             mModel.setMarker(marks.start, marks.stop);
@@ -170,6 +188,10 @@ void GraphGestures::press(const QMouseEvent& event)
         break;
     case Qt::MiddleButton:
         setCursorFrom(event.position());
+        break;
+    case Qt::BackButton:
+    case Qt::ForwardButton:
+        step(event.button() == Qt::BackButton);
         break;
     case Qt::RightButton:
         mPanX = event.position().x();
@@ -189,7 +211,11 @@ std::optional<MarkerEnd> GraphGestures::endAt(QPointF position) const
 
 void GraphGestures::move(const QMouseEvent& event)
 {
-    if (event.buttons().testFlag(Qt::LeftButton)) {
+    constexpr double Still = 3.0; // pixels that no hand keeps from moving
+    if (mPressed && (event.position() - *mPressed).manhattanLength() > Still) {
+        mPressed.reset();
+    }
+    if (event.buttons().testFlag(Qt::LeftButton) && !mPressed) {
         const double time = timeAt(event.position());
         TimeRange marks = mModel.markers();
         if (mHeld) {
@@ -212,11 +238,28 @@ void GraphGestures::move(const QMouseEvent& event)
 void GraphGestures::release(const QMouseEvent& event)
 {
     const TimeRange marks = mModel.markers();
-    if (event.button() == Qt::LeftButton && marks.stop < marks.start) {
+    if (event.button() == Qt::LeftButton && std::exchange(mPressed, std::nullopt)) {
+        click(event.position());
+    } else if (event.button() == Qt::LeftButton && marks.stop < marks.start) {
         mModel.setMarker(marks.stop, marks.start);
     } else if (event.button() == Qt::MiddleButton) {
         hideKeyCursor();
     }
+}
+
+void GraphGestures::click(QPointF position)
+{
+    const double y = mSize.height() - position.y();
+    mModel.pointAt(timeAt(position), y);
+    takeValueAt(y);
+    goTo(timeAt(position));
+}
+
+void GraphGestures::goTo(double time)
+{
+    mModel.setCursor(time);
+    mKeyCursor.reportedTime = static_cast<float>(time);
+    Q_EMIT cursorMoved(static_cast<float>(time), mKeyCursor.value);
 }
 
 void GraphGestures::setCursorFrom(QPointF position)
@@ -230,7 +273,12 @@ void GraphGestures::setCursorFrom(QPointF position)
 void GraphGestures::pan(double x)
 {
     const double shift = (mPanX - x) * mModel.layout().view().pixelTime();
-    mModel.window().set(mPanMin + shift, mPanMax + shift);
+    panTo(mPanMin + shift, mPanMax + shift);
+}
+
+void GraphGestures::panTo(double min, double max)
+{
+    mModel.window().set(min, max);
     mModel.windowChanged();
     mIsPanning = true;
     mModel.setGraphMode(GraphManual);
@@ -242,15 +290,27 @@ void GraphGestures::turn(const QWheelEvent& event)
 {
     constexpr double Step = 0.9;
     constexpr qint64 BurstPause = 1000; // ms
-    const int delta = event.angleDelta().y();
-    if (delta == 0) {
-        return; // a touchpad's sideways move
+    constexpr double PanStep = 0.1;     // of the window
+    constexpr double Notch = 120.0;     // of a wheel, as the toolkit counts
+    const QPoint delta = event.angleDelta();
+    const bool isSideways = delta.y() == 0; // of a touchpad
+    if (isSideways || event.modifiers().testFlag(Qt::ShiftModifier)) {
+        const double turned = isSideways ? delta.x() : delta.y();
+        const double shift = -turned / Notch * PanStep * mModel.window().width();
+        panTo(mModel.window().min() + shift, mModel.window().max() + shift);
+        return;
+    }
+    const double factor = delta.y() > 0 ? Step : 1.0 / Step;
+    if (event.modifiers().testFlag(Qt::ControlModifier)) {
+        mModel.layout().zoomY(mSize.height() - event.position().y(), factor);
+        mModel.curvesChanged();
+        return;
     }
     if (!mSinceZoom.isValid() || mSinceZoom.elapsed() > BurstPause) {
         mModel.window().remember(); // a burst of steps is one zoom
     }
     mSinceZoom.start();
-    mModel.window().zoomAbout(timeAt(event.position()), delta > 0 ? Step : 1.0 / Step);
+    mModel.window().zoomAbout(timeAt(event.position()), factor);
     mModel.windowChanged();
 }
 

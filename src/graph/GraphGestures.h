@@ -29,6 +29,8 @@ public:
     /// Other curves: it starts at the first.
     void resetKeyCursor() { mKeyCursor.curve = 0; }
     void hideKeyCursor();
+    /// Its pixel row, from the bottom.
+    double keyCursorRow() const;
 
     /// Whether the window is being dragged along.
     bool isPanning() const { return mIsPanning; }
@@ -43,6 +45,8 @@ public:
     std::optional<MarkerEnd> endAt(QPointF position) const;
     void release(const QMouseEvent& event);
     void turn(const QWheelEvent& event);
+    /// Moves cursor and current time there, and says so.
+    void goTo(double time);
 
 Q_SIGNALS:
     void cursorMoved(float time, double value);
@@ -52,7 +56,10 @@ Q_SIGNALS:
     void keyCursorChanged();
 
 private:
-    bool changeByKey(int key);
+    bool changeByKey(int key, Qt::KeyboardModifiers modifiers);
+    void step(bool isBack);
+    void click(QPointF position);
+    void panTo(double min, double max);
     void moveCursorX(double pixels);
     void moveCursorY(double pixels);
     void takeValueAt(double y);
@@ -66,7 +73,8 @@ private:
     KeyCursor mKeyCursor;
     QTimer mCursorTimer; ///< until it goes by itself
     QSize mSize;
-    std::optional<MarkerEnd> mHeld; ///< by the left button
+    std::optional<MarkerEnd> mHeld;  ///< by the left button
+    std::optional<QPointF> mPressed; ///< of the left button, while it has not moved
     bool mIsPanning = false;
     double mPanX = 0.0;   ///< where a pan began
     double mPanMin = 0.0; ///< the window then

@@ -39,8 +39,8 @@ ValueRange visibleRange(std::span<const FrameType> frames)
 void GraphLayout::setSize(double width, double height)
 {
     mWidth = width;
-    mView.y0 = Bottom;
-    mView.height = std::max(height - Bottom - Top, 1.0);
+    mHeight = height;
+    placeLanes(mLaneHeight);
     placePlot(mView.x0 > 0.0 ? mView.x0 : Bottom + LabelGap);
 }
 
@@ -54,6 +54,38 @@ void GraphLayout::setValues(double min, double max)
 {
     mView.ymin = std::isfinite(min) ? min : mView.ymin;
     mView.ymax = std::isfinite(max) ? max : mView.ymax;
+    mFixed = {mView.ymin, mView.ymax};
+    mZoomed.reset();
+}
+
+void GraphLayout::setAutoScaleY(bool on)
+{
+    mAutoScaleY = on;
+    mFixed = {mView.ymin, mView.ymax};
+}
+
+void GraphLayout::zoomY(double y, double factor)
+{
+    const bool isSplit = mDisplayMode == DisplaySplit;
+    ParStruct* curve = isSplit ? mCurves.at(y) : nullptr;
+    if (isSplit && curve == nullptr) {
+        return;
+    }
+    const GraphStrip strip = curve != nullptr ? curve->strip : mView.whole();
+    const double centre = strip.toValue(std::clamp(y, strip.y0, strip.y0 + strip.height));
+    const ValueRange range = {centre + (strip.min - centre) * factor,
+                              centre + (strip.max - centre) * factor};
+    if (std::isfinite(range.low) && std::isfinite(range.high) && range.low < range.high) {
+        (curve != nullptr ? curve->zoomed : mZoomed) = range;
+    }
+}
+
+void GraphLayout::resetZoomY()
+{
+    mZoomed.reset();
+    for (ParStruct& curve : mCurves.all()) {
+        curve.zoomed.reset();
+    }
 }
 
 void GraphLayout::add(ParStruct& curve, double time, double value)
@@ -69,8 +101,26 @@ void GraphLayout::placePlot(double left)
     mView.width = std::max(mWidth - mView.x0 - Right, 1.0);
 }
 
+void GraphLayout::placeLanes(double lineHeight)
+{
+    constexpr double LeastPlot = 60.0; ///< pixels
+    const double room = mHeight - Bottom - Top;
+    const double strips = mDisplayMode == DisplaySplit
+                              ? static_cast<double>(mCurves.shown().size()) * lineHeight
+                              : LeastPlot;
+    mLaneHeight = lineHeight;
+    mLanes = mWantedLanes;
+    while (mLanes > 0 && mLanes * lineHeight + std::max(strips, LeastPlot) > room) {
+        --mLanes;
+    }
+    mView.base = Bottom;
+    mView.y0 = Bottom + mLanes * lineHeight;
+    mView.height = std::max(mHeight - mView.y0 - Top, 1.0);
+}
+
 void GraphLayout::prepare(const Measure& measure, double lineHeight)
 {
+    placeLanes(lineHeight);
     constexpr int Rounds = 3; // labels and the plot that they leave room for chase each other
     for (int round = 0; round < Rounds; ++round) {
         updateFrames();
@@ -120,25 +170,32 @@ void GraphLayout::updateScales()
     for (ParStruct& curve : mCurves.all()) {
         const ValueRange range = visibleRange(curve.frames.frames());
         curve.visible = range.empty() ? curve.visible : range;
-        if (curve.active) {
+        if (curve.isShown()) {
             all.widen(range);
         }
     }
-    if (mAutoScaleY) {
-        const ValueRange range = widened(all.empty() ? ValueRange{0.0, 0.0} : all);
-        mView.ymin = range.low;
-        mView.ymax = range.high;
-    }
-    const auto active = std::max<std::size_t>(mCurves.activeCount(), 1);
-    const double height = mView.height / static_cast<double>(active);
-    int k = 0;
+    const ValueRange common = mZoomed       ? *mZoomed
+                              : mAutoScaleY ? widened(all.empty() ? ValueRange{0.0, 0.0} : all)
+                                            : mFixed;
+    mView.ymin = common.low;
+    mView.ymax = common.high;
     for (ParStruct& curve : mCurves.all()) {
         curve.strip = mView.whole();
-        if (mDisplayMode == DisplaySplit && curve.active) {
-            const ValueRange range =
-                mAutoScaleY ? widened(curve.visible) : ValueRange{mView.ymin, mView.ymax};
-            curve.strip = {mView.y0 + mView.height - ++k * height, height, range.low, range.high};
-        }
+    }
+    if (mDisplayMode == DisplaySingle) {
+        return;
+    }
+    const std::vector<unsigned> shown = mCurves.shown();
+    const double height =
+        mView.height / static_cast<double>(std::max<std::size_t>(shown.size(), 1));
+    int k = 0;
+    for (const unsigned i : shown) {
+        ParStruct& curve = *mCurves.curve(i);
+        const ValueRange range = curve.zoomed     ? *curve.zoomed
+                                 : curve.ownRange ? *curve.ownRange
+                                 : mAutoScaleY    ? widened(curve.visible)
+                                                  : mFixed;
+        curve.strip = {mView.y0 + mView.height - ++k * height, height, range.low, range.high};
     }
 }
 
@@ -150,7 +207,8 @@ void GraphLayout::updateAxes(double lineHeight)
         return;
     }
     for (const ParStruct& curve : mCurves.all()) {
-        mAxes.push_back(curve.active ? ValueAxis::ofStrip(curve.strip, lineHeight) : ValueAxis());
+        mAxes.push_back(curve.isShown() ? ValueAxis::ofStrip(curve.strip, lineHeight)
+                                        : ValueAxis());
     }
 }
 

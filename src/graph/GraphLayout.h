@@ -21,12 +21,24 @@ public:
 
     /// Places the plot area in a widget of this size.
     void setSize(double width, double height);
+    double width() const { return mWidth; }
+    double height() const { return mHeight; }
+
+    /// Lines under the strips, for what is no curve; as many as leave the strips room to be read.
+    void setLanes(unsigned count) { mWantedLanes = count; }
+    unsigned lanes() const { return mLanes; }
+    double laneHeight() const { return mLaneHeight; }
     /// The visible time, seconds. Frames that hold what is in sight already stay.
     void setTimes(double min, double max);
     /// The Y range, for as long as it is not taken from the curves; what is no number is ignored.
     void setValues(double min, double max);
     /// Takes the Y range, and in split mode that of each curve, from what is in sight.
-    void setAutoScaleY(bool on) { mAutoScaleY = on; }
+    void setAutoScaleY(bool on);
+    bool isAutoScaleY() const { return mAutoScaleY; }
+    /// Scales the Y range of a strip about its value in a pixel row, in single mode the common
+    /// one; a factor below 1 makes things larger. It holds until resetZoomY.
+    void zoomY(double y, double factor);
+    void resetZoomY();
     void setDisplayMode(eDisplayMode mode) { mDisplayMode = mode; }
     eDisplayMode displayMode() const { return mDisplayMode; }
 
@@ -51,15 +63,22 @@ private:
     void updateScales();
     void updateAxes(double lineHeight);
     void placePlot(double left);
+    void placeLanes(double lineHeight);
     FrameWindow frameWindow() const { return {mView.xmin, mView.xmax, mView.pixelTime()}; }
 
     CurveSet& mCurves;
     GraphView mView;
     double mWidth = 0.0; ///< of the widget, pixels
+    double mHeight = 0.0;
+    unsigned mWantedLanes = 0;
+    unsigned mLanes = 0;
+    double mLaneHeight = 0.0;
     eDisplayMode mDisplayMode = DisplaySingle;
     bool mAutoScaleY = true;
-    bool mStale = true;       ///< frames are rebuilt when they are next needed
-    double mFrameWidth = 0.0; ///< plot width that the frames were built for
+    ValueRange mFixed{-0.5, 1.5};      ///< Y range where it is not taken from the curves
+    std::optional<ValueRange> mZoomed; ///< common Y range by zoomY
+    bool mStale = true;                ///< frames are rebuilt when they are next needed
+    double mFrameWidth = 0.0;          ///< plot width that the frames were built for
     std::vector<ValueAxis> mAxes;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graph/GraphLayout.h"
+#include "graph/GraphNotes.h"
 #include "graph/TimeWindow.h"
 #include "record/TimeRange.h"
 
@@ -24,6 +25,17 @@ public:
     /// Empties every curve and takes the markers and the Y range back.
     void clear();
 
+    /// What went wrong meanwhile.
+    const GraphNotes& notes() const { return mNotes; }
+    void setNotes(GraphNotes notes);
+
+    /// The curve that the user pointed at last, by index: in single mode its thresholds are shown.
+    unsigned pointed() const { return mPointed; }
+    /// Points at the shown curve whose value at a time is nearest to a pixel row, in split mode at
+    /// that of the strip there.
+    void pointAt(double time, double y);
+    void setPointed(unsigned curve);
+
     /// The visible time, to be moved; call windowChanged() then.
     TimeWindow& window() { return mWindow; }
     const TimeWindow& window() const { return mWindow; }
@@ -41,6 +53,17 @@ public:
     void setCursorMode(eCursorMode mode) { mCursorMode = mode; }
     eCursorMode cursorMode() const { return mCursorMode; }
 
+    /// The user made curves look different: hidden, coloured, ordered, of a range of their own.
+    void looksChanged();
+    /// Only one curve is shown; all of them again.
+    void showOnly(unsigned curve);
+    void showAllCurves();
+
+    /// All of the time, and Y ranges as the curves have them.
+    void showAll();
+    /// Half a minute before and after a time.
+    void zoomToMinute(double time);
+
     void setMarker(double start, double stop);
     const TimeRange& markers() const { return mMarkers; } ///< stop before start while being dragged
     void zoomToMarker();
@@ -55,12 +78,16 @@ Q_SIGNALS:
     void changed();
     /// A mode that buttons show.
     void modeChanged();
+    /// How curves look, by the user.
+    void looksEdited();
 
 private:
     CurveSet mCurves;
     GraphLayout mLayout;
     TimeWindow mWindow;
     TimeRange mMarkers;
+    GraphNotes mNotes;
+    unsigned mPointed = 0;
     double mCursor = 0.0;
     eGraphMode mGraphMode = GraphAutomatic;
     eCursorMode mCursorMode = CursorFloating;

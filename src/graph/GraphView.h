@@ -27,6 +27,7 @@ struct GraphView
     double xmax = 60.0;
     double ymin = -0.5; ///< of the Y range that curves share
     double ymax = 1.5;
+    double base = 0.0; ///< lower edge of the lanes under the plot; its own where there are none
 
     /// Seconds that one pixel stands for.
     double pixelTime() const { return (xmax - xmin) / width; }

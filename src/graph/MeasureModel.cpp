@@ -4,6 +4,8 @@
 #include "base/CountText.h"
 #include "base/Numbers.h"
 
+#include <QtGui/QPixmap>
+
 #include <utility>
 
 namespace TARN {
@@ -50,6 +52,7 @@ void MeasureModel::setCurves(std::vector<MeasuredCurve> curves, const TimeRange&
         endResetModel();
     } else if (!mCurves.empty()) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+        Q_EMIT headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
     }
 }
 
@@ -82,8 +85,9 @@ std::optional<double> MeasureModel::number(const MeasuredCurve& curve, int colum
     const auto timeOf = [](const auto& moment) {
         return moment ? std::optional(moment->time) : std::nullopt;
     };
-    const auto difference =
-        curve.atA && curve.atB ? std::optional(*curve.atB - *curve.atA) : std::optional<double>();
+    const auto difference = curve.atA && curve.atB && curve.wordsAtA.isEmpty()
+                                ? std::optional(*curve.atB - *curve.atA)
+                                : std::optional<double>();
     switch (column) {
     case AColumn:
         return curve.atA;
@@ -125,8 +129,14 @@ std::optional<double> MeasureModel::number(const MeasuredCurve& curve, int colum
 QString MeasureModel::text(const MeasuredCurve& curve, int column) const
 {
     const auto found = number(curve, column);
+    const QString words = column == AColumn   ? curve.wordsAtA
+                          : column == BColumn ? curve.wordsAtB
+                                              : QString();
     if (column == NameColumn) {
         return curve.parameter->title();
+    }
+    if (!words.isEmpty()) {
+        return words;
     }
     if (!found) {
         return column == AboveColumn ? QString() : "---";
@@ -206,9 +216,31 @@ QVariant MeasureModel::data(const QModelIndex& index, int role) const
     }
 }
 
+QVariant MeasureModel::rowHeader(const MeasuredCurve& curve, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+        return curve.parameter->title();
+    case Qt::ToolTipRole:
+        return curve.parameter->fullName;
+    case Qt::DecorationRole: {
+        constexpr int Side = 12;    // pixels
+        QPixmap swatch(Side, Side); // a header paints no bare colour
+        swatch.fill(curve.color);
+        return swatch;
+    }
+    default:
+        return {};
+    }
+}
+
 QVariant MeasureModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount ||
+    if (orientation == Qt::Vertical) {
+        const auto row = static_cast<std::size_t>(section);
+        return row < mCurves.size() ? rowHeader(mCurves[row], role) : QVariant();
+    }
+    if (section < 0 || section >= ColumnCount ||
         (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
         return {};
     }

@@ -13,12 +13,14 @@ struct MeasuredCurve
     QColor color;
     std::optional<double> atA; ///< nothing where it has no value
     std::optional<double> atB;
+    QString wordsAtA; ///< of a state, instead of its number; a number between two states is none
+    QString wordsAtB;
     Statistics statistics; ///< from A to B
 };
 
 /// The table of the measuring panel: a row for each curve, its values at two moments A and B and
-/// the statistics from A to B. Numbers have six digits, their tool tips all. Qt::UserRole gives
-/// what a column is sorted by.
+/// the statistics from A to B; the parameter's name is also the header of its row. Numbers have six
+/// digits, their tool tips all. Qt::UserRole gives what a column is sorted by.
 class MeasureModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -60,6 +62,7 @@ public:
 
 private:
     std::optional<double> number(const MeasuredCurve& curve, int column) const;
+    QVariant rowHeader(const MeasuredCurve& curve, int role) const;
     QString text(const MeasuredCurve& curve, int column) const;
     QString toolTip(const MeasuredCurve& curve, int column) const;
 

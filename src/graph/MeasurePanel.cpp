@@ -25,6 +25,12 @@ namespace {
 
 constexpr const char* HiddenKey = "MeasureHidden"; ///< columns, as bits
 
+QString wordsAt(const ParStruct& curve, double time)
+{
+    const bool isState = curve.facts != nullptr && curve.facts->hasWords();
+    return isState ? curve.facts->wordsAt(time) : QString();
+}
+
 } // namespace
 
 MeasurePanel::MeasurePanel(Session& session, WidgetGraph& graph, QWidget* parent)
@@ -48,6 +54,7 @@ MeasurePanel::MeasurePanel(Session& session, WidgetGraph& graph, QWidget* parent
     connect(&mSession, &Session::selectionChanged, this, &MeasurePanel::reload);
     connect(&mSession, &Session::offsetChanged, this, &MeasurePanel::reload);
     connect(&mSession, &Session::marksChanged, this, &MeasurePanel::measure);
+    connect(&mSession, &Session::looksChanged, this, &MeasurePanel::measure);
     reload();
 }
 
@@ -103,8 +110,12 @@ QTableView* MeasurePanel::createTable()
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setWordWrap(false);
-    table->verticalHeader()->hide();
+    // The names stay in sight while the table is scrolled sideways.
+    table->setColumnHidden(MeasureModel::NameColumn, true);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 4);
+    table->verticalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->verticalHeader()->setHighlightSections(false);
     table->horizontalHeader()->setHighlightSections(false);
     connect(table, &QTableView::clicked, this, &MeasurePanel::goTo);
     connect(table, &QTableView::activated, this, &MeasurePanel::goTo);
@@ -113,6 +124,10 @@ QTableView* MeasurePanel::createTable()
     copying->setShortcutContext(Qt::WidgetShortcut);
     connect(copying, &QAction::triggered, this, &MeasurePanel::copy);
     table->addAction(copying);
+    auto* unsorted = new QAction(tr("Sort as the Curves"), table);
+    connect(unsorted, &QAction::triggered, table,
+            [table] { table->sortByColumn(MeasureModel::NameColumn, Qt::AscendingOrder); });
+    table->addAction(unsorted);
     table->setContextMenuPolicy(Qt::ActionsContextMenu);
     const int hidden = Property::instance()->getInt(HiddenKey, 0);
     QHeaderView* header = table->horizontalHeader();
@@ -193,11 +208,15 @@ void MeasurePanel::measure()
                        ? tr("B \u2212 A: %1 s").arg(range.stop - range.start, 0, 'f', 3)
                        : tr("Nothing is marked: the whole flight"));
     std::vector<MeasuredCurve> curves;
-    for (unsigned k = 0; k < mIndexes.size(); ++k) {
+    for (const unsigned k : mGraph.model().curves().order()) {
+        if (k >= mIndexes.size()) {
+            continue;
+        }
         const StatisticsIndex& index = *mIndexes[k];
-        curves.push_back({&index.parameter(), mGraph.model().curves().curve(k)->color.toColor(),
-                          index.valueAt(range.start), index.valueAt(range.stop),
-                          index.range(range)});
+        const ParStruct& curve = *mGraph.model().curves().curve(k);
+        curves.push_back({&index.parameter(), curve.color.toColor(), index.valueAt(range.start),
+                          index.valueAt(range.stop), wordsAt(curve, range.start),
+                          wordsAt(curve, range.stop), index.range(range)});
     }
     mModel->setCurves(std::move(curves), range);
     for (int column = 0; column < MeasureModel::ColumnCount; ++column) {
@@ -224,7 +243,7 @@ void MeasurePanel::copy() const
     for (int row = -1; row < mSorted->rowCount(); ++row) {
         QStringList cells;
         for (int column = 0; column < MeasureModel::ColumnCount; ++column) {
-            if (!mTable->isColumnHidden(column)) {
+            if (column == MeasureModel::NameColumn || !mTable->isColumnHidden(column)) {
                 cells += row < 0 ? mSorted->headerData(column, Qt::Horizontal).toString()
                                  : mSorted->index(row, column).data().toString();
             }

@@ -2,14 +2,18 @@
 
 #include "base/CountText.h"
 #include "flight/EmptyText.h"
+#include "flight/EpisodeWatch.h"
+#include "graph/CurveFill.h"
 #include "graph/WidgetGraph.h"
 
 #include <algorithm>
 
 namespace TARN {
 
-SessionGraph::SessionGraph(Session& session, WidgetGraph& graph, QObject* parent)
-    : QObject(parent), mSession(session), mGraph(graph), mModel(graph.model()), mSeenFirst(graph)
+SessionGraph::SessionGraph(Session& session, EpisodeWatch& episodes, WidgetGraph& graph,
+                           QObject* parent)
+    : QObject(parent), mSession(session), mEpisodes(episodes), mGraph(graph), mModel(graph.model()),
+      mSeenFirst(graph)
 {
     connect(&mSession, &Session::profileChanged, this, &SessionGraph::showSelection);
     connect(&mSession, &Session::flightChanged, this, &SessionGraph::showFlight);
@@ -21,6 +25,13 @@ SessionGraph::SessionGraph(Session& session, WidgetGraph& graph, QObject* parent
     connect(&mGraph, &WidgetGraph::signalCursor, this,
             [this](float time) { mSession.setTime(time, this); });
     connect(&mModel, &GraphModel::changed, this, [this] { mSession.setMarks(mModel.markers()); });
+    for (const ParStruct& curve : std::as_const(mModel.curves()).all()) {
+        mColors.push_back(curve.color);
+    }
+    connect(&mSession, &Session::looksChanged, this, &SessionGraph::showLooks);
+    connect(&mModel, &GraphModel::looksEdited, this,
+            [this] { mSession.setLooks(looksOf(mModel.curves(), mSession.looks(), mColors)); });
+    connect(&mEpisodes, &EpisodeWatch::changed, this, &SessionGraph::showNotes);
     connect(&mLoader, &CurveLoader::curveReady, this, &SessionGraph::takeCurve);
     connect(&mLoader, &CurveLoader::ready, this, &SessionGraph::showCurves);
     connect(&mLoader, &CurveLoader::outOfMemory, this, [this] {
@@ -57,14 +68,15 @@ void SessionGraph::refill()
 void SessionGraph::showSelection()
 {
     const auto selected = mSession.selection().parameters(*mSession.profile());
-    for (unsigned k = 0; k < CurveSet::MaxCurves; ++k) {
-        const bool isShown = k < selected.size();
-        ParStruct& curve = *mModel.curves().curve(k);
-        curve.active = isShown;
-        curve.name = isShown ? selected[k]->name : QString();
-        curve.unit = isShown ? selected[k]->unit : QString();
-    }
+    nameCurves(mModel.curves(), selected);
+    showLooks();
     showFlight();
+}
+
+void SessionGraph::showLooks()
+{
+    applyLooks(mModel.curves(), mSession.looks(), mColors);
+    mModel.curvesChanged();
 }
 
 void SessionGraph::loadCurves()
@@ -74,19 +86,21 @@ void SessionGraph::loadCurves()
     // None stands under another parameter's name while it is decoded.
     for (unsigned k = 0; k < CurveSet::MaxCurves; ++k) {
         mModel.curves().setSeries(k, std::make_shared<CurveSamples>());
+        mModel.curves().curve(k)->facts = nullptr;
     }
     mModel.curvesChanged();
     mLoader.load(mSession.flight(), parameters, mSession.offset());
     mSeenFirst.run([this] { mLoader.start(); });
 }
 
-void SessionGraph::takeCurve(unsigned place, std::shared_ptr<const CurveSamples> samples)
+void SessionGraph::takeCurve(unsigned place, const DecodedCurve& decoded)
 {
-    const auto selected = mSession.selection().parameters(*mSession.profile());
-    CurveSet& curves = mModel.curves();
-    curves.curve(place)->isSingle =
-        Decoder(mSession.profile()->data(), *selected[place]).isSingle();
-    curves.setSeries(place, std::move(samples));
+    fillCurve(mModel.curves(), place, decoded);
+}
+
+void SessionGraph::showNotes()
+{
+    mModel.setNotes(GraphNotes(mSession.flight(), mSession.offset(), mEpisodes.episodes()));
 }
 
 void SessionGraph::showCurves()

@@ -8,18 +8,18 @@ class WidgetGraph;
 
 namespace TARN {
 
-class CurveSamples;
+class EpisodeWatch;
 class GraphModel;
 
 /// Keeps a graph as the session has it: the curves of the confirmed selection, decoded beside the
-/// window, the cursor at the current time, the marked range, and where there are no curves the
-/// reason. Both live as long as this does.
+/// window, the cursor at the current time, the marked range, what went wrong, and where there are
+/// no curves the reason. All live as long as this does.
 class SessionGraph : public QObject
 {
     Q_OBJECT
 
 public:
-    SessionGraph(Session& session, WidgetGraph& graph, QObject* parent);
+    SessionGraph(Session& session, EpisodeWatch& episodes, WidgetGraph& graph, QObject* parent);
 
 Q_SIGNALS:
     /// What the graph does not show; empty when it shows all.
@@ -30,7 +30,9 @@ private:
     void showSelection();
     void refill();
     void loadCurves();
-    void takeCurve(unsigned place, std::shared_ptr<const CurveSamples> samples);
+    void takeCurve(unsigned place, const DecodedCurve& curve);
+    void showNotes();
+    void showLooks();
     void showCurves();
     void showTime(double time, const QObject* source);
     void updateDigits();
@@ -39,8 +41,10 @@ private:
     QString noteText() const;
 
     Session& mSession;
+    EpisodeWatch& mEpisodes;
     WidgetGraph& mGraph;
     GraphModel& mModel;
+    std::vector<GraphColor> mColors; ///< of curves that the user gave none
     CurveLoader mLoader;
     SeenFirst mSeenFirst;
 };

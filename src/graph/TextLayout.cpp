@@ -13,12 +13,45 @@ QSizeF TextLayout::sizeOf(const QString& text) const
 bool TextLayout::add(const QString& text, QPointF topLeft, const GraphColor& color,
                      const QRectF& area, bool backed)
 {
-    const QRectF box(topLeft, sizeOf(text));
-    if (text.isEmpty() || !area.contains(box)) {
+    return add({text, QRectF(topLeft, sizeOf(text)), color, backed}, area);
+}
+
+bool TextLayout::add(const Text& text, const QRectF& area)
+{
+    if (text.text.isEmpty() || !area.contains(text.box)) {
         return false;
     }
-    mTexts.push_back({text, box, color, backed});
+    mTexts.push_back(text);
     return true;
+}
+
+double TextLayout::freeFrom(double top, double left, double width) const
+{
+    constexpr double Gap = 5.0; // pixels
+    QRectF box(left, top, width, sizeOf("0").height());
+    while (const Text* other = hit(box)) {
+        box.moveLeft(other->box.right() + Gap);
+    }
+    return box.left();
+}
+
+void TextLayout::addBetween(const QString& text, double top, double left, double right,
+                            const GraphColor& color, bool backed)
+{
+    const QSizeF size = sizeOf(text);
+    const double from = freeFrom(top, left, size.width());
+    add({text, QRectF(QPointF(from, top), size), color, backed},
+        QRectF(from, top, right - from, size.height()));
+}
+
+std::optional<unsigned> TextLayout::legendAt(QPointF place) const
+{
+    for (const Text& text : mTexts) {
+        if (text.curve && text.box.contains(place)) {
+            return text.curve;
+        }
+    }
+    return std::nullopt;
 }
 
 void TextLayout::addNear(const QString& text, QPointF topLeft, const GraphColor& color,

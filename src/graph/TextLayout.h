@@ -20,7 +20,9 @@ public:
         QString text;
         QRectF box; ///< that the text fills
         GraphColor color;
-        bool backed; ///< on a plate that sets it off from the curves
+        bool backed;                          ///< on a plate that sets it off from the curves
+        std::optional<GraphColor> plate = {}; ///< its colour, where it is not the plot's
+        std::optional<unsigned> curve = {};   ///< whose legend it is
     };
 
     explicit TextLayout(const QFontMetricsF& metrics) : mMetrics(metrics) {}
@@ -30,15 +32,28 @@ public:
 
     QSizeF sizeOf(const QString& text) const;
 
-    /// A text cut in the middle where it is wider than so many pixels.
-    QString elided(const QString& text, double width) const
+    /// A text cut, in the middle by default, where it is wider than so many pixels.
+    QString elided(const QString& text, double width,
+                   Qt::TextElideMode mode = Qt::ElideMiddle) const
     {
-        return mMetrics.elidedText(text, Qt::ElideMiddle, width);
+        return mMetrics.elidedText(text, mode, width);
     }
 
     /// Adds a text where it fits into \p area, else not at all.
     bool add(const QString& text, QPointF topLeft, const GraphColor& color, const QRectF& area,
              bool backed = false);
+    bool add(const Text& text, const QRectF& area);
+
+    /// Adds a text in a row, as far left between two columns as the texts that are there leave
+    /// room; where they leave none it is left out.
+    void addBetween(const QString& text, double top, double left, double right,
+                    const GraphColor& color, bool backed);
+
+    /// The first column, from \p left on, from which a row is free for a width.
+    double freeFrom(double top, double left, double width) const;
+
+    /// The curve whose legend is there.
+    std::optional<unsigned> legendAt(QPointF place) const;
 
     /// Adds a text near a place: moved into the area, then up or down to the nearest gap between
     /// the texts that are there, or on to the right of them. Left out where there is none.

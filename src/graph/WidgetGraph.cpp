@@ -1,24 +1,20 @@
 #include "graph/WidgetGraph.h"
 
 #include "base/Property.h"
-#include "graph/GraphDrawing.h"
+#include "graph/CurveText.h"
+#include "graph/GraphPicture.h"
 
-#include <QtGui/QFontDatabase>
+#include <QtGui/QAccessible>
+#include <QtGui/QMouseEvent>
 #include <QtGui/QOffscreenSurface>
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QPainter>
 #include <QtOpenGL/QOpenGLPaintDevice>
+#include <QtWidgets/QToolTip>
 
 using namespace TARN;
 
 namespace {
-
-QFont graphFont()
-{
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    font.setPixelSize(13);
-    return font;
-}
 
 /// The oldest kind of context; it has all that is drawn with.
 QSurfaceFormat graphFormat()
@@ -33,8 +29,8 @@ QSurfaceFormat graphFormat()
 } // namespace
 
 WidgetGraph::WidgetGraph(QWidget* parent)
-    : QOpenGLWidget(parent), mFeed(mModel), mGestures(mModel), mTexts(QFontMetricsF(graphFont())),
-      mEmpty(new EmptyPlace(this))
+    : QOpenGLWidget(parent), mFeed(mModel), mGestures(mModel), mLegend(mModel),
+      mTexts(QFontMetricsF(graphFont())), mEmpty(new EmptyPlace(this))
 {
     constexpr int RepaintInterval = 30; // ms
     constexpr int RecalcDelay = 50;
@@ -56,6 +52,11 @@ WidgetGraph::WidgetGraph(QWidget* parent)
     connect(&mHeld, &QTimer::timeout, this, &WidgetGraph::release);
     connect(mEmpty, &QLabel::linkActivated, this, &WidgetGraph::signalLink);
     connect(&mGestures, &GraphGestures::cursorMoved, this, &WidgetGraph::signalCursor);
+    connect(&mGestures, &GraphGestures::cursorMoved, this, [this] {
+        if (QAccessible::isActive()) {
+            setAccessibleDescription(spokenText(mModel, mStyle));
+        }
+    });
     connect(&mGestures, &GraphGestures::markersMoved, this, &WidgetGraph::signalMarker);
     connect(&mGestures, &GraphGestures::panned, this, &WidgetGraph::signalManMode);
     connect(&mGestures, &GraphGestures::keyCursorChanged, this, qOverload<>(&QWidget::update));
@@ -209,39 +210,16 @@ void WidgetGraph::resizeGL(int width, int height)
 
 void WidgetGraph::paintGL()
 {
-    mTexts.clear();
-    const double lineHeight = mTexts.sizeOf("0").height();
     mFeed.holdLastValues();
-    mModel.layout().prepare([this](const QString& text) { return mTexts.sizeOf(text).width(); },
-                            lineHeight);
     mCanvas.begin(size(), devicePixelRatioF(), mStyle.labelBack);
-    GraphDrawing(mModel, mStyle, mGestures.keyCursor(), size(), mCanvas, mTexts).draw();
+    drawGraph(mModel, mStyle, mGestures.keyCursor(), mCanvas, mTexts);
     mCanvas.end();
     // On the frame buffer, not on this widget: while a window is grabbed, painters on its widgets
     // are led elsewhere.
     QOpenGLPaintDevice device(size() * devicePixelRatioF());
     device.setDevicePixelRatio(devicePixelRatioF());
     QPainter painter(&device);
-    paintTexts(painter);
-}
-
-void WidgetGraph::paintTexts(QPainter& painter) const
-{
-    painter.setFont(font());
-    const double ascent = QFontMetricsF(font()).ascent();
-    constexpr float Opacity = 0.7F; // a peak behind a name is seen all the same
-    QColor plate = mStyle.back.toColor();
-    plate.setAlphaF(Opacity);
-    // Going back and forth between plates and texts takes longer than painting them.
-    for (const TextLayout::Text& text : mTexts.texts()) {
-        if (text.backed) {
-            painter.fillRect(text.box.adjusted(-2.0, 0.0, 2.0, 0.0), plate);
-        }
-    }
-    for (const TextLayout::Text& text : mTexts.texts()) {
-        painter.setPen(text.color.toColor());
-        painter.drawText(text.box.topLeft() + QPointF(0.0, ascent), text.text);
-    }
+    paintTexts(painter, mTexts, mStyle);
 }
 
 /// Stands in the plot, on its colour.
@@ -292,18 +270,120 @@ void WidgetGraph::keyPressEvent(QKeyEvent* event)
 
 void WidgetGraph::mousePressEvent(QMouseEvent* event)
 {
+    const QPointF place = event->position();
+    mRightPressed = place;
+    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
+        if (const auto legend = mTexts.legendAt(place)) {
+            mModel.setPointed(*legend);
+            mLegend.press(*legend, place);
+            return;
+        }
+        const auto notes = notesAt(place);
+        if (!notes.empty()) {
+            mGestures.goTo(notes.front().time);
+            return;
+        }
+    }
     mGestures.press(*event);
 }
 
 void WidgetGraph::mouseMoveEvent(QMouseEvent* event)
 {
-    mGestures.move(*event);
-    setCursor(mGestures.endAt(event->position()) ? Qt::SplitHCursor : Qt::ArrowCursor);
+    if (mLegend.isHeld()) {
+        mLegend.move(event->position(), curveAt(event->position()));
+    } else {
+        mGestures.move(*event);
+    }
+    updateMouse(event->position());
 }
 
 void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)
 {
-    mGestures.release(*event);
+    constexpr double Still = 3.0; // pixels that no hand keeps from moving
+    if (mLegend.isHeld()) {
+        mLegend.release();
+    } else {
+        mGestures.release(*event);
+    }
+    if (event->button() == Qt::RightButton &&
+        (event->position() - mRightPressed).manhattanLength() <= Still) {
+        mModel.setPointed(curveAt(event->position()).value_or(mModel.pointed()));
+        Q_EMIT signalMenu(event->globalPosition().toPoint());
+    }
+    updateMouse(event->position());
+}
+
+/// What was clicked, and half a minute around it.
+void WidgetGraph::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const auto notes = notesAt(event->position());
+    if (event->button() == Qt::LeftButton && !notes.empty()) {
+        mModel.zoomToMinute(notes.front().time);
+    } else {
+        mousePressEvent(event);
+    }
+}
+
+/// A press of the mouse may become a pan, so its menu waits for the release.
+void WidgetGraph::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        mModel.pointAt(mModel.cursor(), mGestures.keyCursorRow());
+        Q_EMIT signalMenu(mapToGlobal(rect().center()));
+    }
+}
+
+bool WidgetGraph::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip) {
+        return QOpenGLWidget::event(event);
+    }
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    QToolTip::showText(help.globalPos(), toolTipAt(help.pos()), this);
+    return true;
+}
+
+QString WidgetGraph::toolTipAt(QPointF position) const
+{
+    if (const auto legend = mTexts.legendAt(position)) {
+        const ParStruct& curve = *mModel.curves().curve(*legend);
+        return curve.name + "\n" +
+               (curve.hidden
+                    ? tr("Click to show the curve")
+                    : tr("Click to hide the curve, drag to move it, right click for more"));
+    }
+    return textOf(notesAt(position));
+}
+
+/// The shape of the mouse says what a press would do.
+void WidgetGraph::updateMouse(QPointF position)
+{
+    const GraphView& view = mModel.layout().view();
+    if (mModel.layout().displayMode() == DisplaySingle) {
+        mModel.pointAt(view.viewportToX(position.x()), height() - position.y());
+    }
+    const bool isHand = mTexts.legendAt(position) || !notesAt(position).empty();
+    setCursor(mLegend.isDragging()        ? Qt::ClosedHandCursor
+              : isHand                    ? Qt::PointingHandCursor
+              : mGestures.endAt(position) ? Qt::SplitHCursor
+                                          : Qt::ArrowCursor);
+}
+
+std::vector<GraphNote> WidgetGraph::notesAt(QPointF position) const
+{
+    return NotePlaces(mModel, mStyle).at(position.x(), height() - position.y());
+}
+
+/// The curve whose legend, in split mode whose strip, is there.
+std::optional<unsigned> WidgetGraph::curveAt(QPointF position)
+{
+    if (const auto legend = mTexts.legendAt(position)) {
+        return legend;
+    }
+    const ParStruct* curve = mModel.layout().displayMode() == DisplaySplit
+                                 ? mModel.curves().at(height() - position.y())
+                                 : nullptr;
+    return curve != nullptr ? std::optional(mModel.curves().indexOf(*curve)) : std::nullopt;
 }
 
 void WidgetGraph::wheelEvent(QWheelEvent* event)

@@ -2,7 +2,9 @@
 
 #include "graph/GlCanvas.h"
 #include "graph/GraphGestures.h"
+#include "graph/LegendGestures.h"
 #include "graph/LiveFeed.h"
+#include "graph/NotePlaces.h"
 #include "graph/TextLayout.h"
 #include "widgets/EmptyPlace.h"
 
@@ -78,6 +80,8 @@ Q_SIGNALS:
     void signalManMode();
     /// The user follows a link of the empty text.
     void signalLink(const QString& link);
+    /// The user asks what can be done with a curve, the one last pointed at.
+    void signalMenu(QPoint global);
 
 public Q_SLOTS:
     void slotTimeout();
@@ -95,16 +99,24 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
-    void paintTexts(QPainter& painter) const;
     void updateEmptyPlace();
+    void updateMouse(QPointF position);
+    std::vector<TARN::GraphNote> notesAt(QPointF position) const;
+    std::optional<unsigned> curveAt(QPointF position);
+    QString toolTipAt(QPointF position) const;
 
     TARN::GraphModel mModel;
     TARN::GraphStyle mStyle;
     TARN::LiveFeed mFeed;
     TARN::GraphGestures mGestures;
+    TARN::LegendGestures mLegend;
+    QPointF mRightPressed;
     TARN::GlCanvas mCanvas;
     TARN::TextLayout mTexts;
     TARN::EmptyPlace* mEmpty;

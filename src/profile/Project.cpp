@@ -6,6 +6,7 @@
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 
 namespace TARN {
@@ -14,6 +15,7 @@ namespace {
 
 constexpr const char* Root = "TarnProject";
 constexpr const char* List = "Parameters";
+constexpr const char* Curves = "Curves";
 
 /// Root element of a file; null where there is none.
 QDomElement rootOf(const std::string& file)
@@ -22,6 +24,85 @@ QDomElement rootOf(const std::string& file)
     QDomDocument document;
     xml.xmlReadFile(document, QString::fromStdString(file));
     return document.documentElement();
+}
+
+std::optional<double> numberOf(const QDomElement& element, const char* name)
+{
+    bool isNumber = false;
+    const double number = element.attribute(name).toDouble(&isNumber);
+    return isNumber && std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+
+CurveLook lookOf(const QDomElement& element)
+{
+    CurveLook look;
+    look.hidden = element.attribute("hidden") == "true";
+    look.color = QColor(element.attribute("color"));
+    const auto low = numberOf(element, "low");
+    const auto high = numberOf(element, "high");
+    if (low && high && *low < *high) {
+        look.range = std::pair(*low, *high);
+    }
+    return look;
+}
+
+/// What is no look that the program knows is taken for none.
+CurveLooks looksOf(const QDomElement& root)
+{
+    XmlHandler xml;
+    CurveLooks looks;
+    const QDomElement list = root.firstChildElement(Curves);
+    const bool isOrdered = list.attribute("ordered") == "true";
+    for (QDomElement element = list.firstChildElement("Curve"); !element.isNull();
+         element = element.nextSiblingElement("Curve")) {
+        const std::string name = xml.xmlGetStdStringAttribute(element.attributes(), "name", "");
+        if (const CurveLook look = lookOf(element); look != CurveLook()) {
+            looks.byName[name] = look;
+        }
+        if (isOrdered) {
+            looks.order.push_back(name);
+        }
+    }
+    return looks;
+}
+
+void addCurve(XmlHandler& xml, QDomDocument& document, QDomElement& list, const std::string& name,
+              const CurveLook& look)
+{
+    QDomElement element = xml.xmlCreateElement(document, list, "Curve");
+    xml.xmlCreateAttribute(document, element, "name", name);
+    if (look.hidden) {
+        xml.xmlCreateAttribute(document, element, "hidden", std::string("true"));
+    }
+    if (look.color.isValid()) {
+        xml.xmlCreateAttribute(document, element, "color", look.color.name().toStdString());
+    }
+    if (look.range) {
+        for (const auto& [key, number] :
+             {std::pair("low", look.range->first), std::pair("high", look.range->second)}) {
+            xml.xmlCreateAttribute(document, element, key,
+                                   QString::number(number, 'g', 17).toStdString());
+        }
+    }
+}
+
+void addLooks(XmlHandler& xml, QDomDocument& document, QDomElement& root, const CurveLooks& looks)
+{
+    if (looks.empty()) {
+        return;
+    }
+    QDomElement list = xml.xmlCreateElement(document, root, Curves);
+    if (!looks.order.empty()) {
+        xml.xmlCreateAttribute(document, list, "ordered", std::string("true"));
+    }
+    std::map<std::string, CurveLook> rest = looks.byName;
+    for (const std::string& name : looks.order) {
+        const auto node = rest.extract(name);
+        addCurve(xml, document, list, name, node.empty() ? CurveLook() : node.mapped());
+    }
+    for (const auto& [name, look] : rest) {
+        addCurve(xml, document, list, name, look);
+    }
 }
 
 } // namespace
@@ -45,6 +126,7 @@ bool Project::readProject(const std::string& file)
             }
         }
     }
+    mLooks = looksOf(document.documentElement());
     return true;
 }
 
@@ -75,6 +157,7 @@ bool Project::saveProject(const std::string& file, const Profile& profile,
         add(parameter->name.toStdString());
     }
     std::ranges::for_each(unknownNames(profile), add);
+    addLooks(xml, document, root, mLooks);
     return xml.xmlWriteFile(document, QString::fromStdString(file));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "profile/CurveLooks.h"
 #include "profile/Selection.h"
 
 #include <string>
@@ -8,12 +9,17 @@
 namespace TARN {
 
 /// A user's selection of parameters, by name, as a project file keeps it. Names that the profile
-/// does not know are kept for the profile that does.
+/// does not know are kept for the profile that does. How curves shall look stands beside them in
+/// elements of its own; where there is nothing to say, they are not written.
 class Project
 {
 public:
     /// Selects nothing.
-    void clear() { mNames.clear(); }
+    void clear()
+    {
+        mNames.clear();
+        mLooks = {};
+    }
 
     /// Takes the file's names. False, with an empty project, when the file can't be read. Any
     /// root will do, see isProject().
@@ -38,11 +44,15 @@ public:
     /// Takes the place of the names that a profile knows by those that are selected in it.
     void setSelection(const Profile& profile, const Selection& selection);
 
+    const CurveLooks& looks() const { return mLooks; }
+    void setLooks(const CurveLooks& looks) { mLooks = looks; }
+
     /// Names that a profile does not know, in their old order.
     std::vector<std::string> unknownNames(const Profile& profile) const;
 
 private:
     std::vector<std::string> mNames; ///< in the order of the file, each once
+    CurveLooks mLooks;
 };
 
 } // namespace TARN

@@ -48,6 +48,8 @@ public:
         findOrder();
         return mOrder.empty();
     }
+    /// Spares looking for it: who has walked the list has seen that they are.
+    void setInOrder() { mIsOrdered = true; }
     /// Place of a sample in the list.
     std::size_t place(std::size_t k) const { return isInOrder() ? k : mOrder[k]; }
     const RecordEntry& entry(std::size_t k) const { return mEntries[place(k)]; }

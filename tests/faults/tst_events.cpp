@@ -340,11 +340,14 @@ private Q_SLOTS:
 
     void nextAndPreviousMark()
     {
+        const ProfileParameter parameter;
         Events events;
         for (const double at : {1.0, 1.0009, 1.0015, 5.2344, 7.2346}) {
-            events.limits.emplace_back().time = at;
+            RecordEvent& event = events.limits.emplace_back();
+            event.time = at;
+            event.parameter = &parameter;
         }
-        const EventMarks marks(events, {});
+        const EventMarks marks(RecordData(), events, {});
         const std::tuple<double, const char*, const char*> rows[] = {
             {0.0, "1 1.0009", ""}, // all within a millisecond
             {1.0, "1.0015", ""},

@@ -310,7 +310,7 @@ private Q_SLOTS:
         std::vector<std::pair<unsigned, std::shared_ptr<const CurveSamples>>> told;
         CurveLoader loader;
         connect(&loader, &CurveLoader::curveReady, this,
-                [&](unsigned place, auto samples) { told.emplace_back(place, samples); });
+                [&](unsigned place, const DecodedCurve& curve) { told.emplace_back(place, curve.samples); });
         loader.load(flight, all, Offset);
         QVERIFY(loader.isBusy());
         loader.start();
@@ -351,7 +351,7 @@ private Q_SLOTS:
         std::stop_source stop;
         stop.request_stop();
         Progress stopped(nullptr, stop.get_token());
-        QVERIFY(decodeCurve(*flight, *all[0], 0.0, stopped).samples == nullptr);
+        QVERIFY(decodeCurve(flight, *all[0], 0.0, stopped).samples == nullptr);
     }
 };
 

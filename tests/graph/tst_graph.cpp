@@ -540,7 +540,7 @@ private:
             all.widen(visible);
             ValueAxis axis = isSplit ? ValueAxis() : ValueAxis::ofPlot(view.whole());
             if (isSplit && curve.active) {
-                top -= view.height / static_cast<double>(model.curves().activeCount());
+                top -= view.height / static_cast<double>(model.curves().shown().size());
                 QVERIFY(std::fabs(curve.strip.y0 - top) < 1e-9 && shows(curve.strip, visible));
                 axis = ValueAxis::ofStrip(curve.strip, LineHeight);
             }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "graph/GraphDrawing.h"
+#include "graph/GraphPicture.h"
 
 #include <cmath>
 #include <vector>
@@ -14,7 +14,8 @@ public:
         Fill,
         Strip,
         Lines,
-        Dots
+        Dots,
+        Dotted
     };
     struct Shape
     {
@@ -29,9 +30,7 @@ public:
         : texts(QFontMetricsF(QFont()))
     {
         model.layout().setSize(size.width(), size.height());
-        model.layout().prepare([&](const QString& text) { return texts.sizeOf(text).width(); },
-                               texts.sizeOf("0").height());
-        TARN::GraphDrawing(model, style, keyCursor, size, *this, texts).draw();
+        TARN::drawGraph(model, style, keyCursor, *this, texts);
     }
 
     TARN::TextLayout texts;
@@ -60,6 +59,10 @@ private:
     void lines(const std::vector<float>& points, const TARN::GraphColor& color) override
     {
         add(Lines, points, color);
+    }
+    void dotted(const std::vector<float>& points, const TARN::GraphColor& color) override
+    {
+        add(Dotted, points, color);
     }
     void dots(const float* points, int count, const TARN::GraphColor& color, float) override
     {

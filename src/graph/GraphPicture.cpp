@@ -1,0 +1,120 @@
+#include "graph/GraphPicture.h"
+
+#include "graph/GraphDrawing.h"
+#include "graph/GraphPalette.h"
+#include "graph/PainterCanvas.h"
+
+#include <QtCore/QBuffer>
+#include <QtCore/QFileInfo>
+#include <QtGui/QFontDatabase>
+#include <QtGui/QPainter>
+#include <QtSvg/QSvgGenerator>
+
+namespace TARN {
+
+namespace {
+
+constexpr int CaptionMargin = 3; ///< pixels on each side
+
+/// A picture of vectors, of a size in pixels.
+QByteArray svgOf(const GraphPicture& picture, GraphModel& model)
+{
+    QBuffer out;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&out);
+    generator.setSize(picture.wholeSize());
+    generator.setViewBox(QRect(QPoint(), picture.wholeSize()));
+    generator.setTitle(picture.caption);
+    QPainter painter(&generator);
+    picture.paint(painter, model);
+    painter.end();
+    return out.data();
+}
+
+} // namespace
+
+QFont graphFont()
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPixelSize(13);
+    return font;
+}
+
+void drawGraph(GraphModel& model, const GraphStyle& style, const KeyCursor& keyCursor,
+               GraphCanvas& canvas, TextLayout& texts)
+{
+    texts.clear();
+    model.layout().setLanes(style.lanesOn ? static_cast<unsigned>(model.notes().lanes().size())
+                                          : 0);
+    model.layout().prepare([&](const QString& text) { return texts.sizeOf(text).width(); },
+                           texts.sizeOf("0").height());
+    GraphDrawing(model, style, keyCursor, canvas, texts).draw();
+}
+
+void paintTexts(QPainter& painter, const TextLayout& texts, const GraphStyle& style)
+{
+    const QFont font = graphFont();
+    painter.setFont(font);
+    const double ascent = QFontMetricsF(font).ascent();
+    constexpr float Opacity = 0.7F; // a peak behind a name is seen all the same
+    // Going back and forth between plates and texts takes longer than painting them.
+    for (const TextLayout::Text& text : texts.texts()) {
+        if (text.backed) {
+            QColor plate = text.plate.value_or(style.back).toColor();
+            plate.setAlphaF(text.plate ? 1.0F : Opacity);
+            painter.fillRect(text.box.adjusted(-2.0, 0.0, 2.0, 0.0), plate);
+        }
+    }
+    for (const TextLayout::Text& text : texts.texts()) {
+        painter.setPen(text.color.toColor());
+        painter.drawText(text.box.topLeft() + QPointF(0.0, ascent), text.text);
+    }
+}
+
+QSize GraphPicture::wholeSize() const
+{
+    const int line = QFontMetrics(graphFont()).height() + 2 * CaptionMargin;
+    return {size.width(), size.height() + (caption.isEmpty() ? 0 : line)};
+}
+
+void GraphPicture::paint(QPainter& painter, GraphModel& model) const
+{
+    TextLayout texts{QFontMetricsF(graphFont())};
+    GraphLayout& layout = model.layout();
+    const QSizeF before(layout.width(), layout.height());
+    painter.fillRect(QRect(QPoint(), wholeSize()), style.labelBack.toColor());
+    layout.setSize(size.width(), size.height());
+    PainterCanvas canvas(painter, size.height());
+    drawGraph(model, style, keyCursor, canvas, texts);
+    const QRectF area(CaptionMargin, size.height(), size.width() - 2 * CaptionMargin,
+                      wholeSize().height() - size.height());
+    texts.add(texts.elided(caption, area.width()), area.topLeft() + QPointF(0, CaptionMargin),
+              legibleOn(style.labelBack, style.label), area);
+    paintTexts(painter, texts, style);
+    layout.setSize(before.width(), before.height());
+}
+
+QImage GraphPicture::toImage(GraphModel& model, double scale) const
+{
+    QImage image((QSizeF(wholeSize()) * scale).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    QPainter painter(&image);
+    paint(painter, model);
+    return image;
+}
+
+QByteArray encodePicture(const GraphPicture& picture, GraphModel& model, const QString& file,
+                         double scale)
+{
+    const QByteArray suffix = QFileInfo(file).suffix().toLatin1().toUpper();
+    if (suffix == "SVG") {
+        return svgOf(picture, model);
+    }
+    QBuffer out;
+    out.open(QIODevice::WriteOnly);
+    const bool saved =
+        picture.toImage(model, scale).save(&out, suffix.isEmpty() ? "BMP" : suffix.constData());
+    return saved ? out.data() : QByteArray();
+}
+
+} // namespace TARN
