@@ -1182,7 +1182,7 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     </message>
     <message>
         <source>The active errors of each error matrix below the curves</source>
-        <translation>Aktivní chyby každé chybové matice pod křivkami</translation>
+        <translation>Aktivní chyby každé matice poruch pod křivkami</translation>
     </message>
     <message>
         <source>States :</source>

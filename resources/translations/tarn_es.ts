@@ -1182,7 +1182,7 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     </message>
     <message>
         <source>The active errors of each error matrix below the curves</source>
-        <translation>Los errores activos de cada matriz de errores bajo las curvas</translation>
+        <translation>Los errores activos de cada matriz de fallos bajo las curvas</translation>
     </message>
     <message>
         <source>States :</source>

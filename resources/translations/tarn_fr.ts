@@ -1182,7 +1182,7 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     </message>
     <message>
         <source>The active errors of each error matrix below the curves</source>
-        <translation>Les erreurs actives de chaque matrice d&apos;erreurs sous les courbes</translation>
+        <translation>Les erreurs actives de chaque matrice de défauts sous les courbes</translation>
     </message>
     <message>
         <source>States :</source>

@@ -413,13 +413,13 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     </message>
     <message>
         <source>BMP File (*.bmp);;PNG File (*.png);;SVG File (*.svg);;All Files (*.*)</source>
-        <translation>Ficheiro BMP (*.bmp);;Ficheiro PNG (*.png);;Ficheiro SVG (*.svg);;Todos os ficheiros (*.*)</translation>
+        <translation>Arquivo BMP (*.bmp);;Arquivo PNG (*.png);;Arquivo SVG (*.svg);;Todos os arquivos (*.*)</translation>
     </message>
     <message>
         <source>The snapshot could not be saved as
 %1
 Choose a folder that can be written, with enough free space, and a name that ends in .bmp, .png, .svg or .jpg.</source>
-        <translation>Não foi possível guardar a imagem como
+        <translation>Não foi possível salvar a imagem como
 %1
 Escolha uma pasta em que se possa escrever, com espaço livre suficiente, e um nome que termine em .bmp, .png, .svg ou .jpg.</translation>
     </message>
@@ -677,7 +677,7 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     </message>
     <message>
         <source>&amp;Save Picture...</source>
-        <translation>&amp;Guardar imagem...</translation>
+        <translation>&amp;Salvar imagem...</translation>
     </message>
     <message>
         <source>Co&amp;py Picture</source>
@@ -1142,7 +1142,7 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     </message>
     <message>
         <source>As the desktop</source>
-        <translation>Como o ambiente de trabalho</translation>
+        <translation>Como a área de trabalho</translation>
     </message>
     <message>
         <source>As the graph</source>
@@ -1182,7 +1182,7 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     </message>
     <message>
         <source>The active errors of each error matrix below the curves</source>
-        <translation>Os erros ativos de cada matriz de erros sob as curvas</translation>
+        <translation>Os erros ativos de cada matriz de falhas sob as curvas</translation>
     </message>
     <message>
         <source>States :</source>

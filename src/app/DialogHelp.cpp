@@ -64,6 +64,7 @@ void DialogHelp::createText(const QString& language)
     mText->setAccessibleName(tr("Manual"));
     mText->setOpenExternalLinks(true);
     mText->document()->setDocumentMargin(14);
+    mText->setSearchPaths({":/help"}); // of the pictures
     mText->setMarkdown(manual(language));
     // What was found stands out although the focus is in the search field.
     QPalette palette = mText->palette();

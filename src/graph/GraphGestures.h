@@ -6,6 +6,7 @@
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QObject>
+#include <QtCore/QPointF>
 #include <QtCore/QSize>
 #include <QtCore/QTimer>
 

@@ -19,6 +19,8 @@ public:
     /// \p episodes of the flight at that offset; null while nobody has looked for them.
     GraphNotes(std::shared_ptr<const Flight> flight, double offset, Episodes episodes);
 
+    const std::shared_ptr<const Flight>& flight() const { return mFlight; }
+
     std::span<const EventMark> events() const;
     double timeOf(const EventMark& event) const
     {

@@ -69,7 +69,7 @@ void SessionGraph::showSelection()
 {
     const auto selected = mSession.selection().parameters(*mSession.profile());
     nameCurves(mModel.curves(), selected);
-    showLooks();
+    applyLooks(mModel.curves(), mSession.looks(), mColors);
     showFlight();
 }
 

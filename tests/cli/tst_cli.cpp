@@ -198,6 +198,32 @@ private Q_SLOTS:
         QCOMPARE(part.at(0)["invalid"].dump() + part.at(0)["mean"].dump(), "1null");
     }
 
+    void graph()
+    {
+        QCOMPARE(run("graph --profile P --parameter ECU/Oil --width 300 --height 200 --scale 2 "
+                     "--no-caption -o T/a.png R")
+                     .status,
+                 0);
+        const QImage dark(path("a.png"));
+        QCOMPARE(dark.size(), QSize(600, 400));
+        QCOMPARE(run("graph --profile P --light --start 1 --stop 3 --cursor 2 -o T/a.svg R").status,
+                 0);
+        const QByteArray svg = read("a.svg");
+        for (const char* text : {".CAN", "Oil", "profile.xml"}) {
+            QVERIFY2(svg.contains(text), text);
+        }
+        const std::pair<const char*, const char*> failures[] = {
+            {"graph --profile P -o T/a.xyz R", "end the name in .png"},
+            {"graph --profile P -o T/none/a.png R", "can't be written"},
+            {"graph --profile P --start 5 --stop 5 -o T/b.png R", "stops before it starts"}};
+        for (const auto& [command, message] : failures) {
+            const CommandRun failed = run(command);
+            QCOMPARE(failed.status, 1);
+            QVERIFY2(failed.error.find(message) != std::string::npos, failed.error.c_str());
+        }
+        QVERIFY(!QFile::exists(path("b.png")));
+    }
+
     void selections_data()
     {
         QTest::addColumn<QByteArray>("titles"); // of the table
@@ -357,5 +383,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestCli)
+QTEST_MAIN(TestCli) // pictures need fonts
 #include "tst_cli.moc"

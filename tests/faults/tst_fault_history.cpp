@@ -82,6 +82,22 @@ private Q_SLOTS:
         QTEST(changes.join(' '), "changes");
     }
 
+    void runs()
+    {
+        const auto flight = flightOf("900@1=5:00000000 900@3=5:80000003 900@2=5:80010003 "
+                                     "900@5=5:00000001 900@6=5:00000001");
+        QStringList found; // a bit without a parameter, and a time that falls, make none
+        for (const FaultRun& run : flight->faults().at(0).runs()) {
+            found += QString("%1-%2:%3").arg(run.start).arg(run.stop).arg(run.bits, 0, 16);
+        }
+        QCOMPARE(found, QStringList({"1-3:0", "3-5:80000003", "5-6:1"}));
+        const FaultHistory& history = flight->faults().at(0);
+        const int types[] = {history.worstOf(0), history.worstOf(32), history.worstOf(1),
+                             history.worstOf(5), history.worstOf(0x80000005)};
+        QVERIFY(std::ranges::equal(
+            types, std::array<int, 5>{ErrorNone, ErrorNone, ErrorInfo, ErrorWarning, ErrorFault}));
+    }
+
     void pixelsAndColors()
     {
         // Changes at pixels 100 and 104 of a timeline of 10 pixels a second; no error at 300.

@@ -48,10 +48,10 @@ struct Graph : WidgetGraph
         send(QEvent::MouseMove, {to, 100}, Qt::NoButton, button, modifiers);
         send(QEvent::MouseButtonRelease, {to, 100}, button, Qt::NoButton, modifiers);
     }
-    void wheel(int x, int delta)
+    void wheel(int x, int delta, Qt::KeyboardModifiers modifiers = {})
     {
-        QWheelEvent event(QPointF(x, 100), mapToGlobal(QPointF(x, 100)), {}, {0, delta}, {}, {},
-                          Qt::NoScrollPhase, false);
+        QWheelEvent event(QPointF(x, 100), mapToGlobal(QPointF(x, 100)), {}, {0, delta}, {},
+                          modifiers, Qt::NoScrollPhase, false);
         QApplication::sendEvent(this, &event);
     }
 
@@ -268,6 +268,95 @@ private Q_SLOTS:
         QVERIFY(graph.shows(time + 0.9 * (moved - time), time + 0.9 * (100.0 + moved - time)));
         graph.wheel(200, -120);
         QVERIFY(graph.shows(moved, 100.0 + moved));
+    }
+
+    void gettingAround()
+    {
+        Graph graph;
+        GraphModel& model = graph.model();
+        QSignalSpy moved(&graph, &WidgetGraph::signalCursor);
+        QTest::mouseClick(&graph, Qt::LeftButton, {}, {200, 100});
+        QCOMPARE(model.cursor(), graph.timeAt(200));
+        QCOMPARE(moved.takeFirst()[0].toFloat(), static_cast<float>(graph.timeAt(200)));
+        QVERIFY(!model.markers().hasExtent() && model.markers().start == model.cursor());
+        graph.wheel(200, -240, Qt::ShiftModifier);
+        QVERIFY(graph.shows(20.0, 120.0));
+        QTest::keyClick(&graph, Qt::Key_Home);
+        graph.setXmin(0.0F);
+        graph.setXmax(100.0F);
+        const double low = graph.view().ymin;
+        const double high = graph.view().ymax;
+        graph.wheel(200, 120, Qt::ControlModifier); // about row 100 of 350
+        settle();
+        const double centre = low + (high - low) * (310.0 - 100.0) / 300.0;
+        QVERIFY(std::fabs(graph.view().ymin - (centre + (low - centre) * 0.9)) < 1e-9);
+        QVERIFY(std::fabs(graph.view().ymax - (centre + (high - centre) * 0.9)) < 1e-9);
+        QTest::keyClick(&graph, Qt::Key_F3);
+        settle();
+        graph.wheel(200, 120, Qt::ControlModifier);
+        settle();
+        QVERIFY(model.curves().curve(0)->zoomed && !model.curves().curve(1)->zoomed);
+        QTest::keyClick(&graph, Qt::Key_Home);
+        QVERIFY(!model.curves().curve(0)->zoomed);
+        model.setCursor(50.0);
+        QTest::keyClick(&graph, Qt::Key_M);
+        QVERIFY(graph.shows(20.0, 80.0));
+        QTest::keyClick(&graph, Qt::Key_Backspace);
+        QVERIFY(!graph.shows(20.0, 80.0));
+        QTest::keyClick(&graph, Qt::Key_Backspace, Qt::ShiftModifier);
+        QVERIFY(graph.shows(20.0, 80.0));
+        graph.send(QEvent::MouseButtonPress, {200, 100}, Qt::BackButton, Qt::BackButton);
+        QVERIFY(!graph.shows(20.0, 80.0));
+    }
+
+    void legendAndMenuWorkOnCurves()
+    {
+        GraphWindow graph(flight(3));
+        WidgetGraph& widget = *graph.window.graph();
+        CurveSet& curves = graph.model().curves();
+        QTest::qWait(100);
+        const auto nameOf = [&](unsigned k) { // where its name stands in its strip
+            const GraphStrip& strip = curves.curve(k)->strip;
+            return QPoint(int(graph.model().layout().view().x0) + 15,
+                          widget.height() - int(strip.y0 + strip.height) + 12);
+        };
+        QTest::mouseClick(&widget, Qt::LeftButton, {}, nameOf(1));
+        QVERIFY(curves.curve(1)->hidden && graph.session.looks().byName.at("P1").hidden);
+        QTest::qWait(100);
+        QTest::mousePress(&widget, Qt::LeftButton, {}, nameOf(0));
+        QTest::mouseMove(&widget, nameOf(2));
+        QTest::mouseRelease(&widget, Qt::LeftButton, {}, nameOf(2));
+        QCOMPARE(curves.shown(), std::vector<unsigned>({2, 0}));
+        QCOMPARE(graph.session.looks().order, std::vector<std::string>({"P1", "P2", "P0"}));
+        QVERIFY(!graph.session.marks().hasExtent() && graph.model().markers().start == 0.0);
+        QTest::qWait(100);
+        const auto choose = [&](const char* text) {
+            QTest::mouseClick(&widget, Qt::RightButton, {}, nameOf(2));
+            auto* menu = graph.window.findChild<QMenu*>();
+            for (QAction* action : menu->actions()) {
+                if (action->text().remove('&') == text) {
+                    action->trigger();
+                }
+            }
+            delete menu;
+            QTest::qWait(100);
+        };
+        choose("Only This");
+        QCOMPARE(curves.shown(), std::vector<unsigned>({2}));
+        choose("Show All Curves");
+        QCOMPARE(curves.shown(), std::vector<unsigned>({1, 2, 0}));
+        choose("Move Down");
+        QCOMPARE(curves.shown(), std::vector<unsigned>({1, 0, 2}));
+        graph.answers.colors = QStringList("#123456");
+        choose("Color...");
+        QCOMPARE(graph.session.looks().byName.at("P2").color, QColor("#123456"));
+        curves.curve(2)->ownRange = ValueRange{1.0, 2.0};
+        choose("Automatic Range");
+        QVERIFY(!curves.curve(2)->ownRange);
+        graph.session.setLooks({});
+        QVERIFY(curves.shown() == std::vector<unsigned>({0, 1, 2}));
+        choose("Copy Picture");
+        QVERIFY(QGuiApplication::clipboard()->image().width() >= widget.width());
     }
 
     void whatIsDrawnIsThere()

@@ -217,6 +217,33 @@ private Q_SLOTS:
         }
     }
 
+    void projectKeepsLooks()
+    {
+        const auto profile = profileOf(ProjectProfile);
+        const std::string file =
+            write("p.xml",
+                  "<x><Curves ordered='true'><Curve name='b'/><Curve name='gone' hidden='true'/>"
+                  "<Curve name='a&lt;b' color='#ff8000' low='-1.5' high='0.1'/>"
+                  "<Curve name='zebra' color='none' low='3' high='3' hidden='yes'/></Curves></x>")
+                .toStdString();
+        Project project;
+        QVERIFY(project.readProject(file));
+        CurveLooks looks = project.looks();
+        QCOMPARE(looks.order, std::vector<std::string>({"b", "gone", "a<b", "zebra"}));
+        QVERIFY(looks.byName.size() == 2 && looks.byName["gone"].hidden);
+        QVERIFY(looks.byName["a<b"].color == QColor(255, 128, 0) &&
+                looks.byName["a<b"].range == std::pair(-1.5, 0.1));
+        for (const bool isOrdered : {true, false}) {
+            looks.order.resize(isOrdered ? 4 : 0);
+            project.setLooks(looks);
+            QVERIFY(project.saveProject(file, *profile, {}));
+            Project again;
+            QVERIFY(again.readProject(file) && again.looks() == looks);
+        }
+        project.clear();
+        QVERIFY(project.looks().empty());
+    }
+
     void projectFollowsSelection()
     {
         const auto profile = profileOf(ProjectProfile);

@@ -7,6 +7,8 @@
 #include "base/Property.h"
 #include "flight/Job.h"
 #include "graph/DialogGraphSetup.h"
+#include "graph/GraphPanes.h"
+#include "graph/MeasureModel.h"
 #include "graph/WidgetGraph.h"
 
 #include <QtCore/QCommandLineParser>
@@ -18,10 +20,12 @@
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QTabWidget>
+#include <QtWidgets/QTableView>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QWizard>
 
+#include <algorithm>
 #include <functional>
 #include <iostream>
 
@@ -33,6 +37,18 @@ struct Arguments
     bool dark;
     int width;
     int height;
+    bool examples; ///< the manual's pictures instead of the tour
+};
+
+/// What the manual asks of the demo flight, and where the answer stands.
+struct Example
+{
+    std::vector<const char*> parameters;
+    double start; ///< of the window, seconds
+    double stop;
+    TARN::TimeRange marks;
+    double time;
+    TARN::MeasureModel::Column column; ///< brought into sight
 };
 
 /// Runs the event loop for a while: timers fire, windows are painted.
@@ -76,6 +92,66 @@ public:
     Tour(TARN::DialogMain& window, const Arguments& arguments)
         : mWindow(window), mArguments(arguments)
     {}
+
+    bool runExamples()
+    {
+        const Example examples[] = {
+            {{"CHT 3"}, 33600.0, 34100.0, {}, 33882.7, TARN::MeasureModel::AboveColumn},
+            {{"Oil Pressure"},
+             34840.0,
+             34900.0,
+             {34862.0, 34876.0},
+             34869.6,
+             TARN::MeasureModel::AColumn},
+            {{"Altitude", "Fuel Flow"},
+             33600.0,
+             34700.0,
+             {33740.0, 34500.0},
+             34500.0,
+             TARN::MeasureModel::IntegralColumn},
+            {{"CHT 3", "Engine State", "Cowl Flaps"},
+             33700.0,
+             34000.0,
+             {},
+             33856.8,
+             TARN::MeasureModel::AColumn}};
+        live(300);
+        settle();
+        mWindow.findChild<QTreeWidget*>("recordings")->selectAll();
+        live(PickDelay);
+        settle();
+        mWindow.findChild<QTabWidget*>("views")->setCurrentIndex(2);
+        int number = 0;
+        for (const Example& example : examples) {
+            show(example);
+            shoot(QString("example%1").arg(++number), mWindow.findChild<TARN::GraphPanes*>());
+        }
+        return !mFailed;
+    }
+
+    void show(const Example& example)
+    {
+        TARN::Session& session = mWindow.session();
+        TARN::Selection ticks;
+        for (const auto& [device, parameter] : session.profile()->parameters()) {
+            const bool isWanted = std::ranges::any_of(
+                example.parameters, [&](const char* name) { return parameter->name == name; });
+            ticks.set(*parameter, isWanted);
+        }
+        session.setTicks(ticks);
+        session.confirm();
+        settle();
+        auto* graph = mWindow.findChild<WidgetGraph*>();
+        graph->model().window().set(example.start, example.stop);
+        graph->model().windowChanged();
+        graph->model().setMarker(example.marks.start, example.marks.stop);
+        session.setTime(example.time);
+        live(300);
+        settle();
+        auto* table = mWindow.findChild<QTableView*>("measures");
+        table->scrollTo(table->model()->index(0, example.column));
+        live(100);
+    }
 
     bool run()
     {
@@ -210,21 +286,23 @@ int main(int argc, char** argv)
     command.addPositionalArgument("OUT", "existing folder for the pictures");
     command.addOptions({{"dark", "with a dark theme"},
                         {"width", "window width, pixels", "pixels", "1280"},
-                        {"height", "window height, pixels", "pixels", "860"}});
+                        {"height", "window height, pixels", "pixels", "860"},
+                        {"examples", "the pictures of the manual instead"}});
     command.process(application);
     if (command.positionalArguments().size() != 1) {
         command.showHelp(2);
     }
     const Arguments arguments{command.positionalArguments().front().toStdString(),
                               command.isSet("dark"), command.value("width").toInt(),
-                              command.value("height").toInt()};
+                              command.value("height").toInt(), command.isSet("examples")};
     if (arguments.dark) {
         QApplication::setPalette(darkPalette());
     }
     TARN::DialogMain* window = TARN::startUp(application);
     TARN::DialogSplash::instance()->close();
     window->resize(arguments.width, arguments.height);
-    const bool done = Tour(*window, arguments).run();
+    Tour tour(*window, arguments);
+    const bool done = arguments.examples ? tour.runExamples() : tour.run();
     std::cout.flush();
     std::_Exit(done ? 0 : 1); // as the viewer itself ends: at once
 }
