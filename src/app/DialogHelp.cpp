@@ -54,7 +54,7 @@ DialogHelp::DialogHelp(QWidget* parent, const QString& language)
     layout->addLayout(createSearch());
     layout->addWidget(splitter, 1);
     layout->addWidget(buttons);
-    resize(900, 680);
+    resize(980, 700); // the pictures have room
     mSearch->setFocus();
 }
 

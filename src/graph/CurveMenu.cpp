@@ -23,7 +23,7 @@ struct MenuTexts
 
 void CurveMenu::addTo(QMenu& menu)
 {
-    const unsigned k = mModel.pointed();
+    const unsigned k = mModel.pointed().value_or(mModel.curves().count());
     const ParStruct* curve = mModel.curves().curve(k);
     const auto all = mModel.curves().all();
     if (curve != nullptr && curve->active) {

@@ -39,8 +39,11 @@ void GraphDrawing::draw()
         drawTicksY(nullptr);
     }
     drawTicksX();
-    if (!split && mModel.curves().curve(mModel.pointed())->isShown()) {
-        mNotes.drawThresholds(*mModel.curves().curve(mModel.pointed()));
+    if (const auto pointed = mModel.pointed(); !split && pointed) {
+        const ParStruct* curve = mModel.curves().curve(*pointed);
+        if (curve != nullptr && curve->isShown()) {
+            mNotes.drawThresholds(*curve);
+        }
     }
     const std::vector<unsigned> shown = mModel.curves().shown();
     for (const unsigned k : shown) {

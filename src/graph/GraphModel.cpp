@@ -26,7 +26,7 @@ void GraphModel::setNotes(GraphNotes notes)
     Q_EMIT changed();
 }
 
-void GraphModel::setPointed(unsigned curve)
+void GraphModel::setPointed(std::optional<unsigned> curve)
 {
     if (mPointed != curve) {
         mPointed = curve;
@@ -44,7 +44,7 @@ void GraphModel::pointAt(double time, double y)
     }
     constexpr double Reach = 12.0; // pixels
     double nearest = Reach;
-    unsigned found = mPointed;
+    std::optional<unsigned> found = mPointed;
     for (const unsigned k : mCurves.shown()) {
         const ParStruct& curve = *mCurves.curve(k);
         double value = 0.0;

@@ -29,12 +29,13 @@ public:
     const GraphNotes& notes() const { return mNotes; }
     void setNotes(GraphNotes notes);
 
-    /// The curve that the user pointed at last, by index: in single mode its thresholds are shown.
-    unsigned pointed() const { return mPointed; }
+    /// The curve that the user pointed at last, by index, if he did: in single mode its thresholds
+    /// are shown.
+    std::optional<unsigned> pointed() const { return mPointed; }
     /// Points at the shown curve whose value at a time is nearest to a pixel row, in split mode at
     /// that of the strip there.
     void pointAt(double time, double y);
-    void setPointed(unsigned curve);
+    void setPointed(std::optional<unsigned> curve);
 
     /// The visible time, to be moved; call windowChanged() then.
     TimeWindow& window() { return mWindow; }
@@ -87,7 +88,7 @@ private:
     TimeWindow mWindow;
     TimeRange mMarkers;
     GraphNotes mNotes;
-    unsigned mPointed = 0;
+    std::optional<unsigned> mPointed;
     double mCursor = 0.0;
     eGraphMode mGraphMode = GraphAutomatic;
     eCursorMode mCursorMode = CursorFloating;

@@ -307,7 +307,9 @@ void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)
     }
     if (event->button() == Qt::RightButton &&
         (event->position() - mRightPressed).manhattanLength() <= Still) {
-        mModel.setPointed(curveAt(event->position()).value_or(mModel.pointed()));
+        if (const auto curve = curveAt(event->position())) {
+            mModel.setPointed(curve);
+        }
         Q_EMIT signalMenu(event->globalPosition().toPoint());
     }
     updateMouse(event->position());
