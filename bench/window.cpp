@@ -9,6 +9,7 @@
 #include "demo/Card.h"
 #include "export/ExportCsv.h"
 #include "flight/Job.h"
+#include "graph/GraphPanes.h"
 #include "graph/WidgetGraph.h"
 #include "profile/Decoder.h"
 
@@ -144,6 +145,35 @@ public:
         graph->update();
         loop.exec();
         QGuiApplication::sync();
+    }
+
+    /// An end of the marked range goes back and forth until plot and panel are painted.
+    double dragSeconds()
+    {
+        const TimeRange whole = session().flight()->range(0.0);
+        auto* graph = mWindow->findChild<WidgetGraph*>();
+        std::vector<double> seconds;
+        for (int i = 0; i < 8 * Rounds; ++i) {
+            const double a = whole.start + (whole.stop - whole.start) * 0.01 * (10 + i);
+            seconds.push_back(secondsOf([&] {
+                QEventLoop loop;
+                QObject::connect(graph, &QOpenGLWidget::frameSwapped, &loop, &QEventLoop::quit);
+                graph->model().setMarker(a, whole.stop);
+                loop.exec();
+                QGuiApplication::sync();
+            }));
+        }
+        return median(seconds);
+    }
+
+    /// Shows or hides the panel below the graph.
+    void showMeasuring(bool isShown)
+    {
+        auto* panes = mWindow->findChild<GraphPanes*>();
+        if (panes->isMeasuring() != isShown) {
+            panes->toggleMeasuring();
+        }
+        settle();
     }
 
     double paintSeconds()
@@ -306,10 +336,32 @@ double confirmRatio(Suite& suite)
     return median(ratios);
 }
 
+/// Plot and panel against the plot alone.
+double dragRatio(Suite& suite)
+{
+    const std::string profile = (suite.folder() / "drag.xml").string();
+    writeProfile(profile, tableMessages());
+    Viewer viewer(suite, profile);
+    viewer.pick(suite.tableRecording(suite.options().quick ? 100'000 : 1'000'000));
+    viewer.settle();
+    require(viewer.session().flight() != nullptr, "the recording was not loaded");
+    viewer.confirm(Selection::all(*viewer.session().profile()));
+    viewer.settle();
+    std::vector<double> ratios;
+    for (int round = 0; round < Rounds; ++round) {
+        viewer.showMeasuring(true);
+        const double both = viewer.dragSeconds();
+        viewer.showMeasuring(false);
+        ratios.push_back(both / viewer.dragSeconds());
+    }
+    return median(ratios);
+}
+
 } // namespace
 
 void windowFigures(Suite& suite)
 {
+    suite.figure("ui.drag", 1.5, [&] { return dragRatio(suite); });
     suite.figure("ui.confirm", 12.0, [&] { return confirmRatio(suite); });
     if (!suite.isWanted("ui.hold") && !suite.isWanted("ui.cancel")) {
         return;

@@ -16,7 +16,7 @@ struct DecodedCurve
 };
 
 /// Decodes all samples of a parameter, at a time offset, and finds where it has no value.
-DecodedCurve decodeCurve(const std::shared_ptr<const Flight>& flight, const ProfileParameter& parameter, double offset,
-                         Progress& progress);
+DecodedCurve decodeCurve(const std::shared_ptr<const Flight>& flight,
+                         const ProfileParameter& parameter, double offset, Progress& progress);
 
 } // namespace TARN

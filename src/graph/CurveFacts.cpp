@@ -31,7 +31,8 @@ const RecordEntry* CurveFacts::holdingAt(double time) const
     if (next == 0) {
         return nullptr;
     }
-    const bool isOver = next == mSeries.size() || mGaps.isGap(mSeries.time(next - 1), mSeries.time(next));
+    const bool isOver =
+        next == mSeries.size() || mGaps.isGap(mSeries.time(next - 1), mSeries.time(next));
     return isOver && time > mSeries.time(next - 1) ? nullptr : &mSeries.entry(next - 1);
 }
 

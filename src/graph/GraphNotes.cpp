@@ -11,7 +11,8 @@ GraphNotes::GraphNotes(std::shared_ptr<const Flight> flight, double offset, Epis
         return;
     }
     for (const FaultHistory& history : mFlight->faults()) {
-        if (std::ranges::any_of(history.runs(), [](const FaultRun& run) { return run.bits != 0; })) {
+        if (std::ranges::any_of(history.runs(),
+                                [](const FaultRun& run) { return run.bits != 0; })) {
             mLanes.push_back(&history);
         }
     }

@@ -49,6 +49,9 @@ MeasurePanel::MeasurePanel(Session& session, WidgetGraph& graph, QWidget* parent
     mTimer.setSingleShot(true);
     mTimer.setInterval(Delay);
     connect(&mTimer, &QTimer::timeout, this, &MeasurePanel::load);
+    mFit.setSingleShot(true);
+    mFit.setInterval(Delay);
+    connect(&mFit, &QTimer::timeout, this, &MeasurePanel::fitColumns);
     connect(&mSession, &Session::profileChanged, this, &MeasurePanel::reload);
     connect(&mSession, &Session::flightChanged, this, &MeasurePanel::reload);
     connect(&mSession, &Session::selectionChanged, this, &MeasurePanel::reload);
@@ -190,6 +193,7 @@ void MeasurePanel::load()
             mIndexes = std::move(made);
             mTable->resizeColumnsToContents();
             measure();
+            fitColumns();
         });
 }
 
@@ -219,11 +223,17 @@ void MeasurePanel::measure()
                           wordsAt(curve, range.stop), index.range(range)});
     }
     mModel->setCurves(std::move(curves), range);
+    mFit.start();
+}
+
+/// Columns grow with what stands in them, and never shrink: nothing jumps.
+void MeasurePanel::fitColumns()
+{
     for (int column = 0; column < MeasureModel::ColumnCount; ++column) {
         const int before = mTable->columnWidth(column);
         mTable->resizeColumnToContents(column);
         if (mTable->columnWidth(column) < before) {
-            mTable->setColumnWidth(column, before); // nothing jumps while an end is dragged
+            mTable->setColumnWidth(column, before);
         }
     }
 }

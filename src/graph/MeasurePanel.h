@@ -42,6 +42,7 @@ private:
     void reload();
     void load();
     void measure();
+    void fitColumns();
     void goTo(const QModelIndex& index);
     void copy() const;
 
@@ -56,6 +57,7 @@ private:
     ClockEdit* mStop;
     QLabel* mSpan;
     QTimer mTimer; ///< until curves that are seen have been decoded
+    QTimer mFit;   ///< until an end that is dragged stands still
     Job<Indexes> mJob;
     Indexes mIndexes;
     bool mIsStale = true; ///< another selection, flight or offset

@@ -6,8 +6,7 @@
 
 namespace TARN {
 
-PainterCanvas::PainterCanvas(QPainter& painter, double height)
-    : mPainter(painter), mHeight(height)
+PainterCanvas::PainterCanvas(QPainter& painter, double height) : mPainter(painter), mHeight(height)
 {
     mPainter.setRenderHint(QPainter::Antialiasing, true);
 }
@@ -69,8 +68,8 @@ void PainterCanvas::dots(const float* points, int count, const GraphColor& color
 {
     const QColor paint = color.toColor();
     for (int i = 0; i < count; ++i) {
-        mPainter.fillRect(QRectF(points[2 * i] - size / 2.0, mHeight - points[2 * i + 1] - size / 2.0,
-                                 size, size),
+        mPainter.fillRect(QRectF(points[2 * i] - size / 2.0,
+                                 mHeight - points[2 * i + 1] - size / 2.0, size, size),
                           paint);
     }
 }
