@@ -99,11 +99,9 @@ private:
 
     void build()
     {
-        mIndexes.clear();
         Progress none;
-        for (const ProfileParameter* parameter : mParameters) {
-            mIndexes.push_back(std::make_unique<StatisticsIndex>(mFlight, *parameter, 0.0, none));
-        }
+        mIndexes.clear();
+        mIndexes = makeIndexes(mFlight, mParameters, 0.0, none);
     }
 
     Scan scanOf(std::size_t curve) const
@@ -133,7 +131,7 @@ private:
     std::vector<const ProfileParameter*> mParameters;
     DecodedColumns mColumns;
     TimeRange mRange;
-    std::vector<std::unique_ptr<StatisticsIndex>> mIndexes;
+    StatisticsIndexes mIndexes;
 };
 
 } // namespace

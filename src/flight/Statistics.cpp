@@ -1,7 +1,9 @@
 #include "flight/Statistics.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
+#include <future>
 
 namespace TARN {
 
@@ -32,12 +34,18 @@ StatisticsIndex::StatisticsIndex(std::shared_ptr<const Flight> flight,
             mRule.thresholds.push_back(threshold.val * parameter.factor + parameter.offset);
         }
     }
-    mSeries.isInOrder(); // is found out now: many threads may ask later
-    build(offset, progress);
+    // Nearly every list is in the order of time, so that is not found out by a walk of its own.
+    mSeries.setInOrder();
+    if (!build(offset, progress)) {
+        mSeries = mFlight->series(parameter, offset);
+        mSeries.isInOrder(); // is found out now: many threads may ask later
+        build(offset, progress);
+    }
 }
 
-/// Where gaps are is known at the end only; what has none by the shortest limit has none by any.
-void StatisticsIndex::build(double offset, Progress& progress)
+/// False where times fall that were thought to be in order. Where gaps are is known at the end
+/// only; what has none by the shortest limit has none by any.
+bool StatisticsIndex::build(double offset, Progress& progress)
 {
     const std::size_t blocks = mSeries.size() / Block;
     mLevels[0].resize(blocks);
@@ -50,10 +58,13 @@ void StatisticsIndex::build(double offset, Progress& progress)
             progress.report(block, blocks + 1);
         }
         if (progress.stopRequested()) {
-            return;
+            return true;
         }
         decode(block * Block, std::min((block + 1) * Block, mSeries.size()), samples);
         rhythm.add(samples.allTimes());
+        if (rhythm.falls()) {
+            return false;
+        }
         if (block == blocks) {
             break; // the samples after the last whole block
         }
@@ -75,6 +86,7 @@ void StatisticsIndex::build(double offset, Progress& progress)
         mLevels[1][block / FanOut].append(mLevels[0][block], mRule);
     }
     mSize = mSeries.size();
+    return true;
 }
 
 void StatisticsIndex::decode(std::size_t begin, std::size_t end, Decoded& samples) const
@@ -168,6 +180,27 @@ Statistics StatisticsIndex::statistics(const RangeSummary& summary) const
                                 summary.above.empty() ? 0.0 : summary.above[i]});
     }
     return result;
+}
+
+StatisticsIndexes makeIndexes(const std::shared_ptr<const Flight>& flight,
+                              const std::vector<const ProfileParameter*>& parameters, double offset,
+                              Progress& progress)
+{
+    StatisticsIndexes made(parameters.size());
+    std::atomic<std::size_t> next = 0;
+    const auto work = [&](Progress& heard) {
+        for (std::size_t k = next++; k < made.size(); k = next++) {
+            made[k] = std::make_shared<StatisticsIndex>(flight, *parameters[k], offset, heard);
+        }
+    };
+    // Where no thread is to be had the work is done here.
+    auto other = std::async(std::launch::async | std::launch::deferred, [&] {
+        Progress silent(nullptr, progress.stopToken());
+        work(silent);
+    });
+    work(progress);
+    other.get();
+    return made;
 }
 
 } // namespace TARN

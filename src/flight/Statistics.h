@@ -77,7 +77,7 @@ private:
         std::span<const double> allValues() const { return std::span(values).first(count); }
     };
 
-    void build(double offset, Progress& progress);
+    bool build(double offset, Progress& progress);
     void decode(std::size_t begin, std::size_t end, Decoded& samples) const;
     RangeSummary scan(std::size_t begin, std::size_t end) const;
     RangeSummary summary(std::size_t begin, std::size_t end) const;
@@ -90,5 +90,12 @@ private:
     std::size_t mSize = 0;                            ///< samples that are known
     std::array<std::vector<RangeSummary>, 2> mLevels; ///< of blocks, and of FanOut blocks
 };
+
+using StatisticsIndexes = std::vector<std::shared_ptr<const StatisticsIndex>>;
+
+/// One for each parameter, in their order, made on two threads.
+StatisticsIndexes makeIndexes(const std::shared_ptr<const Flight>& flight,
+                              const std::vector<const ProfileParameter*>& parameters, double offset,
+                              Progress& progress);
 
 } // namespace TARN

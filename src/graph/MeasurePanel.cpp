@@ -182,14 +182,9 @@ void MeasurePanel::load()
     parameters.resize(std::min<std::size_t>(parameters.size(), CurveSet::MaxCurves));
     mJob.start(
         [flight = mSession.flight(), parameters, offset = mSession.offset()](Progress& progress) {
-            Indexes made;
-            for (const ProfileParameter* parameter : parameters) {
-                made.push_back(
-                    std::make_shared<StatisticsIndex>(flight, *parameter, offset, progress));
-            }
-            return made;
+            return makeIndexes(flight, parameters, offset, progress);
         },
-        [this](Indexes made) {
+        [this](StatisticsIndexes made) {
             mIndexes = std::move(made);
             mTable->resizeColumnsToContents();
             measure();

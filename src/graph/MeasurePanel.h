@@ -46,8 +46,6 @@ private:
     void goTo(const QModelIndex& index);
     void copy() const;
 
-    using Indexes = std::vector<std::shared_ptr<const StatisticsIndex>>;
-
     Session& mSession;
     WidgetGraph& mGraph;
     MeasureModel* mModel;
@@ -58,8 +56,8 @@ private:
     QLabel* mSpan;
     QTimer mTimer; ///< until curves that are seen have been decoded
     QTimer mFit;   ///< until an end that is dragged stands still
-    Job<Indexes> mJob;
-    Indexes mIndexes;
+    Job<StatisticsIndexes> mJob;
+    StatisticsIndexes mIndexes;
     bool mIsStale = true; ///< another selection, flight or offset
 };
 

@@ -45,15 +45,32 @@ void QuickRhythm::add(std::span<const double> times)
         const double span = times.back() - times.front();
         mBound = span / static_cast<double>(times.size()) / 2.0;
     }
-    for (const double time : times) {
-        const double step = time - mBefore;
-        mSteps += step > 0.0 ? 1 : 0;
-        mBelow += step > 0.0 && step < mBound ? 1 : 0;
-        mBeyond += step > Unsteadiness * mBound ? 1 : 0;
-        mSlow += StepsOfLimit * step > ShortestLimit ? 1 : 0;
-        mFalls |= step < 0.0;
-        mBefore = time;
+    // Counted in local variables and without branches, several steps at a time.
+    const double bound = mBound;
+    const double far = Unsteadiness * bound;
+    std::size_t steps = 0;
+    std::size_t below = 0;
+    std::size_t beyond = 0;
+    std::size_t slow = 0;
+    std::size_t falling = 0;
+    const auto count = [&](double step) {
+        const std::size_t isStep = step > 0.0 ? 1 : 0;
+        steps += isStep;
+        below += isStep & (step < bound ? 1U : 0U);
+        beyond += step > far ? 1 : 0;
+        slow += StepsOfLimit * step > ShortestLimit ? 1 : 0;
+        falling += step < 0.0 ? 1 : 0;
+    };
+    count(times.front() - mBefore);
+    for (std::size_t k = 1; k < times.size(); ++k) {
+        count(times[k] - times[k - 1]);
     }
+    mSteps += steps;
+    mBelow += below;
+    mBeyond += beyond;
+    mSlow += slow;
+    mFalls |= falling > 0;
+    mBefore = times.back();
 }
 
 bool QuickRhythm::isProven() const

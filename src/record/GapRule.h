@@ -67,6 +67,9 @@ public:
     /// Whether the times taken prove it; else nothing is known. Times that fall prove nothing.
     bool isProven() const;
 
+    /// Whether a time was before the one ahead of it.
+    bool falls() const { return mFalls; }
+
     /// Of a series for which it is proven.
     static GapRule rule();
 
