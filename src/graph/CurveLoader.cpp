@@ -70,7 +70,7 @@ void CurveLoader::start()
 /// What one job decodes: short curves go together, as a job costs more than they do.
 std::vector<unsigned> CurveLoader::takeWaiting()
 {
-    constexpr std::size_t SamplesWorthAJob = 250'000;
+    constexpr std::size_t SamplesWorthAJob = 750'000;
     std::vector<unsigned> places;
     std::size_t samples = 0;
     while (!mWaiting.empty() && samples < SamplesWorthAJob) {

@@ -10,7 +10,6 @@ EmptyPlace::EmptyPlace(QWidget* view) : QLabel(view)
     setFont(large);
     setAlignment(Qt::AlignCenter);
     setWordWrap(true);
-    setTextFormat(Qt::RichText);
     setForegroundRole(QPalette::PlaceholderText);
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     setFocusPolicy(Qt::NoFocus);
@@ -26,9 +25,16 @@ void EmptyPlace::setText(const QString& text)
     layText();
 }
 
-/// Links are colored in the text itself: rich text takes their color from the application.
+/// Links are colored in the text itself: rich text takes their color from the application. A text
+/// without links is a plain one, as a rich one is painted twice each time that it is laid out.
 void EmptyPlace::layText()
 {
+    if (!mText.contains("<a ")) {
+        setTextFormat(Qt::PlainText);
+        QLabel::setText(mText);
+        return;
+    }
+    setTextFormat(Qt::RichText);
     const QString color = palette().color(QPalette::Link).name();
     QString rich = mText;
     QLabel::setText(
