@@ -41,7 +41,8 @@ private Q_SLOTS:
         for (int i = 0; i < actions; ++i) {
             deeds << QString::number(i) + " " + act();
             std::fprintf(stderr, "%s, ", qPrintable(deeds.last())); // a crash leaves nothing else
-            QVERIFY2(isSound(), qPrintable(deeds[0] + ": " + deeds.mid(i - 9).join(", ")));
+            QVERIFY2(unsound().isEmpty(),
+                     qPrintable(unsound() + deeds[0] + ": " + deeds.mid(i - 9).join(", ")));
             if (i == actions / 2) {
                 settle();
                 held = heldMemory(); // by then everything has been opened once
@@ -183,17 +184,24 @@ private:
         }
     }
 
-    /// What holds at any moment.
-    bool isSound()
+    /// What should hold at any moment and does not.
+    QString unsound()
     {
         const auto& flight = session().flight();
         const bool canExport = flight != nullptr && !flight->samples().empty() &&
                                !find<ActivityBar>("exporting")->isActive();
         const auto columns = session().selection().parameters(*session().profile()).size() + 1;
-        return window().isVisible() && title().startsWith("ORNA ") &&
-               action(ActionType::ExportCsv)->isEnabled() == canExport &&
-               (flight == nullptr || flight->profile() == session().profile()) &&
-               table()->model()->columnCount() == static_cast<int>(columns);
+        const std::pair<const char*, bool> all[] = {
+            {"visible", window().isVisible()},
+            {"title", title().startsWith("ORNA ")},
+            {"export", action(ActionType::ExportCsv)->isEnabled() == canExport},
+            {"profile", flight == nullptr || flight->profile() == session().profile()},
+            {"columns", table()->model()->columnCount() == static_cast<int>(columns)}};
+        QString broken;
+        for (const auto& [name, holds] : all) {
+            broken += holds ? QString() : QString("%1, ").arg(name);
+        }
+        return broken;
     }
 
     /// The main job once more, from the card to a written file.
