@@ -734,6 +734,25 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     </message>
 </context>
 <context>
+    <name>TARN::DialogEventList</name>
+    <message>
+        <source>Go to the &amp;Start</source>
+        <translation>Přejít na &amp;začátek</translation>
+    </message>
+    <message>
+        <source>Go to the &amp;Peak</source>
+        <translation>Přejít na &amp;vrchol</translation>
+    </message>
+    <message>
+        <source>Show in the &amp;Graph</source>
+        <translation>Zobrazit v &amp;grafu</translation>
+    </message>
+    <message>
+        <source>&amp;Copy All with Headers</source>
+        <translation>&amp;Kopírovat vše se záhlavím</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogExportCsv</name>
     <message>
         <source>CSV Export</source>
@@ -1501,6 +1520,53 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     <message>
         <source>The export was stopped; the old file, if there was one, is unchanged.</source>
         <translation>Export byl zastaven; původní soubor, pokud existoval, zůstal beze změny.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightBar</name>
+    <message>
+        <source>What happened</source>
+        <translation>Co se stalo</translation>
+    </message>
+    <message>
+        <source>Click a part to go to the first of its kind</source>
+        <translation>Kliknutím na část přejdete k prvnímu svého druhu</translation>
+    </message>
+    <message>
+        <source>Duration %1</source>
+        <translation>Trvání %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>bez profilu, nic nebylo kontrolováno</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 na limitu</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 ve varování</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Kontrolky: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Poruchy a varování: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nic mimo rozsah v %1 vzorcích %2 sledovaných parametrů</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>žádný parametr nebyl sledován na limity</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Poznámky: %1</translation>
     </message>
 </context>
 <context>

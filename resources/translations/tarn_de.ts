@@ -734,6 +734,25 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     </message>
 </context>
 <context>
+    <name>TARN::DialogEventList</name>
+    <message>
+        <source>Go to the &amp;Start</source>
+        <translation>Zum &amp;Anfang</translation>
+    </message>
+    <message>
+        <source>Go to the &amp;Peak</source>
+        <translation>Zur &amp;Spitze</translation>
+    </message>
+    <message>
+        <source>Show in the &amp;Graph</source>
+        <translation>Im &amp;Diagramm zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy All with Headers</source>
+        <translation>Alles mit Überschriften &amp;kopieren</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogExportCsv</name>
     <message>
         <source>CSV Export</source>
@@ -1501,6 +1520,53 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     <message>
         <source>The export was stopped; the old file, if there was one, is unchanged.</source>
         <translation>Der Export wurde gestoppt; die alte Datei, falls vorhanden, ist unverändert.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightBar</name>
+    <message>
+        <source>What happened</source>
+        <translation>Was geschehen ist</translation>
+    </message>
+    <message>
+        <source>Click a part to go to the first of its kind</source>
+        <translation>Klicken Sie auf einen Teil, um zum ersten seiner Art zu gehen</translation>
+    </message>
+    <message>
+        <source>Duration %1</source>
+        <translation>Dauer %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>kein Profil, daher wurde nichts geprüft</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 am Grenzwert</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 im Warnbereich</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Lampen: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Fehler und Warnungen: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nichts außerhalb des Bereichs in %1 Messwerten von %2 überwachten Parametern</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>kein Parameter wurde auf Grenzwerte überwacht</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Bemerkungen: %1</translation>
     </message>
 </context>
 <context>

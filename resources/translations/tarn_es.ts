@@ -734,6 +734,25 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     </message>
 </context>
 <context>
+    <name>TARN::DialogEventList</name>
+    <message>
+        <source>Go to the &amp;Start</source>
+        <translation>Ir al &amp;inicio</translation>
+    </message>
+    <message>
+        <source>Go to the &amp;Peak</source>
+        <translation>Ir al &amp;pico</translation>
+    </message>
+    <message>
+        <source>Show in the &amp;Graph</source>
+        <translation>Mostrar en el &amp;gráfico</translation>
+    </message>
+    <message>
+        <source>&amp;Copy All with Headers</source>
+        <translation>&amp;Copiar todo con encabezados</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogExportCsv</name>
     <message>
         <source>CSV Export</source>
@@ -1501,6 +1520,53 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     <message>
         <source>The export was stopped; the old file, if there was one, is unchanged.</source>
         <translation>La exportación se ha detenido; el archivo anterior, si lo había, no ha cambiado.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightBar</name>
+    <message>
+        <source>What happened</source>
+        <translation>Qué ha pasado</translation>
+    </message>
+    <message>
+        <source>Click a part to go to the first of its kind</source>
+        <translation>Clic en una parte para ir al primero de su tipo</translation>
+    </message>
+    <message>
+        <source>Duration %1</source>
+        <translation>Duración %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>sin perfil, no se comprobó nada</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 en el límite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 en aviso</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Luces: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Fallos y avisos: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nada fuera de rango en %1 muestras de %2 parámetros vigilados</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>ningún parámetro se vigiló por límites</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Observaciones: %1</translation>
     </message>
 </context>
 <context>

@@ -734,6 +734,25 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     </message>
 </context>
 <context>
+    <name>TARN::DialogEventList</name>
+    <message>
+        <source>Go to the &amp;Start</source>
+        <translation>Aller au &amp;début</translation>
+    </message>
+    <message>
+        <source>Go to the &amp;Peak</source>
+        <translation>Aller au &amp;pic</translation>
+    </message>
+    <message>
+        <source>Show in the &amp;Graph</source>
+        <translation>Montrer dans le &amp;graphique</translation>
+    </message>
+    <message>
+        <source>&amp;Copy All with Headers</source>
+        <translation>Tout &amp;copier avec les en-têtes</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogExportCsv</name>
     <message>
         <source>CSV Export</source>
@@ -1501,6 +1520,53 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     <message>
         <source>The export was stopped; the old file, if there was one, is unchanged.</source>
         <translation>L&apos;export a été arrêté&#xa0;; l&apos;ancien fichier, s&apos;il y en avait un, est inchangé.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightBar</name>
+    <message>
+        <source>What happened</source>
+        <translation>Ce qui s&apos;est passé</translation>
+    </message>
+    <message>
+        <source>Click a part to go to the first of its kind</source>
+        <translation>Cliquer sur une partie pour aller au premier de son genre</translation>
+    </message>
+    <message>
+        <source>Duration %1</source>
+        <translation>Durée %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>pas de profil, rien n&apos;a été vérifié</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 à la limite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 en alerte</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Voyants&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Défauts et alertes&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>rien hors plage dans %1 échantillons de %2 paramètres surveillés</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>aucun paramètre n&apos;a été surveillé pour les limites</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Remarques&#xa0;: %1</translation>
     </message>
 </context>
 <context>

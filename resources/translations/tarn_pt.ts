@@ -734,6 +734,25 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     </message>
 </context>
 <context>
+    <name>TARN::DialogEventList</name>
+    <message>
+        <source>Go to the &amp;Start</source>
+        <translation>Ir para o &amp;início</translation>
+    </message>
+    <message>
+        <source>Go to the &amp;Peak</source>
+        <translation>Ir para o &amp;pico</translation>
+    </message>
+    <message>
+        <source>Show in the &amp;Graph</source>
+        <translation>Mostrar no &amp;gráfico</translation>
+    </message>
+    <message>
+        <source>&amp;Copy All with Headers</source>
+        <translation>&amp;Copiar tudo com cabeçalhos</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogExportCsv</name>
     <message>
         <source>CSV Export</source>
@@ -1501,6 +1520,53 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     <message>
         <source>The export was stopped; the old file, if there was one, is unchanged.</source>
         <translation>A exportação foi interrompida; o arquivo antigo, se havia um, permanece inalterado.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightBar</name>
+    <message>
+        <source>What happened</source>
+        <translation>O que aconteceu</translation>
+    </message>
+    <message>
+        <source>Click a part to go to the first of its kind</source>
+        <translation>Clique em uma parte para ir ao primeiro do seu tipo</translation>
+    </message>
+    <message>
+        <source>Duration %1</source>
+        <translation>Duração %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>sem perfil, nada foi verificado</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 no limite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 em aviso</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Luzes: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Falhas e avisos: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nada fora do intervalo em %1 amostras de %2 parâmetros vigiados</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>nenhum parâmetro foi vigiado quanto a limites</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Observações: %1</translation>
     </message>
 </context>
 <context>

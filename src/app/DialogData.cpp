@@ -6,6 +6,7 @@
 #include "events/DialogDataWarning.h"
 #include "faults/EventDetector.h"
 #include "graph/DialogDataGraph.h"
+#include "graph/WidgetGraph.h"
 #include "table/DialogDataTable.h"
 
 #include <QtGui/QShortcut>
@@ -14,22 +15,36 @@
 
 namespace TARN {
 
+namespace {
+
+// Places of the views that are gone to.
+constexpr int Exceedances = 1;
+constexpr int Graph = 2;
+constexpr int Lamps = 3;
+constexpr int Matrices = 4;
+
+} // namespace
+
 DialogData::DialogData(Session& session, QWidget* parent)
-    : QWidget(parent), mSession(session), mEpisodes(session), mTabs(new QTabWidget),
-      mControls(new TimeControls(session))
+    : QWidget(parent), mSession(session), mEpisodes(session),
+      mBar(new FlightBar(session, mEpisodes)), mTabs(new QTabWidget),
+      mGraph(new DialogDataGraph(session, mEpisodes)), mControls(new TimeControls(session))
 {
     mTabs->setObjectName("views");
     addView(new DialogDataTable(session), "canStatistic", tr("Data"));
     addView(new DialogDataLimit(session, mEpisodes), "limit", tr("Limit/Warning Exceed"));
-    addView(new DialogDataGraph(session, mEpisodes), "graphSingle", tr("Graph"));
+    addView(mGraph, "graphSingle", tr("Graph"));
     addView(new DialogDataWarning(session), "warningLamp", tr("Warning Lamps"), hasWarningLamps);
     addView(new DialogDataErrorMatrix(session), "faultMatrix", tr("Fault Matrix"),
             [](const ProfileInfo& profile) { return !profile.faultMatrices.empty(); });
     auto* layout = new QVBoxLayout(this);
+    layout->addWidget(mBar);
     layout->addWidget(mTabs, 1);
     layout->addWidget(mControls);
     connect(mControls, &TimeControls::signalMessage, this, &DialogData::signalMessage);
     connect(&mSession, &Session::profileChanged, this, &DialogData::showProfile);
+    connect(mBar, &FlightBar::counted, this, &DialogData::showCounts);
+    connect(mBar, &FlightBar::wanted, this, &DialogData::goTo);
     createShortcuts();
     showTabs();
 }
@@ -39,8 +54,12 @@ void DialogData::addView(View* view, const char* icon, const QString& title, IsO
 {
     mTabs->addTab(view, QIcon(QString(":/icons/%1.svg").arg(icon)), title);
     mIsOfUse.push_back(std::move(isOfUse));
+    mTitles.push_back(title);
     if constexpr (requires { &View::signalLink; }) {
         connect(view, &View::signalLink, this, &DialogData::signalLink);
+    }
+    if constexpr (requires { &View::signalGraph; }) {
+        connect(view, &View::signalGraph, this, &DialogData::showInGraph);
     }
 }
 
@@ -71,6 +90,47 @@ void DialogData::showTabs()
     for (std::size_t i = 0; i < mIsOfUse.size(); ++i) {
         mTabs->setTabVisible(static_cast<int>(i),
                              !mIsOfUse[i] || mIsOfUse[i](mSession.profile()->data()));
+    }
+}
+
+void DialogData::showCounts()
+{
+    const FlightSummary& found = mBar->summary();
+    const std::pair<int, std::size_t> counts[] = {
+        {Exceedances, found.limits.times + found.warnings.times},
+        {Lamps, found.lamps.times},
+        {Matrices, found.faults.times}};
+    for (const auto& [view, count] : counts) {
+        const QString& title = mTitles.at(view);
+        mTabs->setTabText(view, count == 0 ? title : QString("%1 (%2)").arg(title).arg(count));
+    }
+}
+
+void DialogData::goTo(FlightBar::Kind kind, double time)
+{
+    if (kind == FlightBar::Remarks) {
+        Q_EMIT signalRemarks();
+        return;
+    }
+    setCurrentView(kind == FlightBar::Exceedances ? Exceedances
+                   : kind == FlightBar::Lamps     ? Lamps
+                                                  : Matrices);
+    mSession.setTime(time);
+}
+
+/// The parameter is selected, if it is not, and the minute around the time stands in the graph.
+void DialogData::showInGraph(const ProfileParameter& parameter, double time)
+{
+    if (!mSession.selection().contains(parameter)) {
+        Selection ticks = mSession.ticks();
+        ticks.set(parameter, true);
+        mSession.setTicks(ticks);
+        mSession.confirm();
+    }
+    setCurrentView(Graph);
+    mSession.setTime(time);
+    if (mGraph->graph() != nullptr) {
+        mGraph->graph()->model().zoomToMinute(time);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "events/FlightBar.h"
 #include "flight/EpisodeWatch.h"
 #include "flight/Session.h"
 
@@ -13,9 +14,11 @@ class QTabWidget;
 
 namespace TARN {
 
+class DialogDataGraph;
 class TimeControls;
 
-/// The data window: the views of the session as tabs, and the time controls below them.
+/// The data window: what happened in one line, the views of the session as tabs, and the time
+/// controls below them.
 class DialogData : public QWidget
 {
     Q_OBJECT
@@ -33,6 +36,8 @@ Q_SIGNALS:
     void signalMessage(const QString& text);
     /// The user follows the link of a view that has nothing to show.
     void signalLink(const QString& link);
+    /// The user wants to read the remarks on the recording.
+    void signalRemarks();
 
 private:
     /// Whether a view has something to do with a profile.
@@ -42,14 +47,20 @@ private:
     void addView(View* view, const char* icon, const QString& title, IsOfUse isOfUse = {});
     void createShortcuts();
     void showTabs();
+    void showCounts();
     void showProfile();
+    void goTo(FlightBar::Kind kind, double time);
+    void showInGraph(const ProfileParameter& parameter, double time);
 
     Session& mSession;
     EpisodeWatch mEpisodes;
+    FlightBar* mBar;
     QTabWidget* mTabs;
+    DialogDataGraph* mGraph;
     TimeControls* mControls;
     std::optional<int> mWanted;    ///< the view to go to when the next profile is there
     std::vector<IsOfUse> mIsOfUse; ///< of each tab; empty for those that are always there
+    QStringList mTitles;           ///< of the tabs, without counts
 };
 
 } // namespace TARN

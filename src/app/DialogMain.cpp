@@ -121,6 +121,7 @@ void DialogMain::createPanes()
     });
     connect(mData, &DialogData::signalMessage, mStatusBar, &DialogStatusBar::say);
     connect(mData, &DialogData::signalLink, mSmallWindows, &SmallWindows::showPreferences);
+    connect(mData, &DialogData::signalRemarks, this, [this] { run(ActionType::RecordDetails); });
     connect(mOffset, &OffsetKeeper::failed, this, [this] {
         mStatusBar->say(tr("The offset could not be saved on the card (is it write-protected?) "
                            "and holds until the program ends."));

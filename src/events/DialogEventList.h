@@ -1,5 +1,6 @@
 #pragma once
 
+#include "events/EventModel.h"
 #include "flight/EpisodeWatch.h"
 #include "flight/Session.h"
 
@@ -8,7 +9,6 @@
 namespace TARN {
 
 class DataTableView;
-class EventModel;
 
 /// A list of events by time. Picking one goes to its time; moving the time selects the latest
 /// event at or before it.
@@ -22,6 +22,8 @@ public:
 Q_SIGNALS:
     /// The user follows a link of the empty text.
     void signalLink(const QString& link);
+    /// The user wants to see a parameter at a time in the graph; seconds with the time offset.
+    void signalGraph(const TARN::ProfileParameter& parameter, double time);
 
 protected:
     /// \p title of the event column; \p hasEpisodes shows the columns that tell of episodes.
@@ -42,6 +44,11 @@ private Q_SLOTS:
     void slotSelect(int row);
 
 private:
+    void createCommands();
+    std::optional<EventModel::Place> currentPlace() const;
+    void goToPeak();
+    void showInGraph();
+    void copy() const;
     void showTime(double time, const QObject* source);
     void updateDigits();
     void updateEmptyText();

@@ -101,6 +101,38 @@ int EventModel::rowAt(double time) const
     return after == mEvents->begin() ? 0 : static_cast<int>(after - mEvents->begin() - 1);
 }
 
+std::optional<EventModel::Place> EventModel::placeOf(int row, const Flight& flight,
+                                                     double offset) const
+{
+    const RecordEvent* event = eventAt(row);
+    const Episode* episode = episodeOf(row);
+    if (event == nullptr && episode == nullptr) {
+        return std::nullopt;
+    }
+    const ProfileParameter* parameter = event != nullptr ? event->parameter : episode->parameter;
+    const double shift = flight.series(*parameter, offset).shift();
+    return Place{parameter, event != nullptr ? event->time + shift : episode->start,
+                 episode != nullptr && episode->peak ? std::optional(episode->peak->time)
+                                                     : std::nullopt};
+}
+
+QString EventModel::textOf(const std::vector<int>& rows) const
+{
+    QStringList lines;
+    const auto add = [&](const auto& cellOf) {
+        QStringList cells;
+        for (int column = 0; column < columnCount(); ++column) {
+            cells += cellOf(column).toString().trimmed();
+        }
+        lines += cells.join('\t');
+    };
+    add([&](int column) { return headerData(column, Qt::Horizontal, Qt::DisplayRole); });
+    for (const int row : rows) {
+        add([&](int column) { return index(row, column).data(); });
+    }
+    return lines.join('\n') + "\n";
+}
+
 int EventModel::rowCount(const QModelIndex& parent) const
 {
     if (parent.isValid()) {

@@ -2,10 +2,12 @@
 
 #include "faults/Episode.h"
 #include "faults/RecordEvent.h"
+#include "flight/Flight.h"
 
 #include <QtCore/QAbstractTableModel>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace TARN {
@@ -42,6 +44,20 @@ public:
     /// Row of the latest event at or before \p time (seconds, compared in tenths); of several in
     /// one tenth the last. 0 when there is none.
     int rowAt(double time) const;
+
+    /// Where a row lies in the flight.
+    struct Place
+    {
+        const ProfileParameter* parameter;
+        double start;               ///< seconds with the time offset
+        std::optional<double> peak; ///< nothing where there is none
+    };
+
+    /// Nothing for the heading. \p offset in force.
+    std::optional<Place> placeOf(int row, const Flight& flight, double offset) const;
+
+    /// Rows as text with a line of titles, cells parted by tabs, as a spreadsheet takes them.
+    QString textOf(const std::vector<int>& rows) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

@@ -1,4 +1,5 @@
 #include "events/EventModel.h"
+#include "events/FlightSummary.h"
 #include "support/FlightTest.h"
 
 #include <QtGui/QBrush>
@@ -88,6 +89,13 @@ private Q_SLOTS:
             QCOMPARE(index.flags().testFlag(Qt::ItemIsSelectable), !isHeading);
             QCOMPARE(index.data(Qt::FontRole).value<QFont>().bold(), isHeading);
         }
+        QVERIFY(!model.placeOf(2, *shown, 4.0));
+        const auto place = model.placeOf(1, *shown, 4.0); // in the graph the offset counts
+        QVERIFY(place->parameter->name == "up" && std::fabs(place->start - 6.06) < 1e-6);
+        QVERIFY(std::fabs(*place->peak - 6.06) < 1e-6 && !model.placeOf(4, *shown, 4.0)->peak);
+        QCOMPARE(model.textOf({5}), QString("Time\tLimits\tUntil\tDuration\tPeak\tThreshold\n"
+                                            "00:00:09.000\tE level in warning\t00:00:09.500\t"
+                                            "0.5 s\t2.14285714286 %\t\u2265 1.42857142857\n"));
         const auto text = [&](int role) {
             return model.index(1, EventModel::TextColumn).data(role).toString();
         };
@@ -99,6 +107,31 @@ private Q_SLOTS:
         model.setEvents(nullptr, nullptr);
         QCOMPARE(model.rowCount(), 0);
         QCOMPARE(EventModel("Lamps", false).columnCount(), 2);
+    }
+
+    void summaryCounts()
+    {
+        const auto shown = flight();
+        Progress progress;
+        const FlightSummary found = summaryOf(*shown, 4.0, shown->episodes(4.0, progress));
+        QCOMPARE(found.duration, 86401.5);
+        // The one with an event is what to look at first, although another was earlier.
+        QVERIFY(found.limits.times == 2 && found.limits.first == 6.0);
+        QVERIFY(found.warnings.times == 2 && found.warnings.first == 5.0);
+        QVERIFY(found.watched.parameters == 4 && found.watched.samples == 11);
+        QVERIFY(found.lamps.times == 0 && found.faults.times == 0);
+        const auto faulty = flightOf(
+            "900@1=5:00000000 900@2=5:00000007 900@3=5:00000001 900@4=5:00000002 600@2=5:00000001",
+            "<EnumList><Enum name='WarningLamp'/></EnumList><Device name='D'>"
+            "<Parameter name='L' id='600' dataType='BLONG' startByte='4' endBit='3' "
+            "enumId='WarningLamp'/><ErrorMatrix id='900' name='M'/>"
+            "<Parameter name='i' id='900' startBit='0' errorType='Info'/>"
+            "<Parameter name='w' id='900' startBit='1' errorType='Warning'/>"
+            "<Parameter name='f' id='900' startBit='2' errorType='Fault'/></Device>");
+        const FlightSummary other = summaryOf(*faulty, 0.0, {});
+        QVERIFY(other.faults.times == 3 && other.faults.first == 2.0);
+        QVERIFY(other.lamps.times == 1 && other.lamps.first == 2.0);
+        QVERIFY(other.limits.times == 0 && other.watched.parameters == 0);
     }
 
     void rowOfATime()

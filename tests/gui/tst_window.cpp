@@ -427,6 +427,26 @@ private Q_SLOTS:
         QTest::keyClick(limits, Qt::Key_Down);
         QCOMPARE(timeEdit()->time(), QTime(9, 41, 6, 834));
 
+        // What happened in one line; each part leads to its view, the lists into the graph.
+        auto* bar = find<QLabel>("flightBar");
+        for (const char* part : {"Duration 00:59:59", "5 at the limit", "Lamps: 5"}) {
+            QVERIFY2(bar->text().contains(part), qPrintable(bar->text()));
+        }
+        QCOMPARE(views()->tabText(Limits), "Limit/Warning Exceed (6)");
+        Q_EMIT bar->linkActivated(bar->text().section("href=\"", 1).section('"', 0, 0));
+        QVERIFY(views()->currentIndex() == Limits && rowOf(limits) == 0);
+        clickCell(limits, 3, 1);
+        QTest::keyClick(limits, Qt::Key_M);
+        QCOMPARE(timeEdit()->time(), QTime(9, 41, 9, 634));
+        clickCell(limits, 6, 1); // of a parameter that is not selected
+        QTest::keyClick(limits, Qt::Key_G);
+        const GraphModel& graph = find<WidgetGraph>()->model();
+        QVERIFY(views()->currentIndex() == Graph && graph.window().width() == 60.0);
+        QVERIFY(std::ranges::any_of(graph.curves().all(), [](const ParStruct& curve) {
+            return curve.active && curve.name == "Bus Voltage";
+        }));
+        views()->setCurrentIndex(Limits);
+
         // From event to event; every view follows.
         slider()->setValue(0);
         const Flight& flight = *session().flight();
