@@ -20,8 +20,8 @@ struct EventMark
 
     double time; ///< seconds
     Kind kind;
-    QString text; ///< what happened, in one line
-    QColor color; ///< may be invalid
+    QString text;           ///< what happened, in one line
+    QColor color;           ///< may be invalid
     bool isShifted = false; ///< the time offset applies to its samples
 };
 

@@ -310,7 +310,9 @@ private Q_SLOTS:
         std::vector<std::pair<unsigned, std::shared_ptr<const CurveSamples>>> told;
         CurveLoader loader;
         connect(&loader, &CurveLoader::curveReady, this,
-                [&](unsigned place, const DecodedCurve& curve) { told.emplace_back(place, curve.samples); });
+                [&](unsigned place, const DecodedCurve& curve) {
+                    told.emplace_back(place, curve.samples);
+                });
         loader.load(flight, all, Offset);
         QVERIFY(loader.isBusy());
         loader.start();
