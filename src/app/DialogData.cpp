@@ -6,6 +6,7 @@
 #include "events/DialogDataWarning.h"
 #include "faults/EventDetector.h"
 #include "graph/DialogDataGraph.h"
+#include "graph/GraphActions.h"
 #include "graph/WidgetGraph.h"
 #include "table/DialogDataTable.h"
 
@@ -130,7 +131,7 @@ void DialogData::showInGraph(const ProfileParameter& parameter, double time)
     setCurrentView(Graph);
     mSession.setTime(time);
     if (mGraph->graph() != nullptr) {
-        mGraph->graph()->model().zoomToMinute(time);
+        zoomToMinute(mGraph->graph()->model(), time);
     }
 }
 

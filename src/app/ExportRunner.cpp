@@ -35,8 +35,8 @@ void ExportRunner::start(ActionType command)
     // What is exported is what is shown when the wizard opens.
     const ExportInput shown{mSession.flight(), mSession.selection(), mSession.offset()};
     ExportOptions preset;
-    preset.startTime = mSession.range().start;
-    preset.stopTime = mSession.range().stop;
+    preset.startTime = rangeOf(mSession).start;
+    preset.stopTime = rangeOf(mSession).stop;
     preset.currentTime = mSession.time();
     if (auto exporter = found->second->ask(shown, preset)) {
         run(std::move(exporter), shown, found->second->words());

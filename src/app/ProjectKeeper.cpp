@@ -30,12 +30,12 @@ ProjectKeeper::ProjectKeeper(Session& session, QWidget& window)
     : QObject(&window), mSession(session), mWindow(window)
 {
     connect(&session, &Session::ticksChanged, this, &ProjectKeeper::changed);
-    connect(&session, &Session::looksChanged, this, &ProjectKeeper::changed);
+    connect(&session.looks(), &Looks::changed, this, &ProjectKeeper::changed);
 }
 
 bool ProjectKeeper::isEdited() const
 {
-    return !(mSession.ticks() == mSaved) || !(mSession.looks() == mSavedLooks);
+    return !(mSession.ticks() == mSaved) || !(mSession.looks().now() == mSavedLooks);
 }
 
 bool ProjectKeeper::newProject()
@@ -88,7 +88,7 @@ void ProjectKeeper::take(const QString& file)
     mSaved = mProject.selection(*mSession.profile());
     mSavedLooks = mProject.looks();
     mSession.setTicks(mSaved);
-    mSession.setLooks(mSavedLooks);
+    mSession.looks().set(mSavedLooks);
     mSession.confirm();
     Q_EMIT changed();
 }
@@ -156,7 +156,7 @@ bool ProjectKeeper::saveProject(bool askName)
 
 bool ProjectKeeper::write(const QString& file)
 {
-    mProject.setLooks(mSession.looks());
+    mProject.setLooks(mSession.looks().now());
     if (!mProject.saveProject(file.toStdString(), *mSession.profile(), mSession.ticks())) {
         warn(tr("The project could not be written to \"%1\".\nThe old file is unchanged; save it "
                 "in another folder.")
@@ -166,7 +166,7 @@ bool ProjectKeeper::write(const QString& file)
     mFileName = file;
     mProject.setSelection(*mSession.profile(), mSession.ticks());
     mSaved = mSession.ticks();
-    mSavedLooks = mSession.looks();
+    mSavedLooks = mSession.looks().now();
     storePath(file);
     Q_EMIT signalMessage(tr("Project saved: %1").arg(QFileInfo(file).absoluteFilePath()));
     Q_EMIT changed();

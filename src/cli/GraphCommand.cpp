@@ -20,9 +20,9 @@ void showFlight(GraphModel& model, const std::shared_ptr<const Flight>& flight,
     for (unsigned k = 0; k < parameters.size(); ++k) {
         fillCurve(model.curves(), k, decodeCurve(flight, *parameters[k], offset, none));
     }
-    model.setNotes(
-        GraphNotes(flight, offset,
-                   std::make_shared<const std::vector<Episode>>(flight->episodes(offset, none))));
+    model.hints().notes = {
+        flight, offset,
+        std::make_shared<const std::vector<Episode>>(flight->episodes(offset, none))};
 }
 
 /// The chosen range, otherwise all of the flight as "Show all" does.
@@ -68,7 +68,7 @@ void runGraph(const GraphArguments& arguments)
     model.setDisplayMode(arguments.single ? DisplaySingle : DisplaySplit);
     showFlight(model, flight, parameters);
     showRange(model, *flight, arguments.range);
-    model.setCursor(arguments.cursor.value_or(model.window().min()));
+    model.setCursorPosition(arguments.cursor.value_or(model.window().min()));
     GraphPicture picture{styleOf(arguments), {}, {arguments.width, arguments.height}, {}};
     if (arguments.caption) {
         picture.caption = captionOf(*flight, {model.window().min(), model.window().max()});

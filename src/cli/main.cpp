@@ -3,6 +3,7 @@
 
 #include <QtGui/QGuiApplication>
 
+#include <clocale>
 #include <iostream>
 #include <optional>
 #include <string_view>
@@ -16,6 +17,7 @@ int main(int argc, char** argv)
     if (argc > 1 && std::string_view(argv[1]) == "graph") {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         fonts.emplace(argc, argv);
+        std::setlocale(LC_NUMERIC, "C"); // it has set the user's, in which 2.5 may be no number
     }
     return TARN::runCommandLine(argc, argv, std::cout, std::cerr);
 }

@@ -3,16 +3,16 @@
 namespace TARN {
 
 Session::Session(QObject* parent)
-    : QObject(parent), mProfile(std::make_shared<Profile>()), mAllDigits(new Switch(this)),
-      mLoading(new Switch(this))
+    : QObject(parent), mProfile(std::make_shared<Profile>()), mLooks(new Looks(this)),
+      mAllDigits(new Switch(this)), mLoading(new Switch(this))
 {}
 
-TimeRange Session::range() const
+TimeRange rangeOf(const Session& session)
 {
-    if (mMarks.hasExtent() || mFlight == nullptr) {
-        return mMarks;
+    if (session.marks().hasExtent() || session.flight() == nullptr) {
+        return session.marks();
     }
-    return mFlight->range(mOffset);
+    return session.flight()->range(session.offset());
 }
 
 void Session::setProfile(std::shared_ptr<const Profile> profile, const Selection& ticks,
@@ -46,14 +46,6 @@ void Session::confirm()
 {
     mSelection = mTicks;
     Q_EMIT selectionChanged(); // the same again too: a graph that was emptied is filled
-}
-
-void Session::setLooks(const CurveLooks& looks)
-{
-    if (!(looks == mLooks)) {
-        mLooks = looks;
-        Q_EMIT looksChanged();
-    }
 }
 
 void Session::setOffset(double seconds)

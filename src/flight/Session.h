@@ -1,8 +1,8 @@
 #pragma once
 
 #include "flight/Flight.h"
+#include "flight/Looks.h"
 #include "flight/Switch.h"
-#include "profile/CurveLooks.h"
 #include "profile/Selection.h"
 
 #include <QtCore/QObject>
@@ -31,17 +31,12 @@ public:
     /// The ticks in the tree, which nobody has confirmed yet.
     const Selection& ticks() const { return mTicks; }
 
-    /// How the user wants curves to look.
-    const CurveLooks& looks() const { return mLooks; }
+    Looks& looks() const { return *mLooks; }
 
     double offset() const { return mOffset; } ///< time offset, seconds
     double time() const { return mTime; }     ///< current time, seconds with the offset
     /// The range marked in the graph; without extent when nothing is marked.
     const TimeRange& marks() const { return mMarks; }
-
-    /// What an export or a statistic works on: the marked range, all of the flight with its
-    /// offset when nothing is marked.
-    TimeRange range() const;
 
     /// Another profile: with the ticks that hold in it, which are confirmed at once, and the
     /// flight that is shown as this profile understands it, null when none is shown. Time, offset
@@ -55,7 +50,6 @@ public:
 
     void setTicks(const Selection& ticks);
     void confirm();
-    void setLooks(const CurveLooks& looks);
     void setOffset(double seconds);
     /// Moves the current time. \p source, which may be null, shows it already.
     void setTime(double time, const QObject* source = nullptr);
@@ -74,7 +68,6 @@ Q_SIGNALS:
     void flightChanged();
     void ticksChanged();
     void selectionChanged();
-    void looksChanged();
     void offsetChanged();
     void timeChanged(double time, const QObject* source);
     void marksChanged();
@@ -84,12 +77,16 @@ private:
     std::shared_ptr<const Flight> mFlight;
     Selection mSelection;
     Selection mTicks;
-    CurveLooks mLooks;
     double mOffset = 0.0;
     double mTime = 0.0;
     TimeRange mMarks;
+    Looks* mLooks;
     Switch* mAllDigits;
     Switch* mLoading;
 };
+
+/// What an export or a statistic works on: the marked range, all of the flight with its offset
+/// when nothing is marked.
+TimeRange rangeOf(const Session& session);
 
 } // namespace TARN

@@ -46,25 +46,29 @@ void CurveLoader::load(std::shared_ptr<const Flight> flight,
 
 void CurveLoader::start()
 {
-    for (std::size_t lane = 0; lane < Lanes && !mWaiting.empty(); ++lane) {
-        if (mJobs[lane].isRunning()) {
-            continue;
+    for (Job<std::vector<DecodedCurve>>& job : mJobs) {
+        if (!job.isRunning() && !mWaiting.empty()) {
+            startJob(job);
         }
-        const std::vector<unsigned> places = takeWaiting();
-        std::vector<const ProfileParameter*> parameters;
-        for (const unsigned place : places) {
-            parameters.push_back(mParameters[place]);
-        }
-        mJobs[lane].start(
-            [flight = mFlight, parameters, offset = mOffset](Progress& progress) {
-                std::vector<DecodedCurve> curves;
-                for (const ProfileParameter* parameter : parameters) {
-                    curves.push_back(decodeCurve(flight, *parameter, offset, progress));
-                }
-                return curves;
-            },
-            [this, places](const std::vector<DecodedCurve>& curves) { take(places, curves); });
     }
+}
+
+void CurveLoader::startJob(Job<std::vector<DecodedCurve>>& job)
+{
+    const std::vector<unsigned> places = takeWaiting();
+    std::vector<const ProfileParameter*> parameters;
+    for (const unsigned place : places) {
+        parameters.push_back(mParameters[place]);
+    }
+    job.start(
+        [flight = mFlight, parameters, offset = mOffset](Progress& progress) {
+            std::vector<DecodedCurve> curves;
+            for (const ProfileParameter* parameter : parameters) {
+                curves.push_back(decodeCurve(flight, *parameter, offset, progress));
+            }
+            return curves;
+        },
+        [this, places](const std::vector<DecodedCurve>& curves) { take(places, curves); });
 }
 
 /// What one job decodes: short curves go together, as a job costs more than they do.

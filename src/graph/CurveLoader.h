@@ -44,6 +44,7 @@ Q_SIGNALS:
     void outOfMemory();
 
 private:
+    void startJob(Job<std::vector<DecodedCurve>>& job);
     std::vector<unsigned> takeWaiting();
     void take(const std::vector<unsigned>& places, const std::vector<DecodedCurve>& curves);
 

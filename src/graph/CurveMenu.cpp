@@ -1,6 +1,6 @@
 #include "graph/CurveMenu.h"
 
-#include "graph/GraphModel.h"
+#include "graph/GraphActions.h"
 #include "graph/RangeDialog.h"
 
 #include <QtCore/QCoreApplication>
@@ -23,24 +23,21 @@ struct MenuTexts
 
 void CurveMenu::addTo(QMenu& menu)
 {
-    const unsigned k = mModel.pointed().value_or(mModel.curves().count());
+    const unsigned k = mModel.hints().pointed.value_or(mModel.curves().count());
     const ParStruct* curve = mModel.curves().curve(k);
     const auto all = mModel.curves().all();
     if (curve != nullptr && curve->active) {
         menu.addSection(curve->name);
-        menu.addAction(curve->hidden ? MenuTexts::tr("&Show") : MenuTexts::tr("&Hide"), [this, k] {
-            ParStruct& clicked = *mModel.curves().curve(k);
-            clicked.hidden = !clicked.hidden;
-            mModel.looksChanged();
-        });
-        menu.addAction(MenuTexts::tr("&Only This"), [this, k] { mModel.showOnly(k); });
+        menu.addAction(curve->hidden ? MenuTexts::tr("&Show") : MenuTexts::tr("&Hide"),
+                       [this, k] { toggleCurve(mModel, k); });
+        menu.addAction(MenuTexts::tr("&Only This"), [this, k] { showOnly(mModel, k); });
         addOrder(menu, k);
         menu.addAction(MenuTexts::tr("&Color..."), [this, k] { askColor(k); });
         addRange(menu, k);
         menu.addSeparator();
     }
     QAction* showAll =
-        menu.addAction(MenuTexts::tr("Show &All Curves"), [this] { mModel.showAllCurves(); });
+        menu.addAction(MenuTexts::tr("Show &All Curves"), [this] { showAllCurves(mModel); });
     showAll->setEnabled(std::ranges::any_of(
         all, [](const ParStruct& other) { return other.active && other.hidden; }));
 }
@@ -61,7 +58,7 @@ void CurveMenu::moveBy(unsigned curve, int step)
     const std::vector<unsigned> shown = mModel.curves().shown();
     const auto place = std::ranges::find(shown, curve);
     mModel.curves().moveTo(curve, *(place + step));
-    mModel.looksChanged();
+    tellLooks(mModel);
 }
 
 void CurveMenu::addRange(QMenu& menu, unsigned curve)
@@ -71,7 +68,7 @@ void CurveMenu::addRange(QMenu& menu, unsigned curve)
     QAction* automatic = menu.addAction(MenuTexts::tr("Au&tomatic Range"), [this, curve] {
         mModel.curves().curve(curve)->zoomed.reset();
         mModel.curves().curve(curve)->ownRange.reset();
-        mModel.looksChanged();
+        tellLooks(mModel);
     });
     automatic->setEnabled(own.ownRange || own.zoomed);
 }
@@ -83,7 +80,7 @@ void CurveMenu::askColor(unsigned curve)
                                                 MenuTexts::tr("Color of %1").arg(colored.name));
     if (color.isValid()) {
         mModel.curves().curve(curve)->color = GraphColor::of(color);
-        mModel.looksChanged();
+        tellLooks(mModel);
     }
 }
 
@@ -96,7 +93,7 @@ void CurveMenu::askRange(unsigned curve)
     if (dialog.exec() == QDialog::Accepted) {
         mModel.curves().curve(curve)->zoomed.reset();
         mModel.curves().curve(curve)->ownRange = dialog.range();
-        mModel.looksChanged();
+        tellLooks(mModel);
     }
 }
 

@@ -62,7 +62,7 @@ QString spokenText(const GraphModel& model, const GraphStyle& style)
 {
     QStringList words = {clockTime(millisecondsOf(model.cursor())).toString("hh:mm:ss.zzz")};
     std::vector<unsigned> places = model.curves().shown();
-    std::ranges::stable_partition(places, [&](unsigned k) { return k == model.pointed(); });
+    std::ranges::stable_partition(places, [&](unsigned k) { return k == model.hints().pointed; });
     for (const unsigned k : places) {
         const ParStruct& curve = *model.curves().curve(k);
         const QString value = shownText(curve, model.cursor(), style, "%f");

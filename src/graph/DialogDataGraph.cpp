@@ -1,6 +1,7 @@
 #include "graph/DialogDataGraph.h"
 
 #include "graph/DialogGraphSetup.h"
+#include "graph/GraphActions.h"
 #include "graph/GraphButtons.h"
 #include "graph/GraphPanes.h"
 #include "graph/SessionGraph.h"
@@ -122,7 +123,7 @@ void DialogDataGraph::runCommand(int command)
         model.zoomToMarker();
         break;
     case GraphButtons::ShowAll:
-        model.showAll();
+        showAll(model);
         break;
     case GraphButtons::ClearAll:
         model.clear();
@@ -234,10 +235,10 @@ void DialogDataGraph::slotGraphSetup()
         model.setCursorPosition(model.cursor());
     }
     if (mData.autoScale != mApplied.autoScale) {
-        model.setAutoScaleY(mData.autoScale);
+        model.layout().setAutoScaleY(mData.autoScale);
     }
     if (!mData.autoScale) {
-        model.setYrange(static_cast<float>(mData.yMin), static_cast<float>(mData.yMax));
+        model.layout().setValues(static_cast<float>(mData.yMin), static_cast<float>(mData.yMax));
     }
     model.window().keepInside(model.cursor());
     model.windowChanged();

@@ -14,6 +14,7 @@ namespace {
 constexpr double MajorTick = 10.0; // pixels
 constexpr double MinorTick = 5.0;
 constexpr double Gap = 5.0; // between a line and its text
+constexpr float MarkSize = 3.0F;
 
 void addLine(std::vector<float>& points, double x0, double y0, double x1, double y1)
 {
@@ -26,9 +27,9 @@ void addLine(std::vector<float>& points, double x0, double y0, double x1, double
 
 GraphDrawing::GraphDrawing(const GraphModel& model, const GraphStyle& style,
                            const KeyCursor& keyCursor, GraphCanvas& canvas, TextLayout& texts)
-    : mModel(model), mStyle(style), mKeyCursor(keyCursor),
-      mSize(model.layout().width(), model.layout().height()), mCanvas(canvas), mTexts(texts),
-      mView(model.layout().view()), mNotes(model, style, canvas, texts)
+    : mModel(model), mStyle(style), mKeyCursor(keyCursor), mSize(model.layout().size()),
+      mCanvas(canvas), mTexts(texts), mView(model.layout().view()),
+      mNotes(model, style, canvas, texts)
 {}
 
 void GraphDrawing::draw()
@@ -39,7 +40,7 @@ void GraphDrawing::draw()
         drawTicksY(nullptr);
     }
     drawTicksX();
-    if (const auto pointed = mModel.pointed(); !split && pointed) {
+    if (const auto pointed = mModel.hints().pointed; !split && pointed) {
         const ParStruct* curve = mModel.curves().curve(*pointed);
         if (curve != nullptr && curve->isShown()) {
             mNotes.drawThresholds(*curve);
@@ -136,7 +137,6 @@ void GraphDrawing::drawTicksY(const ParStruct* curve)
 
 void GraphDrawing::drawParameter(const ParStruct& curve)
 {
-    constexpr float MarkSize = 3.0F;
     const GraphColor color = inkOf(curve);
     mCanvas.clip(mView.x0, curve.strip.y0, mView.width, curve.strip.height);
     mLine.buildLine(curve, mView);
@@ -150,11 +150,16 @@ void GraphDrawing::drawParameter(const ParStruct& curve)
     }
     mCanvas.lines(mLine.fillings(), color);
     if (curve.showSamples) {
-        mLine.buildSamples(curve, mView);
-        mCanvas.dots(mLine.points().data(), static_cast<int>(mLine.points().size() / 2),
-                     mStyle.fore, MarkSize);
+        drawSamples(curve);
     }
     mCanvas.clipNone();
+}
+
+void GraphDrawing::drawSamples(const ParStruct& curve)
+{
+    mLine.buildSamples(curve, mView);
+    mCanvas.dots(mLine.points().data(), static_cast<int>(mLine.points().size() / 2), mStyle.fore,
+                 MarkSize);
 }
 
 void GraphDrawing::drawMarker()

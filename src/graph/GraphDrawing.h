@@ -27,6 +27,7 @@ private:
     void drawTicksX();
     void drawTicksY(const ParStruct* curve);
     void drawParameter(const ParStruct& curve);
+    void drawSamples(const ParStruct& curve);
     void drawMarker();
     void drawMarkerEnds();
     void drawLabels();

@@ -1,5 +1,7 @@
 #include "graph/GraphGestures.h"
 
+#include "graph/GraphActions.h"
+
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWheelEvent>
@@ -7,6 +9,26 @@
 #include <utility>
 
 namespace TARN {
+
+namespace {
+
+double timeAt(QPointF position, const GraphModel& model)
+{
+    return model.layout().view().viewportToX(position.x());
+}
+
+/// Pixel row of the key cursor, from the bottom.
+double rowOf(const KeyCursor& cursor, const GraphModel& model)
+{
+    const ParStruct* curve = model.curves().curve(cursor.curve);
+    const bool isOfStrip =
+        model.layout().displayMode() == DisplaySplit && curve != nullptr && curve->active;
+    const GraphView& view = model.layout().view();
+    return isOfStrip ? view.yToViewport(curve->strip, cursor.value)
+                     : view.yToViewport(cursor.value);
+}
+
+} // namespace
 
 GraphGestures::GraphGestures(GraphModel& model, QObject* parent) : QObject(parent), mModel(model)
 {
@@ -92,13 +114,13 @@ bool GraphGestures::changeByKey(int key, Qt::KeyboardModifiers modifiers)
         break;
     }
     case Qt::Key_Home:
-        mModel.showAll();
+        showAll(mModel);
         break;
     case Qt::Key_M:
-        mModel.zoomToMinute(mModel.cursor());
+        zoomToMinute(mModel, mModel.cursor());
         break;
     case Qt::Key_Backspace:
-        step(!modifiers.testFlag(Qt::ShiftModifier));
+        (modifiers.testFlag(Qt::ShiftModifier) ? goForth : goBack)(mModel);
         break;
     default:
         return false;
@@ -106,36 +128,18 @@ bool GraphGestures::changeByKey(int key, Qt::KeyboardModifiers modifiers)
     return true;
 }
 
-/// Through the windows that were left by zooms.
-void GraphGestures::step(bool isBack)
-{
-    if (isBack ? mModel.window().back() : mModel.window().forth()) {
-        mModel.windowChanged();
-    }
-}
-
 void GraphGestures::moveCursorX(double pixels)
 {
-    const auto pixel = static_cast<float>(mModel.window().width() / mSize.width());
+    const auto pixel = static_cast<float>(mModel.window().width() / mModel.layout().size().width());
     mModel.setCursorPosition(mModel.cursor() + pixels * pixel);
     mCursorTimer.start();
     reportCursor();
 }
 
-double GraphGestures::keyCursorRow() const
-{
-    const ParStruct* curve = mModel.curves().curve(mKeyCursor.curve);
-    const bool isOfStrip =
-        mModel.layout().displayMode() == DisplaySplit && curve != nullptr && curve->active;
-    const GraphView& view = mModel.layout().view();
-    return isOfStrip ? view.yToViewport(curve->strip, mKeyCursor.value)
-                     : view.yToViewport(mKeyCursor.value);
-}
-
 void GraphGestures::moveCursorY(double pixels)
 {
-    takeValueAt(keyCursorRow() + pixels);
-    mModel.pointAt(mModel.cursor(), keyCursorRow());
+    takeValueAt(rowOf(mKeyCursor, mModel) + pixels);
+    pointAt(mModel, mModel.cursor(), rowOf(mKeyCursor, mModel));
     mCursorTimer.start();
     reportCursor();
 }
@@ -164,14 +168,9 @@ void GraphGestures::reportCursor()
     Q_EMIT cursorMoved(time, mKeyCursor.value);
 }
 
-double GraphGestures::timeAt(QPointF position) const
-{
-    return mModel.layout().view().viewportToX(position.x());
-}
-
 void GraphGestures::press(const QMouseEvent& event)
 {
-    const double time = timeAt(event.position());
+    const double time = timeAt(event.position(), mModel);
     switch (event.button()) {
     case Qt::LeftButton:
         mHeld = endAt(event.position());
@@ -190,8 +189,10 @@ void GraphGestures::press(const QMouseEvent& event)
         setCursorFrom(event.position());
         break;
     case Qt::BackButton:
+        goBack(mModel);
+        break;
     case Qt::ForwardButton:
-        step(event.button() == Qt::BackButton);
+        goForth(mModel);
         break;
     case Qt::RightButton:
         mPanX = event.position().x();
@@ -206,7 +207,8 @@ void GraphGestures::press(const QMouseEvent& event)
 std::optional<MarkerEnd> GraphGestures::endAt(QPointF position) const
 {
     constexpr double Reach = 4.0; // pixels
-    return endNear(mModel.markers(), timeAt(position), Reach * mModel.layout().view().pixelTime());
+    return endNear(mModel.markers(), timeAt(position, mModel),
+                   Reach * mModel.layout().view().pixelTime());
 }
 
 void GraphGestures::move(const QMouseEvent& event)
@@ -216,7 +218,7 @@ void GraphGestures::move(const QMouseEvent& event)
         mPressed.reset();
     }
     if (event.buttons().testFlag(Qt::LeftButton) && !mPressed) {
-        const double time = timeAt(event.position());
+        const double time = timeAt(event.position(), mModel);
         TimeRange marks = mModel.markers();
         if (mHeld) {
             endOf(marks, *mHeld) = time;
@@ -239,7 +241,10 @@ void GraphGestures::release(const QMouseEvent& event)
 {
     const TimeRange marks = mModel.markers();
     if (event.button() == Qt::LeftButton && std::exchange(mPressed, std::nullopt)) {
-        click(event.position());
+        const double y = mModel.layout().size().height() - event.position().y();
+        pointAt(mModel, timeAt(event.position(), mModel), y);
+        takeValueAt(y);
+        goTo(timeAt(event.position(), mModel));
     } else if (event.button() == Qt::LeftButton && marks.stop < marks.start) {
         mModel.setMarker(marks.stop, marks.start);
     } else if (event.button() == Qt::MiddleButton) {
@@ -247,26 +252,19 @@ void GraphGestures::release(const QMouseEvent& event)
     }
 }
 
-void GraphGestures::click(QPointF position)
-{
-    const double y = mSize.height() - position.y();
-    mModel.pointAt(timeAt(position), y);
-    takeValueAt(y);
-    goTo(timeAt(position));
-}
-
 void GraphGestures::goTo(double time)
 {
-    mModel.setCursor(time);
+    mModel.setCursorPosition(time, false);
     mKeyCursor.reportedTime = static_cast<float>(time);
     Q_EMIT cursorMoved(static_cast<float>(time), mKeyCursor.value);
 }
 
 void GraphGestures::setCursorFrom(QPointF position)
 {
-    takeValueAt(mSize.height() - position.y());
-    mModel.setCursor(timeAt(position)); // a window that followed would run away from the mouse
-    mCursorTimer.stop();                // shown for as long as the button is held
+    takeValueAt(mModel.layout().size().height() - position.y());
+    mModel.setCursorPosition(timeAt(position, mModel),
+                             false); // a window that followed would run away from the mouse
+    mCursorTimer.stop();             // shown for as long as the button is held
     reportCursor();
 }
 
@@ -302,7 +300,7 @@ void GraphGestures::turn(const QWheelEvent& event)
     }
     const double factor = delta.y() > 0 ? Step : 1.0 / Step;
     if (event.modifiers().testFlag(Qt::ControlModifier)) {
-        mModel.layout().zoomY(mSize.height() - event.position().y(), factor);
+        mModel.layout().zoomY(mModel.layout().size().height() - event.position().y(), factor);
         mModel.curvesChanged();
         return;
     }
@@ -310,7 +308,7 @@ void GraphGestures::turn(const QWheelEvent& event)
         mModel.window().remember(); // a burst of steps is one zoom
     }
     mSinceZoom.start();
-    mModel.window().zoomAbout(timeAt(event.position()), factor);
+    mModel.window().zoomAbout(timeAt(event.position(), mModel), factor);
     mModel.windowChanged();
 }
 

@@ -7,7 +7,6 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QObject>
 #include <QtCore/QPointF>
-#include <QtCore/QSize>
 #include <QtCore/QTimer>
 
 class QKeyEvent;
@@ -30,16 +29,12 @@ public:
     /// Other curves: it starts at the first.
     void resetKeyCursor() { mKeyCursor.curve = 0; }
     void hideKeyCursor();
-    /// Its pixel row, from the bottom.
-    double keyCursorRow() const;
 
     /// Whether the window is being dragged along.
     bool isPanning() const { return mIsPanning; }
 
     /// A key that is not the graph's is ignored.
     void press(QKeyEvent& event);
-    /// Of the widget in pixels.
-    void setSize(QSize size) { mSize = size; }
     void press(const QMouseEvent& event);
     void move(const QMouseEvent& event);
     /// The end of the marked range that a press there takes hold of.
@@ -58,8 +53,6 @@ Q_SIGNALS:
 
 private:
     bool changeByKey(int key, Qt::KeyboardModifiers modifiers);
-    void step(bool isBack);
-    void click(QPointF position);
     void panTo(double min, double max);
     void moveCursorX(double pixels);
     void moveCursorY(double pixels);
@@ -68,12 +61,10 @@ private:
     void setCursorFrom(QPointF position);
     void reportMarkers();
     void pan(double x);
-    double timeAt(QPointF position) const;
 
     GraphModel& mModel;
     KeyCursor mKeyCursor;
-    QTimer mCursorTimer; ///< until it goes by itself
-    QSize mSize;
+    QTimer mCursorTimer;             ///< until it goes by itself
     std::optional<MarkerEnd> mHeld;  ///< by the left button
     std::optional<QPointF> mPressed; ///< of the left button, while it has not moved
     bool mIsPanning = false;

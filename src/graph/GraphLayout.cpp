@@ -34,13 +34,24 @@ ValueRange visibleRange(std::span<const FrameType> frames)
     return range;
 }
 
+double widestLabel(const std::vector<ValueAxis>& axes, const GraphLayout::Measure& measure)
+{
+    double widest = 0.0;
+    for (const ValueAxis& axis : axes) {
+        for (const ValueAxis::Label& label : axis.labels) {
+            widest = std::max(widest, std::ceil(measure(label.text)));
+        }
+    }
+    return widest;
+}
+
 } // namespace
 
 void GraphLayout::setSize(double width, double height)
 {
     mWidth = width;
     mHeight = height;
-    placeLanes(mLaneHeight);
+    placeLanes(mLanes.height);
     placePlot(mView.x0 > 0.0 ? mView.x0 : Bottom + LabelGap);
 }
 
@@ -108,13 +119,12 @@ void GraphLayout::placeLanes(double lineHeight)
     const double strips = mDisplayMode == DisplaySplit
                               ? static_cast<double>(mCurves.shown().size()) * lineHeight
                               : LeastPlot;
-    mLaneHeight = lineHeight;
-    mLanes = mWantedLanes;
-    while (mLanes > 0 && mLanes * lineHeight + std::max(strips, LeastPlot) > room) {
-        --mLanes;
+    mLanes = {mWantedLanes, lineHeight};
+    while (mLanes.count > 0 && mLanes.count * lineHeight + std::max(strips, LeastPlot) > room) {
+        --mLanes.count;
     }
     mView.base = Bottom;
-    mView.y0 = Bottom + mLanes * lineHeight;
+    mView.y0 = Bottom + mLanes.count * lineHeight;
     mView.height = std::max(mHeight - mView.y0 - Top, 1.0);
 }
 
@@ -126,12 +136,7 @@ void GraphLayout::prepare(const Measure& measure, double lineHeight)
         updateFrames();
         updateScales();
         updateAxes(lineHeight);
-        double widest = 0.0;
-        for (const ValueAxis& axis : mAxes) {
-            for (const ValueAxis::Label& label : axis.labels) {
-                widest = std::max(widest, std::ceil(measure(label.text)));
-            }
-        }
+        const double widest = widestLabel(mAxes, measure);
         const double before = mView.x0;
         placePlot(widest + LabelGap);
         if (mView.x0 == before) {

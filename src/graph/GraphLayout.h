@@ -4,11 +4,20 @@
 #include "graph/GraphData.h"
 #include "graph/ValueAxis.h"
 
+#include <QtCore/QSizeF>
+
 #include <functional>
 #include <span>
 #include <vector>
 
 namespace TARN {
+
+/// Lines under the strips, for what is no curve.
+struct GraphLanes
+{
+    unsigned count = 0;
+    double height = 0.0; ///< of each, pixels
+};
 
 /// Where what a graph shows lies in its widget: the plot area, the columns of the curves, their
 /// strips and scales, the axes. Brought up to date when it is next asked for, so that any number
@@ -21,13 +30,11 @@ public:
 
     /// Places the plot area in a widget of this size.
     void setSize(double width, double height);
-    double width() const { return mWidth; }
-    double height() const { return mHeight; }
+    QSizeF size() const { return {mWidth, mHeight}; }
 
     /// Lines under the strips, for what is no curve; as many as leave the strips room to be read.
     void setLanes(unsigned count) { mWantedLanes = count; }
-    unsigned lanes() const { return mLanes; }
-    double laneHeight() const { return mLaneHeight; }
+    const GraphLanes& lanes() const { return mLanes; }
     /// The visible time, seconds. Frames that hold what is in sight already stay.
     void setTimes(double min, double max);
     /// The Y range, for as long as it is not taken from the curves; what is no number is ignored.
@@ -71,8 +78,7 @@ private:
     double mWidth = 0.0; ///< of the widget, pixels
     double mHeight = 0.0;
     unsigned mWantedLanes = 0;
-    unsigned mLanes = 0;
-    double mLaneHeight = 0.0;
+    GraphLanes mLanes;
     eDisplayMode mDisplayMode = DisplaySingle;
     bool mAutoScaleY = true;
     ValueRange mFixed{-0.5, 1.5};      ///< Y range where it is not taken from the curves

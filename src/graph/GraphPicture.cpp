@@ -44,8 +44,8 @@ void drawGraph(GraphModel& model, const GraphStyle& style, const KeyCursor& keyC
                GraphCanvas& canvas, TextLayout& texts)
 {
     texts.clear();
-    model.layout().setLanes(style.lanesOn ? static_cast<unsigned>(model.notes().lanes().size())
-                                          : 0);
+    model.layout().setLanes(
+        style.lanesOn ? static_cast<unsigned>(model.hints().notes.lanes().size()) : 0);
     model.layout().prepare([&](const QString& text) { return texts.sizeOf(text).width(); },
                            texts.sizeOf("0").height());
     GraphDrawing(model, style, keyCursor, canvas, texts).draw();
@@ -81,7 +81,7 @@ void GraphPicture::paint(QPainter& painter, GraphModel& model) const
 {
     TextLayout texts{QFontMetricsF(graphFont())};
     GraphLayout& layout = model.layout();
-    const QSizeF before(layout.width(), layout.height());
+    const QSizeF before = layout.size();
     painter.fillRect(QRect(QPoint(), wholeSize()), style.labelBack.toColor());
     layout.setSize(size.width(), size.height());
     PainterCanvas canvas(painter, size.height());

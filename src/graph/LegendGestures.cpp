@@ -1,5 +1,7 @@
 #include "graph/LegendGestures.h"
 
+#include "graph/GraphActions.h"
+
 #include <utility>
 
 namespace TARN {
@@ -27,11 +29,11 @@ void LegendGestures::release()
     if (!curve) {
         return;
     }
-    if (!std::exchange(mIsDragging, false)) {
-        ParStruct& clicked = *mModel.curves().curve(*curve);
-        clicked.hidden = !clicked.hidden;
+    if (std::exchange(mIsDragging, false)) {
+        tellLooks(mModel);
+    } else {
+        toggleCurve(mModel, *curve);
     }
-    mModel.looksChanged();
 }
 
 } // namespace TARN

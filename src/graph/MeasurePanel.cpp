@@ -52,13 +52,18 @@ MeasurePanel::MeasurePanel(Session& session, WidgetGraph& graph, QWidget* parent
     mFit.setSingleShot(true);
     mFit.setInterval(Delay);
     connect(&mFit, &QTimer::timeout, this, &MeasurePanel::fitColumns);
+    followSession();
+    reload();
+}
+
+void MeasurePanel::followSession()
+{
     connect(&mSession, &Session::profileChanged, this, &MeasurePanel::reload);
     connect(&mSession, &Session::flightChanged, this, &MeasurePanel::reload);
     connect(&mSession, &Session::selectionChanged, this, &MeasurePanel::reload);
     connect(&mSession, &Session::offsetChanged, this, &MeasurePanel::reload);
     connect(&mSession, &Session::marksChanged, this, &MeasurePanel::measure);
-    connect(&mSession, &Session::looksChanged, this, &MeasurePanel::measure);
-    reload();
+    connect(&mSession.looks(), &Looks::changed, this, &MeasurePanel::measure);
 }
 
 QWidget* MeasurePanel::createTimes()
@@ -91,7 +96,7 @@ ClockEdit* MeasurePanel::createTime(MarkerEnd end, const QString& name)
     field->setKeyboardTracking(false);
     connect(field, &QTimeEdit::timeChanged, this, [this, end](QTime time) {
         const TimeRange whole = mSession.flight()->range(mSession.offset());
-        TimeRange now = mSession.range();
+        TimeRange now = rangeOf(mSession);
         const double typed =
             timeInRange(time.msecsSinceStartOfDay() * 0.001, whole, endOf(now, end));
         const TimeRange marks = withEnd(mSession.marks(), whole, end, typed);
@@ -195,7 +200,7 @@ void MeasurePanel::load()
 void MeasurePanel::measure()
 {
     const bool isEmpty = mSession.flight() == nullptr;
-    const TimeRange range = isEmpty ? TimeRange() : mSession.range();
+    const TimeRange range = isEmpty ? TimeRange() : rangeOf(mSession);
     for (const auto& [field, time] :
          {std::pair(mStart, range.start), std::pair(mStop, range.stop)}) {
         const QSignalBlocker quiet(field);

@@ -36,6 +36,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void followSession();
     QWidget* createTimes();
     QTableView* createTable();
     ClockEdit* createTime(MarkerEnd end, const QString& name);

@@ -84,7 +84,7 @@ void NoteDrawing::drawEpisodes(const ParStruct& curve)
     }
     const double bottom = mPlaces.barBottom(curve);
     double drawn = -1.0;
-    for (const Episode* episode : mModel.notes().episodesOf(curve.facts->parameter())) {
+    for (const Episode* episode : mModel.hints().notes.episodesOf(curve.facts->parameter())) {
         if (episode->end < mView.xmin || episode->start > mView.xmax) {
             continue;
         }
@@ -145,8 +145,8 @@ void NoteDrawing::drawEvents()
     const double bottom = mView.y0 + mView.height;
     // One tick of a colour in a pixel column.
     std::set<std::pair<int, QRgb>> drawn;
-    for (const EventMark& event : mModel.notes().events()) {
-        const double time = mModel.notes().timeOf(event);
+    for (const EventMark& event : mModel.hints().notes.events()) {
+        const double time = mModel.hints().notes.timeOf(event);
         if (time < mView.xmin || time > mView.xmax) {
             continue;
         }
@@ -164,16 +164,16 @@ void NoteDrawing::drawEvents()
 
 void NoteDrawing::drawLanes()
 {
-    for (std::size_t lane = 0; lane < mModel.layout().lanes(); ++lane) {
-        drawLane(*mModel.notes().lanes()[lane], mPlaces.laneBottom(lane));
+    for (std::size_t lane = 0; lane < mModel.layout().lanes().count; ++lane) {
+        drawLane(*mModel.hints().notes.lanes()[lane], mPlaces.laneBottom(lane));
     }
 }
 
 void NoteDrawing::drawLane(const FaultHistory& history, double bottom)
 {
     constexpr double Gap = 5.0; // pixels
-    const double shift = mModel.notes().shiftOf(history);
-    const double height = mModel.layout().laneHeight();
+    const double shift = mModel.hints().notes.shiftOf(history);
+    const double height = mModel.layout().lanes().height;
     mCanvas.fill(mView.x0, bottom, mView.x0 + mView.width, bottom + height, mStyle.back);
     const QRectF place(mView.x0, topOf(bottom + height), mView.width, height);
     mTexts.add(mTexts.elided(history.matrix().name, mView.width / 4.0),
@@ -229,7 +229,7 @@ void NoteDrawing::addLaneText(const FaultRun& run, const FaultHistory& history, 
         return;
     }
     const GraphColor back = GraphColor::of(errorColor(history.worstOf(run.bits)));
-    const double top = topOf(bottom + mModel.layout().laneHeight());
+    const double top = topOf(bottom + mModel.layout().lanes().height);
     const double from = mTexts.freeFrom(top, left, Least);
     mTexts.addBetween(namesIn(history.namesOf(run.bits), right - from), top, from, right,
                       legibleOn(back, {0.0F, 0.0F, 0.0F}), false);

@@ -28,7 +28,7 @@ private:
     void addLaneText(const FaultRun& run, const FaultHistory& history, double bottom);
     QString namesIn(const QString& list, double room) const;
     double column(double time) const;
-    double topOf(double y) const { return mModel.layout().height() - y; }
+    double topOf(double y) const { return mModel.layout().size().height() - y; }
 
     const GraphModel& mModel;
     const GraphStyle& mStyle;

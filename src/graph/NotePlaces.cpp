@@ -59,8 +59,8 @@ double NotePlaces::barBottom(const ParStruct& curve) const
         if (&other == &curve) {
             break;
         }
-        const bool hasBars =
-            other.facts != nullptr && !mModel.notes().episodesOf(other.facts->parameter()).empty();
+        const bool hasBars = other.facts != nullptr &&
+                             !mModel.hints().notes.episodesOf(other.facts->parameter()).empty();
         row += hasBars ? 1 : 0;
     }
     return mView.y0 + mView.height - row * BarHeight;
@@ -68,7 +68,7 @@ double NotePlaces::barBottom(const ParStruct& curve) const
 
 double NotePlaces::laneBottom(std::size_t lane) const
 {
-    return mView.y0 - static_cast<double>(lane + 1) * mModel.layout().laneHeight();
+    return mView.y0 - static_cast<double>(lane + 1) * mModel.layout().lanes().height;
 }
 
 bool NotePlaces::covers(double start, double stop, double x) const
@@ -92,7 +92,7 @@ std::vector<GraphNote> NotePlaces::eventsAt(double moment) const
 {
     const double x = mView.xToViewport(moment);
     std::vector<GraphNote> found;
-    const GraphNotes& notes = mModel.notes();
+    const GraphNotes& notes = mModel.hints().notes;
     for (const EventMark& event : notes.events()) {
         const double time = notes.timeOf(event);
         if (covers(time, time, x)) {
@@ -112,7 +112,7 @@ std::vector<GraphNote> NotePlaces::episodesAt(double x, double y) const
             y >= bottom + BarHeight) {
             continue;
         }
-        for (const Episode* episode : mModel.notes().episodesOf(curve.facts->parameter())) {
+        for (const Episode* episode : mModel.hints().notes.episodesOf(curve.facts->parameter())) {
             if (covers(episode->start, episode->end, x)) {
                 found.push_back(noteOf(*episode));
             }
@@ -124,10 +124,10 @@ std::vector<GraphNote> NotePlaces::episodesAt(double x, double y) const
 std::vector<GraphNote> NotePlaces::faultsAt(double x, double y) const
 {
     std::vector<GraphNote> found;
-    const GraphNotes& notes = mModel.notes();
-    for (std::size_t lane = 0; lane < mModel.layout().lanes(); ++lane) {
+    const GraphNotes& notes = mModel.hints().notes;
+    for (std::size_t lane = 0; lane < mModel.layout().lanes().count; ++lane) {
         const double bottom = laneBottom(lane);
-        if (y < bottom || y >= bottom + mModel.layout().laneHeight()) {
+        if (y < bottom || y >= bottom + mModel.layout().lanes().height) {
             continue;
         }
         const FaultHistory& history = *notes.lanes()[lane];

@@ -28,9 +28,10 @@ SessionGraph::SessionGraph(Session& session, EpisodeWatch& episodes, WidgetGraph
     for (const ParStruct& curve : std::as_const(mModel.curves()).all()) {
         mColors.push_back(curve.color);
     }
-    connect(&mSession, &Session::looksChanged, this, &SessionGraph::showLooks);
-    connect(&mModel, &GraphModel::looksEdited, this,
-            [this] { mSession.setLooks(looksOf(mModel.curves(), mSession.looks(), mColors)); });
+    connect(&mSession.looks(), &Looks::changed, this, &SessionGraph::showLooks);
+    connect(&mModel, &GraphModel::looksEdited, this, [this] {
+        mSession.looks().set(looksOf(mModel.curves(), mSession.looks().now(), mColors));
+    });
     connect(&mEpisodes, &EpisodeWatch::changed, this, &SessionGraph::showNotes);
     connect(&mLoader, &CurveLoader::curveReady, this, &SessionGraph::takeCurve);
     connect(&mLoader, &CurveLoader::ready, this, &SessionGraph::showCurves);
@@ -69,13 +70,13 @@ void SessionGraph::showSelection()
 {
     const auto selected = mSession.selection().parameters(*mSession.profile());
     nameCurves(mModel.curves(), selected);
-    applyLooks(mModel.curves(), mSession.looks(), mColors);
+    applyLooks(mModel.curves(), mSession.looks().now(), mColors);
     showFlight();
 }
 
 void SessionGraph::showLooks()
 {
-    applyLooks(mModel.curves(), mSession.looks(), mColors);
+    applyLooks(mModel.curves(), mSession.looks().now(), mColors);
     mModel.curvesChanged();
 }
 
@@ -100,7 +101,8 @@ void SessionGraph::takeCurve(unsigned place, const DecodedCurve& decoded)
 
 void SessionGraph::showNotes()
 {
-    mModel.setNotes(GraphNotes(mSession.flight(), mSession.offset(), mEpisodes.episodes()));
+    mModel.hints().notes = {mSession.flight(), mSession.offset(), mEpisodes.episodes()};
+    Q_EMIT mModel.changed();
 }
 
 void SessionGraph::showCurves()

@@ -2,6 +2,7 @@
 
 #include "base/Property.h"
 #include "graph/CurveText.h"
+#include "graph/GraphActions.h"
 #include "graph/GraphPicture.h"
 
 #include <QtGui/QAccessible>
@@ -201,10 +202,27 @@ void WidgetGraph::setXrange(float width)
     mModel.windowChanged();
 }
 
+void WidgetGraph::setYmin(float value)
+{
+    mModel.layout().setValues(value, mModel.layout().view().ymax);
+    update();
+}
+
+void WidgetGraph::setYmax(float value)
+{
+    mModel.layout().setValues(mModel.layout().view().ymin, value);
+    update();
+}
+
+void WidgetGraph::setAutoScaleY(bool on)
+{
+    mModel.layout().setAutoScaleY(on);
+    update();
+}
+
 void WidgetGraph::resizeGL(int width, int height)
 {
     mModel.layout().setSize(width, height);
-    mGestures.setSize({width, height});
     release();
 }
 
@@ -274,7 +292,7 @@ void WidgetGraph::mousePressEvent(QMouseEvent* event)
     mRightPressed = place;
     if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
         if (const auto legend = mTexts.legendAt(place)) {
-            mModel.setPointed(*legend);
+            setPointed(mModel, legend);
             mLegend.press(*legend, place);
             return;
         }
@@ -308,7 +326,7 @@ void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)
     if (event->button() == Qt::RightButton &&
         (event->position() - mRightPressed).manhattanLength() <= Still) {
         if (const auto curve = curveAt(event->position())) {
-            mModel.setPointed(curve);
+            setPointed(mModel, curve);
         }
         Q_EMIT signalMenu(event->globalPosition().toPoint());
     }
@@ -320,7 +338,7 @@ void WidgetGraph::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const auto notes = notesAt(event->position());
     if (event->button() == Qt::LeftButton && !notes.empty()) {
-        mModel.zoomToMinute(notes.front().time);
+        zoomToMinute(mModel, notes.front().time);
     } else {
         mousePressEvent(event);
     }
@@ -330,7 +348,6 @@ void WidgetGraph::mouseDoubleClickEvent(QMouseEvent* event)
 void WidgetGraph::contextMenuEvent(QContextMenuEvent* event)
 {
     if (event->reason() == QContextMenuEvent::Keyboard) {
-        mModel.pointAt(mModel.cursor(), mGestures.keyCursorRow());
         Q_EMIT signalMenu(mapToGlobal(rect().center()));
     }
 }
@@ -362,7 +379,7 @@ void WidgetGraph::updateMouse(QPointF position)
 {
     const GraphView& view = mModel.layout().view();
     if (mModel.layout().displayMode() == DisplaySingle) {
-        mModel.pointAt(view.viewportToX(position.x()), height() - position.y());
+        pointAt(mModel, view.viewportToX(position.x()), height() - position.y());
     }
     const bool isHand = mTexts.legendAt(position) || !notesAt(position).empty();
     setCursor(mLegend.isDragging()        ? Qt::ClosedHandCursor

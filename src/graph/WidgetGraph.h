@@ -62,9 +62,9 @@ public:
     void setXmin(float time);
     void setXmax(float time);
     void setXrange(float width);
-    void setYmin(float value) { mModel.setYrange(value, mModel.layout().view().ymax); }
-    void setYmax(float value) { mModel.setYrange(mModel.layout().view().ymin, value); }
-    void setAutoScaleY(bool on) { mModel.setAutoScaleY(on); }
+    void setYmin(float value);
+    void setYmax(float value);
+    void setAutoScaleY(bool on);
     void setCursorMode(TARN::eCursorMode mode) { mModel.setCursorMode(mode); }
     void setGraphMode(TARN::eGraphMode mode) { mModel.setGraphMode(mode); }
     void setDisplayMode(TARN::eDisplayMode mode) { mModel.setDisplayMode(mode); }

@@ -26,6 +26,25 @@ QDomElement rootOf(const std::string& file)
     return document.documentElement();
 }
 
+/// Each once, in their order.
+std::vector<std::string> namesIn(const QDomElement& root)
+{
+    XmlHandler xml;
+    std::set<std::string> seen;
+    std::vector<std::string> names;
+    for (QDomElement list = root.firstChildElement(List); !list.isNull();
+         list = list.nextSiblingElement(List)) {
+        for (QDomElement element = list.firstChildElement("Parameter"); !element.isNull();
+             element = element.nextSiblingElement("Parameter")) {
+            const std::string name = xml.xmlGetStdStringAttribute(element.attributes(), "name", "");
+            if (seen.insert(name).second) {
+                names.push_back(name);
+            }
+        }
+    }
+    return names;
+}
+
 std::optional<double> numberOf(const QDomElement& element, const char* name)
 {
     bool isNumber = false;
@@ -115,17 +134,7 @@ bool Project::readProject(const std::string& file)
     if (!xml.xmlReadFile(document, QString::fromStdString(file))) {
         return false;
     }
-    std::set<std::string> seen;
-    for (QDomElement list = document.documentElement().firstChildElement(List); !list.isNull();
-         list = list.nextSiblingElement(List)) {
-        for (QDomElement element = list.firstChildElement("Parameter"); !element.isNull();
-             element = element.nextSiblingElement("Parameter")) {
-            const std::string name = xml.xmlGetStdStringAttribute(element.attributes(), "name", "");
-            if (seen.insert(name).second) {
-                mNames.push_back(name);
-            }
-        }
-    }
+    mNames = namesIn(document.documentElement());
     mLooks = looksOf(document.documentElement());
     return true;
 }

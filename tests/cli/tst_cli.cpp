@@ -2,6 +2,7 @@
 #include "support/FlightTest.h"
 
 #include <algorithm>
+#include <clocale>
 #include <nlohmann/json.hpp>
 
 using namespace TARN;
@@ -75,6 +76,8 @@ class TestCli : public FlightTest
     }
 
 private Q_SLOTS:
+    void initTestCase() { std::setlocale(LC_NUMERIC, "C"); } // as the program does
+
     void output_data()
     {
         QTest::addColumn<QByteArray>("expected");

@@ -95,7 +95,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     model.setGraphMode((modes & 1) != 0 ? GraphAutomatic : GraphManual);
     model.setDisplayMode((modes & 2) != 0 ? DisplaySplit : DisplaySingle);
     model.setCursorMode((modes & 4) != 0 ? CursorCenter : CursorFloating);
-    model.setAutoScaleY((modes & 8) != 0);
+    model.layout().setAutoScaleY((modes & 8) != 0);
     const double from = input.take<float>();
     const double width = input.take<float>();
     const double yMin = input.take<float>();
@@ -123,7 +123,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     model.window().shiftTo(from);
     model.window().setWidth(width, model.graphMode() == GraphAutomatic);
     model.windowChanged();
-    model.setYrange(yMin, yMax);
+    model.layout().setValues(yMin, yMax);
     checkFrames(model, plain, gaps);
     paint(model);
     model.setCursorPosition(from + width);

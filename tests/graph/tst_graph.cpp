@@ -241,7 +241,7 @@ private Q_SLOTS:
             {[](auto& m) { m.setCursorPosition(100.0); }, 75, 125, 1, 0},
             {[](auto& m) { QCOMPARE(m.cursor(), 100.0); }, 75, 125, 0, 0},
             {[](auto& m) { m.setCursorPosition(None); }, 75, 125, 0, 0},
-            {[](auto& m) { m.setCursor(90.0); }, 75, 125, 1, 0},
+            {[](auto& m) { m.setCursorPosition(90.0, false); }, 75, 125, 1, 0},
             {[](auto& m) { m.setMarker(30.0, 30.2); }, 75, 125, 1, 0},
             {[](auto& m) { m.setMarker(30.0, None); }, 75, 125, 0, 0},
             {[](auto& m) { m.setGraphMode(GraphAutomatic); }, 75, 125, 1, 1},
@@ -254,8 +254,8 @@ private Q_SLOTS:
             {[](auto& m) { m.window().back(), m.windowChanged(); }, 30, 40, 1, 0},
             {[](auto& m) { m.curves().setSeries(6, seriesOf({1}, {1})); }, 30, 40, 0, 0}, // no such
             {[](auto& m) { m.feed.putValue(6, 1.0); }, 30, 40, 0, 0},
-            {[](auto& m) { m.setAutoScaleY(false); }, 30, 40, 1, 0},
-            {[](auto& m) { m.setYrange(None, 5.0); }, 30, 40, 1, 0},
+            {[](auto& m) { m.layout().setAutoScaleY(false), m.curvesChanged(); }, 30, 40, 1, 0},
+            {[](auto& m) { m.layout().setValues(None, 5.0), m.curvesChanged(); }, 30, 40, 1, 0},
             {[](auto& m) { m.setDisplayMode(DisplaySplit); }, 30, 40, 1, 1},
             {[](auto& m) { QCOMPARE(m.layout().view().whole().max, 5.0); }, 30, 40, 0, 0},
             {[](auto& m) { m.clear(); }, 30, 40, 1, 0},
@@ -315,7 +315,10 @@ private Q_SLOTS:
                 [&] { model.window().setWidth(at + 1, at < 500), model.windowChanged(); },
                 [&] { model.setDisplayMode(static_cast<eDisplayMode>(pick(random, 2))); },
                 [&] { model.layout().setSize(300 + at, 200 + at / 3); },
-                [&] { at < 40 ? model.clear(), plain.assign(6, {}) : model.setCursor(at); }};
+                [&] {
+                    at < 40                 ? model.clear(),
+                        plain.assign(6, {}) : model.setCursorPosition(at, false);
+                }};
             changes[pick(random, std::size(changes))]();
             if (pick(random, 3) == 0) {
                 model.layout().prepare(widthOf, LineHeight);
@@ -433,7 +436,7 @@ private Q_SLOTS:
             {30.0, true, {"Curve 1   ---", "Curve 2   ---", "00:00:30.000/5.00"}, 0},
             {20.0, false, {"Curve 1   4.5 bar"}, 0}};
         for (const auto& [cursor, isShown, expected, values] : rows) {
-            model.setCursor(cursor);
+            model.setCursorPosition(cursor);
             const GraphPaint paint(model, {600.0, 400.0}, style, {5.0, isShown, 2, cursor});
             const GraphView& view = model.layout().view();
             QStringList texts;

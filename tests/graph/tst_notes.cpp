@@ -1,5 +1,6 @@
 #include "graph/CurveFill.h"
 #include "graph/CurveText.h"
+#include "graph/GraphActions.h"
 #include "graph/GraphCaption.h"
 #include "graph/GraphPalette.h"
 #include "graph/LegendGestures.h"
@@ -52,9 +53,9 @@ private:
         for (const unsigned k : {0U, 1U}) {
             fillCurve(model.curves(), k, decodeCurve(flight, *parameters[k], offset, none));
         }
-        model.setNotes(
-            {flight, offset,
-             std::make_shared<const std::vector<Episode>>(flight->episodes(offset, none))});
+        model.hints().notes = {
+            flight, offset,
+            std::make_shared<const std::vector<Episode>>(flight->episodes(offset, none))};
         model.setDisplayMode(DisplaySplit);
         model.setGraphMode(GraphManual);
         model.window().set(0.0, 10.0);
@@ -92,7 +93,7 @@ private Q_SLOTS:
     {
         GraphModel model;
         show(model);
-        model.setCursor(3.5);
+        model.setCursorPosition(3.5);
         model.curves().curve(0)->ownRange = ValueRange{0.0, 40.0};
         const GraphPaint paint(model, {600.0, 400.0});
         const GraphStrip& strip = model.curves().curve(0)->strip;
@@ -118,7 +119,7 @@ private Q_SLOTS:
             *std::ranges::find(paint.texts.texts(), "Heat   30 C", &TextLayout::Text::text);
         QVERIFY(legend.plate == GraphColor::of(Qt::red)); // of the sample that holds
         QCOMPARE(paint.texts.legendAt(legend.box.center()), std::optional(0U));
-        model.setCursor(11.0); // nothing holds
+        model.setCursorPosition(11.0); // nothing holds
         QVERIFY(textsOf(GraphPaint(model, {600.0, 400.0})).contains("State   ---"));
     }
 
@@ -128,7 +129,7 @@ private Q_SLOTS:
         show(model);
         GraphStyle style;
         style.thresholdsOn = style.eventsOn = style.lanesOn = style.wordsOn = false;
-        model.setCursor(3.0);
+        model.setCursorPosition(3.0);
         const GraphPaint paint(model, {600.0, 400.0}, style);
         QCOMPARE(paint.shapes.size(), GraphPaint(model, {600.0, 400.0}, style).shapes.size());
         for (const QRgb color : {0xFFFF0000, 0xFFFFFF00, 0xFF00FF00}) {
@@ -171,7 +172,7 @@ private Q_SLOTS:
         }
         QCOMPARE(textOf(std::vector<GraphNote>(10, {1.0, 1.0, "x"})).section('\n', -1),
                  "and 2 more");
-        QCOMPARE(captionOf(*model.notes().flight(), {1.0, 2.5}),
+        QCOMPARE(captionOf(*model.hints().notes.flight(), {1.0, 2.5}),
                  "REC_8000.CAN  |  00:00:01.000 to 00:00:02.500 on the recording's clock  |  "
                  "profile.xml");
     }
@@ -212,9 +213,9 @@ private Q_SLOTS:
         applyLooks(other.curves(), looks, colors);
         QCOMPARE(other.curves().shown(), std::vector<unsigned>({1, 0}));
         QVERIFY(other.curves().curve(1)->color == GraphColor::of(Qt::blue));
-        model.showOnly(2);
+        showOnly(model, 2);
         QCOMPARE(model.curves().shown(), std::vector<unsigned>({2}));
-        model.showAllCurves();
+        showAllCurves(model);
         QCOMPARE(model.curves().shown().size(), 3U);
     }
 };

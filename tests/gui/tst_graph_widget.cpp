@@ -241,10 +241,10 @@ private Q_SLOTS:
         QCOMPARE(graph.count(MarkedBlack, 290, 280, 300), 20);
         QCOMPARE(graph.count(MarkedBlack, 340, 280, 300), 0);
 
-        model.setCursor(graph.timeAt(200));
+        model.setCursorPosition(graph.timeAt(200));
         QTest::keyClick(&graph, Qt::Key_1);
         QVERIFY(model.markers() == TimeRange(graph.timeAt(200), graph.timeAt(320)));
-        model.setCursor(graph.timeAt(160));
+        model.setCursorPosition(graph.timeAt(160));
         QTest::keyClick(&graph, Qt::Key_2); // before A, which goes back to the start of it all
         QVERIFY(model.markers() == TimeRange(0.0, graph.timeAt(160)));
 
@@ -298,7 +298,7 @@ private Q_SLOTS:
         QVERIFY(model.curves().curve(0)->zoomed && !model.curves().curve(1)->zoomed);
         QTest::keyClick(&graph, Qt::Key_Home);
         QVERIFY(!model.curves().curve(0)->zoomed);
-        model.setCursor(50.0);
+        model.setCursorPosition(50.0);
         QTest::keyClick(&graph, Qt::Key_M);
         QVERIFY(graph.shows(20.0, 80.0));
         QTest::keyClick(&graph, Qt::Key_Backspace);
@@ -321,13 +321,13 @@ private Q_SLOTS:
                           widget.height() - int(strip.y0 + strip.height) + 12);
         };
         QTest::mouseClick(&widget, Qt::LeftButton, {}, nameOf(1));
-        QVERIFY(curves.curve(1)->hidden && graph.session.looks().byName.at("P1").hidden);
+        QVERIFY(curves.curve(1)->hidden && graph.session.looks().now().byName.at("P1").hidden);
         QTest::qWait(100);
         QTest::mousePress(&widget, Qt::LeftButton, {}, nameOf(0));
         QTest::mouseMove(&widget, nameOf(2));
         QTest::mouseRelease(&widget, Qt::LeftButton, {}, nameOf(2));
         QCOMPARE(curves.shown(), std::vector<unsigned>({2, 0}));
-        QCOMPARE(graph.session.looks().order, std::vector<std::string>({"P1", "P2", "P0"}));
+        QCOMPARE(graph.session.looks().now().order, std::vector<std::string>({"P1", "P2", "P0"}));
         QVERIFY(!graph.session.marks().hasExtent() && graph.model().markers().start == 0.0);
         QTest::qWait(100);
         const auto choose = [&](const char* text) {
@@ -349,11 +349,11 @@ private Q_SLOTS:
         QCOMPARE(curves.shown(), std::vector<unsigned>({1, 0, 2}));
         graph.answers.colors = QStringList("#123456");
         choose("Color...");
-        QCOMPARE(graph.session.looks().byName.at("P2").color, QColor("#123456"));
+        QCOMPARE(graph.session.looks().now().byName.at("P2").color, QColor("#123456"));
         curves.curve(2)->ownRange = ValueRange{1.0, 2.0};
         choose("Automatic Range");
         QVERIFY(!curves.curve(2)->ownRange);
-        graph.session.setLooks({});
+        graph.session.looks().set({});
         QVERIFY(curves.shown() == std::vector<unsigned>({0, 1, 2}));
         choose("Copy Picture");
         QVERIFY(QGuiApplication::clipboard()->image().width() >= widget.width());
