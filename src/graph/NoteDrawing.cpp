@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
 
 namespace TARN {
 
@@ -143,8 +142,9 @@ void NoteDrawing::drawEvents()
         return;
     }
     const double bottom = mView.y0 + mView.height;
-    // One tick of a colour in a pixel column.
-    std::set<std::pair<int, QRgb>> drawn;
+    // One tick of a colour in a pixel column, however many events fall into it.
+    double pixel = 0.0;
+    std::vector<QRgb> drawn;
     for (const EventMark& event : mModel.hints().notes.events()) {
         const double time = mModel.hints().notes.timeOf(event);
         if (time < mView.xmin || time > mView.xmax) {
@@ -152,9 +152,14 @@ void NoteDrawing::drawEvents()
         }
         const double x = std::floor(mView.xToViewport(time));
         const QColor color = event.color.isValid() ? event.color : QColor(Qt::white);
-        if (!drawn.insert({static_cast<int>(x), color.rgb()}).second) {
+        if (x != pixel) {
+            pixel = x;
+            drawn.clear();
+        }
+        if (std::ranges::find(drawn, color.rgb()) != drawn.end()) {
             continue;
         }
+        drawn.push_back(color.rgb());
         mCanvas.fill(x - Half, bottom, x + Half + 1.0, bottom + NotePlaces::TickHeight,
                      mStyle.label);
         mCanvas.fill(x - Half + 1.0, bottom, x + Half, bottom + NotePlaces::TickHeight - 1.0,
