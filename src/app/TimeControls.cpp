@@ -167,8 +167,7 @@ void TimeControls::arrive(std::span<const EventMark> marks, double time)
         texts += mark.text.trimmed();
     }
     mSession.setTime(time);
-    Q_EMIT signalMessage(clockTime(millisecondsOf(time)).toString("hh:mm:ss.zzz") + "  " +
-                         texts.join("; "));
+    Q_EMIT signalMessage(clockTextWithMilliseconds(time) + "  " + texts.join("; "));
 }
 
 void TimeControls::slotSlider(int position)

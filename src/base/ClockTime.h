@@ -41,4 +41,10 @@ inline QString clockText(double seconds)
     return clockTime(millisecondsOf(seconds)).toString("hh:mm:ss");
 }
 
+/// "hh:mm:ss.zzz" of a time in seconds.
+inline QString clockTextWithMilliseconds(double seconds)
+{
+    return clockTime(millisecondsOf(seconds)).toString("hh:mm:ss.zzz");
+}
+
 } // namespace TARN

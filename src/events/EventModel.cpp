@@ -13,11 +13,6 @@ namespace TARN {
 
 namespace {
 
-QString clockWithMilliseconds(double seconds)
-{
-    return clockTime(millisecondsOf(seconds)).toString("hh:mm:ss.zzz");
-}
-
 /// A number of single precision in the shortest text that reads back as it.
 QString shortText(const ProfileParameter& parameter, double value)
 {
@@ -176,7 +171,7 @@ QString EventModel::episodeText(const Episode& episode, int column, double shift
 {
     switch (column) {
     case UntilColumn:
-        return clockWithMilliseconds(episode.end - shift);
+        return clockTextWithMilliseconds(episode.end - shift);
     case DurationColumn:
         return tr("%1 s").arg(episode.duration(), 0, 'f', 1);
     case PeakColumn:
@@ -196,7 +191,7 @@ QString EventModel::textAt(int row, int column) const
             // Times of events carry no offset, and so the end does not either.
             return episode != nullptr ? episodeText(*episode, column, episode->shift) : QString();
         }
-        return column == TimeColumn ? clockWithMilliseconds(event->time)
+        return column == TimeColumn ? clockTextWithMilliseconds(event->time)
                : mAllDigits         ? event->text
                                     : event->shortText;
     }
@@ -207,7 +202,7 @@ QString EventModel::textAt(int row, int column) const
         return episodeText(*episode, column, 0.0);
     }
     return column == TimeColumn
-               ? clockWithMilliseconds(episode->start)
+               ? clockTextWithMilliseconds(episode->start)
                : episode->device->name + " " + episode->parameter->name + " " +
                      (episode->state == StateLimit ? tr("at its limit") : tr("in warning"));
 }

@@ -60,7 +60,7 @@ QString shownText(const ParStruct& curve, double time, const GraphStyle& style, 
 
 QString spokenText(const GraphModel& model, const GraphStyle& style)
 {
-    QStringList words = {clockTime(millisecondsOf(model.cursor())).toString("hh:mm:ss.zzz")};
+    QStringList words = {clockTextWithMilliseconds(model.cursor())};
     std::vector<unsigned> places = model.curves().shown();
     std::ranges::stable_partition(places, [&](unsigned k) { return k == model.hints().pointed; });
     for (const unsigned k : places) {

@@ -190,18 +190,23 @@ void DialogDataGraph::slotModeChanged()
     }
 }
 
-/// The dialog shows what holds, however it came about.
-void DialogDataGraph::openSetup()
+void DialogDataGraph::takeColors()
 {
-    const GraphModel& model = mGraph->model();
     const GraphStyle& style = mGraph->graphStyle();
-    mData.displayMode = model.layout().displayMode();
-    mData.graphMode = model.graphMode();
-    mData.cursorMode = model.cursorMode();
     mData.backColor = style.back.toColor().name();
     mData.gridColor = style.grid.toColor().name();
     mData.labelColor = style.label.toColor().name();
     mData.labelBackColor = style.labelBack.toColor().name();
+}
+
+/// The dialog shows what holds, however it came about.
+void DialogDataGraph::openSetup()
+{
+    const GraphModel& model = mGraph->model();
+    takeColors();
+    mData.displayMode = model.layout().displayMode();
+    mData.graphMode = model.graphMode();
+    mData.cursorMode = model.cursorMode();
     mData.autoScale = model.layout().isAutoScaleY();
     mApplied = mData;
     mSetup->updateDialog();
@@ -250,7 +255,8 @@ void DialogDataGraph::slotGraphSetup()
 void DialogDataGraph::applySettings()
 {
     GraphStyle style = mGraph->graphStyle();
-    if (mData.theme != mApplied.theme) {
+    const bool isOther = mData.theme != mApplied.theme;
+    if (isOther) {
         style = themed(style, isLight(mData.theme));
     }
     style.thresholdsOn = mData.thresholdsOn;
@@ -258,7 +264,11 @@ void DialogDataGraph::applySettings()
     style.lanesOn = mData.lanesOn;
     style.wordsOn = mData.wordsOn;
     mGraph->setGraphStyle(style);
-    mApplied.theme = mData.theme;
+    if (isOther) { // the colors that were chosen before are gone
+        takeColors();
+        mApplied = mData;
+        mSetup->updateDialog();
+    }
 }
 
 void DialogDataGraph::saveSnapshot()

@@ -61,6 +61,7 @@ private:
     void openSetup();
     void openMenu(QPoint global);
     void applySettings();
+    void takeColors();
 
     Session& mSession;
     EpisodeWatch& mEpisodes;

@@ -37,21 +37,16 @@ QString recordingOf(const Flight& flight)
     return names.join(", ");
 }
 
-QString clockOf(double time)
-{
-    return clockTime(millisecondsOf(time)).toString("hh:mm:ss.zzz");
-}
-
 } // namespace
 
 QString captionOf(const Flight& flight, const TimeRange& range)
 {
     const auto& files = flight.record()->integrity().files;
-    QStringList parts = {recordingOf(flight),
-                         files.empty() ? QString() : files.front().info.dateTimeText(),
-                         CaptionTexts::tr("%1 to %2 on the recording's clock")
-                             .arg(clockOf(range.start), clockOf(range.stop)),
-                         nameOf(flight.profile()->fileName())};
+    QStringList parts = {
+        recordingOf(flight), files.empty() ? QString() : files.front().info.dateTimeText(),
+        CaptionTexts::tr("%1 to %2 on the recording's clock")
+            .arg(clockTextWithMilliseconds(range.start), clockTextWithMilliseconds(range.stop)),
+        nameOf(flight.profile()->fileName())};
     parts.removeAll(QString());
     return parts.join("  |  ");
 }

@@ -197,7 +197,7 @@ void GraphDrawing::drawMarkerEnds()
         }
         const double sharp = mCanvas.sharp(x);
         addLine(points, sharp, mView.y0, sharp, mView.y0 + mView.height);
-        const QString text = name + clockTime(millisecondsOf(time)).toString("hh:mm:ss.zzz");
+        const QString text = name + clockTextWithMilliseconds(time);
         const double width = mTexts.sizeOf(text).width();
         // Outside of the range, where both have room.
         const bool isLeft = (name[0] == 'A') == (x - Gap - width >= plot.left());

@@ -173,6 +173,7 @@ void GraphGestures::press(const QMouseEvent& event)
     const double time = timeAt(event.position(), mModel);
     switch (event.button()) {
     case Qt::LeftButton:
+        mIsMarking = true;
         mHeld = endAt(event.position());
         if (!mHeld && event.modifiers() == Qt::NoModifier) {
             mPressed = event.position();
@@ -217,7 +218,7 @@ void GraphGestures::move(const QMouseEvent& event)
     if (mPressed && (event.position() - *mPressed).manhattanLength() > Still) {
         mPressed.reset();
     }
-    if (event.buttons().testFlag(Qt::LeftButton) && !mPressed) {
+    if (mIsMarking && event.buttons().testFlag(Qt::LeftButton) && !mPressed) {
         const double time = timeAt(event.position(), mModel);
         TimeRange marks = mModel.markers();
         if (mHeld) {
@@ -240,6 +241,7 @@ void GraphGestures::move(const QMouseEvent& event)
 void GraphGestures::release(const QMouseEvent& event)
 {
     const TimeRange marks = mModel.markers();
+    mIsMarking = mIsMarking && event.button() != Qt::LeftButton;
     if (event.button() == Qt::LeftButton && std::exchange(mPressed, std::nullopt)) {
         const double y = mModel.layout().size().height() - event.position().y();
         pointAt(mModel, timeAt(event.position(), mModel), y);

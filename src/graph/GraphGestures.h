@@ -67,6 +67,7 @@ private:
     QTimer mCursorTimer;             ///< until it goes by itself
     std::optional<MarkerEnd> mHeld;  ///< by the left button
     std::optional<QPointF> mPressed; ///< of the left button, while it has not moved
+    bool mIsMarking = false;         ///< the left button was pressed here, not on something else
     bool mIsPanning = false;
     double mPanX = 0.0;   ///< where a pan began
     double mPanMin = 0.0; ///< the window then

@@ -144,7 +144,7 @@ QString MeasureModel::text(const MeasuredCurve& curve, int column) const
     switch (column) {
     case MinTimeColumn:
     case MaxTimeColumn:
-        return clockTime(millisecondsOf(*found)).toString("hh:mm:ss.zzz");
+        return clockTextWithMilliseconds(*found);
     case IntegralColumn:
         return integralText(*found, curve.parameter->unit);
     case SamplesColumn:

@@ -17,15 +17,10 @@ struct NoteTexts
 
 constexpr double Reach = 3.0; ///< pixels beside a note in which it is still pointed at
 
-QString clockOf(double time)
-{
-    return clockTime(millisecondsOf(time)).toString("hh:mm:ss.zzz");
-}
-
 QString spanOf(double start, double stop)
 {
     return NoteTexts::tr("%1 to %2, %3 s")
-        .arg(clockOf(start), clockOf(stop))
+        .arg(clockTextWithMilliseconds(start), clockTextWithMilliseconds(stop))
         .arg(stop - start, 0, 'f', 1);
 }
 
@@ -37,7 +32,7 @@ GraphNote noteOf(const Episode& episode)
     if (episode.peak) {
         text += NoteTexts::tr(", peak %1 %2 at %3")
                     .arg(QString::number(episode.peak->value, 'g', 6), episode.parameter->unit,
-                         clockOf(episode.peak->time));
+                         clockTextWithMilliseconds(episode.peak->time));
     }
     return {episode.start, episode.end, text};
 }
@@ -96,7 +91,8 @@ std::vector<GraphNote> NotePlaces::eventsAt(double moment) const
     for (const EventMark& event : notes.events()) {
         const double time = notes.timeOf(event);
         if (covers(time, time, x)) {
-            found.push_back({time, time, clockOf(time) + "  " + event.text.trimmed()});
+            found.push_back(
+                {time, time, clockTextWithMilliseconds(time) + "  " + event.text.trimmed()});
         }
     }
     return found;

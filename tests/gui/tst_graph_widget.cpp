@@ -279,6 +279,10 @@ private Q_SLOTS:
         QCOMPARE(model.cursor(), graph.timeAt(200));
         QCOMPARE(moved.takeFirst()[0].toFloat(), static_cast<float>(graph.timeAt(200)));
         QVERIFY(!model.markers().hasExtent() && model.markers().start == model.cursor());
+        const TimeRange marks =
+            model.markers(); // a drag that did not begin in the plot marks nothing
+        graph.send(QEvent::MouseMove, {300, 100}, Qt::NoButton, Qt::LeftButton);
+        QVERIFY(model.markers() == marks);
         graph.wheel(200, -240, Qt::ShiftModifier);
         QVERIFY(graph.shows(20.0, 120.0));
         QTest::keyClick(&graph, Qt::Key_Home);
