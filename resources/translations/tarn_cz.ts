@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="cs" sourcelanguage="en">
 <context>
+    <name></name>
+    <message>
+        <source>Duration %1</source>
+        <translation>Trvání %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>bez profilu, nic nebylo kontrolováno</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 na limitu</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 ve varování</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Kontrolky: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Poruchy a varování: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nic mimo rozsah v %1 vzorcích %2 sledovaných parametrů</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>žádný parametr nebyl sledován na limity</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Poznámky: %1</translation>
+    </message>
+</context>
+<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -156,6 +195,33 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     <message>
         <source>%1 went</source>
         <translation>zánik %1</translation>
+    </message>
+</context>
+<context>
+    <name>EventWords</name>
+    <message>
+        <source>Caution</source>
+        <translation>Pozor</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Varování</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informace</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Porucha</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limit</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
@@ -750,6 +816,14 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     <message>
         <source>&amp;Copy All with Headers</source>
         <translation>&amp;Kopírovat vše se záhlavím</translation>
+    </message>
+    <message>
+        <source>Nothing in the list fits the filter.</source>
+        <translation>Filtru neodpovídá nic v seznamu.</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filtrovat</translation>
     </message>
 </context>
 <context>
@@ -1469,14 +1543,37 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     </message>
 </context>
 <context>
+    <name>TARN::EventFilter</name>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>Filtr (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Show only lines that hold this text</source>
+        <translation>Zobrazit jen řádky s tímto textem</translation>
+    </message>
+    <message>
+        <source>Filter text</source>
+        <translation>Text filtru</translation>
+    </message>
+    <message>
+        <source>Show only lines of this severity</source>
+        <translation>Zobrazit jen řádky této závažnosti</translation>
+    </message>
+    <message>
+        <source>Filter severity</source>
+        <translation>Závažnost filtru</translation>
+    </message>
+    <message>
+        <source>Every severity</source>
+        <translation>Každá závažnost</translation>
+    </message>
+</context>
+<context>
     <name>TARN::EventModel</name>
     <message>
         <source>Time</source>
         <translation>Čas</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
     </message>
     <message>
         <source>Out of range without an event</source>
@@ -1506,6 +1603,18 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
         <source>Threshold</source>
         <translation>Prahová hodnota</translation>
     </message>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 svítí</translation>
+    </message>
+    <message>
+        <source>On without an event</source>
+        <translation>Svítí bez události</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Závažnost</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ExportRunner</name>
@@ -1523,6 +1632,21 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     </message>
 </context>
 <context>
+    <name>TARN::FaultPeriods</name>
+    <message>
+        <source>Active Errors</source>
+        <translation>Aktivní chyby</translation>
+    </message>
+    <message>
+        <source>No error was active.</source>
+        <translation>Žádná chyba nebyla aktivní.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of an error matrix, so none was watched.</source>
+        <translation>Záznam neobsahuje žádnou zprávu matice chyb, takže žádná nebyla sledována.</translation>
+    </message>
+</context>
+<context>
     <name>TARN::FlightBar</name>
     <message>
         <source>What happened</source>
@@ -1531,42 +1655,6 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     <message>
         <source>Click a part to go to the first of its kind</source>
         <translation>Kliknutím na část přejdete k prvnímu svého druhu</translation>
-    </message>
-    <message>
-        <source>Duration %1</source>
-        <translation>Trvání %1</translation>
-    </message>
-    <message>
-        <source>no profile, so nothing was checked</source>
-        <translation>bez profilu, nic nebylo kontrolováno</translation>
-    </message>
-    <message>
-        <source>%1 at the limit</source>
-        <translation>%1 na limitu</translation>
-    </message>
-    <message>
-        <source>%1 in warning</source>
-        <translation>%1 ve varování</translation>
-    </message>
-    <message>
-        <source>Lamps: %1</source>
-        <translation>Kontrolky: %1</translation>
-    </message>
-    <message>
-        <source>Faults and warnings: %1</source>
-        <translation>Poruchy a varování: %1</translation>
-    </message>
-    <message>
-        <source>nothing out of range in %1 samples of %2 watched parameters</source>
-        <translation>nic mimo rozsah v %1 vzorcích %2 sledovaných parametrů</translation>
-    </message>
-    <message>
-        <source>no parameter was watched for limits</source>
-        <translation>žádný parametr nebyl sledován na limity</translation>
-    </message>
-    <message>
-        <source>Remarks: %1</source>
-        <translation>Poznámky: %1</translation>
     </message>
 </context>
 <context>

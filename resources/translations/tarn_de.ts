@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name></name>
+    <message>
+        <source>Duration %1</source>
+        <translation>Dauer %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>kein Profil, daher wurde nichts geprüft</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 am Grenzwert</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 im Warnbereich</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Lampen: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Fehler und Warnungen: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nichts außerhalb des Bereichs in %1 Messwerten von %2 überwachten Parametern</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>kein Parameter wurde auf Grenzwerte überwacht</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Bemerkungen: %1</translation>
+    </message>
+</context>
+<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -156,6 +195,33 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     <message>
         <source>%1 went</source>
         <translation>%1 gegangen</translation>
+    </message>
+</context>
+<context>
+    <name>EventWords</name>
+    <message>
+        <source>Caution</source>
+        <translation>Vorsicht</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Grenzwert</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
@@ -750,6 +816,14 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     <message>
         <source>&amp;Copy All with Headers</source>
         <translation>Alles mit Überschriften &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>Nothing in the list fits the filter.</source>
+        <translation>Nichts in der Liste passt zum Filter.</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filtern</translation>
     </message>
 </context>
 <context>
@@ -1469,14 +1543,37 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     </message>
 </context>
 <context>
+    <name>TARN::EventFilter</name>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>Filter (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Show only lines that hold this text</source>
+        <translation>Nur Zeilen zeigen, die diesen Text enthalten</translation>
+    </message>
+    <message>
+        <source>Filter text</source>
+        <translation>Filtertext</translation>
+    </message>
+    <message>
+        <source>Show only lines of this severity</source>
+        <translation>Nur Zeilen dieser Schwere zeigen</translation>
+    </message>
+    <message>
+        <source>Filter severity</source>
+        <translation>Schwere des Filters</translation>
+    </message>
+    <message>
+        <source>Every severity</source>
+        <translation>Jede Schwere</translation>
+    </message>
+</context>
+<context>
     <name>TARN::EventModel</name>
     <message>
         <source>Time</source>
         <translation>Zeit</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
     </message>
     <message>
         <source>Out of range without an event</source>
@@ -1506,6 +1603,18 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
         <source>Threshold</source>
         <translation>Schwellenwert</translation>
     </message>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 an</translation>
+    </message>
+    <message>
+        <source>On without an event</source>
+        <translation>An ohne Ereignis</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Schwere</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ExportRunner</name>
@@ -1523,6 +1632,21 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     </message>
 </context>
 <context>
+    <name>TARN::FaultPeriods</name>
+    <message>
+        <source>Active Errors</source>
+        <translation>Aktive Fehler</translation>
+    </message>
+    <message>
+        <source>No error was active.</source>
+        <translation>Kein Fehler war aktiv.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of an error matrix, so none was watched.</source>
+        <translation>Die Aufzeichnung enthält keine Nachricht einer Fehlermatrix, daher wurde keine überwacht.</translation>
+    </message>
+</context>
+<context>
     <name>TARN::FlightBar</name>
     <message>
         <source>What happened</source>
@@ -1531,42 +1655,6 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     <message>
         <source>Click a part to go to the first of its kind</source>
         <translation>Klicken Sie auf einen Teil, um zum ersten seiner Art zu gehen</translation>
-    </message>
-    <message>
-        <source>Duration %1</source>
-        <translation>Dauer %1</translation>
-    </message>
-    <message>
-        <source>no profile, so nothing was checked</source>
-        <translation>kein Profil, daher wurde nichts geprüft</translation>
-    </message>
-    <message>
-        <source>%1 at the limit</source>
-        <translation>%1 am Grenzwert</translation>
-    </message>
-    <message>
-        <source>%1 in warning</source>
-        <translation>%1 im Warnbereich</translation>
-    </message>
-    <message>
-        <source>Lamps: %1</source>
-        <translation>Lampen: %1</translation>
-    </message>
-    <message>
-        <source>Faults and warnings: %1</source>
-        <translation>Fehler und Warnungen: %1</translation>
-    </message>
-    <message>
-        <source>nothing out of range in %1 samples of %2 watched parameters</source>
-        <translation>nichts außerhalb des Bereichs in %1 Messwerten von %2 überwachten Parametern</translation>
-    </message>
-    <message>
-        <source>no parameter was watched for limits</source>
-        <translation>kein Parameter wurde auf Grenzwerte überwacht</translation>
-    </message>
-    <message>
-        <source>Remarks: %1</source>
-        <translation>Bemerkungen: %1</translation>
     </message>
 </context>
 <context>

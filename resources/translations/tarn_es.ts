@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name></name>
+    <message>
+        <source>Duration %1</source>
+        <translation>Duración %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>sin perfil, no se comprobó nada</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 en el límite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 en aviso</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Luces: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Fallos y avisos: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nada fuera de rango en %1 muestras de %2 parámetros vigilados</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>ningún parámetro se vigiló por límites</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Observaciones: %1</translation>
+    </message>
+</context>
+<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -156,6 +195,33 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     <message>
         <source>%1 went</source>
         <translation>desactivación de %1</translation>
+    </message>
+</context>
+<context>
+    <name>EventWords</name>
+    <message>
+        <source>Caution</source>
+        <translation>Precaución</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Fallo</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Límite</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
@@ -750,6 +816,14 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     <message>
         <source>&amp;Copy All with Headers</source>
         <translation>&amp;Copiar todo con encabezados</translation>
+    </message>
+    <message>
+        <source>Nothing in the list fits the filter.</source>
+        <translation>Nada en la lista coincide con el filtro.</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filtrar</translation>
     </message>
 </context>
 <context>
@@ -1469,14 +1543,37 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     </message>
 </context>
 <context>
+    <name>TARN::EventFilter</name>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>Filtro (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Show only lines that hold this text</source>
+        <translation>Mostrar solo las líneas que contienen este texto</translation>
+    </message>
+    <message>
+        <source>Filter text</source>
+        <translation>Texto del filtro</translation>
+    </message>
+    <message>
+        <source>Show only lines of this severity</source>
+        <translation>Mostrar solo las líneas de esta gravedad</translation>
+    </message>
+    <message>
+        <source>Filter severity</source>
+        <translation>Gravedad del filtro</translation>
+    </message>
+    <message>
+        <source>Every severity</source>
+        <translation>Toda gravedad</translation>
+    </message>
+</context>
+<context>
     <name>TARN::EventModel</name>
     <message>
         <source>Time</source>
         <translation>Tiempo</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
     </message>
     <message>
         <source>Out of range without an event</source>
@@ -1506,6 +1603,18 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
         <source>Threshold</source>
         <translation>Umbral</translation>
     </message>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 encendida</translation>
+    </message>
+    <message>
+        <source>On without an event</source>
+        <translation>Encendida sin evento</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravedad</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ExportRunner</name>
@@ -1523,6 +1632,21 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     </message>
 </context>
 <context>
+    <name>TARN::FaultPeriods</name>
+    <message>
+        <source>Active Errors</source>
+        <translation>Errores activos</translation>
+    </message>
+    <message>
+        <source>No error was active.</source>
+        <translation>Ningún error estuvo activo.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of an error matrix, so none was watched.</source>
+        <translation>La grabación no contiene ningún mensaje de una matriz de errores, por lo que no se vigiló ninguna.</translation>
+    </message>
+</context>
+<context>
     <name>TARN::FlightBar</name>
     <message>
         <source>What happened</source>
@@ -1531,42 +1655,6 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     <message>
         <source>Click a part to go to the first of its kind</source>
         <translation>Clic en una parte para ir al primero de su tipo</translation>
-    </message>
-    <message>
-        <source>Duration %1</source>
-        <translation>Duración %1</translation>
-    </message>
-    <message>
-        <source>no profile, so nothing was checked</source>
-        <translation>sin perfil, no se comprobó nada</translation>
-    </message>
-    <message>
-        <source>%1 at the limit</source>
-        <translation>%1 en el límite</translation>
-    </message>
-    <message>
-        <source>%1 in warning</source>
-        <translation>%1 en aviso</translation>
-    </message>
-    <message>
-        <source>Lamps: %1</source>
-        <translation>Luces: %1</translation>
-    </message>
-    <message>
-        <source>Faults and warnings: %1</source>
-        <translation>Fallos y avisos: %1</translation>
-    </message>
-    <message>
-        <source>nothing out of range in %1 samples of %2 watched parameters</source>
-        <translation>nada fuera de rango en %1 muestras de %2 parámetros vigilados</translation>
-    </message>
-    <message>
-        <source>no parameter was watched for limits</source>
-        <translation>ningún parámetro se vigiló por límites</translation>
-    </message>
-    <message>
-        <source>Remarks: %1</source>
-        <translation>Observaciones: %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name></name>
+    <message>
+        <source>Duration %1</source>
+        <translation>Durée %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>pas de profil, rien n&apos;a été vérifié</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 à la limite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 en alerte</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Voyants : %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Défauts et alertes : %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>rien hors plage dans %1 échantillons de %2 paramètres surveillés</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>aucun paramètre n&apos;a été surveillé pour les limites</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Remarques : %1</translation>
+    </message>
+</context>
+<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -156,6 +195,33 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <message>
         <source>%1 went</source>
         <translation>disparition de %1</translation>
+    </message>
+</context>
+<context>
+    <name>EventWords</name>
+    <message>
+        <source>Caution</source>
+        <translation>Attention</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Alerte</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Défaut</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
@@ -750,6 +816,14 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     <message>
         <source>&amp;Copy All with Headers</source>
         <translation>Tout &amp;copier avec les en-têtes</translation>
+    </message>
+    <message>
+        <source>Nothing in the list fits the filter.</source>
+        <translation>Rien dans la liste ne correspond au filtre.</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filtrer</translation>
     </message>
 </context>
 <context>
@@ -1469,14 +1543,37 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
 </context>
 <context>
+    <name>TARN::EventFilter</name>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>Filtre (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Show only lines that hold this text</source>
+        <translation>Ne montrer que les lignes qui contiennent ce texte</translation>
+    </message>
+    <message>
+        <source>Filter text</source>
+        <translation>Texte du filtre</translation>
+    </message>
+    <message>
+        <source>Show only lines of this severity</source>
+        <translation>Ne montrer que les lignes de cette gravité</translation>
+    </message>
+    <message>
+        <source>Filter severity</source>
+        <translation>Gravité du filtre</translation>
+    </message>
+    <message>
+        <source>Every severity</source>
+        <translation>Toute gravité</translation>
+    </message>
+</context>
+<context>
     <name>TARN::EventModel</name>
     <message>
         <source>Time</source>
         <translation>Heure</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
     </message>
     <message>
         <source>Out of range without an event</source>
@@ -1506,6 +1603,18 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
         <source>Threshold</source>
         <translation>Seuil</translation>
     </message>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 allumé</translation>
+    </message>
+    <message>
+        <source>On without an event</source>
+        <translation>Allumé sans événement</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravité</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ExportRunner</name>
@@ -1523,6 +1632,21 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
 </context>
 <context>
+    <name>TARN::FaultPeriods</name>
+    <message>
+        <source>Active Errors</source>
+        <translation>Erreurs actives</translation>
+    </message>
+    <message>
+        <source>No error was active.</source>
+        <translation>Aucune erreur n&apos;a été active.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of an error matrix, so none was watched.</source>
+        <translation>L&apos;enregistrement ne contient aucun message d&apos;une matrice d&apos;erreurs, donc aucune n&apos;a été surveillée.</translation>
+    </message>
+</context>
+<context>
     <name>TARN::FlightBar</name>
     <message>
         <source>What happened</source>
@@ -1531,42 +1655,6 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     <message>
         <source>Click a part to go to the first of its kind</source>
         <translation>Cliquer sur une partie pour aller au premier de son genre</translation>
-    </message>
-    <message>
-        <source>Duration %1</source>
-        <translation>Durée %1</translation>
-    </message>
-    <message>
-        <source>no profile, so nothing was checked</source>
-        <translation>pas de profil, rien n&apos;a été vérifié</translation>
-    </message>
-    <message>
-        <source>%1 at the limit</source>
-        <translation>%1 à la limite</translation>
-    </message>
-    <message>
-        <source>%1 in warning</source>
-        <translation>%1 en alerte</translation>
-    </message>
-    <message>
-        <source>Lamps: %1</source>
-        <translation>Voyants&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>Faults and warnings: %1</source>
-        <translation>Défauts et alertes&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>nothing out of range in %1 samples of %2 watched parameters</source>
-        <translation>rien hors plage dans %1 échantillons de %2 paramètres surveillés</translation>
-    </message>
-    <message>
-        <source>no parameter was watched for limits</source>
-        <translation>aucun paramètre n&apos;a été surveillé pour les limites</translation>
-    </message>
-    <message>
-        <source>Remarks: %1</source>
-        <translation>Remarques&#xa0;: %1</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,45 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name></name>
+    <message>
+        <source>Duration %1</source>
+        <translation>Duração %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>sem perfil, nada foi verificado</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 no limite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 em aviso</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Luzes: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Falhas e avisos: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nada fora do intervalo em %1 amostras de %2 parâmetros vigiados</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>nenhum parâmetro foi vigiado quanto a limites</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Observações: %1</translation>
+    </message>
+</context>
+<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -156,6 +195,33 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     <message>
         <source>%1 went</source>
         <translation>desativação de %1</translation>
+    </message>
+</context>
+<context>
+    <name>EventWords</name>
+    <message>
+        <source>Caution</source>
+        <translation>Cautela</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Informação</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Falha</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>
@@ -750,6 +816,14 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     <message>
         <source>&amp;Copy All with Headers</source>
         <translation>&amp;Copiar tudo com cabeçalhos</translation>
+    </message>
+    <message>
+        <source>Nothing in the list fits the filter.</source>
+        <translation>Nada na lista corresponde ao filtro.</translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation>&amp;Filtrar</translation>
     </message>
 </context>
 <context>
@@ -1469,14 +1543,37 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     </message>
 </context>
 <context>
+    <name>TARN::EventFilter</name>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>Filtro (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Show only lines that hold this text</source>
+        <translation>Mostrar só as linhas que contêm este texto</translation>
+    </message>
+    <message>
+        <source>Filter text</source>
+        <translation>Texto do filtro</translation>
+    </message>
+    <message>
+        <source>Show only lines of this severity</source>
+        <translation>Mostrar só as linhas desta gravidade</translation>
+    </message>
+    <message>
+        <source>Filter severity</source>
+        <translation>Gravidade do filtro</translation>
+    </message>
+    <message>
+        <source>Every severity</source>
+        <translation>Toda gravidade</translation>
+    </message>
+</context>
+<context>
     <name>TARN::EventModel</name>
     <message>
         <source>Time</source>
         <translation>Tempo</translation>
-    </message>
-    <message>
-        <source>%1 s</source>
-        <translation>%1 s</translation>
     </message>
     <message>
         <source>Out of range without an event</source>
@@ -1506,6 +1603,18 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
         <source>Threshold</source>
         <translation>Limiar</translation>
     </message>
+    <message>
+        <source>%1 on</source>
+        <translation>%1 acesa</translation>
+    </message>
+    <message>
+        <source>On without an event</source>
+        <translation>Acesa sem evento</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravidade</translation>
+    </message>
 </context>
 <context>
     <name>TARN::ExportRunner</name>
@@ -1523,6 +1632,21 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     </message>
 </context>
 <context>
+    <name>TARN::FaultPeriods</name>
+    <message>
+        <source>Active Errors</source>
+        <translation>Erros ativos</translation>
+    </message>
+    <message>
+        <source>No error was active.</source>
+        <translation>Nenhum erro esteve ativo.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of an error matrix, so none was watched.</source>
+        <translation>A gravação não contém nenhuma mensagem de uma matriz de erros, portanto nenhuma foi vigiada.</translation>
+    </message>
+</context>
+<context>
     <name>TARN::FlightBar</name>
     <message>
         <source>What happened</source>
@@ -1531,42 +1655,6 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     <message>
         <source>Click a part to go to the first of its kind</source>
         <translation>Clique em uma parte para ir ao primeiro do seu tipo</translation>
-    </message>
-    <message>
-        <source>Duration %1</source>
-        <translation>Duração %1</translation>
-    </message>
-    <message>
-        <source>no profile, so nothing was checked</source>
-        <translation>sem perfil, nada foi verificado</translation>
-    </message>
-    <message>
-        <source>%1 at the limit</source>
-        <translation>%1 no limite</translation>
-    </message>
-    <message>
-        <source>%1 in warning</source>
-        <translation>%1 em aviso</translation>
-    </message>
-    <message>
-        <source>Lamps: %1</source>
-        <translation>Luzes: %1</translation>
-    </message>
-    <message>
-        <source>Faults and warnings: %1</source>
-        <translation>Falhas e avisos: %1</translation>
-    </message>
-    <message>
-        <source>nothing out of range in %1 samples of %2 watched parameters</source>
-        <translation>nada fora do intervalo em %1 amostras de %2 parâmetros vigiados</translation>
-    </message>
-    <message>
-        <source>no parameter was watched for limits</source>
-        <translation>nenhum parâmetro foi vigiado quanto a limites</translation>
-    </message>
-    <message>
-        <source>Remarks: %1</source>
-        <translation>Observações: %1</translation>
     </message>
 </context>
 <context>

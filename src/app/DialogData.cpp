@@ -35,8 +35,8 @@ DialogData::DialogData(Session& session, QWidget* parent)
     addView(new DialogDataTable(session), "canStatistic", tr("Data"));
     addView(new DialogDataLimit(session, mEpisodes), "limit", tr("Limit/Warning Exceed"));
     addView(mGraph, "graphSingle", tr("Graph"));
-    addView(new DialogDataWarning(session), "warningLamp", tr("Warning Lamps"), hasWarningLamps);
-    addView(new DialogDataErrorMatrix(session), "faultMatrix", tr("Fault Matrix"),
+    addView(new DialogDataWarning(session, mEpisodes), "warningLamp", tr("Warning Lamps"), hasWarningLamps);
+    addView(new DialogDataErrorMatrix(session, mEpisodes), "faultMatrix", tr("Fault Matrix"),
             [](const ProfileInfo& profile) { return !profile.faultMatrices.empty(); });
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(mBar);
@@ -107,15 +107,16 @@ void DialogData::showCounts()
     }
 }
 
-void DialogData::goTo(FlightBar::Kind kind, double time)
+void DialogData::goTo(FlightSummary::Part::Kind kind, double time)
 {
-    if (kind == FlightBar::Remarks) {
+    using Part = FlightSummary::Part;
+    if (kind == Part::Remarks) {
         Q_EMIT signalRemarks();
         return;
     }
-    setCurrentView(kind == FlightBar::Exceedances ? Exceedances
-                   : kind == FlightBar::Lamps     ? Lamps
-                                                  : Matrices);
+    setCurrentView(kind == Part::Exceedances ? Exceedances
+                   : kind == Part::Lamps     ? Lamps
+                                             : Matrices);
     mSession.setTime(time);
 }
 

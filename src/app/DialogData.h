@@ -49,7 +49,7 @@ private:
     void showTabs();
     void showCounts();
     void showProfile();
-    void goTo(FlightBar::Kind kind, double time);
+    void goTo(FlightSummary::Part::Kind kind, double time);
     void showInGraph(const ProfileParameter& parameter, double time);
 
     Session& mSession;

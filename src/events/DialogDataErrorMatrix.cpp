@@ -1,15 +1,18 @@
 #include "events/DialogDataErrorMatrix.h"
 
+#include "events/FaultPeriods.h"
 #include "events/WidgetFaultMatrix.h"
 
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QScrollArea>
+#include <QtWidgets/QSplitter>
 #include <QtWidgets/QVBoxLayout>
 
 namespace TARN {
 
-DialogDataErrorMatrix::DialogDataErrorMatrix(Session& session, QWidget* parent)
+DialogDataErrorMatrix::DialogDataErrorMatrix(Session& session, EpisodeWatch& episodes,
+                                             QWidget* parent)
     : QWidget(parent), mSession(session), mInner(new QWidget), mLayout(new QVBoxLayout(mInner)),
       mEmpty(new QLabel(tr("The profile describes no error matrix.")))
 {
@@ -21,7 +24,12 @@ DialogDataErrorMatrix::DialogDataErrorMatrix(Session& session, QWidget* parent)
     area->setAccessibleName(tr("Error matrices"));
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(area, 0, 0);
+    auto* panes = new QSplitter(Qt::Vertical);
+    panes->addWidget(area);
+    panes->addWidget(new FaultPeriods(session, episodes));
+    panes->setSizes({2000, 1000}); // only the ratio counts
+    panes->setChildrenCollapsible(false);
+    layout->addWidget(panes, 0, 0);
     connect(&mSession, &Session::profileChanged, this, &DialogDataErrorMatrix::loadProfile);
     connect(&mSession, &Session::flightChanged, this, &DialogDataErrorMatrix::showFlight);
     connect(&mSession, &Session::timeChanged, this, &DialogDataErrorMatrix::showTime);

@@ -11,15 +11,17 @@ class QVBoxLayout;
 
 namespace TARN {
 
+class EpisodeWatch;
 class WidgetFaultMatrix;
 
-/// The error matrices of the profile, one below the other.
+/// The error matrices of the profile, one below the other, and below them when their errors were
+/// active.
 class DialogDataErrorMatrix : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit DialogDataErrorMatrix(Session& session, QWidget* parent = nullptr);
+    DialogDataErrorMatrix(Session& session, EpisodeWatch& episodes, QWidget* parent = nullptr);
 
 private:
     void loadProfile();

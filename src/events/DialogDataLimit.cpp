@@ -1,25 +1,28 @@
 #include "events/DialogDataLimit.h"
 
 #include "base/CountText.h"
-#include "events/EventModel.h"
 
 namespace TARN {
 
 DialogDataLimit::DialogDataLimit(Session& session, EpisodeWatch& episodes, QWidget* parent)
-    : DialogEventList(session, tr("Warning/Limit Exceed"), true, parent), mEpisodes(episodes)
+    : DialogEventList(session, episodes, EventKind::Limits, tr("Warning/Limit Exceed"), parent)
 {
-    connect(&mEpisodes, &EpisodeWatch::changed, this, &DialogDataLimit::showEpisodes);
     showFlight();
 }
 
-const std::vector<RecordEvent>& DialogDataLimit::eventsOf(const Events& events) const
+const std::vector<RecordEvent>* DialogDataLimit::eventsOf(const Events& events) const
 {
-    return events.limits;
+    return &events.limits;
 }
 
-QString DialogDataLimit::allWell(const Events& events) const
+const std::vector<Episode>& DialogDataLimit::episodesOf(const Troubles& troubles) const
 {
-    const Watched& watched = events.watchedLimits;
+    return troubles.limits;
+}
+
+QString DialogDataLimit::allWell(const Flight& flight) const
+{
+    const Watched& watched = flight.events().watchedLimits;
     if (watched.parameters == 0) {
         return tr("The recording holds no FLOAT message of a parameter with a threshold, so "
                   "nothing was watched for limits.");
@@ -27,16 +30,6 @@ QString DialogDataLimit::allWell(const Events& events) const
     return tr("No limit event in %1 samples of %2 watched parameters.")
         .arg(countText(static_cast<qint64>(watched.samples)),
              countText(static_cast<qint64>(watched.parameters)));
-}
-
-void DialogDataLimit::showEpisodes()
-{
-    if (mEpisodes.episodes() == nullptr) {
-        showFlight();
-    } else {
-        model().setEpisodes(mEpisodes.episodes());
-        showCurrentTime();
-    }
 }
 
 } // namespace TARN

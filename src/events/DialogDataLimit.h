@@ -14,13 +14,9 @@ public:
     DialogDataLimit(Session& session, EpisodeWatch& episodes, QWidget* parent = nullptr);
 
 protected:
-    const std::vector<RecordEvent>& eventsOf(const Events& events) const override;
-    QString allWell(const Events& events) const override;
-
-private:
-    void showEpisodes();
-
-    EpisodeWatch& mEpisodes;
+    const std::vector<RecordEvent>* eventsOf(const Events& events) const override;
+    const std::vector<Episode>& episodesOf(const Troubles& troubles) const override;
+    QString allWell(const Flight& flight) const override;
 };
 
 } // namespace TARN

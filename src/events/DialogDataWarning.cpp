@@ -4,20 +4,25 @@
 
 namespace TARN {
 
-DialogDataWarning::DialogDataWarning(Session& session, QWidget* parent)
-    : DialogEventList(session, tr("Warning Lamps"), false, parent)
+DialogDataWarning::DialogDataWarning(Session& session, EpisodeWatch& episodes, QWidget* parent)
+    : DialogEventList(session, episodes, EventKind::Lamps, tr("Warning Lamps"), parent)
 {
     showFlight();
 }
 
-const std::vector<RecordEvent>& DialogDataWarning::eventsOf(const Events& events) const
+const std::vector<RecordEvent>* DialogDataWarning::eventsOf(const Events& events) const
 {
-    return events.warnings;
+    return &events.warnings;
 }
 
-QString DialogDataWarning::allWell(const Events& events) const
+const std::vector<Episode>& DialogDataWarning::episodesOf(const Troubles& troubles) const
 {
-    const Watched& watched = events.watchedLamps;
+    return troubles.lamps;
+}
+
+QString DialogDataWarning::allWell(const Flight& flight) const
+{
+    const Watched& watched = flight.events().watchedLamps;
     if (watched.parameters == 0) {
         return tr("The recording holds no message of a warning lamp, so none was watched.");
     }

@@ -1,52 +1,71 @@
 #include "events/DialogEventList.h"
 
+#include "events/EventFilter.h"
 #include "flight/EmptyText.h"
 #include "widgets/DataTableView.h"
 
 #include <QtGui/QAction>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
-#include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHeaderView>
-
-#include <numeric>
+#include <QtWidgets/QVBoxLayout>
 
 namespace TARN {
 
-DialogEventList::DialogEventList(Session& session, const QString& title, bool hasEpisodes,
-                                 QWidget* parent)
-    : QWidget(parent), mSession(session), mModel(new EventModel(title, hasEpisodes, this)),
-      mTable(new DataTableView)
+DialogEventList::DialogEventList(Session& session, EpisodeWatch& episodes, EventKind kind,
+                                 const QString& title, QWidget* parent)
+    : QWidget(parent), mSession(session), mEpisodes(episodes),
+      mModel(new EventModel(kind, title, this)), mOrder(new EventOrder(*mModel, this)),
+      mFilter(new EventFilter(*mOrder)), mTable(new DataTableView)
 {
-    auto* layout = new QGridLayout(this);
+    auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(mTable, 0, 0);
-    mTable->setModel(mModel);
+    layout->setSpacing(2);
+    layout->addWidget(mFilter);
+    layout->addWidget(mTable);
+    mTable->setModel(mOrder);
     mTable->setObjectName("events");
     mTable->setAccessibleName(title);
     mTable->verticalHeader()->hide();
-    mTable->horizontalHeader()->setSectionResizeMode(EventModel::TextColumn, QHeaderView::Stretch);
+    QHeaderView* header = mTable->horizontalHeader();
+    header->setSectionResizeMode(EventModel::TextColumn, QHeaderView::Stretch);
+    header->setSortIndicatorClearable(true); // a third click brings the list's own order back
+    header->setSortIndicator(-1, Qt::AscendingOrder);
+    mTable->setSortingEnabled(true);
     setFocusProxy(mTable);
+    mFilter->follow(*mTable);
     createCommands();
     connect(mTable, &DataTableView::rowPicked, this, &DialogEventList::slotSelect);
     connect(mTable, &DataTableView::signalLink, this, &DialogEventList::signalLink);
+    connect(mFilter, &EventFilter::changed, this, &DialogEventList::updateEmptyText);
+    connect(mFilter, &EventFilter::left, mTable, qOverload<>(&QWidget::setFocus));
     connect(&mSession, &Session::profileChanged, this, &DialogEventList::showFlight);
     connect(&mSession, &Session::flightChanged, this, &DialogEventList::showFlight);
     connect(&mSession, &Session::timeChanged, this, &DialogEventList::showTime);
     connect(&mSession.loading(), &Switch::turned, this, &DialogEventList::updateEmptyText);
     connect(&mSession.allDigits(), &Switch::turned, this, &DialogEventList::updateDigits);
+    connect(&mEpisodes, &EpisodeWatch::changed, this, &DialogEventList::showEpisodes);
 }
 
 int DialogEventList::rowCount() const
 {
-    return mModel->rowCount();
+    return mOrder->rowCount();
 }
 
 void DialogEventList::showFlight()
 {
     const auto flight = mSession.flight();
-    mModel->setEvents(flight, flight != nullptr ? &eventsOf(flight->events()) : nullptr);
+    mModel->setEvents(flight, flight != nullptr ? eventsOf(flight->events()) : nullptr);
     mTable->fitColumns();
+    showEpisodes();
+}
+
+void DialogEventList::showEpisodes()
+{
+    const auto& troubles = mEpisodes.troubles();
+    mModel->setEpisodes(troubles != nullptr ? std::shared_ptr<const std::vector<Episode>>(
+                                                  troubles, &episodesOf(*troubles))
+                                            : nullptr);
     updateEmptyText();
     showCurrentTime();
 }
@@ -59,20 +78,25 @@ void DialogEventList::updateDigits()
 
 void DialogEventList::updateEmptyText()
 {
+    const bool isFiltered = mModel->rowCount() > 0;
     const QString general = emptyTextOfAll(mSession);
-    mTable->setEmptyText(general.isEmpty() ? allWell(mSession.flight()->events()) : general);
+    mFilter->setVisible(isFiltered);
+    mTable->setEmptyText(isFiltered           ? tr("Nothing in the list fits the filter.")
+                         : !general.isEmpty() ? general
+                                              : allWell(*mSession.flight()));
 }
 
 void DialogEventList::showTime(double time, const QObject* source)
 {
     if (source != this) {
-        mTable->showRow(mModel->rowAt(time));
+        mTable->showRow(mOrder->rowAt(time));
     }
 }
 
 void DialogEventList::slotSelect(int row)
 {
-    const QVariant milliseconds = mModel->index(row, EventModel::TimeColumn).data(Qt::UserRole);
+    const QVariant milliseconds =
+        mOrder->index(row, EventModel::TimeColumn).data(EventModel::TimeRole);
     if (milliseconds.isValid()) {
         mSession.setTime(milliseconds.toInt() * 0.001, this);
     }
@@ -89,19 +113,23 @@ void DialogEventList::createCommands()
         mTable->addAction(action);
     };
     add(tr("Go to the &Start"), {}, [this] { slotSelect(mTable->currentIndex().row()); });
-    if (mModel->columnCount() > EventModel::PeakColumn) {
+    if (mModel->kind() == EventKind::Limits) {
         add(tr("Go to the &Peak"), Qt::Key_M, &List::goToPeak);
     }
-    add(tr("Show in the &Graph"), Qt::Key_G, &List::showInGraph);
+    if (mModel->kind() != EventKind::Faults) {
+        add(tr("Show in the &Graph"), Qt::Key_G, &List::showInGraph);
+    }
+    add(tr("&Filter"), Qt::CTRL | Qt::Key_F, [this] { mFilter->begin(); });
     add(tr("&Copy All with Headers"), Qt::CTRL | Qt::Key_Insert, &List::copy);
     mTable->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 std::optional<EventModel::Place> DialogEventList::currentPlace() const
 {
-    return mSession.flight() != nullptr ? mModel->placeOf(mTable->currentIndex().row(),
-                                                          *mSession.flight(), mSession.offset())
-                                        : std::nullopt;
+    const QModelIndex index = mOrder->mapToSource(mTable->currentIndex());
+    return mSession.flight() != nullptr && index.isValid()
+               ? mModel->placeOf(index.row(), *mSession.flight(), mSession.offset())
+               : std::nullopt;
 }
 
 void DialogEventList::goToPeak()
@@ -120,9 +148,7 @@ void DialogEventList::showInGraph()
 
 void DialogEventList::copy() const
 {
-    std::vector<int> rows(static_cast<std::size_t>(rowCount()));
-    std::iota(rows.begin(), rows.end(), 0);
-    QGuiApplication::clipboard()->setText(mModel->textOf(rows));
+    QGuiApplication::clipboard()->setText(mOrder->text());
 }
 
 } // namespace TARN

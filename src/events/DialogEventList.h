@@ -1,6 +1,6 @@
 #pragma once
 
-#include "events/EventModel.h"
+#include "events/EventOrder.h"
 #include "flight/EpisodeWatch.h"
 #include "flight/Session.h"
 
@@ -9,15 +9,16 @@
 namespace TARN {
 
 class DataTableView;
+class EventFilter;
 
-/// A list of events by time. Picking one goes to its time; moving the time selects the latest
-/// event at or before it.
+/// A list of events by time, which the user may sort and filter. Picking one goes to its time;
+/// moving the time selects the latest event at or before it.
 class DialogEventList : public QWidget
 {
     Q_OBJECT
 
 public:
-    int rowCount() const;
+    int rowCount() const; ///< of those that are shown
 
 Q_SIGNALS:
     /// The user follows a link of the empty text.
@@ -26,19 +27,17 @@ Q_SIGNALS:
     void signalGraph(const TARN::ProfileParameter& parameter, double time);
 
 protected:
-    /// \p title of the event column; \p hasEpisodes shows the columns that tell of episodes.
-    DialogEventList(Session& session, const QString& title, bool hasEpisodes, QWidget* parent);
+    /// \p title of the event column. Call showFlight once the object is complete.
+    DialogEventList(Session& session, EpisodeWatch& episodes, EventKind kind, const QString& title,
+                    QWidget* parent);
 
-    /// The list of a flight that the view shows.
-    virtual const std::vector<RecordEvent>& eventsOf(const Events& events) const = 0;
-    /// What is said where a flight with samples has no event, and what was looked at.
-    virtual QString allWell(const Events& events) const = 0;
+    /// The list of a flight that the view shows; null where it is one of episodes only.
+    virtual const std::vector<RecordEvent>* eventsOf(const Events& events) const = 0;
+    virtual const std::vector<Episode>& episodesOf(const Troubles& troubles) const = 0;
+    /// What is said where a flight with samples has no row, and what was looked at.
+    virtual QString allWell(const Flight& flight) const = 0;
 
-    EventModel& model() { return *mModel; }
-    /// To be called once the object is complete.
     void showFlight();
-    /// Selects the latest event of the current time.
-    void showCurrentTime() { showTime(mSession.time(), nullptr); }
 
 private Q_SLOTS:
     void slotSelect(int row);
@@ -49,12 +48,17 @@ private:
     void goToPeak();
     void showInGraph();
     void copy() const;
+    void showEpisodes();
+    void showCurrentTime() { showTime(mSession.time(), nullptr); }
     void showTime(double time, const QObject* source);
     void updateDigits();
     void updateEmptyText();
 
     Session& mSession;
+    EpisodeWatch& mEpisodes;
     EventModel* mModel;
+    EventOrder* mOrder;
+    EventFilter* mFilter;
     DataTableView* mTable;
 };
 

@@ -2,7 +2,6 @@
 
 #include "base/CellColor.h"
 #include "base/ClockTime.h"
-#include "base/Numbers.h"
 
 #include <QtGui/QFont>
 
@@ -11,36 +10,8 @@
 
 namespace TARN {
 
-namespace {
-
-/// A number of single precision in the shortest text that reads back as it.
-QString shortText(const ProfileParameter& parameter, double value)
-{
-    constexpr int Digits = 12;
-    const bool isSingle =
-        parameter.dataType == DataType::Float || parameter.dataType == DataType::Nmea;
-    std::string text;
-    if (isSingle) {
-        appendShortest(static_cast<float>(value), text);
-    } else {
-        appendGeneral(value, Digits, text);
-    }
-    const QString number = QString::fromStdString(text);
-    return parameter.unit.isEmpty() ? number : number + " " + parameter.unit;
-}
-
-/// What the peak passed: a reader wants the bound that was left, not the far end of the band.
-QString thresholdText(const Episode::Peak& peak)
-{
-    std::string text = peak.below ? "< " : "\xe2\x89\xa5 ";
-    appendGeneral(peak.below.value_or(peak.threshold), 12, text);
-    return QString::fromStdString(text);
-}
-
-} // namespace
-
-EventModel::EventModel(const QString& title, bool hasEpisodes, QObject* parent)
-    : QAbstractTableModel(parent), mTitle(title), mHasEpisodes(hasEpisodes)
+EventModel::EventModel(EventKind kind, const QString& title, QObject* parent)
+    : QAbstractTableModel(parent), mKind(kind), mTitle(title), mSeverities(severityWords(kind))
 {}
 
 void EventModel::setEvents(std::shared_ptr<const void> owner,
@@ -61,7 +32,8 @@ void EventModel::setEpisodes(std::shared_ptr<const std::vector<Episode>> episode
     mEpisodes = std::move(episodes);
     mUnannounced.clear();
     std::map<std::pair<const ProfileParameter*, std::size_t>, const Episode*> announced;
-    for (const Episode& episode : *mEpisodes) {
+    static const std::vector<Episode> None;
+    for (const Episode& episode : mEpisodes != nullptr ? *mEpisodes : None) {
         if (!episode.isAnnounced()) {
             mUnannounced.push_back(&episode);
         }
@@ -86,14 +58,21 @@ void EventModel::setAllDigits(bool on)
 
 int EventModel::rowAt(double time) const
 {
-    if (mEvents == nullptr) {
-        return 0;
+    const auto lastOf = [key = timeKeyOf(time)](const auto& rows, const auto& keyOf) {
+        const auto after = std::ranges::upper_bound(rows, key, {}, keyOf);
+        return after == rows.begin() ? 0 : static_cast<int>(after - rows.begin() - 1);
+    };
+    if (mKind == EventKind::Faults) {
+        return lastOf(mUnannounced, [](const Episode* episode) {
+            return timeKeyOf(episode->start - episode->shift);
+        });
     }
-    const auto after =
-        std::ranges::upper_bound(*mEvents, timeKeyOf(time), {}, [](const RecordEvent& event) {
+    if (mEvents != nullptr) {
+        return lastOf(*mEvents, [](const RecordEvent& event) {
             return static_cast<std::uint32_t>(event.tenths);
         });
-    return after == mEvents->begin() ? 0 : static_cast<int>(after - mEvents->begin() - 1);
+    }
+    return 0;
 }
 
 std::optional<EventModel::Place> EventModel::placeOf(int row, const Flight& flight,
@@ -105,27 +84,11 @@ std::optional<EventModel::Place> EventModel::placeOf(int row, const Flight& flig
         return std::nullopt;
     }
     const ProfileParameter* parameter = event != nullptr ? event->parameter : episode->parameter;
-    const double shift = flight.series(*parameter, offset).shift();
-    return Place{parameter, event != nullptr ? event->time + shift : episode->start,
+    const double start =
+        event != nullptr ? event->time + flight.series(*parameter, offset).shift() : episode->start;
+    return Place{parameter, start,
                  episode != nullptr && episode->peak ? std::optional(episode->peak->time)
                                                      : std::nullopt};
-}
-
-QString EventModel::textOf(const std::vector<int>& rows) const
-{
-    QStringList lines;
-    const auto add = [&](const auto& cellOf) {
-        QStringList cells;
-        for (int column = 0; column < columnCount(); ++column) {
-            cells += cellOf(column).toString().trimmed();
-        }
-        lines += cells.join('\t');
-    };
-    add([&](int column) { return headerData(column, Qt::Horizontal, Qt::DisplayRole); });
-    for (const int row : rows) {
-        add([&](int column) { return index(row, column).data(); });
-    }
-    return lines.join('\n') + "\n";
 }
 
 int EventModel::rowCount(const QModelIndex& parent) const
@@ -133,18 +96,14 @@ int EventModel::rowCount(const QModelIndex& parent) const
     if (parent.isValid()) {
         return 0;
     }
-    const std::size_t heading = mUnannounced.empty() ? 0 : 1;
-    return static_cast<int>(eventCount() + heading + mUnannounced.size());
+    return static_cast<int>(mUnannounced.empty() ? eventCount()
+                                                 : firstUnannounced() + mUnannounced.size());
 }
 
 int EventModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : mHasEpisodes ? ThresholdColumn + 1 : TextColumn + 1;
-}
-
-bool EventModel::isHeading(int row) const
-{
-    return static_cast<std::size_t>(row) == eventCount();
+    const int last = mKind == EventKind::Limits ? ThresholdColumn : DurationColumn;
+    return parent.isValid() ? 0 : last + 1;
 }
 
 const RecordEvent* EventModel::eventAt(int row) const
@@ -155,9 +114,8 @@ const RecordEvent* EventModel::eventAt(int row) const
 
 const Episode* EventModel::unannouncedAt(int row) const
 {
-    const std::size_t before = eventCount() + 1;
     const auto place = static_cast<std::size_t>(row);
-    return place >= before ? mUnannounced[place - before] : nullptr;
+    return place >= firstUnannounced() ? mUnannounced[place - firstUnannounced()] : nullptr;
 }
 
 /// The episode that a row tells of; null where it tells of none.
@@ -170,16 +128,37 @@ const Episode* EventModel::episodeOf(int row) const
 QString EventModel::episodeText(const Episode& episode, int column, double shift) const
 {
     switch (column) {
+    case SeverityColumn:
+        return mSeverities.at(episode.state);
     case UntilColumn:
         return clockTextWithMilliseconds(episode.end - shift);
     case DurationColumn:
-        return tr("%1 s").arg(episode.duration(), 0, 'f', 1);
+        return durationWords(episode.duration());
     case PeakColumn:
-        return episode.peak ? shortText(*episode.parameter, episode.peak->value) : QString();
+        return episode.peak ? valueWords(*episode.parameter, episode.peak->value) : QString();
     case ThresholdColumn:
-        return episode.peak ? thresholdText(*episode.peak) : QString();
+        return episode.peak ? thresholdWords(*episode.peak) : QString();
     default:
         return {};
+    }
+}
+
+/// Seconds that the times of an episode without an event are shown without.
+double EventModel::shownShift(const Episode& episode) const
+{
+    return mKind == EventKind::Faults ? episode.shift : 0.0;
+}
+
+QString EventModel::unannouncedText(const Episode& episode) const
+{
+    switch (mKind) {
+    case EventKind::Limits:
+        return episode.name + " " +
+               (episode.state == StateLimit ? tr("at its limit") : tr("in warning"));
+    case EventKind::Lamps:
+        return tr("%1 on").arg(episode.name);
+    default:
+        return episode.name;
     }
 }
 
@@ -196,29 +175,52 @@ QString EventModel::textAt(int row, int column) const
                                     : event->shortText;
     }
     if (isHeading(row)) {
-        return column == TextColumn ? tr("Out of range without an event") : QString();
+        return column != TextColumn         ? QString()
+               : mKind == EventKind::Limits ? tr("Out of range without an event")
+                                            : tr("On without an event");
     }
-    if (column > TextColumn) {
-        return episodeText(*episode, column, 0.0);
-    }
-    return column == TimeColumn
-               ? clockTextWithMilliseconds(episode->start)
-               : episode->device->name + " " + episode->parameter->name + " " +
-                     (episode->state == StateLimit ? tr("at its limit") : tr("in warning"));
+    const double shift = shownShift(*episode);
+    return column == TimeColumn   ? clockTextWithMilliseconds(episode->start - shift)
+           : column == TextColumn ? unannouncedText(*episode)
+                                  : episodeText(*episode, column, shift);
 }
 
 QVariant EventModel::color(int row, int column, int role) const
 {
-    QColor color = TimeCellColor;
-    if (column > TimeColumn) {
-        const RecordEvent* event = eventAt(row);
-        const Episode* episode = episodeOf(row);
-        color = event != nullptr && column == TextColumn ? event->color
-                : event == nullptr && episode != nullptr && episode->peak && column == TextColumn
-                    ? episode->peak->color
-                    : QColor();
-    }
+    const RecordEvent* event = eventAt(row);
+    const Episode* episode = episodeOf(row);
+    const QColor color = column == TimeColumn   ? TimeCellColor
+                         : column != TextColumn ? QColor()
+                         : event != nullptr     ? event->color
+                         : episode != nullptr   ? episode->color
+                                                : QColor();
     return role == Qt::BackgroundRole ? backgroundOf(color) : foregroundOn(color);
+}
+
+/// Numbers by their value, all else by its text.
+QVariant EventModel::sortKey(int row, int column) const
+{
+    const Episode* episode = episodeOf(row);
+    if (column == TimeColumn) {
+        return data(index(row, TimeColumn), TimeRole);
+    }
+    if (column == TextColumn || episode == nullptr) {
+        return textAt(row, column);
+    }
+    const bool hasPeak = episode->peak.has_value();
+    switch (column) {
+    case SeverityColumn:
+        return episode->state;
+    case UntilColumn:
+        return episode->end;
+    case DurationColumn:
+        return episode->duration();
+    case PeakColumn:
+        return hasPeak ? QVariant(episode->peak->value) : QVariant();
+    default:
+        return hasPeak ? QVariant(episode->peak->below.value_or(episode->peak->threshold))
+                       : QVariant();
+    }
 }
 
 QVariant EventModel::data(const QModelIndex& index, int role) const
@@ -230,12 +232,19 @@ QVariant EventModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return textAt(row, index.column());
-    case Qt::UserRole: {
+    case SortRole:
+        return sortKey(row, index.column());
+    case StateRole: {
+        const Episode* episode = episodeOf(row);
+        return episode != nullptr ? QVariant(episode->state) : QVariant();
+    }
+    case TimeRole: {
         const RecordEvent* event = eventAt(row);
         const Episode* episode = unannouncedAt(row);
-        return index.column() != TimeColumn || (event == nullptr && episode == nullptr)
-                   ? QVariant()
-                   : QVariant((event != nullptr ? event->time : episode->start) * 1000.0);
+        if (index.column() != TimeColumn || (event == nullptr && episode == nullptr)) {
+            return {};
+        }
+        return (event != nullptr ? event->time : episode->start - shownShift(*episode)) * 1000.0;
     }
     case Qt::ToolTipRole: {
         const RecordEvent* event = eventAt(row);
@@ -245,8 +254,8 @@ QVariant EventModel::data(const QModelIndex& index, int role) const
     case Qt::ForegroundRole:
         return color(row, index.column(), role);
     case Qt::TextAlignmentRole:
-        return index.column() > TextColumn ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter))
-                                           : QVariant();
+        return index.column() > SeverityColumn ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter))
+                                               : QVariant();
     case Qt::FontRole:
         if (isHeading(row)) {
             QFont bold;
@@ -264,7 +273,7 @@ QVariant EventModel::headerData(int section, Qt::Orientation orientation, int ro
 {
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0 &&
         section < columnCount()) {
-        const QString titles[] = {tr("Time"),     mTitle,     tr("Until"),
+        const QString titles[] = {tr("Time"),     mTitle,     tr("Severity"), tr("Until"),
                                   tr("Duration"), tr("Peak"), tr("Threshold")};
         return titles[section];
     }

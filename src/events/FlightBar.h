@@ -17,15 +17,6 @@ public:
     /// Both live as long.
     FlightBar(const Session& session, const EpisodeWatch& episodes);
 
-    /// Something to go to.
-    enum Kind : int
-    {
-        Exceedances,
-        Lamps,
-        Faults,
-        Remarks
-    };
-
     /// What is counted now; of no flight while it is being looked for.
     const FlightSummary& summary() const { return mSummary; }
 
@@ -33,7 +24,7 @@ Q_SIGNALS:
     /// The counts are others.
     void counted();
     /// The user wants to see the first of a kind; \p time as it is in its view, seconds.
-    void wanted(TARN::FlightBar::Kind kind, double time);
+    void wanted(TARN::FlightSummary::Part::Kind kind, double time);
 
 private:
     void count();

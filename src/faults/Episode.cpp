@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <tuple>
 
 namespace TARN {
 
@@ -73,6 +75,7 @@ private:
         Episode episode;
         episode.device = mEntry.device;
         episode.parameter = mEntry.parameter;
+        episode.name = mEntry.device->name + " " + mEntry.parameter->name;
         episode.shift = mSeries.shift();
         episode.samples = end - begin;
         episode.start = mSeries.time(begin);
@@ -89,6 +92,7 @@ private:
         }
         episode.state = stateAt(worst);
         episode.peak = peakOf(begin, end, isDownwards(mSeries.entry(worst)));
+        episode.color = episode.peak ? episode.peak->color : QColor();
         return episode;
     }
 
@@ -151,6 +155,19 @@ std::vector<Episode> findEpisodes(const RecordData& data, const Profile& profile
     }
     std::ranges::stable_sort(episodes, {}, &Episode::start);
     return episodes;
+}
+
+std::vector<const Episode*> worstOf(const std::vector<Episode>& episodes, std::size_t most)
+{
+    std::vector<const Episode*> worst;
+    for (const Episode& episode : episodes) {
+        worst.push_back(&episode);
+    }
+    std::ranges::stable_sort(worst, std::greater(), [](const Episode* episode) {
+        return std::tuple(episode->state, episode->isAnnounced(), episode->duration());
+    });
+    worst.resize(std::min(most, worst.size()));
+    return worst;
 }
 
 } // namespace TARN

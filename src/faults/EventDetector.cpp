@@ -73,16 +73,12 @@ void collectWarnings(const Source& source, Events& events)
     const auto entries = source.series.entries();
     for (std::size_t place = 0; place < entries.size(); ++place) {
         const int value = source.series.decoder().toInt(entries[place]);
-        if (value == 0 || value == previous) {
+        if (!isLampEvent(previous, value)) {
             continue;
         }
-        previous = value;
         RecordEvent event = eventAt(source, place);
-        if (value == 1) {
-            event.color = QColor(255, 150, 100);
-        } else if (value == 2) {
-            event.color = QColor(255, 100, 100);
-        }
+        const QColor color = lampColor(value);
+        event.color = color.isValid() ? color : event.color;
         events.warnings.push_back(event);
     }
     events.watchedLamps.samples += entries.size();
@@ -94,13 +90,25 @@ bool isLampEnum(const ProfileEnum& enumeration)
     return enumeration.name == "WarningLamp";
 }
 
+} // namespace
+
 bool isLamp(const ProfileInfo& profile, const ProfileParameter& parameter)
 {
     const auto found = profile.enums.find(parameter.enumId);
     return found != profile.enums.end() && isLampEnum(found->second);
 }
 
-} // namespace
+bool isLampEvent(int& previous, int value)
+{
+    const bool isEvent = value != 0 && value != previous;
+    previous = isEvent ? value : previous;
+    return isEvent;
+}
+
+QColor lampColor(int value)
+{
+    return value == 1 ? QColor(255, 150, 100) : value == 2 ? QColor(255, 100, 100) : QColor();
+}
 
 bool hasWarningLamps(const ProfileInfo& profile)
 {

@@ -12,6 +12,16 @@ class RecordData;
 /// Whether the profile knows warning lamps: an enumeration named "WarningLamp".
 bool hasWarningLamps(const ProfileInfo& profile);
 
+/// Whether a parameter is a warning lamp.
+bool isLamp(const ProfileInfo& profile, const ProfileParameter& parameter);
+
+/// Whether a lamp's next value makes an event; \p previous is the last value that made one, at
+/// first 0.
+bool isLampEvent(int& previous, int value);
+
+/// Colour of a lamp that shows a value; invalid where its cell's holds.
+QColor lampColor(int value);
+
 /// Whether a threshold can make an event: one of its values stands for a warning or a limit.
 bool isWatched(const ProfileThr& threshold);
 

@@ -12,28 +12,34 @@ EpisodeWatch::EpisodeWatch(Session& session, QObject* parent) : QObject(parent),
 void EpisodeWatch::look()
 {
     mJob.cancel();
-    mEpisodes = nullptr;
+    mTroubles = nullptr;
     Q_EMIT changed();
     if (mSession.flight() == nullptr) {
         return;
     }
-    // The episodes refer to the flight's profile, which they keep.
+    // They refer to the flight's profile, which they keep.
     struct Found
     {
         std::shared_ptr<const Flight> flight;
-        Episodes episodes;
+        Troubles troubles;
     };
     mJob.start(
         [flight = mSession.flight(), offset = mSession.offset()](Progress& progress) {
             auto found = std::make_shared<Found>();
             found->flight = flight;
-            found->episodes = flight->episodes(offset, progress);
-            return std::shared_ptr<const Episodes>(found, &found->episodes);
+            found->troubles = flight->troubles(offset, progress);
+            return std::shared_ptr<const Troubles>(found, &found->troubles);
         },
-        [this](std::shared_ptr<const Episodes> episodes) {
-            mEpisodes = std::move(episodes);
+        [this](std::shared_ptr<const Troubles> troubles) {
+            mTroubles = std::move(troubles);
             Q_EMIT changed();
         });
+}
+
+std::shared_ptr<const EpisodeWatch::Episodes> EpisodeWatch::episodes() const
+{
+    return mTroubles == nullptr ? nullptr
+                                : std::shared_ptr<const Episodes>(mTroubles, &mTroubles->limits);
 }
 
 } // namespace TARN

@@ -5,8 +5,8 @@
 
 namespace TARN {
 
-/// Looks for the episodes of the session's flight at its offset, beside the event loop, whenever
-/// one of the two changes.
+/// Looks for all that went wrong in the session's flight at its offset, with how long, beside the
+/// event loop, whenever one of the two changes.
 class EpisodeWatch : public QObject
 {
     Q_OBJECT
@@ -16,8 +16,11 @@ public:
 
     explicit EpisodeWatch(Session& session, QObject* parent = nullptr);
 
-    /// Null while they are being looked for and where there is no flight.
-    const std::shared_ptr<const Episodes>& episodes() const { return mEpisodes; }
+    // Null while they are being looked for and where there is no flight.
+
+    const std::shared_ptr<const Troubles>& troubles() const { return mTroubles; }
+    /// Those of parameters out of range.
+    std::shared_ptr<const Episodes> episodes() const;
 
 Q_SIGNALS:
     void changed();
@@ -26,8 +29,8 @@ private:
     void look();
 
     Session& mSession;
-    Job<std::shared_ptr<const Episodes>> mJob;
-    std::shared_ptr<const Episodes> mEpisodes;
+    Job<std::shared_ptr<const Troubles>> mJob;
+    std::shared_ptr<const Troubles> mTroubles;
 };
 
 } // namespace TARN

@@ -1,6 +1,8 @@
 #include "flight/Flight.h"
 
 #include "faults/EventDetector.h"
+#include "faults/FaultEpisodes.h"
+#include "faults/LampEpisodes.h"
 
 #include <algorithm>
 
@@ -69,14 +71,26 @@ std::shared_ptr<const Silences> Flight::silences(double offset) const
     return mSilences;
 }
 
+/// Looks for them once, when they are first asked for.
+SilencesSource Flight::silencesSource(double offset) const
+{
+    return [this, offset, known = std::make_shared<std::shared_ptr<const Silences>>()] {
+        *known = *known != nullptr ? *known : silences(offset);
+        return *known;
+    };
+}
+
 std::vector<Episode> Flight::episodes(double offset, Progress& progress) const
 {
-    std::shared_ptr<const Silences> known;
-    const auto silences = [&] {
-        known = known != nullptr ? known : this->silences(offset);
-        return known;
-    };
-    return findEpisodes(samples(), *mProfile, offset, silences, progress);
+    return findEpisodes(samples(), *mProfile, offset, silencesSource(offset), progress);
+}
+
+Troubles Flight::troubles(double offset, Progress& progress) const
+{
+    const SilencesSource silences = silencesSource(offset);
+    return {findEpisodes(samples(), *mProfile, offset, silences, progress),
+            findLampEpisodes(samples(), *mProfile, offset, silences, progress),
+            faultEpisodes(mFaults, offset)};
 }
 
 TimeRange Flight::range(double offset) const

@@ -54,6 +54,8 @@ public:
 
     /// See findEpisodes.
     std::vector<Episode> episodes(double offset, Progress& progress) const;
+    /// All that went wrong, with how long.
+    Troubles troubles(double offset, Progress& progress) const;
 
     /// From the earliest to the latest time of any sample, with a time offset.
     TimeRange range(double offset) const;
@@ -61,6 +63,8 @@ public:
 private:
     Flight(std::shared_ptr<const Record> record, std::shared_ptr<const Profile> profile,
            Progress& progress);
+
+    SilencesSource silencesSource(double offset) const;
 
     std::shared_ptr<const Record> mRecord;
     std::shared_ptr<const Profile> mProfile;

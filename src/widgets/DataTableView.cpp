@@ -1,16 +1,52 @@
 #include "widgets/DataTableView.h"
 
+#include "base/CellColor.h"
 #include "widgets/EmptyPlace.h"
 
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QStyle>
+#include <QtWidgets/QStyledItemDelegate>
 
 #include <algorithm>
 
 namespace TARN {
+
+namespace {
+
+/// Shows that a row is selected without hiding the colour by which a cell tells that something is
+/// wrong: such a cell keeps it between two lines.
+class RowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override
+    {
+        const QVariant ground = index.data(Qt::BackgroundRole);
+        const bool keeps = option.state.testFlag(QStyle::State_Selected) && ground.isValid() &&
+                           ground.value<QBrush>().color() != TimeCellColor;
+        if (!keeps) {
+            QStyledItemDelegate::paint(painter, option, index);
+            return;
+        }
+        QStyleOptionViewItem plain = option;
+        plain.state.setFlag(QStyle::State_Selected, false);
+        QStyledItemDelegate::paint(painter, plain, index);
+        painter->setPen(SelectionColor);
+        painter->drawLine(option.rect.topLeft(), option.rect.topRight());
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    }
+
+private:
+    static constexpr QColor SelectionColor{100, 100, 255};
+};
+
+} // namespace
 
 DataTableView::DataTableView(QWidget* parent)
     : QTableView(parent), mEmpty(new EmptyPlace(viewport()))
@@ -21,6 +57,7 @@ DataTableView::DataTableView(QWidget* parent)
     font.setPixelSize(11); // fits the row height
     setFont(font);
     setStyleSheet("selection-background-color: rgba(100, 100, 255, 255);");
+    setItemDelegate(new RowDelegate(this));
     setSelectionMode(QAbstractItemView::SingleSelection);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -57,6 +94,8 @@ void DataTableView::setModel(QAbstractItemModel* model)
         updateEmptyPlace();
         mWidening.start();
     });
+    connect(model, &QAbstractItemModel::rowsInserted, this, &DataTableView::updateEmptyPlace);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &DataTableView::updateEmptyPlace);
     updateEmptyPlace();
 }
 
@@ -91,7 +130,7 @@ void DataTableView::fitColumns()
 void DataTableView::showRow(int row)
 {
     const QScopedValueRollback showing(mShowing, true);
-    if (row < model()->rowCount()) {
+    if (row >= 0 && row < model()->rowCount()) {
         selectRow(row);
         scrollTo(model()->index(row, 0), QAbstractItemView::PositionAtCenter);
     }

@@ -94,7 +94,7 @@ void checkEvents(const ExportInput& input)
     }
     const Events& all = input.flight->events();
     const RecordInfo& info = input.flight->info();
-    EventModel model("events", true);
+    EventModel model(EventKind::Limits, "events");
     for (const auto* events : {&all.limits, &all.warnings}) {
         require(std::ranges::is_sorted(*events, {}, &RecordEvent::time));
         model.setEvents(input.flight, events);

@@ -122,7 +122,7 @@ private Q_SLOTS:
         QVERIFY(!slider()->isEnabled() && !offset()->isEnabled());
         QVERIFY(!action(ActionType::SaveProject)->isEnabled());
         QVERIFY(!action(ActionType::ExportKml)->isEnabled());
-        QCOMPARE(emptyTexts().filter("No recording is loaded").size(), 4);
+        QCOMPARE(emptyTexts().filter("No recording is loaded").size(), 5);
         for (const QLCDNumber* display : window().findChildren<QLCDNumber*>()) {
             QCOMPARE(display->height(), 40);
         }
@@ -167,18 +167,18 @@ private Q_SLOTS:
         const QString empty = "holds no samples, so nothing was checked";
         for (const QByteArray garbage : {"\xff\xfe<<>>&&", "|", "<Other/>"}) {
             const bool isKept = garbage.size() > 1 && !garbage.startsWith("<Other");
-            row("ORNA/ORNA.ini", garbage, 4, noProfile,
+            row("ORNA/ORNA.ini", garbage, 5, noProfile,
                 isKept ? ".damaged" : "could not be loaded");
-            row("card/profile.xml", garbage, 4, noProfile, "profile.xml\" could not be loaded");
+            row("card/profile.xml", garbage, 5, noProfile, "profile.xml\" could not be loaded");
             row(project, garbage, 2, noParameter, "Samples loaded");
         }
         row(project, "<CanAerospaceProfile/>", 2, noParameter, "Samples loaded");
         row("card/Offset.xml", "garbage", 0, "", "The time offset could not be read");
         row("card/Offset.xml", "|", 0, "", "The time offset could not be read");
-        row(recording, "|", 4, "No recording is loaded", "Not loaded: could not open the rec");
-        row(recording, "garbage", 4, empty, "The header is cut short");
-        row(recording, RecordingBuilder().bytes(), 4, empty, "Samples loaded: 0");
-        row(recording, QByteArray("no recording ").repeated(99), 4, "The recording holds no ",
+        row(recording, "|", 5, "No recording is loaded", "Not loaded: could not open the rec");
+        row(recording, "garbage", 5, empty, "The header is cut short");
+        row(recording, RecordingBuilder().bytes(), 5, empty, "Samples loaded: 0");
+        row(recording, QByteArray("no recording ").repeated(99), 5, "The recording holds no ",
             "impossible time");
     }
 
@@ -403,16 +403,17 @@ private Q_SLOTS:
         for (QTableView* list : {limits, lamps}) {
             for (int row = 0; row < list->model()->rowCount(); ++row) {
                 told << cell(list, row, 0).left(8) + " " + cell(list, row, 1).section(' ', 1, 2) +
-                            " " + cell(list, row, 3);
+                            " " + cell(list, row, 4);
             }
         }
-        const QStringList story = {"09:23:38 CHT 3 138.0 s",        "09:24:17 CHT 3 138.0 s",
-                                   "09:41:06 Oil Pressure 5.4 s",   "09:41:07 Oil Pressure 5.4 s",
-                                   "09:48:57 EGT 5 0.3 s",          " of range ",
-                                   "09:12:00 Bus Voltage 51.8 s",   "09:12:00 Oil Pressure 51.8 s",
-                                   "09:12:00 Fuel Pressure 37.0 s", "09:12:00 Lamp Bus ",
-                                   "09:12:50 Lamp Starter ",        "09:23:38 Lamp Cylinder ",
-                                   "09:24:16 Lamp Cylinder ",       "09:41:07 Lamp Oil "};
+        const QStringList story = {
+            "09:23:38 CHT 3 138.0 s",         "09:24:17 CHT 3 138.0 s",
+            "09:41:06 Oil Pressure 5.4 s",    "09:41:07 Oil Pressure 5.4 s",
+            "09:48:57 EGT 5 0.3 s",           " of range ",
+            "09:12:00 Bus Voltage 51.8 s",    "09:12:00 Oil Pressure 51.8 s",
+            "09:12:00 Fuel Pressure 37.0 s",  "09:12:00 Lamp Bus 51.8 s",
+            "09:12:50 Lamp Starter 1.6 s",    "09:23:38 Lamp Cylinder 38.0 s",
+            "09:24:16 Lamp Cylinder 108.0 s", "09:41:07 Lamp Oil 3.6 s"};
         QCOMPARE(told, story);
         QCOMPARE(limits->rowHeight(0), 15);
         const std::pair<int, QTime> clicks[] = {{5, QTime(9, 23, 38, 707)}, // a heading

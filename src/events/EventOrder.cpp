@@ -1,0 +1,88 @@
+#include "events/EventOrder.h"
+
+namespace TARN {
+
+EventOrder::EventOrder(EventModel& list, QObject* parent)
+    : QSortFilterProxyModel(parent), mList(list)
+{
+    setSortRole(EventModel::SortRole);
+    setSortCaseSensitivity(Qt::CaseInsensitive);
+    setSourceModel(&list);
+}
+
+void EventOrder::setText(const QString& text)
+{
+    mText = text;
+    invalidateFilter();
+}
+
+void EventOrder::setState(std::optional<int> state)
+{
+    mState = state;
+    invalidateFilter();
+}
+
+void EventOrder::sort(int column, Qt::SortOrder order)
+{
+    QSortFilterProxyModel::sort(column, order);
+    invalidateFilter(); // the heading comes or goes
+}
+
+int EventOrder::rowAt(double time) const
+{
+    for (int row = mList.rowAt(time); row >= 0; --row) {
+        const QModelIndex shown = mapFromSource(mList.index(row, 0));
+        if (shown.isValid()) {
+            return shown.row();
+        }
+    }
+    return -1;
+}
+
+QString EventOrder::text() const
+{
+    QStringList lines;
+    const auto add = [&](const auto& cellOf) {
+        QStringList cells;
+        for (int column = 0; column < columnCount(); ++column) {
+            cells += cellOf(column).toString().trimmed();
+        }
+        lines += cells.join('\t');
+    };
+    add([&](int column) { return headerData(column, Qt::Horizontal, Qt::DisplayRole); });
+    for (int row = 0; row < rowCount(); ++row) {
+        add([&](int column) { return index(row, column).data(); });
+    }
+    return lines.join('\n') + "\n";
+}
+
+bool EventOrder::filterAcceptsRow(int row, const QModelIndex&) const
+{
+    if (mList.isHeading(row)) {
+        return sortColumn() < 0 && mText.isEmpty() && !mState;
+    }
+    if (mState &&
+        mList.index(row, EventModel::SeverityColumn).data(EventModel::StateRole) != *mState) {
+        return false;
+    }
+    if (mText.isEmpty()) {
+        return true;
+    }
+    for (int column = 0; column < mList.columnCount(); ++column) {
+        if (mList.index(row, column).data().toString().contains(mText, Qt::CaseInsensitive)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool EventOrder::lessThan(const QModelIndex& left, const QModelIndex& right) const
+{
+    const bool hasLeft = left.data(sortRole()).isValid();
+    const bool hasRight = right.data(sortRole()).isValid();
+    return hasLeft && hasRight
+               ? QSortFilterProxyModel::lessThan(left, right)
+               : hasLeft != hasRight && hasLeft == (sortOrder() == Qt::AscendingOrder);
+}
+
+} // namespace TARN
