@@ -2,45 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="cs" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>Duration %1</source>
-        <translation>Trvání %1</translation>
-    </message>
-    <message>
-        <source>no profile, so nothing was checked</source>
-        <translation>bez profilu, nic nebylo kontrolováno</translation>
-    </message>
-    <message>
-        <source>%1 at the limit</source>
-        <translation>%1 na limitu</translation>
-    </message>
-    <message>
-        <source>%1 in warning</source>
-        <translation>%1 ve varování</translation>
-    </message>
-    <message>
-        <source>Lamps: %1</source>
-        <translation>Kontrolky: %1</translation>
-    </message>
-    <message>
-        <source>Faults and warnings: %1</source>
-        <translation>Poruchy a varování: %1</translation>
-    </message>
-    <message>
-        <source>nothing out of range in %1 samples of %2 watched parameters</source>
-        <translation>nic mimo rozsah v %1 vzorcích %2 sledovaných parametrů</translation>
-    </message>
-    <message>
-        <source>no parameter was watched for limits</source>
-        <translation>žádný parametr nebyl sledován na limity</translation>
-    </message>
-    <message>
-        <source>Remarks: %1</source>
-        <translation>Poznámky: %1</translation>
-    </message>
-</context>
-<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -290,6 +251,45 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     <message>
         <source>There is not enough memory for this export; choose a shorter time range.</source>
         <translation>Pro tento export není dost paměti; zvolte kratší časový rozsah.</translation>
+    </message>
+</context>
+<context>
+    <name>FlightSummary</name>
+    <message>
+        <source>Duration %1</source>
+        <translation>Trvání %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>bez profilu, nic nebylo kontrolováno</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 na limitu</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 ve varování</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Kontrolky: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Poruchy a varování: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nic mimo rozsah v %1 vzorcích %2 sledovaných parametrů</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>žádný parametr nebyl sledován na limity</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Poznámky: %1</translation>
     </message>
 </context>
 <context>

@@ -2,45 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>Duration %1</source>
-        <translation>Dauer %1</translation>
-    </message>
-    <message>
-        <source>no profile, so nothing was checked</source>
-        <translation>kein Profil, daher wurde nichts geprüft</translation>
-    </message>
-    <message>
-        <source>%1 at the limit</source>
-        <translation>%1 am Grenzwert</translation>
-    </message>
-    <message>
-        <source>%1 in warning</source>
-        <translation>%1 im Warnbereich</translation>
-    </message>
-    <message>
-        <source>Lamps: %1</source>
-        <translation>Lampen: %1</translation>
-    </message>
-    <message>
-        <source>Faults and warnings: %1</source>
-        <translation>Fehler und Warnungen: %1</translation>
-    </message>
-    <message>
-        <source>nothing out of range in %1 samples of %2 watched parameters</source>
-        <translation>nichts außerhalb des Bereichs in %1 Messwerten von %2 überwachten Parametern</translation>
-    </message>
-    <message>
-        <source>no parameter was watched for limits</source>
-        <translation>kein Parameter wurde auf Grenzwerte überwacht</translation>
-    </message>
-    <message>
-        <source>Remarks: %1</source>
-        <translation>Bemerkungen: %1</translation>
-    </message>
-</context>
-<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -290,6 +251,45 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     <message>
         <source>There is not enough memory for this export; choose a shorter time range.</source>
         <translation>Der Speicher reicht für diesen Export nicht aus; wählen Sie einen kürzeren Zeitbereich.</translation>
+    </message>
+</context>
+<context>
+    <name>FlightSummary</name>
+    <message>
+        <source>Duration %1</source>
+        <translation>Dauer %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>kein Profil, daher wurde nichts geprüft</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 am Grenzwert</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 im Warnbereich</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Lampen: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Fehler und Warnungen: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nichts außerhalb des Bereichs in %1 Messwerten von %2 überwachten Parametern</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>kein Parameter wurde auf Grenzwerte überwacht</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Bemerkungen: %1</translation>
     </message>
 </context>
 <context>

@@ -2,45 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>Duration %1</source>
-        <translation>Duración %1</translation>
-    </message>
-    <message>
-        <source>no profile, so nothing was checked</source>
-        <translation>sin perfil, no se comprobó nada</translation>
-    </message>
-    <message>
-        <source>%1 at the limit</source>
-        <translation>%1 en el límite</translation>
-    </message>
-    <message>
-        <source>%1 in warning</source>
-        <translation>%1 en aviso</translation>
-    </message>
-    <message>
-        <source>Lamps: %1</source>
-        <translation>Luces: %1</translation>
-    </message>
-    <message>
-        <source>Faults and warnings: %1</source>
-        <translation>Fallos y avisos: %1</translation>
-    </message>
-    <message>
-        <source>nothing out of range in %1 samples of %2 watched parameters</source>
-        <translation>nada fuera de rango en %1 muestras de %2 parámetros vigilados</translation>
-    </message>
-    <message>
-        <source>no parameter was watched for limits</source>
-        <translation>ningún parámetro se vigiló por límites</translation>
-    </message>
-    <message>
-        <source>Remarks: %1</source>
-        <translation>Observaciones: %1</translation>
-    </message>
-</context>
-<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -290,6 +251,45 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     <message>
         <source>There is not enough memory for this export; choose a shorter time range.</source>
         <translation>No hay memoria suficiente para esta exportación; elija un intervalo de tiempo más corto.</translation>
+    </message>
+</context>
+<context>
+    <name>FlightSummary</name>
+    <message>
+        <source>Duration %1</source>
+        <translation>Duración %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>sin perfil, no se comprobó nada</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 en el límite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 en aviso</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Luces: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Fallos y avisos: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nada fuera de rango en %1 muestras de %2 parámetros vigilados</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>ningún parámetro se vigiló por límites</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Observaciones: %1</translation>
     </message>
 </context>
 <context>

@@ -2,45 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>Duration %1</source>
-        <translation>Durée %1</translation>
-    </message>
-    <message>
-        <source>no profile, so nothing was checked</source>
-        <translation>pas de profil, rien n&apos;a été vérifié</translation>
-    </message>
-    <message>
-        <source>%1 at the limit</source>
-        <translation>%1 à la limite</translation>
-    </message>
-    <message>
-        <source>%1 in warning</source>
-        <translation>%1 en alerte</translation>
-    </message>
-    <message>
-        <source>Lamps: %1</source>
-        <translation>Voyants : %1</translation>
-    </message>
-    <message>
-        <source>Faults and warnings: %1</source>
-        <translation>Défauts et alertes : %1</translation>
-    </message>
-    <message>
-        <source>nothing out of range in %1 samples of %2 watched parameters</source>
-        <translation>rien hors plage dans %1 échantillons de %2 paramètres surveillés</translation>
-    </message>
-    <message>
-        <source>no parameter was watched for limits</source>
-        <translation>aucun paramètre n&apos;a été surveillé pour les limites</translation>
-    </message>
-    <message>
-        <source>Remarks: %1</source>
-        <translation>Remarques : %1</translation>
-    </message>
-</context>
-<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -290,6 +251,45 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <message>
         <source>There is not enough memory for this export; choose a shorter time range.</source>
         <translation>Mémoire insuffisante pour cet export&#xa0;; choisissez une plage de temps plus courte.</translation>
+    </message>
+</context>
+<context>
+    <name>FlightSummary</name>
+    <message>
+        <source>Duration %1</source>
+        <translation>Durée %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>pas de profil, rien n&apos;a été vérifié</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 à la limite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 en alerte</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Voyants : %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Défauts et alertes : %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>rien hors plage dans %1 échantillons de %2 paramètres surveillés</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>aucun paramètre n&apos;a été surveillé pour les limites</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Remarques : %1</translation>
     </message>
 </context>
 <context>

@@ -2,45 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
-    <name></name>
-    <message>
-        <source>Duration %1</source>
-        <translation>Duração %1</translation>
-    </message>
-    <message>
-        <source>no profile, so nothing was checked</source>
-        <translation>sem perfil, nada foi verificado</translation>
-    </message>
-    <message>
-        <source>%1 at the limit</source>
-        <translation>%1 no limite</translation>
-    </message>
-    <message>
-        <source>%1 in warning</source>
-        <translation>%1 em aviso</translation>
-    </message>
-    <message>
-        <source>Lamps: %1</source>
-        <translation>Luzes: %1</translation>
-    </message>
-    <message>
-        <source>Faults and warnings: %1</source>
-        <translation>Falhas e avisos: %1</translation>
-    </message>
-    <message>
-        <source>nothing out of range in %1 samples of %2 watched parameters</source>
-        <translation>nada fora do intervalo em %1 amostras de %2 parâmetros vigiados</translation>
-    </message>
-    <message>
-        <source>no parameter was watched for limits</source>
-        <translation>nenhum parâmetro foi vigiado quanto a limites</translation>
-    </message>
-    <message>
-        <source>Remarks: %1</source>
-        <translation>Observações: %1</translation>
-    </message>
-</context>
-<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -290,6 +251,45 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     <message>
         <source>There is not enough memory for this export; choose a shorter time range.</source>
         <translation>Não há memória suficiente para esta exportação; escolha um intervalo de tempo menor.</translation>
+    </message>
+</context>
+<context>
+    <name>FlightSummary</name>
+    <message>
+        <source>Duration %1</source>
+        <translation>Duração %1</translation>
+    </message>
+    <message>
+        <source>no profile, so nothing was checked</source>
+        <translation>sem perfil, nada foi verificado</translation>
+    </message>
+    <message>
+        <source>%1 at the limit</source>
+        <translation>%1 no limite</translation>
+    </message>
+    <message>
+        <source>%1 in warning</source>
+        <translation>%1 em aviso</translation>
+    </message>
+    <message>
+        <source>Lamps: %1</source>
+        <translation>Luzes: %1</translation>
+    </message>
+    <message>
+        <source>Faults and warnings: %1</source>
+        <translation>Falhas e avisos: %1</translation>
+    </message>
+    <message>
+        <source>nothing out of range in %1 samples of %2 watched parameters</source>
+        <translation>nada fora do intervalo em %1 amostras de %2 parâmetros vigiados</translation>
+    </message>
+    <message>
+        <source>no parameter was watched for limits</source>
+        <translation>nenhum parâmetro foi vigiado quanto a limites</translation>
+    </message>
+    <message>
+        <source>Remarks: %1</source>
+        <translation>Observações: %1</translation>
     </message>
 </context>
 <context>

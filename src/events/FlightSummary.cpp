@@ -55,8 +55,8 @@ void FlightSummary::Count::add(double time)
 
 std::vector<FlightSummary::Part> FlightSummary::parts() const
 {
-    using Text = SummaryTexts;
-    std::vector<Part> parts = {{Part::Words, Text::tr("Duration %1").arg(clockText(duration))}};
+    std::vector<Part> parts = {
+        {Part::Words, SummaryTexts::tr("Duration %1").arg(clockText(duration))}};
     const auto say = [&](const QString& words) { parts.push_back({Part::Words, words}); };
     const auto add = [&](const Count& count, Part::Kind kind, const char* color,
                          const QString& words) {
@@ -65,20 +65,20 @@ std::vector<FlightSummary::Part> FlightSummary::parts() const
         }
     };
     if (!hasProfile) {
-        say(Text::tr("no profile, so nothing was checked"));
+        say(SummaryTexts::tr("no profile, so nothing was checked"));
     }
-    add(limits, Part::Exceedances, "#ff9a9a", Text::tr("%1 at the limit"));
-    add(warnings, Part::Exceedances, "#ffe28a", Text::tr("%1 in warning"));
-    add(lamps, Part::Lamps, "#ffc896", Text::tr("Lamps: %1"));
-    add(faults, Part::Faults, "#ff9696", Text::tr("Faults and warnings: %1"));
+    add(limits, Part::Exceedances, "#ff9a9a", SummaryTexts::tr("%1 at the limit"));
+    add(warnings, Part::Exceedances, "#ffe28a", SummaryTexts::tr("%1 in warning"));
+    add(lamps, Part::Lamps, "#ffc896", SummaryTexts::tr("Lamps: %1"));
+    add(faults, Part::Faults, "#ff9696", SummaryTexts::tr("Faults and warnings: %1"));
     if (limits.times + warnings.times == 0 && watched.parameters > 0) {
-        say(Text::tr("nothing out of range in %1 samples of %2 watched parameters")
+        say(SummaryTexts::tr("nothing out of range in %1 samples of %2 watched parameters")
                 .arg(numberOf(watched.samples), numberOf(watched.parameters)));
     } else if (watched.parameters == 0 && hasProfile) {
-        say(Text::tr("no parameter was watched for limits"));
+        say(SummaryTexts::tr("no parameter was watched for limits"));
     }
     if (remarks > 0) {
-        parts.push_back({Part::Remarks, Text::tr("Remarks: %1").arg(numberOf(remarks)), 0.0,
+        parts.push_back({Part::Remarks, SummaryTexts::tr("Remarks: %1").arg(numberOf(remarks)), 0.0,
                          QColor("#d0d0d0")});
     }
     return parts;
