@@ -13,7 +13,8 @@ declare -A floor=(
     [flight]=4
     [card]=5 [selection]=5 [table]=5 [events]=5 [graph]=5
     [export]=6
-    [app]=7 [cli]=7
+    [report]=7
+    [app]=8 [cli]=8
 )
 failed=0
 complain() {

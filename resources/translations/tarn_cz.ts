@@ -148,6 +148,33 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     </message>
 </context>
 <context>
+    <name>EventLists</name>
+    <message>
+        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
+        <translation>Záznam neobsahuje žádnou zprávu FLOAT parametru s prahovou hodnotou, proto se žádné limity nesledovaly.</translation>
+    </message>
+    <message>
+        <source>No limit event in %1 samples of %2 watched parameters.</source>
+        <translation>Žádná limitní událost. Zkontrolované vzorky: %1, sledované parametry: %2.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of a warning lamp, so none was watched.</source>
+        <translation>Záznam neobsahuje žádnou zprávu výstražné kontrolky, proto se žádná nesledovala.</translation>
+    </message>
+    <message>
+        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
+        <translation>Nerozsvítila se žádná výstražná kontrolka. Zkontrolované vzorky: %1, sledované kontrolky: %2.</translation>
+    </message>
+    <message>
+        <source>No error was active.</source>
+        <translation>Žádná chyba nebyla aktivní.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of an error matrix, so none was watched.</source>
+        <translation>Záznam neobsahuje žádnou zprávu matice chyb, takže žádná nebyla sledována.</translation>
+    </message>
+</context>
+<context>
     <name>EventMarks</name>
     <message>
         <source>%1 came</source>
@@ -240,6 +267,17 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     <message>
         <source>Left out, because no position lies in their time slot: %1 values, %2 events. A longer &quot;Timestamp every&quot; keeps them.</source>
         <translation>Vynecháno, protože v jejich časovém úseku není žádná poloha – hodnoty: %1, události: %2. S delším intervalem „Časový údaj každých“ zůstanou zachovány.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportReport</name>
+    <message>
+        <source>&quot;%1&quot;: a report is a web page or a PDF; end the name in .html or .pdf.</source>
+        <translation>„%1“: zpráva je webová stránka nebo PDF; název musí končit na .html nebo .pdf.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: %2. Choose another folder; the old file, if there was one, is unchanged.</source>
+        <translation>„%1“ nelze zapsat: %2. Zvolte jinou složku; starý soubor, pokud existoval, zůstal beze změny.</translation>
     </message>
 </context>
 <context>
@@ -472,6 +510,247 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     </message>
 </context>
 <context>
+    <name>ReportCharts</name>
+    <message>
+        <source>peak %1 at %2, threshold %3</source>
+        <translation>vrchol %1 v %2, práh %3</translation>
+    </message>
+    <message>
+        <source>The other parameters of %1 meanwhile</source>
+        <translation>Ostatní parametry %1 v té době</translation>
+    </message>
+    <message>
+        <source>The worst, in two minutes each</source>
+        <translation>Nejhorší, po dvou minutách</translation>
+    </message>
+    <message>
+        <source>The whole flight</source>
+        <translation>Celý let</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>Není vybrán žádný parametr.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock</source>
+        <translation>%1 až %2 na hodinách záznamu</translation>
+    </message>
+</context>
+<context>
+    <name>ReportHead</name>
+    <message>
+        <source>not recorded</source>
+        <translation>nezaznamenáno</translation>
+    </message>
+    <message>
+        <source>From, on the recording&apos;s clock</source>
+        <translation>Od, podle hodin záznamu</translation>
+    </message>
+    <message>
+        <source>Until, on the recording&apos;s clock</source>
+        <translation>Do, podle hodin záznamu</translation>
+    </message>
+    <message>
+        <source>From, in UTC</source>
+        <translation>Od, v UTC</translation>
+    </message>
+    <message>
+        <source>Time offset</source>
+        <translation>Časový posun</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Soubor</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Od</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Vzorky</translation>
+    </message>
+    <message>
+        <source>ECU Serial Number</source>
+        <translation>Výrobní č. ECU</translation>
+    </message>
+    <message>
+        <source>Engine Serial Nr.</source>
+        <translation>Výrobní č. motoru</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Zpráva o letu</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>How pages name the language of these texts: &quot;de&quot; for German.</extracomment>
+        <translation>cs</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>žádné</translation>
+    </message>
+    <message>
+        <source>Profile&apos;s SHA-256</source>
+        <translation>SHA-256 profilu</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>No recording was read.</source>
+        <translation>Nebyl přečten žádný záznam.</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Co se stalo</translation>
+    </message>
+    <message>
+        <source>The recording holds no samples, so nothing was checked.</source>
+        <translation>Záznam neobsahuje žádné vzorky, proto nebylo nic zkontrolováno.</translation>
+    </message>
+    <message>
+        <source>Remarks on the recording</source>
+        <translation>Poznámky k záznamu</translation>
+    </message>
+</context>
+<context>
+    <name>ReportLists</name>
+    <message>
+        <source>From</source>
+        <translation>Od</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Trvání</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parametr</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Kontrolka</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Chyba</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Závažnost</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Krajní hodnota</translation>
+    </message>
+    <message>
+        <source>Peak at</source>
+        <translation>Vrchol v</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Prahová hodnota</translation>
+    </message>
+    <message>
+        <source>The %1 worst of %2; &quot;orna-cli events --episodes&quot; lists all.</source>
+        <translation>%1 nejhorších z %2; „orna-cli events --episodes“ vypíše všechny.</translation>
+    </message>
+    <message>
+        <source>Out of range</source>
+        <translation>Mimo rozsah</translation>
+    </message>
+    <message>
+        <source>Without an event: from the first sample on, after a gap, or of a kind that is not watched</source>
+        <translation>Bez události: od prvního vzorku, po mezeře nebo druhu, který se nesleduje</translation>
+    </message>
+    <message>
+        <source>Warning lamps</source>
+        <translation>Výstražné kontrolky</translation>
+    </message>
+    <message>
+        <source>On again without an event</source>
+        <translation>Opět svítí bez události</translation>
+    </message>
+    <message>
+        <source>Error matrices</source>
+        <translation>Matice poruch</translation>
+    </message>
+</context>
+<context>
+    <name>ReportNumbers</name>
+    <message>
+        <source>adds up to %1</source>
+        <translation>celkem %1</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistika</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>Není vybrán žádný parametr.</translation>
+    </message>
+    <message>
+        <source>at</source>
+        <translation>v</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parametr</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Vzorky</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Průměr</translation>
+    </message>
+    <message>
+        <source>Std. Dev.</source>
+        <translation>Směr. odch.</translation>
+    </message>
+    <message>
+        <source>Time Mean</source>
+        <translation>Časový průměr</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Mezery</translation>
+    </message>
+    <message>
+        <source>Besides</source>
+        <translation>Dále</translation>
+    </message>
+</context>
+<context>
     <name>Snapshot</name>
     <message>
         <source>Save Snapshot</source>
@@ -657,6 +936,18 @@ Zvolte složku, do které lze zapisovat, s dostatkem volného místa, a název k
         <source>Main Toolbar</source>
         <translation>Hlavní panel nástrojů</translation>
     </message>
+    <message>
+        <source>Flight &amp;Report...</source>
+        <translation>Z&amp;práva o letu...</translation>
+    </message>
+    <message>
+        <source>Write What Happened on a Few Pages</source>
+        <translation>Zapsat na pár stránek, co se stalo</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Zpráva o letu</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
@@ -732,6 +1023,10 @@ Otevřete kartu (Ctrl+C) nebo přetáhněte její složku do okna.</translation>
         <source>Error matrices</source>
         <translation>Matice poruch</translation>
     </message>
+    <message>
+        <source>Active Errors</source>
+        <translation>Aktivní chyby</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataGraph</name>
@@ -755,14 +1050,6 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     <message>
         <source>Warning/Limit Exceed</source>
         <translation>Překročení výstrah/limitů</translation>
-    </message>
-    <message>
-        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
-        <translation>Záznam neobsahuje žádnou zprávu FLOAT parametru s prahovou hodnotou, proto se žádné limity nesledovaly.</translation>
-    </message>
-    <message>
-        <source>No limit event in %1 samples of %2 watched parameters.</source>
-        <translation>Žádná limitní událost. Zkontrolované vzorky: %1, sledované parametry: %2.</translation>
     </message>
 </context>
 <context>
@@ -789,14 +1076,6 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     <message>
         <source>Warning Lamps</source>
         <translation>Výstražné kontrolky</translation>
-    </message>
-    <message>
-        <source>The recording holds no message of a warning lamp, so none was watched.</source>
-        <translation>Záznam neobsahuje žádnou zprávu výstražné kontrolky, proto se žádná nesledovala.</translation>
-    </message>
-    <message>
-        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
-        <translation>Nerozsvítila se žádná výstražná kontrolka. Zkontrolované vzorky: %1, sledované kontrolky: %2.</translation>
     </message>
 </context>
 <context>
@@ -1521,6 +1800,85 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     </message>
 </context>
 <context>
+    <name>TARN::DialogReport</name>
+    <message>
+        <source>Folder of the Report</source>
+        <translation>Složka zprávy</translation>
+    </message>
+    <message>
+        <source>&amp;Open it when it is written</source>
+        <translation>Poté &amp;otevřít</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Zpráva o letu</translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation>Název souboru v této složce</translation>
+    </message>
+    <message>
+        <source>Web page (HTML)</source>
+        <translation>Webová stránka (HTML)</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Size of the paper that it is printed on</source>
+        <translation>Velikost papíru pro tisk</translation>
+    </message>
+    <message>
+        <source>A range is marked in the graph</source>
+        <translation>Rozsah se vyznačuje v grafu</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>S&amp;ložka</translation>
+    </message>
+    <message>
+        <source>File &amp;Name</source>
+        <translation>&amp;Název souboru</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>&amp;Druh</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>&amp;Papír</translation>
+    </message>
+    <message>
+        <source>&amp;Range</source>
+        <translation>&amp;Rozsah</translation>
+    </message>
+    <message>
+        <source>Write Report</source>
+        <translation>Zapsat zprávu</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
+    <message>
+        <source>Whole flight, %1 to %2</source>
+        <translation>Celý let, %1 až %2</translation>
+    </message>
+    <message>
+        <source>Marked range, %1 to %2</source>
+        <translation>Vyznačený rozsah, %1 až %2</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA – upozornění</translation>
+    </message>
+    <message>
+        <source>The flight report could not be written.</source>
+        <translation>Zprávu o letu se nepodařilo zapsat.</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogStatusBar</name>
     <message>
         <source>Stop loading (Escape)</source>
@@ -1629,21 +1987,6 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     <message>
         <source>The export was stopped; the old file, if there was one, is unchanged.</source>
         <translation>Export byl zastaven; původní soubor, pokud existoval, zůstal beze změny.</translation>
-    </message>
-</context>
-<context>
-    <name>TARN::FaultPeriods</name>
-    <message>
-        <source>Active Errors</source>
-        <translation>Aktivní chyby</translation>
-    </message>
-    <message>
-        <source>No error was active.</source>
-        <translation>Žádná chyba nebyla aktivní.</translation>
-    </message>
-    <message>
-        <source>The recording holds no message of an error matrix, so none was watched.</source>
-        <translation>Záznam neobsahuje žádnou zprávu matice chyb, takže žádná nebyla sledována.</translation>
     </message>
 </context>
 <context>

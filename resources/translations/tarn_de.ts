@@ -148,6 +148,33 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     </message>
 </context>
 <context>
+    <name>EventLists</name>
+    <message>
+        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
+        <translation>Die Aufzeichnung enthält keine FLOAT-Nachricht eines Parameters mit Schwellenwert, daher wurde nichts auf Grenzwerte überwacht.</translation>
+    </message>
+    <message>
+        <source>No limit event in %1 samples of %2 watched parameters.</source>
+        <translation>Kein Grenzwertereignis. Geprüfte Messwerte: %1, überwachte Parameter: %2.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of a warning lamp, so none was watched.</source>
+        <translation>Die Aufzeichnung enthält keine Nachricht einer Warnlampe, daher wurde keine überwacht.</translation>
+    </message>
+    <message>
+        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
+        <translation>Keine Warnlampe leuchtete auf. Geprüfte Messwerte: %1, überwachte Lampen: %2.</translation>
+    </message>
+    <message>
+        <source>No error was active.</source>
+        <translation>Kein Fehler war aktiv.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of an error matrix, so none was watched.</source>
+        <translation>Die Aufzeichnung enthält keine Nachricht einer Fehlermatrix, daher wurde keine überwacht.</translation>
+    </message>
+</context>
+<context>
     <name>EventMarks</name>
     <message>
         <source>%1 came</source>
@@ -240,6 +267,17 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     <message>
         <source>Left out, because no position lies in their time slot: %1 values, %2 events. A longer &quot;Timestamp every&quot; keeps them.</source>
         <translation>Weggelassen, da in ihrem Zeitabschnitt keine Position liegt – Werte: %1, Ereignisse: %2. Mit einem größeren Wert für „Zeitstempel alle“ bleiben sie erhalten.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportReport</name>
+    <message>
+        <source>&quot;%1&quot;: a report is a web page or a PDF; end the name in .html or .pdf.</source>
+        <translation>„%1“: Ein Bericht ist eine Webseite oder ein PDF; der Name muss auf .html oder .pdf enden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: %2. Choose another folder; the old file, if there was one, is unchanged.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2. Wählen Sie einen anderen Ordner; die alte Datei, falls es sie gab, ist unverändert.</translation>
     </message>
 </context>
 <context>
@@ -472,6 +510,247 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     </message>
 </context>
 <context>
+    <name>ReportCharts</name>
+    <message>
+        <source>peak %1 at %2, threshold %3</source>
+        <translation>Spitze %1 um %2, Schwelle %3</translation>
+    </message>
+    <message>
+        <source>The other parameters of %1 meanwhile</source>
+        <translation>Die anderen Parameter von %1 währenddessen</translation>
+    </message>
+    <message>
+        <source>The worst, in two minutes each</source>
+        <translation>Das Schlimmste, je zwei Minuten</translation>
+    </message>
+    <message>
+        <source>The whole flight</source>
+        <translation>Der ganze Flug</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>Kein Parameter ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock</source>
+        <translation>%1 bis %2 auf der Uhr der Aufzeichnung</translation>
+    </message>
+</context>
+<context>
+    <name>ReportHead</name>
+    <message>
+        <source>not recorded</source>
+        <translation>nicht aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>From, on the recording&apos;s clock</source>
+        <translation>Von, auf der Uhr der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Until, on the recording&apos;s clock</source>
+        <translation>Bis, auf der Uhr der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>From, in UTC</source>
+        <translation>Von, in UTC</translation>
+    </message>
+    <message>
+        <source>Time offset</source>
+        <translation>Zeitversatz</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Messwerte</translation>
+    </message>
+    <message>
+        <source>ECU Serial Number</source>
+        <translation>ECU-Seriennummer</translation>
+    </message>
+    <message>
+        <source>Engine Serial Nr.</source>
+        <translation>Triebwerks-Seriennr.</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Flugbericht</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>How pages name the language of these texts: &quot;de&quot; for German.</extracomment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Profile&apos;s SHA-256</source>
+        <translation>SHA-256 des Profils</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programm</translation>
+    </message>
+    <message>
+        <source>No recording was read.</source>
+        <translation>Keine Aufzeichnung wurde gelesen.</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Was geschehen ist</translation>
+    </message>
+    <message>
+        <source>The recording holds no samples, so nothing was checked.</source>
+        <translation>Die Aufzeichnung enthält keine Messwerte, daher wurde nichts geprüft.</translation>
+    </message>
+    <message>
+        <source>Remarks on the recording</source>
+        <translation>Bemerkungen zur Aufzeichnung</translation>
+    </message>
+</context>
+<context>
+    <name>ReportLists</name>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lampe</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Schwere</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Extremwert</translation>
+    </message>
+    <message>
+        <source>Peak at</source>
+        <translation>Spitze um</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Schwellenwert</translation>
+    </message>
+    <message>
+        <source>The %1 worst of %2; &quot;orna-cli events --episodes&quot; lists all.</source>
+        <translation>Die %1 schlimmsten von %2; „orna-cli events --episodes“ listet alle.</translation>
+    </message>
+    <message>
+        <source>Out of range</source>
+        <translation>Außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>Without an event: from the first sample on, after a gap, or of a kind that is not watched</source>
+        <translation>Ohne Ereignis: vom ersten Messwert an, nach einer Lücke oder von einer Art, die nicht überwacht wird</translation>
+    </message>
+    <message>
+        <source>Warning lamps</source>
+        <translation>Warnlampen</translation>
+    </message>
+    <message>
+        <source>On again without an event</source>
+        <translation>Wieder an ohne Ereignis</translation>
+    </message>
+    <message>
+        <source>Error matrices</source>
+        <translation>Fehlermatrizen</translation>
+    </message>
+</context>
+<context>
+    <name>ReportNumbers</name>
+    <message>
+        <source>adds up to %1</source>
+        <translation>ergibt %1</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistik</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>Kein Parameter ist ausgewählt.</translation>
+    </message>
+    <message>
+        <source>at</source>
+        <translation>um</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Messwerte</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Std. Dev.</source>
+        <translation>Std.-Abw.</translation>
+    </message>
+    <message>
+        <source>Time Mean</source>
+        <translation>Zeitmittel</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Lücken</translation>
+    </message>
+    <message>
+        <source>Besides</source>
+        <translation>Außerdem</translation>
+    </message>
+</context>
+<context>
     <name>Snapshot</name>
     <message>
         <source>Save Snapshot</source>
@@ -657,6 +936,18 @@ Wählen Sie einen beschreibbaren Ordner mit genügend freiem Platz und einen Nam
         <source>Main Toolbar</source>
         <translation>Hauptsymbolleiste</translation>
     </message>
+    <message>
+        <source>Flight &amp;Report...</source>
+        <translation>Flug&amp;bericht …</translation>
+    </message>
+    <message>
+        <source>Write What Happened on a Few Pages</source>
+        <translation>Schreiben, was geschah, auf wenigen Seiten</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Flugbericht</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
@@ -732,6 +1023,10 @@ Open a card (Ctrl+C) or drop its folder on the window.</source>
         <source>Error matrices</source>
         <translation>Fehlermatrizen</translation>
     </message>
+    <message>
+        <source>Active Errors</source>
+        <translation>Aktive Fehler</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataGraph</name>
@@ -755,14 +1050,6 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     <message>
         <source>Warning/Limit Exceed</source>
         <translation>Warn-/Grenzwertverletzung</translation>
-    </message>
-    <message>
-        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
-        <translation>Die Aufzeichnung enthält keine FLOAT-Nachricht eines Parameters mit Schwellenwert, daher wurde nichts auf Grenzwerte überwacht.</translation>
-    </message>
-    <message>
-        <source>No limit event in %1 samples of %2 watched parameters.</source>
-        <translation>Kein Grenzwertereignis. Geprüfte Messwerte: %1, überwachte Parameter: %2.</translation>
     </message>
 </context>
 <context>
@@ -789,14 +1076,6 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     <message>
         <source>Warning Lamps</source>
         <translation>Warnlampen</translation>
-    </message>
-    <message>
-        <source>The recording holds no message of a warning lamp, so none was watched.</source>
-        <translation>Die Aufzeichnung enthält keine Nachricht einer Warnlampe, daher wurde keine überwacht.</translation>
-    </message>
-    <message>
-        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
-        <translation>Keine Warnlampe leuchtete auf. Geprüfte Messwerte: %1, überwachte Lampen: %2.</translation>
     </message>
 </context>
 <context>
@@ -1521,6 +1800,85 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     </message>
 </context>
 <context>
+    <name>TARN::DialogReport</name>
+    <message>
+        <source>Folder of the Report</source>
+        <translation>Ordner des Berichts</translation>
+    </message>
+    <message>
+        <source>&amp;Open it when it is written</source>
+        <translation>Danach ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Flugbericht</translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation>Name der Datei in diesem Ordner</translation>
+    </message>
+    <message>
+        <source>Web page (HTML)</source>
+        <translation>Webseite (HTML)</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Size of the paper that it is printed on</source>
+        <translation>Größe des Papiers, auf das gedruckt wird</translation>
+    </message>
+    <message>
+        <source>A range is marked in the graph</source>
+        <translation>Ein Bereich wird im Diagramm markiert</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>&amp;Ordner</translation>
+    </message>
+    <message>
+        <source>File &amp;Name</source>
+        <translation>Datei&amp;name</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>&amp;Art</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>&amp;Papier</translation>
+    </message>
+    <message>
+        <source>&amp;Range</source>
+        <translation>&amp;Bereich</translation>
+    </message>
+    <message>
+        <source>Write Report</source>
+        <translation>Bericht schreiben</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Whole flight, %1 to %2</source>
+        <translation>Ganzer Flug, %1 bis %2</translation>
+    </message>
+    <message>
+        <source>Marked range, %1 to %2</source>
+        <translation>Markierter Bereich, %1 bis %2</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA-Warnung</translation>
+    </message>
+    <message>
+        <source>The flight report could not be written.</source>
+        <translation>Der Flugbericht konnte nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogStatusBar</name>
     <message>
         <source>Stop loading (Escape)</source>
@@ -1629,21 +1987,6 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     <message>
         <source>The export was stopped; the old file, if there was one, is unchanged.</source>
         <translation>Der Export wurde gestoppt; die alte Datei, falls vorhanden, ist unverändert.</translation>
-    </message>
-</context>
-<context>
-    <name>TARN::FaultPeriods</name>
-    <message>
-        <source>Active Errors</source>
-        <translation>Aktive Fehler</translation>
-    </message>
-    <message>
-        <source>No error was active.</source>
-        <translation>Kein Fehler war aktiv.</translation>
-    </message>
-    <message>
-        <source>The recording holds no message of an error matrix, so none was watched.</source>
-        <translation>Die Aufzeichnung enthält keine Nachricht einer Fehlermatrix, daher wurde keine überwacht.</translation>
     </message>
 </context>
 <context>

@@ -148,6 +148,33 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     </message>
 </context>
 <context>
+    <name>EventLists</name>
+    <message>
+        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
+        <translation>La grabación no contiene ningún mensaje FLOAT de un parámetro con umbral; no se ha vigilado ningún límite.</translation>
+    </message>
+    <message>
+        <source>No limit event in %1 samples of %2 watched parameters.</source>
+        <translation>Ningún evento de límite en %1 muestras de %2 parámetros vigilados.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of a warning lamp, so none was watched.</source>
+        <translation>La grabación no contiene ningún mensaje de una luz de aviso; no se ha vigilado ninguna.</translation>
+    </message>
+    <message>
+        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
+        <translation>No se encendió ninguna luz de aviso en %1 muestras de %2 luces.</translation>
+    </message>
+    <message>
+        <source>No error was active.</source>
+        <translation>Ningún error estuvo activo.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of an error matrix, so none was watched.</source>
+        <translation>La grabación no contiene ningún mensaje de una matriz de errores, por lo que no se vigiló ninguna.</translation>
+    </message>
+</context>
+<context>
     <name>EventMarks</name>
     <message>
         <source>%1 came</source>
@@ -240,6 +267,17 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     <message>
         <source>Left out, because no position lies in their time slot: %1 values, %2 events. A longer &quot;Timestamp every&quot; keeps them.</source>
         <translation>Omitidos porque no hay ninguna posición en su intervalo de tiempo: %1 valores, %2 eventos. Un valor mayor de «Marca de tiempo cada» los conserva.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportReport</name>
+    <message>
+        <source>&quot;%1&quot;: a report is a web page or a PDF; end the name in .html or .pdf.</source>
+        <translation>«%1»: un informe es una página web o un PDF; termine el nombre en .html o .pdf.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: %2. Choose another folder; the old file, if there was one, is unchanged.</source>
+        <translation>No se puede escribir «%1»: %2. Elija otra carpeta; el archivo anterior, si existía, no ha cambiado.</translation>
     </message>
 </context>
 <context>
@@ -472,6 +510,247 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     </message>
 </context>
 <context>
+    <name>ReportCharts</name>
+    <message>
+        <source>peak %1 at %2, threshold %3</source>
+        <translation>pico %1 a las %2, umbral %3</translation>
+    </message>
+    <message>
+        <source>The other parameters of %1 meanwhile</source>
+        <translation>Los demás parámetros de %1 mientras tanto</translation>
+    </message>
+    <message>
+        <source>The worst, in two minutes each</source>
+        <translation>Lo peor, dos minutos cada uno</translation>
+    </message>
+    <message>
+        <source>The whole flight</source>
+        <translation>El vuelo completo</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>No hay ningún parámetro seleccionado.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock</source>
+        <translation>%1 a %2 en el reloj de la grabación</translation>
+    </message>
+</context>
+<context>
+    <name>ReportHead</name>
+    <message>
+        <source>not recorded</source>
+        <translation>no registrada</translation>
+    </message>
+    <message>
+        <source>From, on the recording&apos;s clock</source>
+        <translation>Desde, en el reloj de la grabación</translation>
+    </message>
+    <message>
+        <source>Until, on the recording&apos;s clock</source>
+        <translation>Hasta, en el reloj de la grabación</translation>
+    </message>
+    <message>
+        <source>From, in UTC</source>
+        <translation>Desde, en UTC</translation>
+    </message>
+    <message>
+        <source>Time offset</source>
+        <translation>Desfase de tiempo</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Desde</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Hasta</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Muestras</translation>
+    </message>
+    <message>
+        <source>ECU Serial Number</source>
+        <translation>N.º de serie de la ECU</translation>
+    </message>
+    <message>
+        <source>Engine Serial Nr.</source>
+        <translation>N.º de serie del motor</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Informe de vuelo</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>How pages name the language of these texts: &quot;de&quot; for German.</extracomment>
+        <translation>es</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Profile&apos;s SHA-256</source>
+        <translation>SHA-256 del perfil</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>No recording was read.</source>
+        <translation>No se leyó ninguna grabación.</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Qué ha pasado</translation>
+    </message>
+    <message>
+        <source>The recording holds no samples, so nothing was checked.</source>
+        <translation>La grabación no contiene ninguna muestra; no se ha comprobado nada.</translation>
+    </message>
+    <message>
+        <source>Remarks on the recording</source>
+        <translation>Observaciones sobre la grabación</translation>
+    </message>
+</context>
+<context>
+    <name>ReportLists</name>
+    <message>
+        <source>From</source>
+        <translation>Desde</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Hasta</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parámetro</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Luz</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravedad</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Valor extremo</translation>
+    </message>
+    <message>
+        <source>Peak at</source>
+        <translation>Pico a las</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Umbral</translation>
+    </message>
+    <message>
+        <source>The %1 worst of %2; &quot;orna-cli events --episodes&quot; lists all.</source>
+        <translation>Los %1 peores de %2; «orna-cli events --episodes» los enumera todos.</translation>
+    </message>
+    <message>
+        <source>Out of range</source>
+        <translation>Fuera de rango</translation>
+    </message>
+    <message>
+        <source>Without an event: from the first sample on, after a gap, or of a kind that is not watched</source>
+        <translation>Sin evento: desde la primera muestra, tras un hueco, o de un tipo que no se vigila</translation>
+    </message>
+    <message>
+        <source>Warning lamps</source>
+        <translation>Luces de aviso</translation>
+    </message>
+    <message>
+        <source>On again without an event</source>
+        <translation>Encendida de nuevo sin evento</translation>
+    </message>
+    <message>
+        <source>Error matrices</source>
+        <translation>Matrices de fallos</translation>
+    </message>
+</context>
+<context>
+    <name>ReportNumbers</name>
+    <message>
+        <source>adds up to %1</source>
+        <translation>suma %1</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Estadísticas</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>No hay ningún parámetro seleccionado.</translation>
+    </message>
+    <message>
+        <source>at</source>
+        <translation>a las</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parámetro</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Muestras</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Mín</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Máx</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Media</translation>
+    </message>
+    <message>
+        <source>Std. Dev.</source>
+        <translation>Desv. est.</translation>
+    </message>
+    <message>
+        <source>Time Mean</source>
+        <translation>Media temporal</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Huecos</translation>
+    </message>
+    <message>
+        <source>Besides</source>
+        <translation>Además</translation>
+    </message>
+</context>
+<context>
     <name>Snapshot</name>
     <message>
         <source>Save Snapshot</source>
@@ -657,6 +936,18 @@ Elija una carpeta en la que se pueda escribir, con espacio libre suficiente, y u
         <source>Main Toolbar</source>
         <translation>Barra principal</translation>
     </message>
+    <message>
+        <source>Flight &amp;Report...</source>
+        <translation>&amp;Informe de vuelo...</translation>
+    </message>
+    <message>
+        <source>Write What Happened on a Few Pages</source>
+        <translation>Escribir lo que pasó en pocas páginas</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Informe de vuelo</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
@@ -732,6 +1023,10 @@ Abra una tarjeta (Ctrl+C) o suelte su carpeta en la ventana.</translation>
         <source>Error matrices</source>
         <translation>Matrices de fallos</translation>
     </message>
+    <message>
+        <source>Active Errors</source>
+        <translation>Errores activos</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataGraph</name>
@@ -755,14 +1050,6 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     <message>
         <source>Warning/Limit Exceed</source>
         <translation>Avisos/límites superados</translation>
-    </message>
-    <message>
-        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
-        <translation>La grabación no contiene ningún mensaje FLOAT de un parámetro con umbral; no se ha vigilado ningún límite.</translation>
-    </message>
-    <message>
-        <source>No limit event in %1 samples of %2 watched parameters.</source>
-        <translation>Ningún evento de límite en %1 muestras de %2 parámetros vigilados.</translation>
     </message>
 </context>
 <context>
@@ -789,14 +1076,6 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     <message>
         <source>Warning Lamps</source>
         <translation>Luces de aviso</translation>
-    </message>
-    <message>
-        <source>The recording holds no message of a warning lamp, so none was watched.</source>
-        <translation>La grabación no contiene ningún mensaje de una luz de aviso; no se ha vigilado ninguna.</translation>
-    </message>
-    <message>
-        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
-        <translation>No se encendió ninguna luz de aviso en %1 muestras de %2 luces.</translation>
     </message>
 </context>
 <context>
@@ -1521,6 +1800,85 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     </message>
 </context>
 <context>
+    <name>TARN::DialogReport</name>
+    <message>
+        <source>Folder of the Report</source>
+        <translation>Carpeta del informe</translation>
+    </message>
+    <message>
+        <source>&amp;Open it when it is written</source>
+        <translation>&amp;Abrir al terminar</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Informe de vuelo</translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation>Nombre del archivo en esta carpeta</translation>
+    </message>
+    <message>
+        <source>Web page (HTML)</source>
+        <translation>Página web (HTML)</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Size of the paper that it is printed on</source>
+        <translation>Tamaño del papel en que se imprime</translation>
+    </message>
+    <message>
+        <source>A range is marked in the graph</source>
+        <translation>Un rango se marca en el gráfico</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>&amp;Carpeta</translation>
+    </message>
+    <message>
+        <source>File &amp;Name</source>
+        <translation>&amp;Nombre del archivo</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>&amp;Tipo</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>&amp;Papel</translation>
+    </message>
+    <message>
+        <source>&amp;Range</source>
+        <translation>&amp;Rango</translation>
+    </message>
+    <message>
+        <source>Write Report</source>
+        <translation>Escribir informe</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Whole flight, %1 to %2</source>
+        <translation>Vuelo completo, %1 a %2</translation>
+    </message>
+    <message>
+        <source>Marked range, %1 to %2</source>
+        <translation>Rango marcado, %1 a %2</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso de ORNA</translation>
+    </message>
+    <message>
+        <source>The flight report could not be written.</source>
+        <translation>No se pudo escribir el informe de vuelo.</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogStatusBar</name>
     <message>
         <source>Stop loading (Escape)</source>
@@ -1629,21 +1987,6 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     <message>
         <source>The export was stopped; the old file, if there was one, is unchanged.</source>
         <translation>La exportación se ha detenido; el archivo anterior, si lo había, no ha cambiado.</translation>
-    </message>
-</context>
-<context>
-    <name>TARN::FaultPeriods</name>
-    <message>
-        <source>Active Errors</source>
-        <translation>Errores activos</translation>
-    </message>
-    <message>
-        <source>No error was active.</source>
-        <translation>Ningún error estuvo activo.</translation>
-    </message>
-    <message>
-        <source>The recording holds no message of an error matrix, so none was watched.</source>
-        <translation>La grabación no contiene ningún mensaje de una matriz de errores, por lo que no se vigiló ninguna.</translation>
     </message>
 </context>
 <context>

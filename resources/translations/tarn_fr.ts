@@ -148,6 +148,33 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
 </context>
 <context>
+    <name>EventLists</name>
+    <message>
+        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
+        <translation>L&apos;enregistrement ne contient aucun message FLOAT d&apos;un paramètre à seuil ; aucune limite n&apos;a été surveillée.</translation>
+    </message>
+    <message>
+        <source>No limit event in %1 samples of %2 watched parameters.</source>
+        <translation>Aucun événement de limite dans %1 échantillons de %2 paramètres surveillés.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of a warning lamp, so none was watched.</source>
+        <translation>L&apos;enregistrement ne contient aucun message de voyant d&apos;alerte ; aucun n&apos;a été surveillé.</translation>
+    </message>
+    <message>
+        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
+        <translation>Aucun voyant d&apos;alerte ne s&apos;est allumé dans %1 échantillons de %2 voyants.</translation>
+    </message>
+    <message>
+        <source>No error was active.</source>
+        <translation>Aucune erreur n&apos;a été active.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of an error matrix, so none was watched.</source>
+        <translation>L&apos;enregistrement ne contient aucun message d&apos;une matrice d&apos;erreurs, donc aucune n&apos;a été surveillée.</translation>
+    </message>
+</context>
+<context>
     <name>EventMarks</name>
     <message>
         <source>%1 came</source>
@@ -243,6 +270,17 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
 </context>
 <context>
+    <name>ExportReport</name>
+    <message>
+        <source>&quot;%1&quot;: a report is a web page or a PDF; end the name in .html or .pdf.</source>
+        <translation>« %1 »&#xa0;: un rapport est une page web ou un PDF ; terminez le nom par .html ou .pdf.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: %2. Choose another folder; the old file, if there was one, is unchanged.</source>
+        <translation>« %1 » ne peut pas être écrit&#xa0;: %2. Choisissez un autre dossier ; l&apos;ancien fichier, s&apos;il existait, est inchangé.</translation>
+    </message>
+</context>
+<context>
     <name>Exporter</name>
     <message>
         <source>&quot;%1&quot; is the recording itself. Choose another name or folder.</source>
@@ -273,11 +311,11 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
     <message>
         <source>Lamps: %1</source>
-        <translation>Voyants : %1</translation>
+        <translation>Voyants&#xa0;: %1</translation>
     </message>
     <message>
         <source>Faults and warnings: %1</source>
-        <translation>Défauts et alertes : %1</translation>
+        <translation>Défauts et alertes&#xa0;: %1</translation>
     </message>
     <message>
         <source>nothing out of range in %1 samples of %2 watched parameters</source>
@@ -289,7 +327,7 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
     <message>
         <source>Remarks: %1</source>
-        <translation>Remarques : %1</translation>
+        <translation>Remarques&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -469,6 +507,247 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
         <translation>Dates d&apos;en-tête de %1 à %2, mais les échantillons couvrent %3 s&#xa0;: les fichiers ne sont pas d&apos;un même vol</translation>
+    </message>
+</context>
+<context>
+    <name>ReportCharts</name>
+    <message>
+        <source>peak %1 at %2, threshold %3</source>
+        <translation>pic %1 à %2, seuil %3</translation>
+    </message>
+    <message>
+        <source>The other parameters of %1 meanwhile</source>
+        <translation>Les autres paramètres de %1 pendant ce temps</translation>
+    </message>
+    <message>
+        <source>The worst, in two minutes each</source>
+        <translation>Le pire, deux minutes chacun</translation>
+    </message>
+    <message>
+        <source>The whole flight</source>
+        <translation>Le vol entier</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>Aucun paramètre n&apos;est sélectionné.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock</source>
+        <translation>%1 à %2 à l&apos;horloge de l&apos;enregistrement</translation>
+    </message>
+</context>
+<context>
+    <name>ReportHead</name>
+    <message>
+        <source>not recorded</source>
+        <translation>non enregistrée</translation>
+    </message>
+    <message>
+        <source>From, on the recording&apos;s clock</source>
+        <translation>De, à l&apos;horloge de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>Until, on the recording&apos;s clock</source>
+        <translation>À, à l&apos;horloge de l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>From, in UTC</source>
+        <translation>De, en UTC</translation>
+    </message>
+    <message>
+        <source>Time offset</source>
+        <translation>Décalage horaire</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Jusqu&apos;à</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Échantillons</translation>
+    </message>
+    <message>
+        <source>ECU Serial Number</source>
+        <translation>N° de série ECU</translation>
+    </message>
+    <message>
+        <source>Engine Serial Nr.</source>
+        <translation>N° de série moteur</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Rapport de vol</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>How pages name the language of these texts: &quot;de&quot; for German.</extracomment>
+        <translation>fr</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>Profile&apos;s SHA-256</source>
+        <translation>SHA-256 du profil</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>No recording was read.</source>
+        <translation>Aucun enregistrement n&apos;a été lu.</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>Ce qui s&apos;est passé</translation>
+    </message>
+    <message>
+        <source>The recording holds no samples, so nothing was checked.</source>
+        <translation>L&apos;enregistrement ne contient aucun échantillon ; rien n&apos;a été vérifié.</translation>
+    </message>
+    <message>
+        <source>Remarks on the recording</source>
+        <translation>Remarques sur l&apos;enregistrement</translation>
+    </message>
+</context>
+<context>
+    <name>ReportLists</name>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Jusqu&apos;à</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Voyant</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravité</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Valeur extrême</translation>
+    </message>
+    <message>
+        <source>Peak at</source>
+        <translation>Pic à</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>The %1 worst of %2; &quot;orna-cli events --episodes&quot; lists all.</source>
+        <translation>Les %1 pires sur %2 ; « orna-cli events --episodes » les donne tous.</translation>
+    </message>
+    <message>
+        <source>Out of range</source>
+        <translation>Hors plage</translation>
+    </message>
+    <message>
+        <source>Without an event: from the first sample on, after a gap, or of a kind that is not watched</source>
+        <translation>Sans événement&#xa0;: dès le premier échantillon, après une lacune, ou d&apos;un genre non surveillé</translation>
+    </message>
+    <message>
+        <source>Warning lamps</source>
+        <translation>Voyants d&apos;alerte</translation>
+    </message>
+    <message>
+        <source>On again without an event</source>
+        <translation>Rallumé sans événement</translation>
+    </message>
+    <message>
+        <source>Error matrices</source>
+        <translation>Matrices de défauts</translation>
+    </message>
+</context>
+<context>
+    <name>ReportNumbers</name>
+    <message>
+        <source>adds up to %1</source>
+        <translation>fait en tout %1</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Statistiques</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>Aucun paramètre n&apos;est sélectionné.</translation>
+    </message>
+    <message>
+        <source>at</source>
+        <translation>à</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Échantillons</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Moyenne</translation>
+    </message>
+    <message>
+        <source>Std. Dev.</source>
+        <translation>Écart type</translation>
+    </message>
+    <message>
+        <source>Time Mean</source>
+        <translation>Moyenne temporelle</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Trous</translation>
+    </message>
+    <message>
+        <source>Besides</source>
+        <translation>En outre</translation>
     </message>
 </context>
 <context>
@@ -657,6 +936,18 @@ Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, e
         <source>Main Toolbar</source>
         <translation>Barre d&apos;outils principale</translation>
     </message>
+    <message>
+        <source>Flight &amp;Report...</source>
+        <translation>&amp;Rapport de vol...</translation>
+    </message>
+    <message>
+        <source>Write What Happened on a Few Pages</source>
+        <translation>Écrire ce qui s&apos;est passé en quelques pages</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Rapport de vol</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
@@ -732,6 +1023,10 @@ Ouvrez une carte (Ctrl+C) ou déposez son dossier sur la fenêtre.</translation>
         <source>Error matrices</source>
         <translation>Matrices de défauts</translation>
     </message>
+    <message>
+        <source>Active Errors</source>
+        <translation>Erreurs actives</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataGraph</name>
@@ -755,14 +1050,6 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     <message>
         <source>Warning/Limit Exceed</source>
         <translation>Dépassements alerte/limite</translation>
-    </message>
-    <message>
-        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
-        <translation>L&apos;enregistrement ne contient aucun message FLOAT d&apos;un paramètre à seuil&#xa0;; aucune limite n&apos;a été surveillée.</translation>
-    </message>
-    <message>
-        <source>No limit event in %1 samples of %2 watched parameters.</source>
-        <translation>Aucun événement de limite dans %1 échantillons de %2 paramètres surveillés.</translation>
     </message>
 </context>
 <context>
@@ -789,14 +1076,6 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     <message>
         <source>Warning Lamps</source>
         <translation>Voyants d&apos;alerte</translation>
-    </message>
-    <message>
-        <source>The recording holds no message of a warning lamp, so none was watched.</source>
-        <translation>L&apos;enregistrement ne contient aucun message de voyant d&apos;alerte&#xa0;; aucun n&apos;a été surveillé.</translation>
-    </message>
-    <message>
-        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
-        <translation>Aucun voyant d&apos;alerte ne s&apos;est allumé dans %1 échantillons de %2 voyants.</translation>
     </message>
 </context>
 <context>
@@ -1521,6 +1800,85 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
 </context>
 <context>
+    <name>TARN::DialogReport</name>
+    <message>
+        <source>Folder of the Report</source>
+        <translation>Dossier du rapport</translation>
+    </message>
+    <message>
+        <source>&amp;Open it when it is written</source>
+        <translation>L&apos;&amp;ouvrir ensuite</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Rapport de vol</translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation>Nom du fichier dans ce dossier</translation>
+    </message>
+    <message>
+        <source>Web page (HTML)</source>
+        <translation>Page web (HTML)</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Size of the paper that it is printed on</source>
+        <translation>Format du papier d&apos;impression</translation>
+    </message>
+    <message>
+        <source>A range is marked in the graph</source>
+        <translation>Une plage se marque dans le graphique</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>&amp;Dossier</translation>
+    </message>
+    <message>
+        <source>File &amp;Name</source>
+        <translation>&amp;Nom du fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>&amp;Genre</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>&amp;Papier</translation>
+    </message>
+    <message>
+        <source>&amp;Range</source>
+        <translation>&amp;Plage</translation>
+    </message>
+    <message>
+        <source>Write Report</source>
+        <translation>Écrire le rapport</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Whole flight, %1 to %2</source>
+        <translation>Vol entier, %1 à %2</translation>
+    </message>
+    <message>
+        <source>Marked range, %1 to %2</source>
+        <translation>Plage marquée, %1 à %2</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA - Avertissement</translation>
+    </message>
+    <message>
+        <source>The flight report could not be written.</source>
+        <translation>Le rapport de vol n&apos;a pas pu être écrit.</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogStatusBar</name>
     <message>
         <source>Stop loading (Escape)</source>
@@ -1629,21 +1987,6 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     <message>
         <source>The export was stopped; the old file, if there was one, is unchanged.</source>
         <translation>L&apos;export a été arrêté&#xa0;; l&apos;ancien fichier, s&apos;il y en avait un, est inchangé.</translation>
-    </message>
-</context>
-<context>
-    <name>TARN::FaultPeriods</name>
-    <message>
-        <source>Active Errors</source>
-        <translation>Erreurs actives</translation>
-    </message>
-    <message>
-        <source>No error was active.</source>
-        <translation>Aucune erreur n&apos;a été active.</translation>
-    </message>
-    <message>
-        <source>The recording holds no message of an error matrix, so none was watched.</source>
-        <translation>L&apos;enregistrement ne contient aucun message d&apos;une matrice d&apos;erreurs, donc aucune n&apos;a été surveillée.</translation>
     </message>
 </context>
 <context>

@@ -148,6 +148,33 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     </message>
 </context>
 <context>
+    <name>EventLists</name>
+    <message>
+        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
+        <translation>A gravação não contém nenhuma mensagem FLOAT de um parâmetro com limiar; nenhum limite foi monitorado.</translation>
+    </message>
+    <message>
+        <source>No limit event in %1 samples of %2 watched parameters.</source>
+        <translation>Nenhum evento de limite em %1 amostras de %2 parâmetros monitorados.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of a warning lamp, so none was watched.</source>
+        <translation>A gravação não contém nenhuma mensagem de luz de aviso; nenhuma foi monitorada.</translation>
+    </message>
+    <message>
+        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
+        <translation>Nenhuma luz de aviso acendeu em %1 amostras de %2 luzes.</translation>
+    </message>
+    <message>
+        <source>No error was active.</source>
+        <translation>Nenhum erro esteve ativo.</translation>
+    </message>
+    <message>
+        <source>The recording holds no message of an error matrix, so none was watched.</source>
+        <translation>A gravação não contém nenhuma mensagem de uma matriz de erros, portanto nenhuma foi vigiada.</translation>
+    </message>
+</context>
+<context>
     <name>EventMarks</name>
     <message>
         <source>%1 came</source>
@@ -240,6 +267,17 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     <message>
         <source>Left out, because no position lies in their time slot: %1 values, %2 events. A longer &quot;Timestamp every&quot; keeps them.</source>
         <translation>Omitidos, porque não há nenhuma posição no seu intervalo de tempo: %1 valores, %2 eventos. Um valor maior de &quot;Ponto a cada&quot; os mantém.</translation>
+    </message>
+</context>
+<context>
+    <name>ExportReport</name>
+    <message>
+        <source>&quot;%1&quot;: a report is a web page or a PDF; end the name in .html or .pdf.</source>
+        <translation>&quot;%1&quot;: um relatório é uma página web ou um PDF; termine o nome em .html ou .pdf.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: %2. Choose another folder; the old file, if there was one, is unchanged.</source>
+        <translation>Não é possível gravar &quot;%1&quot;: %2. Escolha outra pasta; o arquivo antigo, se existia, não mudou.</translation>
     </message>
 </context>
 <context>
@@ -472,6 +510,247 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     </message>
 </context>
 <context>
+    <name>ReportCharts</name>
+    <message>
+        <source>peak %1 at %2, threshold %3</source>
+        <translation>pico %1 às %2, limiar %3</translation>
+    </message>
+    <message>
+        <source>The other parameters of %1 meanwhile</source>
+        <translation>Os outros parâmetros de %1 enquanto isso</translation>
+    </message>
+    <message>
+        <source>The worst, in two minutes each</source>
+        <translation>O pior, dois minutos cada</translation>
+    </message>
+    <message>
+        <source>The whole flight</source>
+        <translation>O voo inteiro</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>Nenhum parâmetro está selecionado.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock</source>
+        <translation>%1 a %2 no relógio da gravação</translation>
+    </message>
+</context>
+<context>
+    <name>ReportHead</name>
+    <message>
+        <source>not recorded</source>
+        <translation>não gravada</translation>
+    </message>
+    <message>
+        <source>From, on the recording&apos;s clock</source>
+        <translation>De, no relógio da gravação</translation>
+    </message>
+    <message>
+        <source>Until, on the recording&apos;s clock</source>
+        <translation>Até, no relógio da gravação</translation>
+    </message>
+    <message>
+        <source>From, in UTC</source>
+        <translation>De, em UTC</translation>
+    </message>
+    <message>
+        <source>Time offset</source>
+        <translation>Deslocamento de tempo</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Até</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Amostras</translation>
+    </message>
+    <message>
+        <source>ECU Serial Number</source>
+        <translation>Nº de série da ECU</translation>
+    </message>
+    <message>
+        <source>Engine Serial Nr.</source>
+        <translation>Nº de série do motor</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Relatório de voo</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>How pages name the language of these texts: &quot;de&quot; for German.</extracomment>
+        <translation>pt-BR</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Perfil</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhuma</translation>
+    </message>
+    <message>
+        <source>Profile&apos;s SHA-256</source>
+        <translation>SHA-256 do perfil</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>No recording was read.</source>
+        <translation>Nenhuma gravação foi lida.</translation>
+    </message>
+    <message>
+        <source>What happened</source>
+        <translation>O que aconteceu</translation>
+    </message>
+    <message>
+        <source>The recording holds no samples, so nothing was checked.</source>
+        <translation>A gravação não contém nenhuma amostra; nada foi verificado.</translation>
+    </message>
+    <message>
+        <source>Remarks on the recording</source>
+        <translation>Observações sobre a gravação</translation>
+    </message>
+</context>
+<context>
+    <name>ReportLists</name>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>Until</source>
+        <translation>Até</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parâmetro</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Luz</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Severity</source>
+        <translation>Gravidade</translation>
+    </message>
+    <message>
+        <source>Peak</source>
+        <translation>Valor extremo</translation>
+    </message>
+    <message>
+        <source>Peak at</source>
+        <translation>Pico às</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Limiar</translation>
+    </message>
+    <message>
+        <source>The %1 worst of %2; &quot;orna-cli events --episodes&quot; lists all.</source>
+        <translation>Os %1 piores de %2; &quot;orna-cli events --episodes&quot; lista todos.</translation>
+    </message>
+    <message>
+        <source>Out of range</source>
+        <translation>Fora da faixa</translation>
+    </message>
+    <message>
+        <source>Without an event: from the first sample on, after a gap, or of a kind that is not watched</source>
+        <translation>Sem evento: desde a primeira amostra, após uma lacuna, ou de um tipo que não é vigiado</translation>
+    </message>
+    <message>
+        <source>Warning lamps</source>
+        <translation>Luzes de aviso</translation>
+    </message>
+    <message>
+        <source>On again without an event</source>
+        <translation>Acesa de novo sem evento</translation>
+    </message>
+    <message>
+        <source>Error matrices</source>
+        <translation>Matrizes de falhas</translation>
+    </message>
+</context>
+<context>
+    <name>ReportNumbers</name>
+    <message>
+        <source>adds up to %1</source>
+        <translation>soma %1</translation>
+    </message>
+    <message>
+        <source>Statistics</source>
+        <translation>Estatísticas</translation>
+    </message>
+    <message>
+        <source>No parameter is selected.</source>
+        <translation>Nenhum parâmetro está selecionado.</translation>
+    </message>
+    <message>
+        <source>at</source>
+        <translation>às</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parâmetro</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Amostras</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Mín</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Máx</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Média</translation>
+    </message>
+    <message>
+        <source>Std. Dev.</source>
+        <translation>Desv. padrão</translation>
+    </message>
+    <message>
+        <source>Time Mean</source>
+        <translation>Média temporal</translation>
+    </message>
+    <message>
+        <source>Gaps</source>
+        <translation>Lacunas</translation>
+    </message>
+    <message>
+        <source>Besides</source>
+        <translation>Além disso</translation>
+    </message>
+</context>
+<context>
     <name>Snapshot</name>
     <message>
         <source>Save Snapshot</source>
@@ -657,6 +936,18 @@ Escolha uma pasta em que se possa escrever, com espaço livre suficiente, e um n
         <source>Main Toolbar</source>
         <translation>Barra de ferramentas principal</translation>
     </message>
+    <message>
+        <source>Flight &amp;Report...</source>
+        <translation>&amp;Relatório de voo...</translation>
+    </message>
+    <message>
+        <source>Write What Happened on a Few Pages</source>
+        <translation>Escrever o que aconteceu em poucas páginas</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Relatório de voo</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
@@ -732,6 +1023,10 @@ Abra um cartão (Ctrl+C) ou solte a pasta dele na janela.</translation>
         <source>Error matrices</source>
         <translation>Matrizes de falhas</translation>
     </message>
+    <message>
+        <source>Active Errors</source>
+        <translation>Erros ativos</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataGraph</name>
@@ -755,14 +1050,6 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     <message>
         <source>Warning/Limit Exceed</source>
         <translation>Aviso/limite excedido</translation>
-    </message>
-    <message>
-        <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
-        <translation>A gravação não contém nenhuma mensagem FLOAT de um parâmetro com limiar; nenhum limite foi monitorado.</translation>
-    </message>
-    <message>
-        <source>No limit event in %1 samples of %2 watched parameters.</source>
-        <translation>Nenhum evento de limite em %1 amostras de %2 parâmetros monitorados.</translation>
     </message>
 </context>
 <context>
@@ -789,14 +1076,6 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     <message>
         <source>Warning Lamps</source>
         <translation>Luzes de aviso</translation>
-    </message>
-    <message>
-        <source>The recording holds no message of a warning lamp, so none was watched.</source>
-        <translation>A gravação não contém nenhuma mensagem de luz de aviso; nenhuma foi monitorada.</translation>
-    </message>
-    <message>
-        <source>No warning lamp came on in %1 samples of %2 lamps.</source>
-        <translation>Nenhuma luz de aviso acendeu em %1 amostras de %2 luzes.</translation>
     </message>
 </context>
 <context>
@@ -1521,6 +1800,85 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     </message>
 </context>
 <context>
+    <name>TARN::DialogReport</name>
+    <message>
+        <source>Folder of the Report</source>
+        <translation>Pasta do relatório</translation>
+    </message>
+    <message>
+        <source>&amp;Open it when it is written</source>
+        <translation>&amp;Abrir ao terminar</translation>
+    </message>
+    <message>
+        <source>Flight Report</source>
+        <translation>Relatório de voo</translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation>Nome do arquivo nesta pasta</translation>
+    </message>
+    <message>
+        <source>Web page (HTML)</source>
+        <translation>Página web (HTML)</translation>
+    </message>
+    <message>
+        <source>PDF</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Size of the paper that it is printed on</source>
+        <translation>Tamanho do papel em que é impresso</translation>
+    </message>
+    <message>
+        <source>A range is marked in the graph</source>
+        <translation>Um intervalo é marcado no gráfico</translation>
+    </message>
+    <message>
+        <source>&amp;Folder</source>
+        <translation>&amp;Pasta</translation>
+    </message>
+    <message>
+        <source>File &amp;Name</source>
+        <translation>&amp;Nome do arquivo</translation>
+    </message>
+    <message>
+        <source>&amp;Kind</source>
+        <translation>&amp;Tipo</translation>
+    </message>
+    <message>
+        <source>&amp;Paper</source>
+        <translation>Pap&amp;el</translation>
+    </message>
+    <message>
+        <source>&amp;Range</source>
+        <translation>&amp;Intervalo</translation>
+    </message>
+    <message>
+        <source>Write Report</source>
+        <translation>Gravar relatório</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Whole flight, %1 to %2</source>
+        <translation>Voo inteiro, %1 a %2</translation>
+    </message>
+    <message>
+        <source>Marked range, %1 to %2</source>
+        <translation>Intervalo marcado, %1 a %2</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso do ORNA</translation>
+    </message>
+    <message>
+        <source>The flight report could not be written.</source>
+        <translation>O relatório de voo não pôde ser gravado.</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogStatusBar</name>
     <message>
         <source>Stop loading (Escape)</source>
@@ -1629,21 +1987,6 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     <message>
         <source>The export was stopped; the old file, if there was one, is unchanged.</source>
         <translation>A exportação foi interrompida; o arquivo antigo, se havia um, permanece inalterado.</translation>
-    </message>
-</context>
-<context>
-    <name>TARN::FaultPeriods</name>
-    <message>
-        <source>Active Errors</source>
-        <translation>Erros ativos</translation>
-    </message>
-    <message>
-        <source>No error was active.</source>
-        <translation>Nenhum erro esteve ativo.</translation>
-    </message>
-    <message>
-        <source>The recording holds no message of an error matrix, so none was watched.</source>
-        <translation>A gravação não contém nenhuma mensagem de uma matriz de erros, portanto nenhuma foi vigiada.</translation>
     </message>
 </context>
 <context>

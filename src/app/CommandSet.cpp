@@ -52,6 +52,8 @@ std::vector<CommandSet::Command> CommandSet::commands()
          tr("Export Google Earth KML File")},
         {Type::ExportCsv, file, Next, true, "", "exportCsv", tr("Export CSV/CAN File"),
          tr("Export CSV/CAN File")},
+        {Type::FlightReport, file, Next, true, "Ctrl+R", "report", tr("Flight &Report..."),
+         tr("Write What Happened on a Few Pages"), tr("Flight Report")},
         {Type::Quit, file, First, false, "Ctrl+Q", "quit", tr("&Quit"), tr("Quit Application")},
         {Type::RecordDetails, extras, Next, false, "Ctrl+I", "details", tr("Recording Details"),
          tr("Show the Header and the Damages of the Recording")},

@@ -25,7 +25,8 @@ enum class ActionType
     Preferences = 14,
     ExportKml = 16,
     ExportCsv = 17,
-    RecordDetails = 18
+    RecordDetails = 18,
+    FlightReport = 19
 };
 
 /// The commands of the main window, in its menus and its toolbar.

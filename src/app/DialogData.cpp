@@ -35,7 +35,8 @@ DialogData::DialogData(Session& session, QWidget* parent)
     addView(new DialogDataTable(session), "canStatistic", tr("Data"));
     addView(new DialogDataLimit(session, mEpisodes), "limit", tr("Limit/Warning Exceed"));
     addView(mGraph, "graphSingle", tr("Graph"));
-    addView(new DialogDataWarning(session, mEpisodes), "warningLamp", tr("Warning Lamps"), hasWarningLamps);
+    addView(new DialogDataWarning(session, mEpisodes), "warningLamp", tr("Warning Lamps"),
+            hasWarningLamps);
     addView(new DialogDataErrorMatrix(session, mEpisodes), "faultMatrix", tr("Fault Matrix"),
             [](const ProfileInfo& profile) { return !profile.faultMatrices.empty(); });
     auto* layout = new QVBoxLayout(this);

@@ -169,11 +169,8 @@ void DialogMain::connectExports()
 {
     ActivityBar& bar = mStatusBar->exporting();
     const auto enable = [this] {
-        const auto& flight = mSession.flight();
-        const bool isPossible =
-            flight != nullptr && !flight->samples().empty() && !mExports->isRunning();
         for (const ActionType command : mExports->commands()) {
-            mCommands->setEnabled(command, isPossible);
+            mCommands->setEnabled(command, mExports->isPossible(command));
         }
     };
     connect(&mSession, &Session::flightChanged, this, enable);

@@ -2,6 +2,7 @@
 
 #include "export/DialogExportCsv.h"
 #include "export/DialogExportKml.h"
+#include "report/DialogReport.h"
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QMessageBox>
@@ -11,7 +12,8 @@ namespace TARN {
 ExportRunner::ExportRunner(Session& session, QWidget& window)
     : QObject(&window), mSession(session),
       mWindow(window), mFaces{{ActionType::ExportKml, new DialogExportKml(&window)},
-                              {ActionType::ExportCsv, new DialogExportCsv(&window)}}
+                              {ActionType::ExportCsv, new DialogExportCsv(&window)},
+                              {ActionType::FlightReport, new DialogReport(&window)}}
 {
     mJob.setListener(
         [this](int percent, const QString& task) { Q_EMIT progressed(percent, task); });
@@ -39,26 +41,34 @@ void ExportRunner::start(ActionType command)
     preset.stopTime = rangeOf(mSession).stop;
     preset.currentTime = mSession.time();
     if (auto exporter = found->second->ask(shown, preset)) {
-        run(std::move(exporter), shown, found->second->words());
+        run(std::move(exporter), shown, *found->second);
     }
+}
+
+bool ExportRunner::isPossible(ActionType command) const
+{
+    const auto& flight = mSession.flight();
+    return flight != nullptr && !isRunning() &&
+           !(flight->samples().empty() && mFaces.at(command)->needsSamples());
 }
 
 void ExportRunner::run(std::shared_ptr<Exporter> exporter, const ExportInput& input,
-                       const ExportFace::Words& words)
+                       ExportFace& face)
 {
     const QString path = QFileInfo(exporter->path()).absoluteFilePath();
     mJob.start([exporter, input](Progress& progress) { return exporter->run(input, progress); },
-               [this, path, words](const ExportResult& result) { report(result, path, words); });
+               [this, path, &face](const ExportResult& result) { report(result, path, face); });
     Q_EMIT started(path);
 }
 
-void ExportRunner::report(const ExportResult& result, const QString& path,
-                          const ExportFace::Words& words)
+void ExportRunner::report(const ExportResult& result, const QString& path, ExportFace& face)
 {
     if (result) {
         Q_EMIT finished((tr("Written: %1").arg(path) + "   " + result.message).trimmed(), true);
+        face.written(path);
         return;
     }
+    const ExportFace::Words words = face.words();
     Q_EMIT finished(words.failure, false);
     QMessageBox box(QMessageBox::Critical, words.title, words.failure, QMessageBox::NoButton,
                     &mWindow);

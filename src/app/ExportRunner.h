@@ -24,6 +24,9 @@ public:
     /// Asks and exports; nothing for another command.
     void start(ActionType command);
 
+    /// Whether what is shown can be exported now.
+    bool isPossible(ActionType command) const;
+
     bool isRunning() const { return mJob.isRunning(); }
     /// Stops the export; the old file stays.
     void cancel();
@@ -38,9 +41,8 @@ Q_SIGNALS:
     void finished(const QString& message, bool done);
 
 private:
-    void run(std::shared_ptr<Exporter> exporter, const ExportInput& input,
-             const ExportFace::Words& words);
-    void report(const ExportResult& result, const QString& path, const ExportFace::Words& words);
+    void run(std::shared_ptr<Exporter> exporter, const ExportInput& input, ExportFace& face);
+    void report(const ExportResult& result, const QString& path, ExportFace& face);
 
     Session& mSession;
     QWidget& mWindow;

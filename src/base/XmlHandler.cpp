@@ -6,6 +6,7 @@
 #include "base/XmlSafety.h"
 #include "base/XmlText.h"
 
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QStringDecoder>
@@ -25,7 +26,8 @@ enum class ReadResult
     NotParsed
 };
 
-ReadResult readDocument(QDomDocument& document, const QString& name, QString& reason)
+ReadResult readDocument(QDomDocument& document, const QString& name, QString& reason,
+                        QByteArray* hash = nullptr)
 {
     document = QDomDocument();
     QFile file(name);
@@ -38,6 +40,9 @@ ReadResult readDocument(QDomDocument& document, const QString& name, QString& re
     if (content.size() > LargestFile) {
         reason = "larger than 16 MiB";
         return ReadResult::NotParsed;
+    }
+    if (hash != nullptr) {
+        *hash = QCryptographicHash::hash(content, QCryptographicHash::Sha256);
     }
     reason = xmlObjection(content);
     if (!reason.isEmpty()) {
@@ -176,10 +181,10 @@ bool XmlHandler::xmlGetBoolAttribute(const QDomNamedNodeMap& map, const QString&
     return attribute.value() == "true" || attribute.value() == "1";
 }
 
-bool XmlHandler::xmlReadFile(QDomDocument& document, const QString& file)
+bool XmlHandler::xmlReadFile(QDomDocument& document, const QString& file, QByteArray* hash)
 {
     QString reason;
-    switch (readDocument(document, file, reason)) {
+    switch (readDocument(document, file, reason, hash)) {
     case ReadResult::Ok:
         return true;
     case ReadResult::NotOpened:

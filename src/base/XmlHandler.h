@@ -45,7 +45,8 @@ public:
 
     /// Reads and parses a file; says on the diagnostic stream what failed. On failure the
     /// document is empty. Files above 16 MiB are refused, and those that XmlSafety objects to.
-    bool xmlReadFile(QDomDocument& document, const QString& file);
+    /// \p hash takes the SHA-256 of what was read.
+    bool xmlReadFile(QDomDocument& document, const QString& file, QByteArray* hash = nullptr);
     /// The same for folder + "/" + file, silent.
     bool xmlReadFile(QDomDocument& document, const QString& folder, const QString& file);
 

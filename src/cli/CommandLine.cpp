@@ -7,6 +7,7 @@
 #include "cli/FaultsCommand.h"
 #include "cli/GraphCommand.h"
 #include "cli/InfoCommand.h"
+#include "cli/ReportCommand.h"
 #include "cli/StatsCommand.h"
 
 #include <CLI/CLI.hpp>
@@ -126,6 +127,20 @@ void addGraph(CLI::App& app, GraphArguments& arguments)
     command->final_callback([&] { runGraph(arguments); });
 }
 
+void addReport(CLI::App& app, ReportArguments& arguments)
+{
+    CLI::App* command = app.add_subcommand("report", "What happened, on pages to hand on");
+    addProfile(*command, arguments.profile);
+    addSelection(*command, arguments.selection);
+    addRange(*command, arguments.range);
+    command->add_option("--language", arguments.language, "of the texts")
+        ->check(CLI::IsMember({"en", "de", "es", "fr", "pt", "cs"}));
+    command->add_flag("--letter", arguments.letter, "paper of that size instead of A4");
+    addOut(*command, arguments.out);
+    addFiles(*command, arguments.files);
+    command->final_callback([&] { runReport(arguments); });
+}
+
 void addFaults(CLI::App& app, FaultsArguments& arguments, std::ostream& out)
 {
     CLI::App* command = app.add_subcommand("faults", "Error matrices: timeline and active bits");
@@ -212,6 +227,7 @@ struct Arguments
     StatsArguments stats;
     FaultsArguments faults;
     GraphArguments graph;
+    ReportArguments report;
     CsvArguments csv;
     KmlArguments kml;
     CanArguments can;
@@ -231,6 +247,7 @@ int runCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
     addStats(app, arguments.stats, out);
     addFaults(app, arguments.faults, out);
     addGraph(app, arguments.graph);
+    addReport(app, arguments.report);
     addCsv(app, arguments.csv);
     addKml(app, arguments.kml);
     addCan(app, arguments.can);

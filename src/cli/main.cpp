@@ -1,6 +1,8 @@
 #include "base/Diagnostics.h"
 #include "cli/CommandLine.h"
+#include "graph/GraphPicture.h"
 
+#include <QtGui/QFontDatabase>
 #include <QtGui/QGuiApplication>
 
 #include <clocale>
@@ -12,12 +14,17 @@ int main(int argc, char** argv)
 {
     std::ios::sync_with_stdio(false);
     TARN::setDiagnosticStream(stderr);
-    // Pictures need fonts; no other command shall wait for them.
-    std::optional<QGuiApplication> fonts;
-    if (argc > 1 && std::string_view(argv[1]) == "graph") {
+    // Pictures and pages need fonts; no other command shall wait for them.
+    std::optional<QGuiApplication> application;
+    const std::string_view command = argc > 1 ? argv[1] : "";
+    if (command == "graph" || command == "report") {
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        fonts.emplace(argc, argv);
+        application.emplace(argc, argv);
         std::setlocale(LC_NUMERIC, "C"); // it has set the user's, in which 2.5 may be no number
+        for (const char* font : {"DejaVuSans", "DejaVuSans-Bold", "DejaVuSansMono"}) {
+            QFontDatabase::addApplicationFont(QString(":/cli/%1.ttf").arg(font));
+        }
+        TARN::setGraphFontFamily("DejaVu Sans Mono");
     }
     return TARN::runCommandLine(argc, argv, std::cout, std::cerr);
 }

@@ -1,6 +1,6 @@
 #include "events/DialogDataErrorMatrix.h"
 
-#include "events/FaultPeriods.h"
+#include "events/DialogEventList.h"
 #include "events/WidgetFaultMatrix.h"
 
 #include <QtWidgets/QGridLayout>
@@ -26,7 +26,8 @@ DialogDataErrorMatrix::DialogDataErrorMatrix(Session& session, EpisodeWatch& epi
     layout->setContentsMargins(0, 0, 0, 0);
     auto* panes = new QSplitter(Qt::Vertical);
     panes->addWidget(area);
-    panes->addWidget(new FaultPeriods(session, episodes));
+    panes->addWidget(
+        new DialogEventList(session, episodes, EventKind::Faults, tr("Active Errors")));
     panes->setSizes({2000, 1000}); // only the ratio counts
     panes->setChildrenCollapsible(false);
     layout->addWidget(panes, 0, 0);

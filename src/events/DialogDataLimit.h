@@ -11,12 +11,9 @@ class DialogDataLimit : public DialogEventList
     Q_OBJECT
 
 public:
-    DialogDataLimit(Session& session, EpisodeWatch& episodes, QWidget* parent = nullptr);
-
-protected:
-    const std::vector<RecordEvent>* eventsOf(const Events& events) const override;
-    const std::vector<Episode>& episodesOf(const Troubles& troubles) const override;
-    QString allWell(const Flight& flight) const override;
+    DialogDataLimit(Session& session, EpisodeWatch& episodes, QWidget* parent = nullptr)
+        : DialogEventList(session, episodes, EventKind::Limits, tr("Warning/Limit Exceed"), parent)
+    {}
 };
 
 } // namespace TARN

@@ -11,12 +11,9 @@ class DialogDataWarning : public DialogEventList
     Q_OBJECT
 
 public:
-    DialogDataWarning(Session& session, EpisodeWatch& episodes, QWidget* parent = nullptr);
-
-protected:
-    const std::vector<RecordEvent>* eventsOf(const Events& events) const override;
-    const std::vector<Episode>& episodesOf(const Troubles& troubles) const override;
-    QString allWell(const Flight& flight) const override;
+    DialogDataWarning(Session& session, EpisodeWatch& episodes, QWidget* parent = nullptr)
+        : DialogEventList(session, episodes, EventKind::Lamps, tr("Warning Lamps"), parent)
+    {}
 };
 
 } // namespace TARN

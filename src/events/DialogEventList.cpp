@@ -1,6 +1,7 @@
 #include "events/DialogEventList.h"
 
 #include "events/EventFilter.h"
+#include "events/EventLists.h"
 #include "flight/EmptyText.h"
 #include "widgets/DataTableView.h"
 
@@ -45,6 +46,7 @@ DialogEventList::DialogEventList(Session& session, EpisodeWatch& episodes, Event
     connect(&mSession.loading(), &Switch::turned, this, &DialogEventList::updateEmptyText);
     connect(&mSession.allDigits(), &Switch::turned, this, &DialogEventList::updateDigits);
     connect(&mEpisodes, &EpisodeWatch::changed, this, &DialogEventList::showEpisodes);
+    showFlight();
 }
 
 int DialogEventList::rowCount() const
@@ -55,7 +57,8 @@ int DialogEventList::rowCount() const
 void DialogEventList::showFlight()
 {
     const auto flight = mSession.flight();
-    mModel->setEvents(flight, flight != nullptr ? eventsOf(flight->events()) : nullptr);
+    mModel->setEvents(flight,
+                      flight != nullptr ? eventsOf(mModel->kind(), flight->events()) : nullptr);
     mTable->fitColumns();
     showEpisodes();
 }
@@ -64,7 +67,7 @@ void DialogEventList::showEpisodes()
 {
     const auto& troubles = mEpisodes.troubles();
     mModel->setEpisodes(troubles != nullptr ? std::shared_ptr<const std::vector<Episode>>(
-                                                  troubles, &episodesOf(*troubles))
+                                                  troubles, &episodesOf(mModel->kind(), *troubles))
                                             : nullptr);
     updateEmptyText();
     showCurrentTime();
@@ -83,7 +86,7 @@ void DialogEventList::updateEmptyText()
     mFilter->setVisible(isFiltered);
     mTable->setEmptyText(isFiltered           ? tr("Nothing in the list fits the filter.")
                          : !general.isEmpty() ? general
-                                              : allWell(*mSession.flight()));
+                                              : allWell(mModel->kind(), *mSession.flight()));
 }
 
 void DialogEventList::showTime(double time, const QObject* source)

@@ -18,6 +18,10 @@ class DialogEventList : public QWidget
     Q_OBJECT
 
 public:
+    /// \p title of the event column.
+    DialogEventList(Session& session, EpisodeWatch& episodes, EventKind kind, const QString& title,
+                    QWidget* parent = nullptr);
+
     int rowCount() const; ///< of those that are shown
 
 Q_SIGNALS:
@@ -25,19 +29,6 @@ Q_SIGNALS:
     void signalLink(const QString& link);
     /// The user wants to see a parameter at a time in the graph; seconds with the time offset.
     void signalGraph(const TARN::ProfileParameter& parameter, double time);
-
-protected:
-    /// \p title of the event column. Call showFlight once the object is complete.
-    DialogEventList(Session& session, EpisodeWatch& episodes, EventKind kind, const QString& title,
-                    QWidget* parent);
-
-    /// The list of a flight that the view shows; null where it is one of episodes only.
-    virtual const std::vector<RecordEvent>* eventsOf(const Events& events) const = 0;
-    virtual const std::vector<Episode>& episodesOf(const Troubles& troubles) const = 0;
-    /// What is said where a flight with samples has no row, and what was looked at.
-    virtual QString allWell(const Flight& flight) const = 0;
-
-    void showFlight();
 
 private Q_SLOTS:
     void slotSelect(int row);
@@ -48,6 +39,7 @@ private:
     void goToPeak();
     void showInGraph();
     void copy() const;
+    void showFlight();
     void showEpisodes();
     void showCurrentTime() { showTime(mSession.time(), nullptr); }
     void showTime(double time, const QObject* source);

@@ -157,12 +157,18 @@ std::vector<Episode> findEpisodes(const RecordData& data, const Profile& profile
     return episodes;
 }
 
+std::vector<const Episode*> pointersTo(const std::vector<Episode>& episodes)
+{
+    std::vector<const Episode*> all;
+    for (const Episode& episode : episodes) {
+        all.push_back(&episode);
+    }
+    return all;
+}
+
 std::vector<const Episode*> worstOf(const std::vector<Episode>& episodes, std::size_t most)
 {
-    std::vector<const Episode*> worst;
-    for (const Episode& episode : episodes) {
-        worst.push_back(&episode);
-    }
+    std::vector<const Episode*> worst = pointersTo(episodes);
     std::ranges::stable_sort(worst, std::greater(), [](const Episode* episode) {
         return std::tuple(episode->state, episode->isAnnounced(), episode->duration());
     });

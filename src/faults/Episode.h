@@ -69,7 +69,10 @@ struct Troubles
     std::vector<Episode> faults; ///< active errors of the matrices, see faultEpisodes
 };
 
-/// Places of the worst ones, the worst first: those that reached their limit, of these those that
+/// All of them, as they stand.
+std::vector<const Episode*> pointersTo(const std::vector<Episode>& episodes);
+
+/// So many of them at most, the worst first: those that reached their limit, of these those that
 /// an event announced, of these those that lasted longest; of equals the earliest.
 std::vector<const Episode*> worstOf(const std::vector<Episode>& episodes, std::size_t most);
 

@@ -18,5 +18,10 @@ struct DecodedCurve
 /// Decodes all samples of a parameter, at a time offset, and finds where it has no value.
 DecodedCurve decodeCurve(const std::shared_ptr<const Flight>& flight,
                          const ProfileParameter& parameter, double offset, Progress& progress);
+/// The same, of which no more need be shown than a range: where time does not fall, only its
+/// samples and those next to it are decoded.
+DecodedCurve decodeCurve(const std::shared_ptr<const Flight>& flight,
+                         const ProfileParameter& parameter, double offset, const TimeRange& range,
+                         Progress& progress);
 
 } // namespace TARN

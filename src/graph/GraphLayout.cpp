@@ -108,7 +108,7 @@ void GraphLayout::add(ParStruct& curve, double time, double value)
 
 void GraphLayout::placePlot(double left)
 {
-    mView.x0 = std::min(left, mWidth / 2.0);
+    mView.x0 = std::min(std::max(left, mLeastMargin), mWidth / 2.0);
     mView.width = std::max(mWidth - mView.x0 - Right, 1.0);
 }
 

@@ -32,6 +32,9 @@ public:
     void setSize(double width, double height);
     QSizeF size() const { return {mWidth, mHeight}; }
 
+    /// Keeps at least so many pixels left of the plot, so that it stands below another one.
+    void setLeastMargin(double left) { mLeastMargin = left; }
+
     /// Lines under the strips, for what is no curve; as many as leave the strips room to be read.
     void setLanes(unsigned count) { mWantedLanes = count; }
     const GraphLanes& lanes() const { return mLanes; }
@@ -77,6 +80,7 @@ private:
     GraphView mView;
     double mWidth = 0.0; ///< of the widget, pixels
     double mHeight = 0.0;
+    double mLeastMargin = 0.0;
     unsigned mWantedLanes = 0;
     GraphLanes mLanes;
     eDisplayMode mDisplayMode = DisplaySingle;

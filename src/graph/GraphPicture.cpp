@@ -3,12 +3,12 @@
 #include "graph/GraphDrawing.h"
 #include "graph/GraphPalette.h"
 #include "graph/PainterCanvas.h"
+#include "graph/SvgCanvas.h"
 
 #include <QtCore/QBuffer>
 #include <QtCore/QFileInfo>
 #include <QtGui/QFontDatabase>
 #include <QtGui/QPainter>
-#include <QtSvg/QSvgGenerator>
 
 namespace TARN {
 
@@ -16,26 +16,23 @@ namespace {
 
 constexpr int CaptionMargin = 3; ///< pixels on each side
 
-/// A picture of vectors, of a size in pixels.
-QByteArray svgOf(const GraphPicture& picture, GraphModel& model)
+QString& graphFamily()
 {
-    QBuffer out;
-    QSvgGenerator generator;
-    generator.setOutputDevice(&out);
-    generator.setSize(picture.wholeSize());
-    generator.setViewBox(QRect(QPoint(), picture.wholeSize()));
-    generator.setTitle(picture.caption);
-    QPainter painter(&generator);
-    picture.paint(painter, model);
-    painter.end();
-    return out.data();
+    static QString family;
+    return family;
 }
 
 } // namespace
 
+void setGraphFontFamily(const QString& family)
+{
+    graphFamily() = family;
+}
+
 QFont graphFont()
 {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QFont font = graphFamily().isEmpty() ? QFontDatabase::systemFont(QFontDatabase::FixedFont)
+                                         : QFont(graphFamily());
     font.setPixelSize(13);
     return font;
 }
@@ -71,27 +68,47 @@ void paintTexts(QPainter& painter, const TextLayout& texts, const GraphStyle& st
     }
 }
 
+QSize GraphPicture::wholeSize(const TextLayout& texts) const
+{
+    const int line = static_cast<int>(texts.sizeOf("0").height()) + 2 * CaptionMargin;
+    return {size.width(), size.height() + (caption.isEmpty() ? 0 : line)};
+}
+
 QSize GraphPicture::wholeSize() const
 {
-    const int line = QFontMetrics(graphFont()).height() + 2 * CaptionMargin;
-    return {size.width(), size.height() + (caption.isEmpty() ? 0 : line)};
+    return wholeSize(TextLayout(QFontMetricsF(graphFont())));
+}
+
+/// Draws the shapes; the texts are placed, to be painted on top.
+void GraphPicture::draw(GraphModel& model, GraphCanvas& canvas, TextLayout& texts) const
+{
+    GraphLayout& layout = model.layout();
+    const QSizeF before = layout.size();
+    layout.setSize(size.width(), size.height());
+    drawGraph(model, style, keyCursor, canvas, texts);
+    const QRectF area(CaptionMargin, size.height(), size.width() - 2 * CaptionMargin,
+                      wholeSize(texts).height() - size.height());
+    texts.add(texts.elided(caption, area.width()), area.topLeft() + QPointF(0, CaptionMargin),
+              legibleOn(style.labelBack, style.label), area);
+    layout.setSize(before.width(), before.height());
 }
 
 void GraphPicture::paint(QPainter& painter, GraphModel& model) const
 {
     TextLayout texts{QFontMetricsF(graphFont())};
-    GraphLayout& layout = model.layout();
-    const QSizeF before = layout.size();
     painter.fillRect(QRect(QPoint(), wholeSize()), style.labelBack.toColor());
-    layout.setSize(size.width(), size.height());
     PainterCanvas canvas(painter, size.height());
-    drawGraph(model, style, keyCursor, canvas, texts);
-    const QRectF area(CaptionMargin, size.height(), size.width() - 2 * CaptionMargin,
-                      wholeSize().height() - size.height());
-    texts.add(texts.elided(caption, area.width()), area.topLeft() + QPointF(0, CaptionMargin),
-              legibleOn(style.labelBack, style.label), area);
+    draw(model, canvas, texts);
     paintTexts(painter, texts, style);
-    layout.setSize(before.width(), before.height());
+}
+
+std::string GraphPicture::toSvg(GraphModel& model, const QString& label, int number) const
+{
+    TextLayout texts(SvgCanvas::Character, SvgCanvas::Line);
+    SvgCanvas canvas(wholeSize(texts), size.height(), label, style.labelBack, number);
+    draw(model, canvas, texts);
+    canvas.addTexts(texts, style);
+    return canvas.end();
 }
 
 QImage GraphPicture::toImage(GraphModel& model, double scale) const
@@ -108,7 +125,7 @@ QByteArray encodePicture(const GraphPicture& picture, GraphModel& model, const Q
 {
     const QByteArray suffix = QFileInfo(file).suffix().toLatin1().toUpper();
     if (suffix == "SVG") {
-        return svgOf(picture, model);
+        return QByteArray::fromStdString(picture.toSvg(model, picture.caption));
     }
     QBuffer out;
     out.open(QIODevice::WriteOnly);

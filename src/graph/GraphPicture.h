@@ -7,13 +7,17 @@
 
 #include <QtGui/QFont>
 
+#include <string>
+
 class QImage;
 class QPainter;
 
 namespace TARN {
 
-/// The font of all texts in a graph.
+/// The font of all texts in a graph: the system's of equal widths, or the one that was set.
 QFont graphFont();
+/// Once, before anything is drawn.
+void setGraphFontFamily(const QString& family);
 
 /// Lays the model out and draws it: shapes go to the canvas at once, texts are placed, to be
 /// painted on top of them. \p texts is emptied first.
@@ -37,6 +41,13 @@ struct GraphPicture
     void paint(QPainter& painter, GraphModel& model) const;
     /// \p scale device pixels make a pixel.
     QImage toImage(GraphModel& model, double scale) const;
+    /// As SVG, with what it shows in words; pictures of one page have a \p number each. Needs no
+    /// font, so no QGuiApplication.
+    std::string toSvg(GraphModel& model, const QString& label, int number = 0) const;
+
+private:
+    QSize wholeSize(const TextLayout& texts) const;
+    void draw(GraphModel& model, GraphCanvas& canvas, TextLayout& texts) const;
 };
 
 /// A file of a picture by the name's ending: SVG, or whatever images can be written as, BMP without

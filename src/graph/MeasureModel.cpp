@@ -2,43 +2,13 @@
 
 #include "base/ClockTime.h"
 #include "base/CountText.h"
-#include "base/Numbers.h"
+#include "flight/StatisticsWords.h"
 
 #include <QtGui/QPixmap>
 
 #include <utility>
 
 namespace TARN {
-
-namespace {
-
-QString numberText(double number, int digits = 6)
-{
-    std::string text;
-    appendGeneral(number, digits, text);
-    return QString::fromStdString(text);
-}
-
-QString aboveText(const Statistics::Above& above)
-{
-    return QString("\u2265 %1: %2 s")
-        .arg(numberText(above.value), fixedText(above.seconds, 1).c_str());
-}
-
-} // namespace
-
-QString integralText(double valueSeconds, const QString& unit)
-{
-    const std::pair<const char*, double> rates[] = {{"/h", 3600.0}, {"/min", 60.0}, {"/s", 1.0}};
-    for (const auto& [ending, seconds] : rates) {
-        if (unit.endsWith(ending)) {
-            const QString whole = unit.chopped(static_cast<qsizetype>(qstrlen(ending)));
-            const QString text = numberText(valueSeconds / seconds);
-            return whole == "1" ? text : text + " " + whole; // what is counted has no unit
-        }
-    }
-    return numberText(valueSeconds) + (unit.isEmpty() ? " s" : " " + unit + "\u00B7s");
-}
 
 void MeasureModel::setCurves(std::vector<MeasuredCurve> curves, const TimeRange& range)
 {
@@ -146,19 +116,19 @@ QString MeasureModel::text(const MeasuredCurve& curve, int column) const
     case MaxTimeColumn:
         return clockTextWithMilliseconds(*found);
     case IntegralColumn:
-        return integralText(*found, curve.parameter->unit);
+        return integralWords(*found, curve.parameter->unit);
     case SamplesColumn:
     case GapsColumn:
         return countText(static_cast<qint64>(*found));
     case AboveColumn: {
         QStringList all;
         for (const Statistics::Above& above : curve.statistics.above) {
-            all += aboveText(above);
+            all += aboveWords(above);
         }
         return all.join("  ");
     }
     default:
-        return numberText(*found);
+        return numberWords(*found);
     }
 }
 
@@ -174,8 +144,8 @@ QString MeasureModel::toolTip(const MeasuredCurve& curve, int column) const
             .arg(countText(static_cast<qint64>(curve.statistics.invalid)));
     case GapsColumn:
         return curve.statistics.gapLimit ? tr("Steps of more than %1 s, together %2 s")
-                                               .arg(numberText(*curve.statistics.gapLimit),
-                                                    numberText(curve.statistics.gapSeconds))
+                                               .arg(numberWords(*curve.statistics.gapLimit),
+                                                    numberWords(curve.statistics.gapSeconds))
                                          : tr("Sent only when something changes");
     case AboveColumn:
         return text(curve, column).replace("  ", "\n");
@@ -185,7 +155,7 @@ QString MeasureModel::toolTip(const MeasuredCurve& curve, int column) const
     case MaxTimeColumn:
         return found ? tr("Click to go there") : QString();
     default:
-        return found ? numberText(*found, AllDigits) : QString();
+        return found ? numberWords(*found, AllDigits) : QString();
     }
 }
 

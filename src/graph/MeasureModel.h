@@ -70,8 +70,4 @@ private:
     TimeRange mRange;
 };
 
-/// An integral in the unit that people ask for: of "l/h" in "l", of "m/min" in "m", of "1/min"
-/// as a count; of others in the unit times seconds. \p valueSeconds as Statistics::integral.
-QString integralText(double valueSeconds, const QString& unit);
-
 } // namespace TARN

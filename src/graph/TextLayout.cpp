@@ -7,7 +7,22 @@ namespace TARN {
 
 QSizeF TextLayout::sizeOf(const QString& text) const
 {
-    return {std::ceil(mMetrics.horizontalAdvance(text)), std::ceil(mMetrics.height())};
+    return mMetrics
+               ? QSizeF(std::ceil(mMetrics->horizontalAdvance(text)), std::ceil(mMetrics->height()))
+               : QSizeF(std::ceil(static_cast<double>(text.size()) * mCharacter), mLine);
+}
+
+QString TextLayout::elided(const QString& text, double width, Qt::TextElideMode mode) const
+{
+    if (mMetrics) {
+        return mMetrics->elidedText(text, mode, width);
+    }
+    const auto room = static_cast<qsizetype>(std::max(0.0, width) / mCharacter);
+    if (text.size() <= room || room < 1) {
+        return text.left(room);
+    }
+    const qsizetype front = mode == Qt::ElideRight ? room - 1 : room / 2;
+    return text.left(front) + QChar(0x2026) + text.right(room - 1 - front);
 }
 
 bool TextLayout::add(const QString& text, QPointF topLeft, const GraphColor& color,

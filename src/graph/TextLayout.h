@@ -26,6 +26,8 @@ public:
     };
 
     explicit TextLayout(const QFontMetricsF& metrics) : mMetrics(metrics) {}
+    /// Without a font: every character is so many pixels wide, a line so many high.
+    TextLayout(double character, double line) : mCharacter(character), mLine(line) {}
 
     void clear() { mTexts.clear(); }
     const std::vector<Text>& texts() const { return mTexts; }
@@ -34,10 +36,7 @@ public:
 
     /// A text cut, in the middle by default, where it is wider than so many pixels.
     QString elided(const QString& text, double width,
-                   Qt::TextElideMode mode = Qt::ElideMiddle) const
-    {
-        return mMetrics.elidedText(text, mode, width);
-    }
+                   Qt::TextElideMode mode = Qt::ElideMiddle) const;
 
     /// Adds a text where it fits into \p area, else not at all.
     bool add(const QString& text, QPointF topLeft, const GraphColor& color, const QRectF& area,
@@ -63,7 +62,9 @@ private:
     std::optional<QRectF> gapNear(const QRectF& box, const QRectF& area) const;
     const Text* hit(const QRectF& box) const;
 
-    QFontMetricsF mMetrics;
+    std::optional<QFontMetricsF> mMetrics;
+    double mCharacter = 0.0;
+    double mLine = 0.0;
     std::vector<Text> mTexts;
 };
 

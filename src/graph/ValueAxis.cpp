@@ -6,12 +6,23 @@ namespace {
 
 constexpr double Spacing = 25.0; ///< pixels between major ticks
 
+/// Takes the zeros away that both fractions end in.
+void shorten(QString& low, QString& high)
+{
+    const auto endsIn = [&](QChar c) { return low.endsWith(c) && high.endsWith(c); };
+    while (low.contains('.') && high.contains('.') && (endsIn('0') || endsIn('.'))) {
+        low.chop(1);
+        high.chop(1);
+    }
+}
+
 /// The ends of the range, one above the other or, where there is no room, in one line.
 std::vector<ValueAxis::Label> endLabels(const GraphStrip& strip, double lineHeight)
 {
     const double extent = strip.max - strip.min;
-    const QString low = rangeLabel(strip.min, extent);
-    const QString high = rangeLabel(strip.max, extent);
+    QString low = rangeLabel(strip.min, extent);
+    QString high = rangeLabel(strip.max, extent);
+    shorten(low, high);
     if (strip.height >= 2.0 * lineHeight) {
         return {{strip.y0 + lineHeight / 2.0, low},
                 {strip.y0 + strip.height - lineHeight / 2.0, high}};

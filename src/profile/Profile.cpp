@@ -70,7 +70,8 @@ bool Profile::loadProfile(const QString& fileName)
     mFileName = fileName;
     XmlHandler xml;
     QDomDocument document;
-    const bool read = xml.xmlReadFile(document, fileName);
+    mFileHash.clear();
+    const bool read = xml.xmlReadFile(document, fileName, &mFileHash);
     const QDomElement root = document.documentElement();
     if (root.tagName() != "CanAerospaceProfile") {
         if (read) {

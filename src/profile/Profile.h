@@ -3,6 +3,8 @@
 #include "profile/ProfileTypes.h"
 #include "record/RecordEntry.h"
 
+#include <QtCore/QByteArray>
+
 #include <map>
 #include <memory>
 #include <vector>
@@ -41,6 +43,8 @@ public:
     bool isLoaded() const { return mIsLoaded; }
     /// The file that it was, or should have been, read from.
     const QString& fileName() const { return mFileName; }
+    /// SHA-256 of what the file held when it was read; empty when it could not be.
+    const QByteArray& fileHash() const { return mFileHash; }
 
     const ProfileInfo& data() const { return mInfo; }
     KmlInfo kmlInfo() const { return mKmlInfo; }
@@ -72,6 +76,7 @@ private:
     ProfileInfo mInfo;
     KmlInfo mKmlInfo;
     QString mFileName;
+    QByteArray mFileHash;
     bool mIsLoaded = false;
     std::vector<Entry> mParameters; ///< refers to mInfo
     std::map<QString, int> mTypeCodes;

@@ -1,6 +1,8 @@
 #include "support/CommandRun.h"
 #include "support/FlightTest.h"
 
+#include <QtCore/QXmlStreamReader>
+
 #include <algorithm>
 #include <clocale>
 #include <nlohmann/json.hpp>
@@ -225,6 +227,57 @@ private Q_SLOTS:
             QVERIFY2(failed.error.find(message) != std::string::npos, failed.error.c_str());
         }
         QVERIFY(!QFile::exists(path("b.png")));
+    }
+
+    /// Exact numbers of the report's tables and of the episodes are the same.
+    void report()
+    {
+        QVERIFY(run("report --profile P -o T/a.html R").status == 0);
+        QVERIFY(run("report --profile P -o T/b.html R").status == 0);
+        QVERIFY(read("a.html") == read("b.html"));
+        QXmlStreamReader page(read("a.html"));
+        std::vector<double> told;
+        QString text;
+        for (QString section; !page.atEnd(); page.readNext()) {
+            if (page.isStartElement() && page.name() == u"h2") {
+                section = page.readElementText();
+            }
+            if (page.isStartElement() && section == "Out of range" &&
+                page.attributes().hasAttribute("data-value")) {
+                told.push_back(page.attributes().value("data-value").toDouble());
+            }
+            text += page.isCharacters() ? page.text() : QStringView();
+        }
+        QVERIFY2(!page.hasError(), qPrintable(page.errorString()));
+        std::vector<double> expected;
+        auto events = linesOf(run("events --episodes --profile P R").out);
+        std::ranges::stable_partition(events, [](const json& event) {
+            return event["kind"] != "episode" || event["announced"] == true;
+        });
+        for (const json& event : events) {
+            if (event["kind"] == "episode") {
+                for (const char* field : {"start", "end", "duration", "peak", "peakTime"}) {
+                    if (!event[field].is_null()) {
+                        expected.push_back(event[field]);
+                    }
+                }
+                if (!event["threshold"].is_null()) {
+                    expected.push_back(event["threshold"]);
+                }
+            }
+        }
+        QVERIFY(!expected.empty());
+        QCOMPARE(told, expected);
+        for (const char* part : {"ECU Oil", "Lamp", "E31", "1 in warning", "ORNA 1.2.19"}) {
+            QVERIFY2(text.contains(part), part);
+        }
+        QVERIFY(run("report --profile P --language de --letter --start 102 -o T/c.htm R").status ==
+                0);
+        QVERIFY(read("c.htm").contains("lang=\"de\"") && read("c.htm").contains("size: letter"));
+        QVERIFY(run("report --profile P -o T/d.pdf R").status == 0);
+        QVERIFY(read("d.pdf").startsWith("%PDF"));
+        QVERIFY(run("report --profile P -o T/e.doc R").error.find(".html or .pdf") !=
+                std::string::npos);
     }
 
     void selections_data()

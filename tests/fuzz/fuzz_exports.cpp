@@ -7,7 +7,10 @@
 #include "export/ExportCsv.h"
 #include "export/ExportKml.h"
 #include "fuzz/Fuzz.h"
+#include "report/ExportReport.h"
 #include "table/TableModel.h"
+
+#include <QtCore/QXmlStreamReader>
 
 #include <cmath>
 #include <set>
@@ -215,6 +218,30 @@ void checkKml(const ExportInput& input, const ExportOptions& range, std::uint8_t
     require(ExportKml(options).run(input, progress).done);
     QDomDocument document;
     require(XmlHandler().xmlReadFile(document, options.path()));
+}
+
+/// Nothing in the input makes it anything but a page of text, tables and pictures.
+void checkReport(const ExportInput& input, const ExportOptions& range)
+{
+    static const std::set<QString> Elements = {
+        "html",       "head", "meta",  "title", "style", "body", "h1",       "h2",      "h3",
+        "p",          "span", "table", "thead", "tbody", "tr",   "th",       "td",      "figure",
+        "figcaption", "svg",  "rect",  "path",  "g",     "text", "polyline", "clipPath"};
+    Progress progress;
+    ReportOptions options;
+    static_cast<ExportOptions&>(options) = range;
+    options.fileName = "out.html";
+    require(ExportReport(options).run(input, progress).done);
+    QXmlStreamReader page(Fuzz::read("out.html"));
+    while (!page.atEnd()) {
+        if (page.readNext() == QXmlStreamReader::StartElement) {
+            require(Elements.contains(page.name().toString()));
+            for (const QXmlStreamAttribute& attribute : page.attributes()) {
+                require(!attribute.name().startsWith(u"on") && attribute.name() != u"href");
+            }
+        }
+    }
+    require(!page.hasError());
 }
 
 void checkCan(const ExportInput& input, CsvExportOptions options)

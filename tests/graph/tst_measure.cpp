@@ -1,4 +1,5 @@
 #include "graph/MarkerEnds.h"
+#include "flight/StatisticsWords.h"
 #include "graph/MeasureModel.h"
 #include "support/FlightTest.h"
 
@@ -62,11 +63,11 @@ private Q_SLOTS:
 
     void integrals()
     {
-        QCOMPARE(integralText(3600.0, "l/h"), "1 l");
-        QCOMPARE(integralText(-30.0, "ft/min"), "-0.5 ft");
-        QCOMPARE(integralText(5.0, "m/s"), "5 m");
-        QCOMPARE(integralText(5.0, "1/min"), "0.0833333");
-        QCOMPARE(integralText(5.0, "bar"), "5 bar\u00B7s");
+        QCOMPARE(integralWords(3600.0, "l/h"), "1 l");
+        QCOMPARE(integralWords(-30.0, "ft/min"), "-0.5 ft");
+        QCOMPARE(integralWords(5.0, "m/s"), "5 m");
+        QCOMPARE(integralWords(5.0, "1/min"), "0.0833333");
+        QCOMPARE(integralWords(5.0, "bar"), "5 bar\u00B7s");
     }
 
     void ends()

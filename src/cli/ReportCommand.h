@@ -1,0 +1,22 @@
+#pragma once
+
+#include "cli/Inputs.h"
+
+namespace TARN {
+
+struct ReportArguments
+{
+    std::string profile;
+    SelectionArguments selection;
+    Range range;
+    std::string language = "en";
+    bool letter = false; ///< paper, instead of A4
+    std::string out;
+    std::vector<std::string> files;
+};
+
+/// Writes what happened on a few pages, as HTML or PDF by the name of the file. PDF needs a
+/// QGuiApplication, though no display.
+void runReport(const ReportArguments& arguments);
+
+} // namespace TARN

@@ -1,0 +1,319 @@
+#include "report/PdfPages.h"
+
+#include "base/CellColor.h"
+#include "base/Revision.h"
+
+#include <QtCore/QBuffer>
+#include <QtGui/QAbstractTextDocumentLayout>
+#include <QtGui/QPainter>
+#include <QtGui/QPdfWriter>
+#include <QtGui/QPicture>
+#include <QtGui/QTextTable>
+
+#include <utility>
+
+namespace TARN {
+
+namespace {
+
+constexpr int HeadingSize = 15; ///< pixels
+constexpr int TextSize = 11;    ///< pixels, 96 to the inch
+constexpr int CellSize = 10;    ///< of texts in tables
+constexpr int Margin = 52;      ///< pixels on each side
+constexpr int Foot = 24;        ///< pixels of the line under each page
+
+QTextCharFormat formatOf(int size, bool isBold)
+{
+    QFont font;
+    font.setFamilies({"DejaVu Sans", "Verdana", "Arial"});
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(size);
+    font.setBold(isBold);
+    QTextCharFormat format;
+    format.setFont(font);
+    return format;
+}
+
+QTextBlockFormat blockOf(int above, Qt::Alignment alignment)
+{
+    QTextBlockFormat format;
+    format.setTopMargin(above);
+    format.setAlignment(alignment);
+    return format;
+}
+
+} // namespace
+
+/// Draws what was painted before in the place of a character; shapes stay shapes.
+class PdfPages::Figures : public QObject, public QTextObjectInterface
+{
+    Q_OBJECT
+    Q_INTERFACES(QTextObjectInterface)
+
+public:
+    static constexpr int Type = QTextFormat::UserObject + 1;
+    static constexpr int Number = QTextFormat::UserProperty + 1;
+
+    struct Figure
+    {
+        QPicture picture;
+        QSizeF size;
+    };
+    std::vector<Figure> all;
+
+    QSizeF intrinsicSize(QTextDocument*, int, const QTextFormat& format) override
+    {
+        return figureOf(format).size;
+    }
+    void drawObject(QPainter* painter, const QRectF& rect, QTextDocument*, int,
+                    const QTextFormat& format) override
+    {
+        if (!painter->clipBoundingRect().intersects(rect.adjusted(0.0, 1.0, 0.0, -1.0))) {
+            return; // of another page, and what was painted has clips of its own
+        }
+        painter->save();
+        painter->translate(rect.topLeft());
+        QPicture& picture = figureOf(format).picture;
+        // It would make up for the finer grid of the paper, which the painter does already.
+        painter->scale(double(picture.logicalDpiX()) / painter->device()->logicalDpiX(),
+                       double(picture.logicalDpiY()) / painter->device()->logicalDpiY());
+        picture.play(painter);
+        painter->restore();
+    }
+
+private:
+    Figure& figureOf(const QTextFormat& format)
+    {
+        return all[static_cast<std::size_t>(format.intProperty(Number))];
+    }
+};
+
+PdfPages::PdfPages(ReportOptions::Paper paper)
+    : mPaper(paper), mCursor(&mDocument), mFigures(std::make_unique<Figures>())
+{
+    mDocument.setUndoRedoEnabled(false);
+    mDocument.setDocumentMargin(0.0);
+    mDocument.setDefaultFont(formatOf(TextSize, false).font());
+    mDocument.documentLayout()->registerHandler(Figures::Type, mFigures.get());
+}
+
+PdfPages::~PdfPages() = default;
+
+void PdfPages::begin(const QString& title, const QString&)
+{
+    constexpr int Size = 20;
+    mDocument.setMetaInformation(QTextDocument::DocumentTitle, title);
+    block(title, Size, true, 0);
+}
+
+void PdfPages::block(const QString& text, int size, bool isBold, int above)
+{
+    mCursor.insertBlock(blockOf(above, Qt::AlignLeft), formatOf(size, isBold));
+    mCursor.insertText(text);
+}
+
+void PdfPages::heading(const QString& text)
+{
+    flush();
+    mHeading = text;
+}
+
+void PdfPages::flush()
+{
+    constexpr int Above = 18;
+    if (!mHeading.isEmpty()) {
+        block(std::exchange(mHeading, {}), HeadingSize, true, Above);
+        mHeadings.push_back(mCursor.block().blockNumber());
+    }
+}
+
+void PdfPages::subheading(const QString& text)
+{
+    constexpr int Size = 12;
+    constexpr int Above = 10;
+    flush();
+    block(text, Size, true, Above);
+}
+
+void PdfPages::line(const std::vector<ReportText>& pieces)
+{
+    constexpr int Above = 4;
+    flush();
+    block({}, TextSize, false, Above);
+    for (const ReportText& piece : pieces) {
+        QTextCharFormat format = formatOf(TextSize, false);
+        if (isPlainCell(piece.ground)) {
+            mCursor.insertText(piece.text + "   ", format);
+            continue;
+        }
+        format.setBackground(piece.ground);
+        mCursor.insertText(" " + piece.text + " ", format);
+        mCursor.insertText("   ", formatOf(TextSize, false));
+    }
+}
+
+void PdfPages::table(const ReportTable& table)
+{
+    if (table.rows.empty()) {
+        return;
+    }
+    flush();
+    const bool hasTitles = !table.titles.isEmpty();
+    const auto columns = static_cast<int>(table.rows.front().size());
+    QTextTableFormat format;
+    format.setBorder(0.5);
+    format.setBorderCollapse(true);
+    format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    format.setBorderBrush(QColor(0xBB, 0xBB, 0xBB));
+    format.setCellPadding(3.0);
+    format.setTopMargin(6.0);
+    format.setWidth(QTextLength(QTextLength::PercentageLength, 100.0));
+    format.setHeaderRowCount(hasTitles ? 1 : 0);
+    QList<QTextLength> widths;
+    for (const double share : table.shares) {
+        widths += QTextLength(QTextLength::PercentageLength, share);
+    }
+    format.setColumnWidthConstraints(widths);
+    block({}, 1, false, 0);
+    QTextTable* made = mCursor.insertTable(
+        static_cast<int>(table.rows.size()) + (hasTitles ? 1 : 0), columns, format);
+    const auto ground = [](QTextTableCell cell, const QColor& color) {
+        QTextTableCellFormat frame = cell.format().toTableCellFormat();
+        frame.setBorder(0.5);
+        frame.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        frame.setBorderBrush(QColor(0xBB, 0xBB, 0xBB));
+        if (!isPlainCell(color)) {
+            frame.setBackground(color);
+        }
+        cell.setFormat(frame);
+    };
+    for (int column = 0; column < table.titles.size(); ++column) {
+        const QTextTableCell cell = made->cellAt(0, column);
+        ground(cell, TimeCellColor);
+        QTextCursor inside = cell.firstCursorPosition();
+        inside.setBlockFormat(blockOf(0, table.isNumber(column) ? Qt::AlignRight : Qt::AlignLeft));
+        inside.insertText(table.titles[column], formatOf(CellSize - 1, true));
+    }
+    int row = hasTitles ? 1 : 0;
+    for (const std::vector<ReportText>& texts : table.rows) {
+        for (int column = 0; column < columns; ++column) {
+            const ReportText& text = texts[static_cast<std::size_t>(column)];
+            const QTextTableCell cell = made->cellAt(row, column);
+            ground(cell, text.ground);
+            QTextCursor inside = cell.firstCursorPosition();
+            inside.setBlockFormat(blockOf(0, text.number ? Qt::AlignRight : Qt::AlignLeft));
+            QTextCharFormat ink = formatOf(CellSize, false);
+            if (!isPlainCell(text.ground)) {
+                ink.setForeground(foregroundOn(text.ground).value<QBrush>());
+            }
+            inside.insertText(text.text, ink);
+        }
+        ++row;
+    }
+    mCursor.movePosition(QTextCursor::End);
+}
+
+void PdfPages::figure(const QString& words, const std::vector<ReportFigure>& parts)
+{
+    constexpr int Line = 20; // pixels
+    Figures::Figure figure;
+    QPainter painter(&figure.picture);
+    double y = 0.0;
+    const auto put = [&](const QString& text, int size) {
+        const QFont font = formatOf(size, true).font();
+        y += size + 9.0;
+        painter.setFont(font);
+        painter.drawText(QPointF(0.0, y - 6.0),
+                         QFontMetricsF(font).elidedText(text, Qt::ElideRight, Width));
+    };
+    if (!mHeading.isEmpty()) {
+        put(std::exchange(mHeading, {}), HeadingSize);
+    }
+    put(words, TextSize);
+    for (const ReportFigure& part : parts) {
+        painter.save();
+        painter.translate(0.0, y);
+        part.picture.paint(painter, *part.model);
+        painter.restore();
+        y += part.picture.wholeSize().height();
+    }
+    painter.end();
+    figure.size = {double(Width), y};
+    QTextCharFormat format = formatOf(TextSize, false);
+    format.setObjectType(Figures::Type);
+    format.setProperty(Figures::Number, static_cast<int>(mFigures->all.size()));
+    mFigures->all.push_back(std::move(figure));
+    block({}, TextSize, false, Line);
+    mCursor.insertText(QString(QChar::ObjectReplacementCharacter), format);
+}
+
+/// No heading is left alone at the foot of a page.
+void PdfPages::keepHeadings()
+{
+    const auto* layout = mDocument.documentLayout();
+    const auto pageOf = [&](const QTextBlock& block) {
+        return static_cast<int>(layout->blockBoundingRect(block).bottom() /
+                                mDocument.pageSize().height());
+    };
+    for (const int number : mHeadings) {
+        const QTextBlock heading = mDocument.findBlockByNumber(number);
+        QTextBlock next = heading.next();
+        while (next.isValid() && next.text().isEmpty()) {
+            next = next.next();
+        }
+        if (next.isValid() && pageOf(next) != pageOf(heading)) {
+            QTextCursor cursor(heading);
+            QTextBlockFormat format = cursor.blockFormat();
+            format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+            cursor.setBlockFormat(format);
+        }
+    }
+}
+
+QByteArray PdfPages::toPdf()
+{
+    flush();
+    constexpr int Resolution = 1200;
+    constexpr double Scale = Resolution / 96.0;
+    QBuffer out;
+    out.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&out);
+    writer.setResolution(Resolution);
+    writer.setPageSize(
+        QPageSize(mPaper == ReportOptions::Letter ? QPageSize::Letter : QPageSize::A4));
+    writer.setPageMargins({0.0, 0.0, 0.0, 0.0});
+    writer.setTitle(mDocument.metaInformation(QTextDocument::DocumentTitle));
+    writer.setCreator(QString::fromStdString(Revision::getRevisionString()));
+    const QSizeF page(writer.width() / Scale, writer.height() / Scale);
+    const QSizeF body(page.width() - 2 * Margin, page.height() - 2 * Margin - Foot);
+    mDocument.setPageSize(body);
+    keepHeadings();
+    QPainter painter(&writer);
+    painter.scale(Scale, Scale);
+    const int pages = mDocument.pageCount();
+    for (int number = 0; number < pages; ++number) {
+        if (number > 0) {
+            writer.newPage();
+        }
+        painter.save();
+        painter.setClipRect(QRectF({Margin, Margin}, body));
+        painter.translate(Margin, Margin - number * body.height());
+        mDocument.drawContents(&painter,
+                               {0.0, number * body.height(), body.width(), body.height()});
+        painter.restore();
+        painter.setFont(formatOf(TextSize, false).font());
+        painter.setPen(Qt::darkGray);
+        const QRectF foot(Margin, Margin + body.height(), body.width(), Foot);
+        painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom,
+                         QString("%1 / %2").arg(number + 1).arg(pages));
+        painter.drawText(foot, Qt::AlignLeft | Qt::AlignBottom,
+                         painter.fontMetrics().elidedText(writer.title(), Qt::ElideRight,
+                                                          static_cast<int>(body.width()) - 100));
+    }
+    painter.end();
+    return out.data();
+}
+
+} // namespace TARN
+
+#include "PdfPages.moc"

@@ -1,0 +1,201 @@
+#include "report/ReportCharts.h"
+
+#include "base/ClockTime.h"
+#include "events/EventWords.h"
+#include "graph/CurveFill.h"
+#include "graph/GraphPalette.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+
+namespace TARN {
+
+namespace {
+
+using Parameters = std::vector<const ProfileParameter*>;
+
+/// The user's texts of this file, declared so that the extraction of texts finds them.
+struct ChartTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(ReportCharts)
+};
+
+/// A chart of some parameters of the flight, at most as many as there are curves.
+class Chart
+{
+public:
+    Chart(const ReportMatter& matter, const Parameters& parameters, const TimeRange& range,
+          Progress& progress)
+    {
+        const ExportInput& shown = matter.shown;
+        mModel.curves() = CurveSet(CurveSet::MaxCurves);
+        mModel.setDisplayMode(DisplaySplit);
+        nameCurves(mModel.curves(), parameters);
+        for (unsigned k = 0; k < parameters.size() && !progress.stopRequested(); ++k) {
+            const DecodedCurve curve =
+                decodeCurve(shown.flight, *parameters[k], shown.offset, range, mNone);
+            fillCurve(mModel.curves(), k, curve);
+        }
+        // They live as long as the matter.
+        const std::shared_ptr<const std::vector<Episode>> episodes(std::shared_ptr<void>(),
+                                                                   &matter.troubles.limits);
+        mModel.hints().notes = {shown.flight, shown.offset, episodes};
+        mModel.window().setWhole(range.start, range.stop);
+        mModel.window().set(range.start, range.stop);
+        mModel.setCursorPosition(range.start, false);
+        mModel.windowChanged();
+        mStyle = themed({}, true);
+        mStyle.cursorOn = false;
+        mStyle.valuesOn = false;
+    }
+
+    /// Shows the values at a time.
+    void point(double time)
+    {
+        mModel.setCursorPosition(time, false);
+        mStyle.cursorOn = true;
+        mStyle.valuesOn = true;
+    }
+
+    /// As one of two, whose plots stand one below the other.
+    void pair()
+    {
+        constexpr double Margin = 132.0; // pixels, for two ends of a range
+        mStyle.lanesOn = false;
+        mModel.layout().setLeastMargin(Margin);
+    }
+
+    ReportFigure figure(int height, const QString& label)
+    {
+        return {{mStyle, {}, {ReportPages::Width, height}, {}}, &mModel, label};
+    }
+
+private:
+    Progress mNone;
+    GraphModel mModel;
+    GraphStyle mStyle;
+};
+
+/// Two minutes: about the middle of what lasts less, otherwise about its peak.
+TimeRange windowAround(const Episode& episode)
+{
+    constexpr double Half = 60.0;
+    const bool isShort = episode.duration() < 2.0 * Half;
+    const double middle =
+        isShort || !episode.peak ? (episode.start + episode.end) / 2.0 : episode.peak->time;
+    const double start = std::max(0.0, middle - Half);
+    return {start, start + 2.0 * Half};
+}
+
+/// Parameters of the device with a value inside the window, but for the one that is shown anyway.
+Parameters othersOf(const ReportMatter& matter, const Episode& episode, const TimeRange& window)
+{
+    Parameters others;
+    for (const auto& [uid, parameter] : episode.device->parameters) {
+        const Series series = matter.shown.series(parameter);
+        if (&parameter != episode.parameter && !series.empty() &&
+            series.firstNotBefore(window.start) < series.firstAfter(window.stop)) {
+            others.push_back(&parameter);
+        }
+    }
+    return others;
+}
+
+QString captionOf(const Episode& episode)
+{
+    QString text =
+        QString("%1   %2   %3")
+            .arg(clockText(episode.start), durationWords(episode.duration()), episode.name);
+    if (episode.peak) {
+        text += ", " + ChartTexts::tr("peak %1 at %2, threshold %3")
+                           .arg(valueWords(*episode.parameter, episode.peak->value),
+                                clockTextWithMilliseconds(episode.peak->time),
+                                thresholdWords(*episode.peak));
+    }
+    return text;
+}
+
+/// The parameter itself, and below it the others, all on a page.
+void writeEpisode(const ReportMatter& matter, const Episode& episode, ReportPages& pages,
+                  Progress& progress)
+{
+    constexpr int Own = 190;    // pixels
+    constexpr int Axis = 62;    // for the time below the strips and what lies above them
+    constexpr int Tallest = 52; // a strip
+    const TimeRange window = windowAround(episode);
+    const double moment = episode.peak ? episode.peak->time : episode.start;
+    const QString words = captionOf(episode);
+    Chart own(matter, {episode.parameter}, window, progress);
+    own.point(moment);
+    own.pair();
+    Parameters others = othersOf(matter, episode, window);
+    others.resize(std::min<std::size_t>(others.size(), CurveSet::MaxCurves));
+    if (others.empty()) {
+        pages.figure(words, {own.figure(Own, words)});
+        return;
+    }
+    Chart rest(matter, others, window, progress);
+    rest.point(moment);
+    rest.pair();
+    const int room = ReportPages::Height - 40 - Own - Axis;
+    const int strip = std::min(Tallest, room / static_cast<int>(others.size()));
+    pages.figure(
+        words,
+        {own.figure(Own, words),
+         rest.figure(
+             Axis + strip * static_cast<int>(others.size()),
+             ChartTexts::tr("The other parameters of %1 meanwhile").arg(episode.device->name))});
+}
+
+} // namespace
+
+void writeWorst(const ReportMatter& matter, ReportPages& pages, Progress& progress)
+{
+    constexpr std::size_t Most = 10;
+    std::vector<const Episode*> worst;
+    for (const Episode* episode : worstOf(matter.troubles.limits, matter.troubles.limits.size())) {
+        if (episode->touches(matter.range) && worst.size() < Most) {
+            worst.push_back(episode);
+        }
+    }
+    if (worst.empty()) {
+        return;
+    }
+    pages.heading(ChartTexts::tr("The worst, in two minutes each"));
+    for (const Episode* episode : worst) {
+        if (!progress.stopRequested()) {
+            writeEpisode(matter, *episode, pages, progress);
+        }
+    }
+}
+
+void writeWhole(const ReportMatter& matter, ReportPages& pages, Progress& progress)
+{
+    constexpr std::size_t Strips = 14; // on a page
+    constexpr int Strip = 56;          // pixels
+    constexpr int Axis = 62;
+    constexpr int Lanes = 40;
+    pages.heading(ChartTexts::tr("The whole flight"));
+    const Parameters all = matter.parameters();
+    if (all.empty()) {
+        pages.say(ChartTexts::tr("No parameter is selected."));
+    }
+    if (!matter.range.hasExtent()) {
+        return; // no time to draw
+    }
+    const QString words = ChartTexts::tr("%1 to %2 on the recording's clock")
+                              .arg(clockText(matter.range.start), clockText(matter.range.stop));
+    for (std::size_t begin = 0; begin < all.size() && !progress.stopRequested(); begin += Strips) {
+        const std::size_t end = std::min(begin + Strips, all.size());
+        Chart chart(
+            matter,
+            Parameters(all.begin() + std::ptrdiff_t(begin), all.begin() + std::ptrdiff_t(end)),
+            matter.range, progress);
+        pages.figure(words,
+                     {chart.figure(Axis + Lanes + Strip * static_cast<int>(end - begin), words)});
+        progress.report(end, all.size());
+    }
+}
+
+} // namespace TARN
