@@ -268,7 +268,7 @@ private Q_SLOTS:
         }
         QVERIFY(!expected.empty());
         QCOMPARE(told, expected);
-        for (const char* part : {"ECU Oil", "Lamp", "E31", "1 in warning", "ORNA 1.2.19"}) {
+        for (const char* part : {"ECU Oil", "Lamp", "E31", "2 at the limit", "ORNA 1.2.19"}) {
             QVERIFY2(text.contains(part), part);
         }
         QVERIFY(run("report --profile P --language de --letter --start 102 -o T/c.htm R").status ==
