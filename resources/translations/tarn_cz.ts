@@ -989,6 +989,90 @@ Open a card (Ctrl+C) or drop its folder on the window.</source>
         <translation>Nejsou zde žádné záznamy.
 Otevřete kartu (Ctrl+C) nebo přetáhněte její složku do okna.</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Záznam</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Nejhorší</translation>
+    </message>
+    <message>
+        <source>Exceeded</source>
+        <translation>Překročeno</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Trvání</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Vzorky</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Poznámky</translation>
+    </message>
+    <message>
+        <source>%1 recordings</source>
+        <translation>Záznamů: %1</translation>
+    </message>
+    <message>
+        <source>Click to load these recordings together:</source>
+        <translation>Kliknutím načtete tyto záznamy společně:</translation>
+    </message>
+    <message>
+        <source>Not looked into: it can&apos;t be read, or is too large to be read in passing. Load it to see.</source>
+        <translation>Neprohlédnuto: nelze přečíst, nebo je příliš velký na čtení na pozadí. Načtěte jej.</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limit</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Varování</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>žádné</translation>
+    </message>
+    <message>
+        <source>At the limit: %1
+In warning: %2
+Lamps: %3
+Faults and warnings: %4
+Watched parameters: %5</source>
+        <translation>Na limitu: %1
+Ve varování: %2
+Kontrolky: %3
+Poruchy a varování: %4
+Sledované parametry: %5</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA – upozornění</translation>
+    </message>
+    <message>
+        <source>These recordings are of %1 flights.</source>
+        <translation>Tyto záznamy jsou z letů: %1.</translation>
+    </message>
+    <message>
+        <source>Laid over each other, values of one flight stand between those of another.</source>
+        <translation>Při překrytí leží hodnoty jednoho letu mezi hodnotami druhého.</translation>
+    </message>
+    <message>
+        <source>Load the First</source>
+        <translation>Načíst první</translation>
+    </message>
+    <message>
+        <source>Lay over Each Other</source>
+        <translation>Překrýt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Zrušit</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>

@@ -989,6 +989,90 @@ Open a card (Ctrl+C) or drop its folder on the window.</source>
         <translation>Hier sind keine Aufzeichnungen.
 Öffnen Sie eine Karte (Strg+C) oder ziehen Sie ihren Ordner auf das Fenster.</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Schlimmstes</translation>
+    </message>
+    <message>
+        <source>Exceeded</source>
+        <translation>Überschritten</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Messwerte</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Anmerkungen</translation>
+    </message>
+    <message>
+        <source>%1 recordings</source>
+        <translation>%1 Aufzeichnungen</translation>
+    </message>
+    <message>
+        <source>Click to load these recordings together:</source>
+        <translation>Klicken lädt diese Aufzeichnungen zusammen:</translation>
+    </message>
+    <message>
+        <source>Not looked into: it can&apos;t be read, or is too large to be read in passing. Load it to see.</source>
+        <translation>Nicht angesehen: nicht lesbar oder zu groß, um nebenbei gelesen zu werden. Laden Sie sie, um es zu sehen.</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Grenzwert</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>At the limit: %1
+In warning: %2
+Lamps: %3
+Faults and warnings: %4
+Watched parameters: %5</source>
+        <translation>Am Grenzwert: %1
+Im Warnbereich: %2
+Lampen: %3
+Fehler und Warnungen: %4
+Überwachte Parameter: %5</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA-Warnung</translation>
+    </message>
+    <message>
+        <source>These recordings are of %1 flights.</source>
+        <translation>Diese Aufzeichnungen sind von %1 Flügen.</translation>
+    </message>
+    <message>
+        <source>Laid over each other, values of one flight stand between those of another.</source>
+        <translation>Übereinandergelegt stehen Werte des einen Fluges zwischen denen des anderen.</translation>
+    </message>
+    <message>
+        <source>Load the First</source>
+        <translation>Den ersten laden</translation>
+    </message>
+    <message>
+        <source>Lay over Each Other</source>
+        <translation>Übereinanderlegen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>

@@ -989,6 +989,90 @@ Open a card (Ctrl+C) or drop its folder on the window.</source>
         <translation>No hay grabaciones aquí.
 Abra una tarjeta (Ctrl+C) o suelte su carpeta en la ventana.</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Grabación</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Lo peor</translation>
+    </message>
+    <message>
+        <source>Exceeded</source>
+        <translation>Superados</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Muestras</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Observaciones</translation>
+    </message>
+    <message>
+        <source>%1 recordings</source>
+        <translation>%1 grabaciones</translation>
+    </message>
+    <message>
+        <source>Click to load these recordings together:</source>
+        <translation>Clic para cargar juntas estas grabaciones:</translation>
+    </message>
+    <message>
+        <source>Not looked into: it can&apos;t be read, or is too large to be read in passing. Load it to see.</source>
+        <translation>No examinada: no se puede leer o es demasiado grande para leerla de paso. Cárguela para verla.</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Límite</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>At the limit: %1
+In warning: %2
+Lamps: %3
+Faults and warnings: %4
+Watched parameters: %5</source>
+        <translation>En el límite: %1
+En aviso: %2
+Luces: %3
+Fallos y avisos: %4
+Parámetros vigilados: %5</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso de ORNA</translation>
+    </message>
+    <message>
+        <source>These recordings are of %1 flights.</source>
+        <translation>Estas grabaciones son de %1 vuelos.</translation>
+    </message>
+    <message>
+        <source>Laid over each other, values of one flight stand between those of another.</source>
+        <translation>Superpuestas, los valores de un vuelo quedan entre los de otro.</translation>
+    </message>
+    <message>
+        <source>Load the First</source>
+        <translation>Cargar el primero</translation>
+    </message>
+    <message>
+        <source>Lay over Each Other</source>
+        <translation>Superponer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>

@@ -151,7 +151,7 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <name>EventLists</name>
     <message>
         <source>The recording holds no FLOAT message of a parameter with a threshold, so nothing was watched for limits.</source>
-        <translation>L&apos;enregistrement ne contient aucun message FLOAT d&apos;un paramètre à seuil ; aucune limite n&apos;a été surveillée.</translation>
+        <translation>L&apos;enregistrement ne contient aucun message FLOAT d&apos;un paramètre à seuil&#xa0;; aucune limite n&apos;a été surveillée.</translation>
     </message>
     <message>
         <source>No limit event in %1 samples of %2 watched parameters.</source>
@@ -159,7 +159,7 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
     <message>
         <source>The recording holds no message of a warning lamp, so none was watched.</source>
-        <translation>L&apos;enregistrement ne contient aucun message de voyant d&apos;alerte ; aucun n&apos;a été surveillé.</translation>
+        <translation>L&apos;enregistrement ne contient aucun message de voyant d&apos;alerte&#xa0;; aucun n&apos;a été surveillé.</translation>
     </message>
     <message>
         <source>No warning lamp came on in %1 samples of %2 lamps.</source>
@@ -621,7 +621,7 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
     <message>
         <source>The recording holds no samples, so nothing was checked.</source>
-        <translation>L&apos;enregistrement ne contient aucun échantillon ; rien n&apos;a été vérifié.</translation>
+        <translation>L&apos;enregistrement ne contient aucun échantillon&#xa0;; rien n&apos;a été vérifié.</translation>
     </message>
     <message>
         <source>Remarks on the recording</source>
@@ -988,6 +988,90 @@ Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, e
 Open a card (Ctrl+C) or drop its folder on the window.</source>
         <translation>Aucun enregistrement ici.
 Ouvrez une carte (Ctrl+C) ou déposez son dossier sur la fenêtre.</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Le pire</translation>
+    </message>
+    <message>
+        <source>Exceeded</source>
+        <translation>Dépassés</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Échantillons</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Remarques</translation>
+    </message>
+    <message>
+        <source>%1 recordings</source>
+        <translation>%1 enregistrements</translation>
+    </message>
+    <message>
+        <source>Click to load these recordings together:</source>
+        <translation>Cliquer pour charger ensemble ces enregistrements&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Not looked into: it can&apos;t be read, or is too large to be read in passing. Load it to see.</source>
+        <translation>Non examiné&#xa0;: illisible, ou trop grand pour être lu en passant. Chargez-le pour voir.</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Alerte</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>At the limit: %1
+In warning: %2
+Lamps: %3
+Faults and warnings: %4
+Watched parameters: %5</source>
+        <translation>À la limite&#xa0;: %1
+En alerte&#xa0;: %2
+Voyants&#xa0;: %3
+Défauts et alertes&#xa0;: %4
+Paramètres surveillés&#xa0;: %5</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA - Avertissement</translation>
+    </message>
+    <message>
+        <source>These recordings are of %1 flights.</source>
+        <translation>Ces enregistrements sont de %1 vols.</translation>
+    </message>
+    <message>
+        <source>Laid over each other, values of one flight stand between those of another.</source>
+        <translation>Superposés, les valeurs d&apos;un vol se mêlent à celles d&apos;un autre.</translation>
+    </message>
+    <message>
+        <source>Load the First</source>
+        <translation>Charger le premier</translation>
+    </message>
+    <message>
+        <source>Lay over Each Other</source>
+        <translation>Superposer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>

@@ -989,6 +989,90 @@ Open a card (Ctrl+C) or drop its folder on the window.</source>
         <translation>Não há gravações aqui.
 Abra um cartão (Ctrl+C) ou solte a pasta dele na janela.</translation>
     </message>
+    <message>
+        <source>Recording</source>
+        <translation>Gravação</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>O pior</translation>
+    </message>
+    <message>
+        <source>Exceeded</source>
+        <translation>Excedidos</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Amostras</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Observações</translation>
+    </message>
+    <message>
+        <source>%1 recordings</source>
+        <translation>%1 gravações</translation>
+    </message>
+    <message>
+        <source>Click to load these recordings together:</source>
+        <translation>Clique para carregar juntas estas gravações:</translation>
+    </message>
+    <message>
+        <source>Not looked into: it can&apos;t be read, or is too large to be read in passing. Load it to see.</source>
+        <translation>Não examinada: não pode ser lida ou é grande demais para ser lida de passagem. Carregue-a para ver.</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhuma</translation>
+    </message>
+    <message>
+        <source>At the limit: %1
+In warning: %2
+Lamps: %3
+Faults and warnings: %4
+Watched parameters: %5</source>
+        <translation>No limite: %1
+Em aviso: %2
+Luzes: %3
+Falhas e avisos: %4
+Parâmetros vigiados: %5</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso do ORNA</translation>
+    </message>
+    <message>
+        <source>These recordings are of %1 flights.</source>
+        <translation>Estas gravações são de %1 voos.</translation>
+    </message>
+    <message>
+        <source>Laid over each other, values of one flight stand between those of another.</source>
+        <translation>Sobrepostas, os valores de um voo ficam entre os de outro.</translation>
+    </message>
+    <message>
+        <source>Load the First</source>
+        <translation>Carregar o primeiro</translation>
+    </message>
+    <message>
+        <source>Lay over Each Other</source>
+        <translation>Sobrepor</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>

@@ -3,6 +3,7 @@
 #include "app/ActivityBar.h"
 #include "app/Bundle.h"
 #include "app/CardOpener.h"
+#include "app/CardOverview.h"
 #include "app/DialogData.h"
 #include "app/DialogStatusBar.h"
 #include "app/DropHandler.h"
@@ -100,6 +101,7 @@ DialogMain::~DialogMain() = default;
 void DialogMain::createPanes()
 {
     mCard = new DialogCard;
+    mOverview = new CardOverview(mSession, *mCard, this);
     mProfile = new DialogProfile(mSession);
     mData = new DialogData(mSession);
     mData->setStyle(Kernel::instance()->getStyle2());
@@ -153,6 +155,7 @@ void DialogMain::connectLoading()
     connect(mOpener, &CardOpener::listed, this, [this] {
         mCard->setCardInfo(mOpener->card());
         mCard->selectRecords(std::exchange(mToPick, {}));
+        mOverview->look(mOpener->card());
     });
 }
 

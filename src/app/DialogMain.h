@@ -13,6 +13,7 @@ class QSplitter;
 namespace TARN {
 
 class CardOpener;
+class CardOverview;
 class DialogCard;
 class DialogData;
 class DialogProfile;
@@ -78,6 +79,7 @@ private:
     DialogStatusBar* mStatusBar;
     DialogRecordDetails* mDetails;
     CardOpener* mOpener;
+    CardOverview* mOverview;
     FlightLoader* mLoader;
     OffsetKeeper* mOffset;
     ProjectKeeper* mProject;

@@ -15,6 +15,7 @@ public:
     static Property* instance();
 
     void setConfigFile(const std::string& file);
+    const std::string& configFile() const { return mConfigFile; }
 
     /// Merges the file's entries into the store. A file that can't be read leaves the store as
     /// it is; that is reported on the diagnostic stream and is not an error. Where that is the

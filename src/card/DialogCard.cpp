@@ -1,17 +1,64 @@
 #include "card/DialogCard.h"
 
 #include "base/ClockTime.h"
+#include "base/CountText.h"
 #include "record/RecordText.h"
 
 #include <QtGui/QAction>
+#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeWidget>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
 
 namespace TARN {
+
+namespace {
+
+enum Column
+{
+    Name,
+    Worst,
+    Exceeded,
+    Duration,
+    Samples,
+    Remarks,
+    ColumnCount
+};
+
+constexpr int PathRole = Qt::UserRole;
+constexpr int FilesRole = Qt::UserRole + 2; ///< of a flight
+
+QIcon signOf(const QColor& color)
+{
+    constexpr int Size = 10; // pixels
+    QPixmap sign(Size, Size);
+    sign.fill(color);
+    return color.isValid() ? QIcon(sign) : QIcon();
+}
+
+std::list<QString> filesOf(const QTreeWidgetItem& item)
+{
+    const QStringList files = item.data(Name, FilesRole).toStringList();
+    return files.isEmpty() ? std::list<QString>{item.data(Name, PathRole).toString()}
+                           : std::list<QString>(files.begin(), files.end());
+}
+
+/// What the headers tell of the samples.
+void showExtent(QTreeWidgetItem& item, double duration, qint64 samples)
+{
+    item.setText(Duration, clockText(duration));
+    item.setText(Samples, countText(samples));
+    for (const int column : {Exceeded, Duration, Samples, Remarks}) {
+        item.setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
+    }
+}
+
+} // namespace
 
 DialogCard::DialogCard(QWidget* parent)
     : QWidget(parent), mFolder(new QLineEdit), mTree(new QTreeWidget),
@@ -24,7 +71,12 @@ DialogCard::DialogCard(QWidget* parent)
     mFolder->setToolTip(tr("Folder of the recordings"));
     mFolder->setAccessibleName(tr("Card folder"));
     mTree->setObjectName("recordings");
-    mTree->setHeaderHidden(true);
+    mTree->setColumnCount(ColumnCount);
+    mTree->setHeaderLabels({tr("Recording"), tr("Worst"), tr("Exceeded"), tr("Duration"),
+                            tr("Samples"), tr("Remarks")});
+    mTree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    mTree->header()->setStretchLastSection(false);
+    mTree->setAllColumnsShowFocus(true);
     mTree->setSelectionMode(QAbstractItemView::ExtendedSelection);
     mTree->setIconSize(QSize(16, 16));
     mTree->setAccessibleName(tr("Recordings"));
@@ -62,9 +114,85 @@ void DialogCard::updateInfo()
     mHint->setVisible(mCardInfo.records.empty());
     mTree->clear();
     mTimer.stop(); // what was picked is not listed any more
+    const auto groups = flightGroups(mCardInfo);
     for (const auto& [path, info] : mCardInfo.records) {
+        const auto group =
+            std::ranges::find_if(groups, [&](const FlightGroup& of) { return of.front() == path; });
+        if (group != groups.end() && group->size() > 1) {
+            addFlight(*group);
+        }
         addRecord(path, info);
     }
+}
+
+void DialogCard::addFlight(const FlightGroup& group)
+{
+    const RecordInfo& first = mCardInfo.records.at(group.front());
+    double start = first.startTime;
+    double stop = first.stopTime;
+    qint64 samples = 0;
+    for (const QString& path : group) {
+        const RecordInfo& info = mCardInfo.records.at(path);
+        start = std::min(start, info.startTime);
+        stop = std::max(stop, info.stopTime);
+        samples += info.samples;
+    }
+    auto* item = new QTreeWidgetItem(mTree);
+    item->setText(Name, tr("%1 recordings").arg(group.size()) + "   " + first.dateTimeText());
+    item->setIcon(Name, QIcon(":/icons/cardOpen.svg"));
+    item->setData(Name, FilesRole, QStringList(group.begin(), group.end()));
+    item->setToolTip(Name, tr("Click to load these recordings together:") + "\n" +
+                               QStringList(group.begin(), group.end()).join('\n'));
+    QFont bold = mTree->font();
+    bold.setBold(true);
+    item->setFont(Name, bold);
+    showExtent(*item, stop - start, samples);
+}
+
+/// The line of a recording, or of the flight of which these are all. Null when there is none.
+QTreeWidgetItem* DialogCard::itemOf(const std::list<QString>& files) const
+{
+    for (int row = 0; row < mTree->topLevelItemCount(); ++row) {
+        if (filesOf(*mTree->topLevelItem(row)) == files) {
+            return mTree->topLevelItem(row);
+        }
+    }
+    return nullptr;
+}
+
+void DialogCard::setOverview(const std::list<QString>& files,
+                             const std::optional<Overview>& overview)
+{
+    QTreeWidgetItem* item = itemOf(files);
+    if (item == nullptr) {
+        return;
+    }
+    if (!overview) {
+        item->setText(Worst, "?");
+        item->setToolTip(Worst, tr("Not looked into: it can't be read, or is too large to be read "
+                                   "in passing. Load it to see."));
+        return;
+    }
+    const Overview& found = *overview;
+    const bool isWatched = found.watched > 0;
+    item->setText(Worst, found.limits > 0     ? tr("Limit")
+                         : found.warnings > 0 ? tr("Warning")
+                         : isWatched          ? tr("none")
+                                              : "---");
+    item->setIcon(Worst, signOf(found.limits > 0     ? QColor(0xFF, 0x6A, 0x6A)
+                                : found.warnings > 0 ? QColor(0xFF, 0xC8, 0x3C)
+                                                     : QColor()));
+    item->setText(Exceeded, isWatched ? countText(found.limits + found.warnings) : "---");
+    item->setText(Remarks, countText(found.remarks));
+    item->setToolTip(Worst,
+                     tr("At the limit: %1\nIn warning: %2\nLamps: %3\nFaults and warnings: %4\n"
+                        "Watched parameters: %5")
+                         .arg(found.limits)
+                         .arg(found.warnings)
+                         .arg(found.lamps)
+                         .arg(found.faults)
+                         .arg(found.watched));
+    showExtent(*item, found.duration, found.samples);
 }
 
 void DialogCard::selectRecords(const std::list<QString>& paths)
@@ -92,6 +220,8 @@ void DialogCard::addRecord(const QString& path, const RecordInfo& info)
     item->setData(0, Qt::UserRole, path);
     item->setData(0, Qt::UserRole + 1, true);
     item->setToolTip(0, toolTipOf(info, recordRemarks(info)));
+    showExtent(*item, std::max(0.0, info.stopTime - info.startTime),
+               std::max<qint64>(0, info.samples));
     addDetails(item, info);
 }
 
@@ -100,6 +230,7 @@ void DialogCard::addDetails(QTreeWidgetItem* item, const RecordInfo& info)
     for (const RecordField& field : recordFields(info)) {
         auto* line = new QTreeWidgetItem(item);
         line->setText(0, QString("%1: %2").arg(field.label, field.value));
+        line->setFirstColumnSpanned(true);
     }
 }
 
@@ -136,16 +267,48 @@ void DialogCard::slotSelect()
     constexpr int Delay = 500; // ms; a burst of changes loads once
     mSelected.clear();
     for (const QTreeWidgetItem* item : mTree->selectedItems()) {
-        mSelected.push_back(item->data(0, Qt::UserRole).toString());
+        mSelected.splice(mSelected.end(), filesOf(*item));
     }
     // As listed, however they were picked: time runs forward from file to file.
     mSelected.sort();
+    mSelected.unique(); // a flight and one of its recordings
     mTimer.start(Delay);
 }
 
 void DialogCard::slotTimeout()
 {
-    Q_EMIT signalLoadRecord(mSelected);
+    if (belongTogether(mSelected, mCardInfo) || isSureOfFlights()) {
+        Q_EMIT signalLoadRecord(mSelected);
+    }
+}
+
+/// Asks which flight is meant; false when nothing is to be loaded.
+bool DialogCard::isSureOfFlights()
+{
+    std::vector<std::list<QString>> flights;
+    for (const FlightGroup& group : flightGroups(mCardInfo)) {
+        std::list<QString> picked;
+        std::ranges::copy_if(group, std::back_inserter(picked), [&](const QString& path) {
+            return std::ranges::find(mSelected, path) != mSelected.end();
+        });
+        if (!picked.empty()) {
+            flights.push_back(std::move(picked));
+        }
+    }
+    QMessageBox box(QMessageBox::Question, tr("ORNA Warning"),
+                    tr("These recordings are of %1 flights.").arg(flights.size()),
+                    QMessageBox::NoButton, this);
+    box.setInformativeText(tr("Laid over each other, values of one flight stand between those of "
+                              "another."));
+    const QAbstractButton* first = box.addButton(tr("Load the First"), QMessageBox::AcceptRole);
+    const QAbstractButton* all = box.addButton(tr("Lay over Each Other"), QMessageBox::ActionRole);
+    box.setEscapeButton(box.addButton(tr("Cancel"), QMessageBox::RejectRole));
+    box.exec();
+    if (box.clickedButton() == first) {
+        mSelected = flights.front();
+        showLoaded(mSelected);
+    }
+    return box.clickedButton() == first || box.clickedButton() == all;
 }
 
 } // namespace TARN

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "record/CardInfo.h"
+#include "flight/Overview.h"
+#include "record/FlightGroups.h"
 #include "record/RecordIntegrity.h"
 
 #include <QtCore/QTimer>
@@ -15,8 +16,9 @@ class QTreeWidgetItem;
 
 namespace TARN {
 
-/// Lists the recordings of a card folder with what their headers say, and announces those that
-/// the user picks.
+/// Lists the recordings of a card folder with what their headers say and what they hold, and
+/// announces those that the user picks. Recordings that make one flight stand below a line that
+/// picks them all; those of several flights are laid over each other only if the user says so.
 class DialogCard : public QWidget
 {
     Q_OBJECT
@@ -37,6 +39,10 @@ public:
     /// Adds what reading their samples has shown to the tool tips of the files read.
     void setIntegrity(const RecordIntegrity& integrity);
 
+    /// What recordings hold, or those of a flight together; nothing where they were not looked
+    /// into.
+    void setOverview(const std::list<QString>& files, const std::optional<Overview>& overview);
+
 Q_SIGNALS:
     /// Half a second after the last change of the selection. A selected detail line contributes
     /// an empty path.
@@ -52,7 +58,10 @@ private Q_SLOTS:
 private:
     static QString toolTipOf(const RecordInfo& info, const QStringList& remarks);
     void askDetails();
+    void addFlight(const FlightGroup& group);
     void addRecord(const QString& path, const RecordInfo& info);
+    QTreeWidgetItem* itemOf(const std::list<QString>& files) const;
+    bool isSureOfFlights();
     void addDetails(QTreeWidgetItem* item, const RecordInfo& info);
 
     CardInfo mCardInfo;

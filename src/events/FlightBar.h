@@ -1,6 +1,6 @@
 #pragma once
 
-#include "events/FlightSummary.h"
+#include "flight/FlightSummary.h"
 #include "flight/EpisodeWatch.h"
 
 #include <QtWidgets/QLabel>

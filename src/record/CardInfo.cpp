@@ -12,6 +12,11 @@ bool isRecordingName(const QString& name)
     return name.endsWith(".CAN") || name.endsWith(".can");
 }
 
+bool isHighFile(const QString& path)
+{
+    return path.section('/', -1).mid(4, 4).toInt(nullptr, 16) > 32767;
+}
+
 std::vector<QString> cardFiles(const QString& folder)
 {
     std::vector<QString> files;

@@ -20,6 +20,10 @@ struct CardInfo
 /// Whether a file of this name is a recording: it ends in ".CAN" or ".can".
 bool isRecordingName(const QString& name);
 
+/// Whether a recording is of the unit whose clock the folder's time offset corrects: characters 5
+/// to 8 of its name are a hexadecimal number above 7FFF.
+bool isHighFile(const QString& path);
+
 /// Full paths of the recordings of a folder, sorted.
 std::vector<QString> cardFiles(const QString& folder);
 

@@ -1,5 +1,7 @@
 #include "record/SliceReader.h"
 
+#include "record/CardInfo.h"
+
 #include <QtCore/QFileInfo>
 
 #include <chrono>
@@ -9,14 +11,6 @@
 namespace TARN {
 
 namespace {
-
-/// Names of the form xxxxHHHH... carry a hexadecimal number; its upper half marks a unit whose
-/// clock the folder's time offset corrects.
-bool isHighFile(const QString& path)
-{
-    const QString name = path.section('/', -1);
-    return name.mid(4, 4).toInt(nullptr, 16) > 32767;
-}
 
 /// Whether a file goes away within a second. A card that is pulled out fails to be read a little
 /// before its files are gone.

@@ -41,6 +41,8 @@ DialogReport::DialogReport(QWidget* parent)
     mPaper->addItem("Letter");
     mPaper->setToolTip(tr("Size of the paper that it is printed on"));
     mRange->setToolTip(tr("A range is marked in the graph"));
+    constexpr int LeastWidth = 480;
+    setMinimumWidth(LeastWidth);
     auto* form = new QFormLayout(this);
     form->addRow(tr("&Folder"), mFolder);
     form->addRow(tr("File &Name"), mFile);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "events/FlightSummary.h"
 #include "export/Exporter.h"
+#include "flight/FlightSummary.h"
 
 namespace TARN {
 

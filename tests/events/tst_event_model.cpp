@@ -1,5 +1,5 @@
 #include "events/EventOrder.h"
-#include "events/FlightSummary.h"
+#include "flight/FlightSummary.h"
 #include "support/FlightTest.h"
 
 #include <QtGui/QBrush>

@@ -1,3 +1,4 @@
+#include "card/OverviewFinder.h"
 #include "flight/EmptyText.h"
 #include "flight/EpisodeWatch.h"
 #include "flight/OffsetKeeper.h"
@@ -305,6 +306,45 @@ private Q_SLOTS:
         session.setProfile(profileOf("<Device/>"), {}, nullptr);
         QVERIFY(watch.episodes() == nullptr && changed.count() == 5);
         QVERIFY(kept->at(0).start == 6.0 && !profile.expired()); // what they refer to
+    }
+
+    /// What was found is kept for as long as the recording is the same.
+    void overviewIsKept()
+    {
+        const QString file = writeRecording("500@1=0 500@2=15 500@3=5 900@2=5:00000008 900@3=5:0");
+        const QDateTime time = QFileInfo(file).lastModified();
+        const QString cache = path("Overview.json");
+        const auto profile = profileOf(Elements);
+        const auto lookInto = [&](const std::list<QString>& files) {
+            OverviewFinder finder(cache);
+            std::vector<std::optional<Overview>> answers;
+            connect(&finder, &OverviewFinder::found, this,
+                    [&](const auto&, const std::optional<Overview>& found) {
+                        answers.push_back(found);
+                    });
+            finder.pause(true);
+            finder.look({files, {path("none.CAN")}}, profile);
+            finder.pause(false);
+            [&] { QTRY_COMPARE(answers.size(), 2U); }();
+            return !answers[1] ? answers[0] : std::nullopt; // there is no such file
+        };
+        const auto touch = [&](const QDateTime& when) {
+            QFile changed(file);
+            QVERIFY(changed.open(QIODevice::ReadWrite) && changed.seek(changed.size() - 1) &&
+                    changed.putChar('\1') && changed.flush());
+            QVERIFY(changed.setFileTime(when, QFileDevice::FileModificationTime));
+        };
+        const auto first = lookInto({file});
+        QVERIFY(first && *first == (Overview{2.0, 5, 1, 0, 1, 0, 1, 0}));
+        write("Overview.json", read("Overview.json").replace("[2,5,1,", "[2,5,7,"));
+        touch(time);
+        QCOMPARE(lookInto({file})->watched, 7); // as it is kept
+        touch(time.addSecs(60));
+        QCOMPARE(lookInto({file})->watched, 1);
+        for (const char* damage : {"", "[]", "{\"a\":[1]}", "{\"a\":[1,2,3,4,5,6,-7,8]}", "\xff"}) {
+            write("Overview.json", damage);
+            QCOMPARE(lookInto({file})->watched, 1);
+        }
     }
 
     void offsetIsKeptOnTheCard()

@@ -68,6 +68,26 @@ QString WindowTest::said()
     return find<TARN::ElidedLabel>("message")->fullText();
 }
 
+QTreeWidgetItem* WindowTest::recording(int number)
+{
+    for (int row = 0; row < recordings()->topLevelItemCount(); ++row) {
+        QTreeWidgetItem* item = recordings()->topLevelItem(row);
+        if (!item->data(0, Qt::UserRole).toString().isEmpty() && number-- == 0) {
+            return item;
+        }
+    }
+    return nullptr;
+}
+
+int WindowTest::recordingCount()
+{
+    int count = 0;
+    while (recording(count) != nullptr) {
+        ++count;
+    }
+    return count;
+}
+
 QStringList WindowTest::emptyTexts()
 {
     QStringList texts;
@@ -82,10 +102,10 @@ void WindowTest::pick(std::initializer_list<int> rows)
     QSignalSpy asked(mWindow->findChild<TARN::DialogCard*>(), &TARN::DialogCard::signalLoadRecord);
     Qt::KeyboardModifiers modifiers = Qt::NoModifier;
     for (const int row : rows) {
-        QTreeWidgetItem* item = recordings()->topLevelItem(row);
+        QTreeWidgetItem* item = recording(row);
         recordings()->scrollToItem(item);
         QTest::mouseClick(recordings()->viewport(), Qt::LeftButton, modifiers,
-                          recordings()->visualItemRect(item).center());
+                          recordings()->visualRect(recordings()->indexFromItem(item)).center());
         modifiers = Qt::ControlModifier;
     }
     QVERIFY2(asked.wait(2000), "no recording was asked for");

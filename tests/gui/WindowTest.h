@@ -46,6 +46,9 @@ public:
     }
     QTabWidget* views() { return find<QTabWidget>("views"); }
     QTreeWidget* recordings() { return find<QTreeWidget>("recordings"); }
+    /// A recording that is listed, from 0; lines of flights are left out.
+    QTreeWidgetItem* recording(int number);
+    int recordingCount();
     QTreeWidget* parameters() { return find<QTreeWidget>("parameters"); }
     QTableView* table() { return find<QTableView>("values"); }
     QTableView* events(View view)

@@ -215,7 +215,7 @@ private Q_SLOTS:
         QTest::qWait(600); // recordings are picked as by clicks
         settle();
         QVERIFY2(this->said().contains(said), qPrintable(this->said()));
-        QCOMPARE(recordings()->topLevelItemCount(), loaded < 0 ? 0 : 2);
+        QCOMPARE(recordingCount(), loaded < 0 ? 0 : 2);
         QCOMPARE(setting("LastPath"), loaded < 0 ? QString() : card);
         const auto& flight = session().flight();
         QCOMPARE(flight ? int(flight->record()->integrity().files.size()) : 0, std::max(0, loaded));
@@ -318,25 +318,52 @@ private Q_SLOTS:
     {
         CardInfo card;
         card.path = "/media/card/";
+        double start = 90061.0; // past midnight
         for (const char* name : {"/x/a.CAN", "/x/b.CAN", "/x/c.CAN"}) {
-            card.records[name].startTime = 90061.0; // past midnight
+            RecordInfo& info = card.records[name];
+            info.startTime = start;
+            info.stopTime = start += 10.0;
+            info.samples = 5;
         }
         DialogCard dialog;
         dialog.setCardInfo(card);
         QCOMPARE(dialog.findChild<QLineEdit*>()->text(), "card");
         auto* tree = dialog.findChild<QTreeWidget*>();
-        QVERIFY(tree->topLevelItem(0)->toolTip(0).startsWith("Start Time: 01:01:01\n"));
+        QVERIFY(tree->topLevelItem(1)->toolTip(0).startsWith("Start Time: 01:01:01\n"));
         QSignalSpy spy(&dialog, &DialogCard::signalLoadRecord);
-        for (const int row : {2, 0, 1}) {
+        for (const int row : {3, 1, 2}) {
             tree->topLevelItem(row)->setSelected(true);
             QTest::qWait(100);
         }
         QVERIFY(spy.isEmpty() && spy.wait(2000));
-        QCOMPARE(spy[0][0].value<std::list<QString>>(), // in the order of the list
-                 (std::list<QString>{"/x/a.CAN", "/x/b.CAN", "/x/c.CAN"}));
+        const std::list<QString> flight = {"/x/a.CAN", "/x/b.CAN", "/x/c.CAN"};
+        QCOMPARE(spy[0][0].value<std::list<QString>>(), flight); // in the order of the list
+
+        // The line above them picks them all; those of another flight are asked about.
+        tree->clearSelection();
+        tree->topLevelItem(0)->setSelected(true);
+        QVERIFY(spy.wait(2000));
+        QCOMPARE(spy[1][0].value<std::list<QString>>(), flight);
+        dialog.setOverview(flight, Overview{60.0, 15, 3, 1, 2, 0, 0, 4});
+        QCOMPARE(tree->topLevelItem(0)->text(1) + tree->topLevelItem(0)->text(2), "Limit3");
+        card.records["/x/d.CAN"].samples = 5;
+        dialog.setCardInfo(card);
+        std::list<QString> all = flight;
+        all.push_back("/x/d.CAN");
+        const std::pair<const char*, std::list<QString>> choices[] = {
+            {"Load the First", flight}, {"Lay over Each Other", all}, {"Cancel", {}}};
+        for (const auto& [button, announced] : choices) {
+            answers().buttons = {button};
+            spy.clear();
+            tree->clearSelection();
+            tree->selectAll();
+            QVERIFY(spy.wait(700) == !announced.empty());
+            QVERIFY(announced.empty() || spy[0][0].value<std::list<QString>>() == announced);
+            QVERIFY(answers().buttons.isEmpty());
+        }
         tree->clearSelection();
         dialog.setCardInfo({}); // what was picked is not listed any more
-        QVERIFY(!spy.wait(700) && spy.size() == 1);
+        QVERIFY(!spy.wait(700) && spy.empty());
     }
 };
 

@@ -116,7 +116,7 @@ private Q_SLOTS:
         start();
         QTableView* table = this->table();
         QCOMPARE(title(), "ORNA Flight");
-        QTreeWidgetItem* first = recordings()->topLevelItem(0);
+        QTreeWidgetItem* first = recording(0);
         QVERIFY(first->text(0).startsWith("LOG_0001.CAN   16.5.2026"));
         QCOMPARE(table->model()->columnCount(), 3);
         QVERIFY(!slider()->isEnabled() && !offset()->isEnabled());
@@ -201,7 +201,7 @@ private Q_SLOTS:
         start();
         const QString saidAtStart = this->said();
         const bool hasCard = !file.endsWith(".ini");
-        QCOMPARE(recordings()->topLevelItemCount(), hasCard ? 2 : 0);
+        QCOMPARE(recordingCount(), hasCard ? 2 : 0);
         hasCard ? open({0}) : settle();
         confirm();
         const QString saidNow = saidAtStart + this->said();
@@ -354,10 +354,10 @@ private Q_SLOTS:
         QFile file(path("card/LOG_0002.CAN"));
         QVERIFY(file.resize(file.size() - 3 * 28 - 5));
         start();
-        QTreeWidgetItem* item = recordings()->topLevelItem(1);
+        QTreeWidgetItem* item = recording(1);
         const QString remark = "Ignored at the end, bytes that are no whole sample: 23";
         QVERIFY(item->toolTip(0).endsWith("\n" + remark));
-        QCOMPARE(recordings()->topLevelItem(0)->toolTip(0).count('\n'), 1);
+        QCOMPARE(recording(0)->toolTip(0).count('\n'), 1);
 
         // Damage to the samples shows when they are read.
         QVERIFY(file.open(QIODevice::ReadWrite) && file.seek(128 + 28 * 1000 + 20));

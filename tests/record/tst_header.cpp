@@ -1,4 +1,4 @@
-#include "record/CardInfo.h"
+#include "record/FlightGroups.h"
 #include "record/OffsetFile.h"
 #include "record/Record.h"
 #include "record/RecordText.h"
@@ -211,6 +211,64 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtCriticalMsg, QRegularExpression("stat\\(\\) failed"));
         QVERIFY(!file.save(2));
         QCOMPARE(read(name), "damaged");
+    }
+
+    void flightGroups_data()
+    {
+        QTest::addColumn<QString>("listed"); // name start-stop, date after "@", unit after "#"
+        QTest::addColumn<QString>("groups");
+        QTest::newRow("go on")
+            << "LOG_0001 0-9@100 LOG_0002 9.5-20@109 LOG_0003 79-85@179 LOG_0004 146-150@246"
+            << "0001 0002 0003|0004";
+        QTest::newRow("another day") << "LOG_0001 0-9@100 LOG_0002 9-20@86509"
+                                     << "0001|0002";
+        QTest::newRow("no dates") << "LOG_0002 9-20 LOG_0001 0-9"
+                                  << "0001 0002";
+        QTest::newRow("one date") << "LOG_0001 0-9@100 LOG_0002 9-20"
+                                  << "0001|0002";
+        QTest::newRow("another unit") << "LOG_0001 0-9#1 LOG_0002 9-20#2"
+                                      << "0001|0002";
+        QTest::newRow("overlap") << "LOG_0001 0-9@0 LOG_0002 7.9-20@8"
+                                 << "0001|0002";
+        QTest::newRow("the other side")
+            << "LOG_0001 0-9@100 LOG_0002 9-20@109 LOG_8001 3-19@103 LOG_8002 500-501@600"
+            << "0001 0002 8001|8002";
+        QTest::newRow("empty") << "LOG_0001 0-0 LOG_0002 0-0"
+                               << "0001|0002";
+    }
+
+    void flightGroups()
+    {
+        QFETCH(QString, listed);
+        CardInfo card;
+        const QStringList words = listed.split(' ');
+        for (qsizetype i = 0; i + 1 < words.size(); i += 2) {
+            const QString text = words[i + 1];
+            RecordInfo& info = card.records["/card/" + words[i] + ".CAN"];
+            info.startTime = text.section('-', 0, 0).toDouble();
+            info.stopTime = text.section('-', 1).section('@', 0, 0).section('#', 0, 0).toDouble();
+            info.samples = info.stopTime > 0.0 ? 5 : 0;
+            info.ecuSerialNumber = text.section('#', 1).toUInt();
+            if (text.contains('@')) {
+                info.dateTime = QDateTime::fromSecsSinceEpoch(1'000'000'000 +
+                                                              text.section('@', 1).toLongLong());
+            }
+        }
+        QStringList groups;
+        for (const FlightGroup& group : TARN::flightGroups(card)) {
+            QStringList names;
+            for (const QString& path : group) {
+                names += path.mid(10, 4);
+            }
+            groups += names.join(' ');
+            QVERIFY(belongTogether({group.begin(), group.end()}, card));
+        }
+        QTEST(groups.join('|'), "groups");
+        std::list<QString> all = {"/elsewhere.CAN"};
+        for (const auto& [path, info] : card.records) {
+            all.push_back(path);
+        }
+        QCOMPARE(belongTogether(all, card), groups.size() == 1);
     }
 };
 

@@ -1,4 +1,4 @@
-#include "events/FlightSummary.h"
+#include "flight/FlightSummary.h"
 
 #include "base/ClockTime.h"
 #include "base/CountText.h"
