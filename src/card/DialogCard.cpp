@@ -38,7 +38,9 @@ QIcon signOf(const QColor& color)
     constexpr int Size = 10; // pixels
     QPixmap sign(Size, Size);
     sign.fill(color);
-    return color.isValid() ? QIcon(sign) : QIcon();
+    QIcon icon(sign);
+    icon.addPixmap(sign, QIcon::Selected); // or it would turn white there
+    return color.isValid() ? icon : QIcon();
 }
 
 std::list<QString> filesOf(const QTreeWidgetItem& item)

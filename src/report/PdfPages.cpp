@@ -44,60 +44,14 @@ QTextBlockFormat blockOf(int above, Qt::Alignment alignment)
 
 } // namespace
 
-/// Draws what was painted before in the place of a character; shapes stay shapes.
-class PdfPages::Figures : public QObject, public QTextObjectInterface
-{
-    Q_OBJECT
-    Q_INTERFACES(QTextObjectInterface)
-
-public:
-    static constexpr int Type = QTextFormat::UserObject + 1;
-    static constexpr int Number = QTextFormat::UserProperty + 1;
-
-    struct Figure
-    {
-        QPicture picture;
-        QSizeF size;
-    };
-    std::vector<Figure> all;
-
-    QSizeF intrinsicSize(QTextDocument*, int, const QTextFormat& format) override
-    {
-        return figureOf(format).size;
-    }
-    void drawObject(QPainter* painter, const QRectF& rect, QTextDocument*, int,
-                    const QTextFormat& format) override
-    {
-        if (!painter->clipBoundingRect().intersects(rect.adjusted(0.0, 1.0, 0.0, -1.0))) {
-            return; // of another page, and what was painted has clips of its own
-        }
-        painter->save();
-        painter->translate(rect.topLeft());
-        QPicture& picture = figureOf(format).picture;
-        // It would make up for the finer grid of the paper, which the painter does already.
-        painter->scale(double(picture.logicalDpiX()) / painter->device()->logicalDpiX(),
-                       double(picture.logicalDpiY()) / painter->device()->logicalDpiY());
-        picture.play(painter);
-        painter->restore();
-    }
-
-private:
-    Figure& figureOf(const QTextFormat& format)
-    {
-        return all[static_cast<std::size_t>(format.intProperty(Number))];
-    }
-};
-
 PdfPages::PdfPages(ReportOptions::Paper paper)
-    : mPaper(paper), mCursor(&mDocument), mFigures(std::make_unique<Figures>())
+    : mPaper(paper), mCursor(&mDocument), mFigures(new PdfFigures(&mDocument))
 {
     mDocument.setUndoRedoEnabled(false);
     mDocument.setDocumentMargin(0.0);
     mDocument.setDefaultFont(formatOf(TextSize, false).font());
-    mDocument.documentLayout()->registerHandler(Figures::Type, mFigures.get());
+    mDocument.documentLayout()->registerHandler(PdfFigures::Type, mFigures);
 }
-
-PdfPages::~PdfPages() = default;
 
 void PdfPages::begin(const QString& title, const QString&)
 {
@@ -216,7 +170,7 @@ void PdfPages::table(const ReportTable& table)
 void PdfPages::figure(const QString& words, const std::vector<ReportFigure>& parts)
 {
     constexpr int Line = 20; // pixels
-    Figures::Figure figure;
+    PdfFigures::Figure figure;
     QPainter painter(&figure.picture);
     double y = 0.0;
     const auto put = [&](const QString& text, int size) {
@@ -240,9 +194,7 @@ void PdfPages::figure(const QString& words, const std::vector<ReportFigure>& par
     painter.end();
     figure.size = {double(Width), y};
     QTextCharFormat format = formatOf(TextSize, false);
-    format.setObjectType(Figures::Type);
-    format.setProperty(Figures::Number, static_cast<int>(mFigures->all.size()));
-    mFigures->all.push_back(std::move(figure));
+    mFigures->add(std::move(figure), format);
     block({}, TextSize, false, Line);
     mCursor.insertText(QString(QChar::ObjectReplacementCharacter), format);
 }
@@ -315,5 +267,3 @@ QByteArray PdfPages::toPdf()
 }
 
 } // namespace TARN
-
-#include "PdfPages.moc"

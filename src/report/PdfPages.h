@@ -1,5 +1,6 @@
 #pragma once
 
+#include "report/PdfFigures.h"
 #include "report/ReportPages.h"
 
 #include <QtGui/QTextCursor>
@@ -12,7 +13,6 @@ class PdfPages : public ReportPages
 {
 public:
     explicit PdfPages(ReportOptions::Paper paper);
-    ~PdfPages() override;
 
     void begin(const QString& title, const QString& language) override;
     void heading(const QString& text) override;
@@ -25,8 +25,6 @@ public:
     QByteArray toPdf();
 
 private:
-    class Figures;
-
     void flush();
     void keepHeadings();
     void block(const QString& text, int size, bool isBold, int above);
@@ -36,7 +34,7 @@ private:
     QTextCursor mCursor;
     std::vector<int> mHeadings; ///< numbers of their blocks
     QString mHeading;           ///< that was not written yet: it may have to stand on a figure
-    std::unique_ptr<Figures> mFigures;
+    PdfFigures* mFigures;       ///< belongs to the document
 };
 
 } // namespace TARN
