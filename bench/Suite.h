@@ -71,6 +71,7 @@ int measure(const Options& options, std::initializer_list<void (*)(Suite&)> grou
 void loadFigures(Suite& suite);
 void decodeFigures(Suite& suite);
 void statisticsFigures(Suite& suite);
+void reportFigures(Suite& suite);
 void tableFigures(Suite& suite);
 void graphFigures(Suite& suite);
 void exportFigures(Suite& suite);

@@ -10,7 +10,8 @@ int main(int argc, char** argv)
         return *status;
     }
     qputenv("QT_QPA_PLATFORM", QByteArray("offscreen")); // rivals with windows need no display
-    return Bench::measure(options, {Bench::loadFigures, Bench::decodeFigures, Bench::tableFigures,
-                                    Bench::graphFigures, Bench::statisticsFigures,
-                                    Bench::exportFigures, Bench::peerFigures});
+    return Bench::measure(options,
+                          {Bench::loadFigures, Bench::decodeFigures, Bench::tableFigures,
+                           Bench::graphFigures, Bench::statisticsFigures, Bench::reportFigures,
+                           Bench::exportFigures, Bench::peerFigures});
 }

@@ -7,62 +7,36 @@ namespace TARN {
 
 namespace {
 
-/// Places in the list, of samples to be decoded.
-struct Part
-{
-    std::size_t begin;
-    std::size_t end;
-};
+constexpr std::size_t Chunk = 4096; // samples decoded at once, which stay in the cache
 
-/// The samples inside a range and one more on each side, so that lines run out of it.
-Part partOf(const Series& series, const TimeRange& range)
+/// Puts samples of a list, from \p begin to before \p end, to a curve; how many are left out
+/// because their time falls. \p seen is told their times.
+template <typename Seen>
+std::size_t putAll(const Series& series, std::size_t begin, std::size_t end, CurveSamples& samples,
+                   Progress& progress, Seen seen)
 {
-    if (!series.isInOrder()) {
-        return {0, series.size()};
+    std::size_t leftOut = 0;
+    std::vector<double> times(std::min(Chunk, end - begin));
+    std::vector<double> values(times.size());
+    for (auto rest = series.entries().subspan(begin, end - begin);
+         !rest.empty() && !progress.stopRequested();) {
+        const auto entries = rest.first(std::min(Chunk, rest.size()));
+        const auto timesOfThem = std::span(times).first(entries.size());
+        series.timesOf(entries, times.data());
+        seen(timesOfThem);
+        series.decoder().toDoubles(entries, true, values.data());
+        leftOut += samples.putSeries(timesOfThem, std::span(values).first(entries.size()));
+        rest = rest.subspan(entries.size());
+        progress.report(end - begin - rest.size(), end - begin);
     }
-    const std::size_t begin = series.firstNotBefore(range.start);
-    const std::size_t end = series.firstAfter(range.stop);
-    return {begin == 0 ? 0 : begin - 1, std::min(end + 1, series.size())};
+    return leftOut;
 }
 
-DecodedCurve decode(const std::shared_ptr<const Flight>& flight, Series series, const Part& part,
-                    double offset, Progress& progress)
+DecodedCurve curveOf(const std::shared_ptr<const Flight>& flight, Series series,
+                     std::shared_ptr<CurveSamples> samples, std::size_t leftOut)
 {
-    constexpr std::size_t Chunk = 4096; // samples decoded at once, which stay in the cache
-    auto samples = std::make_shared<CurveSamples>();
-    samples->reserve(part.end - part.begin);
-    DecodedCurve curve;
-    QuickRhythm rhythm; // of all samples, whatever is shown
-    std::vector<double> times(std::min(Chunk, series.size()));
-    std::vector<double> values(times.size());
-    const auto entries = series.entries();
-    for (std::size_t begin = 0; begin < series.size(); begin += Chunk) {
-        if (progress.stopRequested()) {
-            return {};
-        }
-        const std::size_t end = std::min(begin + Chunk, series.size());
-        series.timesOf(entries.subspan(begin, end - begin), times.data());
-        rhythm.add(std::span(times).first(end - begin));
-        const std::size_t from = std::max(begin, part.begin);
-        const std::size_t to = std::min(end, part.end);
-        if (from < to) {
-            series.decoder().toDoubles(entries.subspan(from, to - from), true, values.data());
-            curve.leftOut += samples->putSeries(std::span(times).subspan(from - begin, to - from),
-                                                std::span(values).first(to - from));
-        }
-        progress.report(end, series.size());
-    }
-    samples->setGapRule(rhythm.isProven() ? QuickRhythm::rule() : series.gapRule([&] {
-        return flight->silences(offset);
-    }));
-    const bool isAll = part.end - part.begin == series.size();
-    if (isAll && curve.leftOut == 0 &&
-        (samples->size() < 2 || samples->time(0) <= samples->time(1))) {
-        series.setInOrder();
-    }
-    curve.facts = std::make_shared<CurveFacts>(flight, std::move(series), samples->gapRule());
-    curve.samples = std::move(samples);
-    return curve;
+    auto facts = std::make_shared<CurveFacts>(flight, std::move(series), samples->gapRule());
+    return {std::move(samples), leftOut, std::move(facts)};
 }
 
 } // namespace
@@ -71,17 +45,54 @@ DecodedCurve decodeCurve(const std::shared_ptr<const Flight>& flight,
                          const ProfileParameter& parameter, double offset, Progress& progress)
 {
     Series series = flight->series(parameter, offset);
-    const Part all{0, series.size()};
-    return decode(flight, std::move(series), all, offset, progress);
+    auto samples = std::make_shared<CurveSamples>();
+    samples->reserve(series.size());
+    QuickRhythm rhythm;
+    const std::size_t leftOut = putAll(series, 0, series.size(), *samples, progress,
+                                       [&](std::span<const double> times) { rhythm.add(times); });
+    if (progress.stopRequested()) {
+        return {};
+    }
+    samples->setGapRule(rhythm.isProven() ? QuickRhythm::rule() : series.gapRule([&] {
+        return flight->silences(offset);
+    }));
+    if (leftOut == 0 && (samples->size() < 2 || samples->time(0) <= samples->time(1))) {
+        series.setInOrder();
+    }
+    return curveOf(flight, std::move(series), std::move(samples), leftOut);
 }
 
-DecodedCurve decodeCurve(const std::shared_ptr<const Flight>& flight,
-                         const ProfileParameter& parameter, double offset, const TimeRange& range,
-                         Progress& progress)
+const CurveWindows::Known& CurveWindows::knownOf(const Series& series)
 {
-    Series series = flight->series(parameter, offset);
-    const Part part = partOf(series, range);
-    return decode(flight, std::move(series), part, offset, progress);
+    const auto found = mKnown.find(&series.parameter());
+    if (found != mKnown.end()) {
+        return found->second;
+    }
+    const GapRule gaps = series.gapRule([this] { return mFlight->silences(mOffset); });
+    return mKnown.emplace(&series.parameter(), Known{gaps, series.isInOrder()}).first->second;
+}
+
+DecodedCurve CurveWindows::decode(const ProfileParameter& parameter, const TimeRange& range,
+                                  Progress& progress)
+{
+    Series series = mFlight->series(parameter, mOffset);
+    const Known& known = knownOf(series);
+    std::size_t begin = 0;
+    std::size_t end = series.size();
+    if (known.isInOrder) {
+        series.setInOrder();
+        begin = series.firstNotBefore(range.start);
+        begin -= begin > 0 ? 1 : 0;
+        end = std::min(series.firstAfter(range.stop) + 1, series.size());
+    }
+    auto samples = std::make_shared<CurveSamples>();
+    samples->reserve(end - begin);
+    samples->setGapRule(known.gaps);
+    const std::size_t leftOut =
+        putAll(series, begin, end, *samples, progress, [](std::span<const double>) {});
+    return progress.stopRequested()
+               ? DecodedCurve()
+               : curveOf(mFlight, std::move(series), std::move(samples), leftOut);
 }
 
 } // namespace TARN

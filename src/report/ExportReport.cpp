@@ -33,8 +33,9 @@ void writePages(const ReportMatter& matter, ReportPages& pages, Progress& progre
     writeHead(matter, pages);
     writeAnswer(matter, pages);
     writeLists(matter, pages);
-    writeWorst(matter, pages, progress);
-    writeWhole(matter, pages, progress);
+    ReportCharts charts(matter, pages, progress);
+    charts.writeWorst();
+    charts.writeWhole();
     writeNumbers(matter, pages, progress);
     writeRemarks(matter, pages);
 }

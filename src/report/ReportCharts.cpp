@@ -25,17 +25,16 @@ struct ChartTexts
 class Chart
 {
 public:
-    Chart(const ReportMatter& matter, const Parameters& parameters, const TimeRange& range,
-          Progress& progress)
+    Chart(const ReportMatter& matter, CurveWindows& windows, const Parameters& parameters,
+          const TimeRange& range)
     {
+        Progress none;
         const ExportInput& shown = matter.shown;
         mModel.curves() = CurveSet(CurveSet::MaxCurves);
         mModel.setDisplayMode(DisplaySplit);
         nameCurves(mModel.curves(), parameters);
-        for (unsigned k = 0; k < parameters.size() && !progress.stopRequested(); ++k) {
-            const DecodedCurve curve =
-                decodeCurve(shown.flight, *parameters[k], shown.offset, range, mNone);
-            fillCurve(mModel.curves(), k, curve);
+        for (unsigned k = 0; k < parameters.size(); ++k) {
+            fillCurve(mModel.curves(), k, windows.decode(*parameters[k], range, none));
         }
         // They live as long as the matter.
         const std::shared_ptr<const std::vector<Episode>> episodes(std::shared_ptr<void>(),
@@ -72,7 +71,6 @@ public:
     }
 
 private:
-    Progress mNone;
     GraphModel mModel;
     GraphStyle mStyle;
 };
@@ -116,9 +114,15 @@ QString captionOf(const Episode& episode)
     return text;
 }
 
+} // namespace
+
+ReportCharts::ReportCharts(const ReportMatter& matter, ReportPages& pages, Progress& progress)
+    : mMatter(matter), mPages(pages), mProgress(progress),
+      mWindows(matter.shown.flight, matter.shown.offset)
+{}
+
 /// The parameter itself, and below it the others, all on a page.
-void writeEpisode(const ReportMatter& matter, const Episode& episode, ReportPages& pages,
-                  Progress& progress)
+void ReportCharts::writeEpisode(const Episode& episode)
 {
     constexpr int Own = 190;    // pixels
     constexpr int Axis = 62;    // for the time below the strips and what lies above them
@@ -126,75 +130,74 @@ void writeEpisode(const ReportMatter& matter, const Episode& episode, ReportPage
     const TimeRange window = windowAround(episode);
     const double moment = episode.peak ? episode.peak->time : episode.start;
     const QString words = captionOf(episode);
-    Chart own(matter, {episode.parameter}, window, progress);
+    Chart own(mMatter, mWindows, {episode.parameter}, window);
     own.point(moment);
     own.pair();
-    Parameters others = othersOf(matter, episode, window);
+    Parameters others = othersOf(mMatter, episode, window);
     others.resize(std::min<std::size_t>(others.size(), CurveSet::MaxCurves));
     if (others.empty()) {
-        pages.figure(words, {own.figure(Own, words)});
+        mPages.figure(words, {own.figure(Own, words)});
         return;
     }
-    Chart rest(matter, others, window, progress);
+    Chart rest(mMatter, mWindows, others, window);
     rest.point(moment);
     rest.pair();
-    const int room = ReportPages::Height - 40 - Own - Axis;
-    const int strip = std::min(Tallest, room / static_cast<int>(others.size()));
-    pages.figure(
+    const auto strips = static_cast<int>(others.size());
+    const int strip = std::min(Tallest, (ReportPages::Height - 40 - Own - Axis) / strips);
+    mPages.figure(
         words,
         {own.figure(Own, words),
          rest.figure(
-             Axis + strip * static_cast<int>(others.size()),
+             Axis + strip * strips,
              ChartTexts::tr("The other parameters of %1 meanwhile").arg(episode.device->name))});
 }
 
-} // namespace
-
-void writeWorst(const ReportMatter& matter, ReportPages& pages, Progress& progress)
+void ReportCharts::writeWorst()
 {
     constexpr std::size_t Most = 10;
     std::vector<const Episode*> worst;
-    for (const Episode* episode : worstOf(matter.troubles.limits, matter.troubles.limits.size())) {
-        if (episode->touches(matter.range) && worst.size() < Most) {
+    for (const Episode* episode :
+         worstOf(mMatter.troubles.limits, mMatter.troubles.limits.size())) {
+        if (episode->touches(mMatter.range) && worst.size() < Most) {
             worst.push_back(episode);
         }
     }
     if (worst.empty()) {
         return;
     }
-    pages.heading(ChartTexts::tr("The worst, in two minutes each"));
+    mPages.heading(ChartTexts::tr("The worst, in two minutes each"));
     for (const Episode* episode : worst) {
-        if (!progress.stopRequested()) {
-            writeEpisode(matter, *episode, pages, progress);
+        if (!mProgress.stopRequested()) {
+            writeEpisode(*episode);
         }
     }
 }
 
-void writeWhole(const ReportMatter& matter, ReportPages& pages, Progress& progress)
+void ReportCharts::writeWhole()
 {
     constexpr std::size_t Strips = 14; // on a page
     constexpr int Strip = 56;          // pixels
     constexpr int Axis = 62;
     constexpr int Lanes = 40;
-    pages.heading(ChartTexts::tr("The whole flight"));
-    const Parameters all = matter.parameters();
+    mPages.heading(ChartTexts::tr("The whole flight"));
+    const Parameters all = mMatter.parameters();
     if (all.empty()) {
-        pages.say(ChartTexts::tr("No parameter is selected."));
+        mPages.say(ChartTexts::tr("No parameter is selected."));
     }
-    if (!matter.range.hasExtent()) {
+    if (!mMatter.range.hasExtent()) {
         return; // no time to draw
     }
     const QString words = ChartTexts::tr("%1 to %2 on the recording's clock")
-                              .arg(clockText(matter.range.start), clockText(matter.range.stop));
-    for (std::size_t begin = 0; begin < all.size() && !progress.stopRequested(); begin += Strips) {
+                              .arg(clockText(mMatter.range.start), clockText(mMatter.range.stop));
+    for (std::size_t begin = 0; begin < all.size() && !mProgress.stopRequested(); begin += Strips) {
         const std::size_t end = std::min(begin + Strips, all.size());
         Chart chart(
-            matter,
+            mMatter, mWindows,
             Parameters(all.begin() + std::ptrdiff_t(begin), all.begin() + std::ptrdiff_t(end)),
-            matter.range, progress);
-        pages.figure(words,
-                     {chart.figure(Axis + Lanes + Strip * static_cast<int>(end - begin), words)});
-        progress.report(end, all.size());
+            mMatter.range);
+        mPages.figure(words,
+                      {chart.figure(Axis + Lanes + Strip * static_cast<int>(end - begin), words)});
+        mProgress.report(end, all.size());
     }
 }
 

@@ -1,16 +1,33 @@
 #pragma once
 
 #include "base/Progress.h"
+#include "graph/CurveDecoder.h"
 #include "report/ReportMatter.h"
 #include "report/ReportPages.h"
 
 namespace TARN {
 
-/// The worst times out of range, each as two minutes of the parameter and of the others of its
-/// device.
-void writeWorst(const ReportMatter& matter, ReportPages& pages, Progress& progress);
+/// Charts of a flight, on pages.
+class ReportCharts
+{
+public:
+    /// All live as long.
+    ReportCharts(const ReportMatter& matter, ReportPages& pages, Progress& progress);
 
-/// All of the range, a strip for each selected parameter.
-void writeWhole(const ReportMatter& matter, ReportPages& pages, Progress& progress);
+    /// The worst times out of range, each as two minutes of the parameter and of the others of its
+    /// device.
+    void writeWorst();
+
+    /// All of the range, a strip for each selected parameter.
+    void writeWhole();
+
+private:
+    void writeEpisode(const Episode& episode);
+
+    const ReportMatter& mMatter;
+    ReportPages& mPages;
+    Progress& mProgress;
+    CurveWindows mWindows;
+};
 
 } // namespace TARN
