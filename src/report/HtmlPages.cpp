@@ -18,11 +18,11 @@ h2 { font-size: 17px; margin: 26px 0 8px; border-bottom: 1px solid #999; }
 h3 { font-size: 14px; margin: 16px 0 6px; }
 p { margin: 6px 0; }
 .chip { padding: 1px 6px; margin-right: 4px; white-space: nowrap; }
-table { border-collapse: collapse; width: 100%; margin: 6px 0; }
+table { border-collapse: collapse; table-layout: fixed; width: 100%; margin: 6px 0; }
 th, td { border: 1px solid #bbb; padding: 2px 5px; text-align: left; vertical-align: top;
          overflow-wrap: anywhere; }
 thead th { background: #e6e6e6; }
-tbody th { font-weight: normal; background: #f4f4f4; width: 30%; }
+tbody th { font-weight: normal; background: #f4f4f4; }
 .n { text-align: right; font-variant-numeric: tabular-nums; }
 td.n { white-space: pre; }
 td { white-space: pre-line; }
@@ -125,7 +125,11 @@ void HtmlPages::cells(const ReportTable& table, const std::vector<ReportText>& r
 
 void HtmlPages::table(const ReportTable& table)
 {
-    mFile.write("<table>\n");
+    mFile.write("<table>\n<colgroup>");
+    for (const double share : table.shares) {
+        mFile.write("<col style=\"width:" + exact(share) + "%\"/>");
+    }
+    mFile.write("</colgroup>\n");
     if (!table.titles.isEmpty()) {
         mFile.write("<thead><tr>");
         for (qsizetype column = 0; column < table.titles.size(); ++column) {

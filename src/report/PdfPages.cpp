@@ -51,6 +51,7 @@ PdfPages::PdfPages(ReportOptions::Paper paper)
     mDocument.setDocumentMargin(0.0);
     mDocument.setDefaultFont(formatOf(TextSize, false).font());
     mDocument.documentLayout()->registerHandler(PdfFigures::Type, mFigures);
+    mCursor.beginEditBlock(); // all is laid out once, when it is complete
 }
 
 void PdfPages::begin(const QString& title, const QString&)
@@ -225,6 +226,7 @@ void PdfPages::keepHeadings()
 QByteArray PdfPages::toPdf()
 {
     flush();
+    mCursor.endEditBlock();
     constexpr int Resolution = 1200;
     constexpr double Scale = Resolution / 96.0;
     QBuffer out;

@@ -143,7 +143,7 @@ void ReportCharts::writeEpisode(const Episode& episode)
     rest.point(moment);
     rest.pair();
     const auto strips = static_cast<int>(others.size());
-    const int strip = std::min(Tallest, (ReportPages::Height - 40 - Own - Axis) / strips);
+    const int strip = std::min(Tallest, (ReportPages::Height - Own - Axis) / strips);
     mPages.figure(
         words,
         {own.figure(Own, words),
@@ -176,9 +176,9 @@ void ReportCharts::writeWorst()
 void ReportCharts::writeWhole()
 {
     constexpr std::size_t Strips = 14; // on a page
-    constexpr int Strip = 56;          // pixels
     constexpr int Axis = 62;
     constexpr int Lanes = 40;
+    constexpr int Strip = (ReportPages::Height - Axis - Lanes) / int(Strips); // pixels
     mPages.heading(ChartTexts::tr("The whole flight"));
     const Parameters all = mMatter.parameters();
     if (all.empty()) {

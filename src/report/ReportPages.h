@@ -21,7 +21,7 @@ struct ReportText
 struct ReportTable
 {
     QStringList titles; ///< of the columns; empty for a list of fields, whose first cell is a label
-    std::vector<double> shares; ///< of the columns in the width of a printed page, percent
+    std::vector<double> shares;                ///< of the columns in the width of the page, percent
     std::vector<std::vector<ReportText>> rows; ///< as many cells each
 
     /// Whether a column stands on the right, as its first cell does.
@@ -46,7 +46,7 @@ class ReportPages
 public:
     /// Pixels, 96 to the inch, between the margins.
     static constexpr int Width = 690;
-    static constexpr int Height = 890; ///< of a figure at most
+    static constexpr int Height = 850; ///< of the graphs of a figure, together at most
 
     virtual ~ReportPages() = default;
 

@@ -224,9 +224,10 @@ void checkKml(const ExportInput& input, const ExportOptions& range, std::uint8_t
 void checkReport(const ExportInput& input, const ExportOptions& range)
 {
     static const std::set<QString> Elements = {
-        "html",       "head", "meta",  "title", "style", "body", "h1",       "h2",      "h3",
-        "p",          "span", "table", "thead", "tbody", "tr",   "th",       "td",      "figure",
-        "figcaption", "svg",  "rect",  "path",  "g",     "text", "polyline", "clipPath"};
+        "html", "head", "meta", "title",    "style",      "body",     "h1",
+        "h2",   "h3",   "p",    "span",     "table",      "thead",    "tbody",
+        "tr",   "th",   "td",   "figure",   "figcaption", "svg",      "rect",
+        "path", "g",    "text", "polyline", "clipPath",   "colgroup", "col"};
     Progress progress;
     ReportOptions options;
     static_cast<ExportOptions&>(options) = range;
