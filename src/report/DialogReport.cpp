@@ -33,7 +33,7 @@ DialogReport::DialogReport(QWidget* parent)
 {
     setWindowTitle(tr("Flight Report"));
     setWindowIcon(QIcon(":/icons/report.svg"));
-    mFile->setObjectName("reportFile");
+    mFile->setObjectName("fileName");
     mFile->setToolTip(tr("Name of the file in this folder"));
     mKind->addItem(tr("Web page (HTML)"), ".html");
     mKind->addItem(tr("PDF"), ".pdf");

@@ -10,6 +10,7 @@
 #include <QtGui/QPicture>
 #include <QtGui/QTextTable>
 
+#include <cmath>
 #include <utility>
 
 namespace TARN {
@@ -200,21 +201,15 @@ void PdfPages::figure(const QString& words, const std::vector<ReportFigure>& par
     mCursor.insertText(QString(QChar::ObjectReplacementCharacter), format);
 }
 
-/// No heading is left alone at the foot of a page.
+/// A heading at the foot of a page goes to the next one, with what it stands over.
 void PdfPages::keepHeadings()
 {
-    const auto* layout = mDocument.documentLayout();
-    const auto pageOf = [&](const QTextBlock& block) {
-        return static_cast<int>(layout->blockBoundingRect(block).bottom() /
-                                mDocument.pageSize().height());
-    };
+    constexpr double LeastBelow = 110.0; // pixels, for the first lines of a table
+    const double page = mDocument.pageSize().height();
     for (const int number : mHeadings) {
         const QTextBlock heading = mDocument.findBlockByNumber(number);
-        QTextBlock next = heading.next();
-        while (next.isValid() && next.text().isEmpty()) {
-            next = next.next();
-        }
-        if (next.isValid() && pageOf(next) != pageOf(heading)) {
+        const double bottom = mDocument.documentLayout()->blockBoundingRect(heading).bottom();
+        if (std::fmod(bottom, page) + LeastBelow > page) {
             QTextCursor cursor(heading);
             QTextBlockFormat format = cursor.blockFormat();
             format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);

@@ -60,7 +60,7 @@ public:
     /// As one of two, whose plots stand one below the other.
     void pair()
     {
-        constexpr double Margin = 132.0; // pixels, for two ends of a range
+        constexpr double Margin = 174.0; // pixels, for two ends of a range
         mStyle.lanesOn = false;
         mModel.layout().setLeastMargin(Margin);
     }

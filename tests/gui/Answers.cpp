@@ -29,6 +29,13 @@ void Answers::answer(QWidget* modal)
     } else if (auto* palette = qobject_cast<QColorDialog*>(modal); palette && !colors.isEmpty()) {
         palette->setCurrentColor(QColor(colors.takeFirst()));
         palette->accept();
+    } else if (auto* other = qobject_cast<QDialog*>(modal); other && atDialog) {
+        atDialog(*other);
+        for (auto* button : other->findChildren<QPushButton*>()) {
+            if (button->isDefault()) {
+                QTest::mouseClick(button, Qt::LeftButton);
+            }
+        }
     } else if (auto* dialog = qobject_cast<QDialog*>(modal)) {
         said << dialog->windowTitle() + "|";
         dialog->reject();

@@ -22,6 +22,9 @@ public:
     std::function<void(QWizard&, QWizardPage&)> atPage;
     std::function<QAbstractButton*(QMessageBox&)> chooseButton; ///< instead of the texts
 
+    /// Fills another dialog before its default button is pressed; without, it is cancelled.
+    std::function<void(QDialog&)> atDialog;
+
     QStringList said; ///< title, text and further text of boxes; title and choice of file dialogs
 
 private:

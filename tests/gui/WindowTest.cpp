@@ -157,7 +157,7 @@ void WindowTest::type(QWidget* field, const QString& text)
     QTest::keyClicks(field, text);
 }
 
-QLineEdit* WindowTest::folderOf(const QWizardPage& page)
+QLineEdit* WindowTest::folderOf(const QWidget& page)
 {
     // Before the name of the file, which has a name of its own.
     const auto edits = page.findChildren<QLineEdit*>();

@@ -101,7 +101,7 @@ public:
         Q_EMIT box->activated(box->currentIndex());
     }
     /// The field of the folder on the first page of a wizard, null on others.
-    static QLineEdit* folderOf(const QWizardPage& page);
+    static QLineEdit* folderOf(const QWidget& page);
     /// Lets wizards write to the folder "out"; all else that a page asks for is for \p fill.
     void fillPages(const std::function<void(QWizardPage&)>& fill);
     static void clickCell(QTableView* table, int row, int column = 0)

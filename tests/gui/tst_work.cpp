@@ -133,6 +133,40 @@ private Q_SLOTS:
         QVERIFY2(read(file) == read("other"), "window and command line differ");
     }
 
+    /// Of all of the flight and of the marked range, under the name that the kind asks for.
+    void reportIsThatOfTheCommandLine()
+    {
+        start();
+        open({0, 1});
+        int asked = 0;
+        answers().atDialog = [&](QDialog& dialog) {
+            type(folderOf(dialog), exportPath());
+            const auto boxes = dialog.findChildren<QComboBox*>(); // kind, paper, range
+            auto* name = dialog.findChild<QLineEdit*>("fileName");
+            QCOMPARE(name->text(), "LOG_0001.html");
+            boxes[0]->setCurrentIndex(1);
+            QCOMPARE(name->text(), "LOG_0001.pdf");
+            boxes[0]->setCurrentIndex(0);
+            boxes[1]->setCurrentIndex(asked);
+            QCOMPARE(boxes[2]->count(), asked == 0 ? 1 : 2);
+            boxes[2]->setCurrentIndex(asked++);
+            dialog.findChild<QCheckBox*>()->setChecked(false);
+        };
+        const QString file = path("out/LOG_0001.html");
+        const std::pair<TimeRange, const char*> ranges[] = {
+            {{}, "report"}, {{33200.0, 33300.0}, "report --letter --start 33200 --stop 33300"}};
+        for (const auto& [marks, command] : ranges) {
+            session().setMarks(marks);
+            run(ActionType::FlightReport);
+            settle();
+            QVERIFY2(said().startsWith("Written: " + file), qPrintable(said()));
+            QVERIFY(writeByCommand(command, "LOG_0001.CAN LOG_0002.CAN"));
+            QVERIFY(read(file).size() > 10000);
+            QVERIFY2(read(file) == read("other.html"), "window and command line differ");
+            QFile::remove(file);
+        }
+    }
+
     void targetsAndTimesAreChecked()
     {
         start();
@@ -220,7 +254,8 @@ private:
     /// Writes the file "other" as the window should.
     bool writeByCommand(const QString& line, const QString& recordings) const
     {
-        QStringList command = line.split(' ') << "-o" << path("other");
+        QStringList command = line.split(' ')
+                              << "-o" << path(line.startsWith("report") ? "other.html" : "other");
         if (line != "can") {
             command << "--profile" << profilePath() << "--project" << projectPath();
         }
