@@ -12,6 +12,7 @@ DirectoryEdit::DirectoryEdit(const QString& title, QWidget* parent)
 {
     auto* browse = new QPushButton(QIcon(":/icons/projectOpen.svg"), tr("Browse..."));
     browse->setToolTip(title);
+    browse->setAutoDefault(false); // Enter in a field goes on
     mEdit->setToolTip(tr("Folder of the file"));
     mEdit->setAccessibleName(title);
     auto* layout = new QHBoxLayout(this);
