@@ -108,7 +108,7 @@ void GraphLayout::add(ParStruct& curve, double time, double value)
 
 void GraphLayout::placePlot(double left)
 {
-    mView.x0 = std::min(std::max(left, mLeastMargin), mWidth / 2.0);
+    mView.x0 = std::min(left, mWidth / 2.0);
     mView.width = std::max(mWidth - mView.x0 - Right, 1.0);
 }
 
@@ -128,7 +128,7 @@ void GraphLayout::placeLanes(double lineHeight)
     mView.height = std::max(mHeight - mView.y0 - Top, 1.0);
 }
 
-void GraphLayout::prepare(const Measure& measure, double lineHeight)
+void GraphLayout::prepare(const Measure& measure, double lineHeight, double leastMargin)
 {
     placeLanes(lineHeight);
     constexpr int Rounds = 3; // labels and the plot that they leave room for chase each other
@@ -138,7 +138,7 @@ void GraphLayout::prepare(const Measure& measure, double lineHeight)
         updateAxes(lineHeight);
         const double widest = widestLabel(mAxes, measure);
         const double before = mView.x0;
-        placePlot(widest + LabelGap);
+        placePlot(std::max(widest + LabelGap, leastMargin));
         if (mView.x0 == before) {
             break;
         }

@@ -32,9 +32,6 @@ public:
     void setSize(double width, double height);
     QSizeF size() const { return {mWidth, mHeight}; }
 
-    /// Keeps at least so many pixels left of the plot, so that it stands below another one.
-    void setLeastMargin(double left) { mLeastMargin = left; }
-
     /// Lines under the strips, for what is no curve; as many as leave the strips room to be read.
     void setLanes(unsigned count) { mWantedLanes = count; }
     const GraphLanes& lanes() const { return mLanes; }
@@ -60,7 +57,8 @@ public:
     /// Width of a text in pixels.
     using Measure = std::function<double(const QString&)>;
     /// Brings frames, scales and axes up to date: what is drawn then is what the curves are now.
-    void prepare(const Measure& measure, double lineHeight);
+    /// The plot has at least so many pixels on its left.
+    void prepare(const Measure& measure, double lineHeight, double leastMargin = 0.0);
 
     const GraphView& view() const { return mView; }
     /// Axis of a curve's strip in split mode, by index; the common axis in single mode.
@@ -80,7 +78,6 @@ private:
     GraphView mView;
     double mWidth = 0.0; ///< of the widget, pixels
     double mHeight = 0.0;
-    double mLeastMargin = 0.0;
     unsigned mWantedLanes = 0;
     GraphLanes mLanes;
     eDisplayMode mDisplayMode = DisplaySingle;

@@ -44,7 +44,7 @@ void drawGraph(GraphModel& model, const GraphStyle& style, const KeyCursor& keyC
     model.layout().setLanes(
         style.lanesOn ? static_cast<unsigned>(model.hints().notes.lanes().size()) : 0);
     model.layout().prepare([&](const QString& text) { return texts.sizeOf(text).width(); },
-                           texts.sizeOf("0").height());
+                           texts.sizeOf("0").height(), style.leastMargin);
     GraphDrawing(model, style, keyCursor, canvas, texts).draw();
 }
 

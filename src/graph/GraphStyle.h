@@ -18,10 +18,11 @@ struct GraphStyle
     bool legendOn = true;
     bool valuesOn = true; ///< at the cursor, in the legend
     bool thresholdsOn = true;
-    bool eventsOn = true;   ///< ticks over the plot and bars over the strips
-    bool lanesOn = true;    ///< the error matrices
-    bool wordsOn = true;    ///< states by their names
-    bool allDigits = false; ///< values with all the digits that they are recorded with
+    bool eventsOn = true;     ///< ticks over the plot and bars over the strips
+    bool lanesOn = true;      ///< the error matrices
+    bool wordsOn = true;      ///< states by their names
+    double leastMargin = 0.0; ///< pixels left of the plot, so that it stands below another one
+    bool allDigits = false;   ///< values with all the digits that they are recorded with
 
     bool isLight() const { return back.toColor().lightness() >= 128; }
 };

@@ -38,7 +38,7 @@ svg { width: 100%; height: auto; display: block; }
 )";
 
 /// A text in which nothing means anything to a browser.
-std::string escaped(const QString& text)
+std::string htmlText(const QString& text)
 {
     return xmlEscaped(text, true).toStdString();
 }
@@ -63,7 +63,7 @@ std::string groundOf(const QColor& ground)
 
 void HtmlPages::begin(const QString& title, const QString& language)
 {
-    mFile.write("<!DOCTYPE html>\n<html lang=\"" + escaped(language) +
+    mFile.write("<!DOCTYPE html>\n<html lang=\"" + htmlText(language) +
                 "\">\n<head>\n<meta charset=\"utf-8\"/>\n"
                 "<meta name=\"viewport\" content=\"width=device-width\"/>\n");
     element("title", title);
@@ -82,7 +82,7 @@ void HtmlPages::end()
 
 void HtmlPages::element(const char* name, const QString& text)
 {
-    mFile.write(std::string("<") + name + ">" + escaped(text) + "</" + name + ">\n");
+    mFile.write(std::string("<") + name + ">" + htmlText(text) + "</" + name + ">\n");
 }
 
 void HtmlPages::heading(const QString& text)
@@ -100,9 +100,9 @@ void HtmlPages::line(const std::vector<ReportText>& pieces)
     mFile.write("<p>");
     for (const ReportText& piece : pieces) {
         const std::string ground = groundOf(piece.ground);
-        mFile.write(ground.empty()
-                        ? escaped(piece.text) + " "
-                        : "<span class=\"chip\"" + ground + ">" + escaped(piece.text) + "</span> ");
+        mFile.write(ground.empty() ? htmlText(piece.text) + " "
+                                   : "<span class=\"chip\"" + ground + ">" + htmlText(piece.text) +
+                                         "</span> ");
     }
     mFile.write("</p>\n");
 }
@@ -112,12 +112,12 @@ void HtmlPages::cells(const ReportTable& table, const std::vector<ReportText>& r
     mFile.write("<tr>");
     for (const ReportText& cell : row) {
         if (table.titles.isEmpty() && &cell == &row.front()) {
-            mFile.write("<th scope=\"row\">" + escaped(cell.text) + "</th>");
+            mFile.write("<th scope=\"row\">" + htmlText(cell.text) + "</th>");
             continue;
         }
         mFile.write(cell.number ? "<td class=\"n\" data-value=\"" + exact(*cell.number) + "\""
                                 : std::string("<td"));
-        mFile.write(groundOf(cell.ground) + ">" + escaped(cell.text));
+        mFile.write(groundOf(cell.ground) + ">" + htmlText(cell.text));
         mFile.write("</td>");
     }
     mFile.write("</tr>\n");
@@ -135,7 +135,7 @@ void HtmlPages::table(const ReportTable& table)
         for (qsizetype column = 0; column < table.titles.size(); ++column) {
             mFile.write(table.isNumber(column) ? "<th scope=\"col\" class=\"n\">"
                                                : "<th scope=\"col\">");
-            mFile.write(escaped(table.titles[column]) + "</th>");
+            mFile.write(htmlText(table.titles[column]) + "</th>");
         }
         mFile.write("</tr></thead>\n");
     }

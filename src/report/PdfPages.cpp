@@ -20,7 +20,7 @@ namespace {
 constexpr int HeadingSize = 15; ///< pixels
 constexpr int TextSize = 11;    ///< pixels, 96 to the inch
 constexpr int CellSize = 10;    ///< of texts in tables
-constexpr int Margin = 52;      ///< pixels on each side
+constexpr int PageMargin = 52;  ///< pixels on each side
 constexpr int Foot = 24;        ///< pixels of the line under each page
 
 QTextCharFormat formatOf(int size, bool isBold)
@@ -234,7 +234,7 @@ QByteArray PdfPages::toPdf()
     writer.setTitle(mDocument.metaInformation(QTextDocument::DocumentTitle));
     writer.setCreator(QString::fromStdString(Revision::getRevisionString()));
     const QSizeF page(writer.width() / Scale, writer.height() / Scale);
-    const QSizeF body(page.width() - 2 * Margin, page.height() - 2 * Margin - Foot);
+    const QSizeF body(page.width() - 2 * PageMargin, page.height() - 2 * PageMargin - Foot);
     mDocument.setPageSize(body);
     keepHeadings();
     QPainter painter(&writer);
@@ -245,14 +245,14 @@ QByteArray PdfPages::toPdf()
             writer.newPage();
         }
         painter.save();
-        painter.setClipRect(QRectF({Margin, Margin}, body));
-        painter.translate(Margin, Margin - number * body.height());
+        painter.setClipRect(QRectF({PageMargin, PageMargin}, body));
+        painter.translate(PageMargin, PageMargin - number * body.height());
         mDocument.drawContents(&painter,
                                {0.0, number * body.height(), body.width(), body.height()});
         painter.restore();
         painter.setFont(formatOf(TextSize, false).font());
         painter.setPen(Qt::darkGray);
-        const QRectF foot(Margin, Margin + body.height(), body.width(), Foot);
+        const QRectF foot(PageMargin, PageMargin + body.height(), body.width(), Foot);
         painter.drawText(foot, Qt::AlignRight | Qt::AlignBottom,
                          QString("%1 / %2").arg(number + 1).arg(pages));
         painter.drawText(foot, Qt::AlignLeft | Qt::AlignBottom,

@@ -62,7 +62,7 @@ public:
     {
         constexpr double Margin = 174.0; // pixels, for two ends of a range
         mStyle.lanesOn = false;
-        mModel.layout().setLeastMargin(Margin);
+        mStyle.leastMargin = Margin;
     }
 
     ReportFigure figure(int height, const QString& label)

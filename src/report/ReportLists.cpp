@@ -13,7 +13,7 @@ namespace TARN {
 namespace {
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
-struct ListTexts
+struct ReportListTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ReportLists)
 };
@@ -48,13 +48,15 @@ std::vector<ReportText> rowOf(EventKind kind, const Episode& episode)
 
 QStringList titlesOf(EventKind kind)
 {
-    QStringList titles = {ListTexts::tr("From"), ListTexts::tr("Until"), ListTexts::tr("Duration"),
-                          kind == EventKind::Limits  ? ListTexts::tr("Parameter")
-                          : kind == EventKind::Lamps ? ListTexts::tr("Lamp")
-                                                     : ListTexts::tr("Error"),
-                          ListTexts::tr("Severity")};
+    QStringList titles = {ReportListTexts::tr("From"), ReportListTexts::tr("Until"),
+                          ReportListTexts::tr("Duration"),
+                          kind == EventKind::Limits  ? ReportListTexts::tr("Parameter")
+                          : kind == EventKind::Lamps ? ReportListTexts::tr("Lamp")
+                                                     : ReportListTexts::tr("Error"),
+                          ReportListTexts::tr("Severity")};
     if (kind == EventKind::Limits) {
-        titles += {ListTexts::tr("Peak"), ListTexts::tr("Peak at"), ListTexts::tr("Threshold")};
+        titles += {ReportListTexts::tr("Peak"), ReportListTexts::tr("Peak at"),
+                   ReportListTexts::tr("Threshold")};
     }
     return titles;
 }
@@ -63,8 +65,9 @@ QStringList titlesOf(EventKind kind)
 void writeTable(EventKind kind, std::vector<const Episode*> episodes, ReportPages& pages)
 {
     if (episodes.size() > MostRows) {
-        pages.say(ListTexts::tr("The %1 worst of %2; \"orna-cli events --episodes\" lists all.")
-                      .arg(countText(qint64(MostRows)), countText(qint64(episodes.size()))));
+        pages.say(
+            ReportListTexts::tr("The %1 worst of %2; \"orna-cli events --episodes\" lists all.")
+                .arg(countText(qint64(MostRows)), countText(qint64(episodes.size()))));
         episodes.resize(MostRows);
         std::ranges::stable_sort(episodes, {}, &Episode::start);
     }
@@ -120,13 +123,14 @@ void writeLists(const ReportMatter& matter, ReportPages& pages)
     if (!matter.profile().isLoaded() || matter.flight().samples().empty()) {
         return; // the answer says why
     }
-    writeList(EventKind::Limits, ListTexts::tr("Out of range"),
-              ListTexts::tr("Without an event: from the first sample on, after a gap, or of a kind "
+    writeList(
+        EventKind::Limits, ReportListTexts::tr("Out of range"),
+        ReportListTexts::tr("Without an event: from the first sample on, after a gap, or of a kind "
                             "that is not watched"),
-              matter, pages);
-    writeList(EventKind::Lamps, ListTexts::tr("Warning lamps"),
-              ListTexts::tr("On again without an event"), matter, pages);
-    writeList(EventKind::Faults, ListTexts::tr("Error matrices"), {}, matter, pages);
+        matter, pages);
+    writeList(EventKind::Lamps, ReportListTexts::tr("Warning lamps"),
+              ReportListTexts::tr("On again without an event"), matter, pages);
+    writeList(EventKind::Faults, ReportListTexts::tr("Error matrices"), {}, matter, pages);
 }
 
 } // namespace TARN

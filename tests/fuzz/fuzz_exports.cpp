@@ -308,6 +308,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         options.stopTime = record->recordInfo().stopTime; // these two grow with the samples only
     }
     checkKml(flight, options, choices.take<std::uint8_t>());
+    checkReport(flight, options);
     checkCan(flight, options);
     return 0;
 }
