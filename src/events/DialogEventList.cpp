@@ -114,6 +114,7 @@ void DialogEventList::createCommands()
         action->setShortcutContext(Qt::WidgetShortcut);
         connect(action, &QAction::triggered, this, slot);
         mTable->addAction(action);
+        return action;
     };
     add(tr("Go to the &Start"), {}, [this] { slotSelect(mTable->currentIndex().row()); });
     if (mModel->kind() == EventKind::Limits) {
@@ -122,7 +123,10 @@ void DialogEventList::createCommands()
     if (mModel->kind() != EventKind::Faults) {
         add(tr("Show in the &Graph"), Qt::Key_G, &List::showInGraph);
     }
-    add(tr("&Filter"), Qt::CTRL | Qt::Key_F, [this] { mFilter->begin(); });
+    // Wherever the focus is, as long as the list is seen.
+    add(tr("&Filter"), Qt::CTRL | Qt::Key_F, [this] {
+        mFilter->begin();
+    })->setShortcutContext(Qt::WindowShortcut);
     add(tr("&Copy All with Headers"), Qt::CTRL | Qt::Key_Insert, &List::copy);
     mTable->setContextMenuPolicy(Qt::ActionsContextMenu);
 }

@@ -436,6 +436,17 @@ private Q_SLOTS:
         QCOMPARE(views()->tabText(Limits), "Limit/Warning Exceed (6)");
         Q_EMIT bar->linkActivated(bar->text().section("href=\"", 1).section('"', 0, 0));
         QVERIFY(views()->currentIndex() == Limits && rowOf(limits) == 0);
+        // A filter, which Escape takes back, and an order, which the third click does.
+        QTest::keyClick(&window(), Qt::Key_F, Qt::ControlModifier);
+        QTest::keyClicks(QApplication::focusWidget(), "OIL");
+        QCOMPARE(limits->model()->rowCount(), 3);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QVERIFY(limits->model()->rowCount() == 9 && limits->hasFocus());
+        const QPoint peak(limits->columnViewportPosition(5) + 20, 5);
+        for (const char* first : {"0 bar", "1088 °C", "246.6 °C"}) {
+            QTest::mouseClick(limits->horizontalHeader()->viewport(), Qt::LeftButton, {}, peak);
+            QCOMPARE(cell(limits, 0, 5), first);
+        }
         clickCell(limits, 3, 1);
         QTest::keyClick(limits, Qt::Key_M);
         QCOMPARE(timeEdit()->time(), QTime(9, 41, 9, 634));
