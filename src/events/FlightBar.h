@@ -1,7 +1,7 @@
 #pragma once
 
-#include "flight/FlightSummary.h"
 #include "flight/EpisodeWatch.h"
+#include "flight/FlightSummary.h"
 
 #include <QtWidgets/QLabel>
 

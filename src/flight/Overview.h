@@ -17,7 +17,7 @@ struct Overview
     double duration = 0.0; ///< seconds
     qint64 samples = 0;
     qint64 watched = 0; ///< parameters that could have been out of range
-    qint64 limits = 0; ///< as FlightSummary counts them
+    qint64 limits = 0;  ///< as FlightSummary counts them
     qint64 warnings = 0;
     qint64 lamps = 0;
     qint64 faults = 0;

@@ -17,8 +17,8 @@ using FlightGroup = std::vector<QString>;
 /// engine) and the same side of the offset, it starts at most a second before the other's end and
 /// at most a minute after it, and the dates of their headers, where both have one, are as far apart
 /// as their starts, to a minute. A recording of the other side goes with the flight that it
-/// overlaps, to a minute, when their dates are no further apart than that lasts. What has no samples goes with
-/// nothing.
+/// overlaps, to a minute, when their dates are no further apart than that lasts. What has no
+/// samples goes with nothing.
 std::vector<FlightGroup> flightGroups(const CardInfo& card);
 
 /// Whether files are recordings of one flight, or of none that the card lists.

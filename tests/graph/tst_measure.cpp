@@ -1,5 +1,5 @@
-#include "graph/MarkerEnds.h"
 #include "flight/StatisticsWords.h"
+#include "graph/MarkerEnds.h"
 #include "graph/MeasureModel.h"
 #include "support/FlightTest.h"
 

@@ -117,7 +117,8 @@ public:
              TARN::MeasureModel::AColumn}};
         live(300);
         settle();
-        mWindow.findChild<QTreeWidget*>("recordings")->selectAll();
+        auto* recordings = mWindow.findChild<QTreeWidget*>("recordings");
+        recordings->setCurrentItem(recordings->topLevelItem(0));
         live(PickDelay);
         settle();
         mWindow.findChild<QTabWidget*>("views")->setCurrentIndex(2);
@@ -163,13 +164,16 @@ public:
             std::cerr << "orna-tour: no recordings on the card of the settings\n";
             return false;
         }
-        recordings->setCurrentItem(recordings->topLevelItem(0));
-        recordings->topLevelItem(0)->setExpanded(true);
+        // Below the line of a flight stand its recordings.
+        QTreeWidgetItem* one =
+            recordings->topLevelItem(std::min(1, recordings->topLevelItemCount() - 1));
+        recordings->setCurrentItem(one);
+        one->setExpanded(true);
         live(PickDelay);
         settle();
         shoot("02-one-recording");
-        recordings->topLevelItem(0)->setExpanded(false);
-        recordings->selectAll();
+        one->setExpanded(false);
+        recordings->setCurrentItem(recordings->topLevelItem(0));
         live(PickDelay);
         settle();
         mWindow.findChild<QSlider*>("timeSlider")->setValue(2200);
