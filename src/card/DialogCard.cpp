@@ -5,6 +5,8 @@
 #include "record/RecordText.h"
 
 #include <QtGui/QAction>
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -33,15 +35,27 @@ enum Column
 constexpr int PathRole = Qt::UserRole;
 constexpr int FilesRole = Qt::UserRole + 2; ///< of a flight
 
-QIcon signOf(const QColor& color)
+/// The icon of a line with a sign of a colour in its corner, where it is seen however narrow the
+/// list is; without one where the colour is invalid.
+QIcon signedIcon(const char* name, const QColor& color)
 {
-    constexpr int Size = 10; // pixels
-    QPixmap sign(Size, Size);
-    sign.fill(color);
-    QIcon icon(sign);
-    icon.addPixmap(sign, QIcon::Selected); // or it would turn white there
-    return color.isValid() ? icon : QIcon();
+    constexpr int Size = 16; // pixels
+    constexpr int Sign = 8;
+    QIcon icon(name);
+    if (!color.isValid()) {
+        return icon;
+    }
+    QPixmap pixmap = icon.pixmap(QSize(Size, Size), qApp->devicePixelRatio());
+    QPainter painter(&pixmap);
+    painter.fillRect(Size - Sign, Size - Sign, Sign, Sign, color);
+    painter.end();
+    QIcon marked(pixmap);
+    marked.addPixmap(pixmap, QIcon::Selected); // or it would turn white there
+    return marked;
 }
+
+constexpr const char* RecordingIcon = ":/icons/recording.svg";
+constexpr const char* FlightIcon = ":/icons/cardOpen.svg";
 
 std::list<QString> filesOf(const QTreeWidgetItem& item)
 {
@@ -141,7 +155,7 @@ void DialogCard::addFlight(const FlightGroup& group)
     }
     auto* item = new QTreeWidgetItem(mTree);
     item->setText(Name, tr("%1 recordings").arg(group.size()) + "   " + first.dateTimeText());
-    item->setIcon(Name, QIcon(":/icons/cardOpen.svg"));
+    item->setIcon(Name, QIcon(FlightIcon));
     item->setData(Name, FilesRole, QStringList(group.begin(), group.end()));
     item->setToolTip(Name, tr("Click to load these recordings together:") + "\n" +
                                QStringList(group.begin(), group.end()).join('\n'));
@@ -181,9 +195,10 @@ void DialogCard::setOverview(const std::list<QString>& files,
                          : found.warnings > 0 ? tr("Warning")
                          : isWatched          ? tr("none")
                                               : "---");
-    item->setIcon(Worst, signOf(found.limits > 0     ? QColor(0xFF, 0x6A, 0x6A)
-                                : found.warnings > 0 ? QColor(0xFF, 0xC8, 0x3C)
-                                                     : QColor()));
+    item->setIcon(Name, signedIcon(files.size() > 1 ? FlightIcon : RecordingIcon,
+                                   found.limits > 0     ? QColor(0xFF, 0x4A, 0x4A)
+                                   : found.warnings > 0 ? QColor(0xFF, 0xB8, 0x20)
+                                                        : QColor()));
     item->setText(Exceeded, isWatched ? countText(found.limits + found.warnings) : "---");
     item->setText(Remarks, countText(found.remarks));
     item->setToolTip(Worst,
@@ -218,7 +233,7 @@ void DialogCard::addRecord(const QString& path, const RecordInfo& info)
 {
     auto* item = new QTreeWidgetItem(mTree);
     item->setText(0, path.section('/', -1) + "   " + info.dateTimeText());
-    item->setIcon(0, QIcon(":/icons/recording.svg"));
+    item->setIcon(Name, QIcon(RecordingIcon));
     item->setData(0, Qt::UserRole, path);
     item->setData(0, Qt::UserRole + 1, true);
     item->setToolTip(0, toolTipOf(info, recordRemarks(info)));

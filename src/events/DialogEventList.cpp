@@ -30,6 +30,7 @@ DialogEventList::DialogEventList(Session& session, EpisodeWatch& episodes, Event
     mTable->verticalHeader()->hide();
     QHeaderView* header = mTable->horizontalHeader();
     header->setSectionResizeMode(EventModel::TextColumn, QHeaderView::Stretch);
+    mTable->setStretched(EventModel::TextColumn);
     header->setSortIndicatorClearable(true); // a third click brings the list's own order back
     header->setSortIndicator(-1, Qt::AscendingOrder);
     mTable->setSortingEnabled(true);

@@ -186,6 +186,23 @@ void DataTableView::widenVisible()
         const bool isNew = mProbed.insert(column).second;
         widen(column, std::max(sizeHintForColumn(column), isNew ? widthOfProbes(column) : 0));
     }
+    layStretched();
+}
+
+void DataTableView::layStretched()
+{
+    if (mStretched < 0) {
+        return;
+    }
+    QHeaderView* header = horizontalHeader();
+    const int room = viewport()->width() - header->length() + header->sectionSize(mStretched);
+    const int needed = std::max(sizeHintForColumn(mStretched), header->sectionSizeHint(mStretched));
+    const QScopedValueRollback fitting(mFitting, true);
+    header->setSectionResizeMode(mStretched,
+                                 room >= needed ? QHeaderView::Stretch : QHeaderView::Interactive);
+    if (room < needed) {
+        header->resizeSection(mStretched, needed);
+    }
 }
 
 void DataTableView::widen(int column, int width)

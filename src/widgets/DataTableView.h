@@ -24,6 +24,10 @@ public:
     void setEmptyText(const QString& text);
     QString emptyText() const;
 
+    /// The column that takes the room that others leave, and no less than what comes into sight
+    /// needs.
+    void setStretched(int column) { mStretched = column; }
+
     /// Gives every column the width of its title, and more as values come into sight.
     void fitColumns();
 
@@ -45,6 +49,7 @@ protected:
 
 private:
     void widenVisible();
+    void layStretched();
     void updateEmptyPlace();
     int widthOfProbes(int column) const;
     void widen(int column, int width);
@@ -52,6 +57,7 @@ private:
 
     EmptyPlace* mEmpty;
     QTimer mWidening;
+    int mStretched = -1;    ///< none
     bool mFitting = false;  ///< widths are changed by the program, not by the user
     bool mShowing = false;  ///< the selection is not the user's
     bool mPressing = false; ///< a press picks its row once
