@@ -535,6 +535,10 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
         <source>%1 to %2 on the recording&apos;s clock</source>
         <translation>%1 až %2 na hodinách záznamu</translation>
     </message>
+    <message>
+        <source>The reported range</source>
+        <translation>Rozsah zprávy</translation>
+    </message>
 </context>
 <context>
     <name>ReportHead</name>
@@ -693,6 +697,10 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     <message>
         <source>Error matrices</source>
         <translation>Matice poruch</translation>
+    </message>
+    <message>
+        <source>None in this range; in the rest of the flight: %1.</source>
+        <translation>V tomto rozsahu žádné; ve zbytku letu: %1.</translation>
     </message>
 </context>
 <context>

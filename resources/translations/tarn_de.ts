@@ -535,6 +535,10 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
         <source>%1 to %2 on the recording&apos;s clock</source>
         <translation>%1 bis %2 auf der Uhr der Aufzeichnung</translation>
     </message>
+    <message>
+        <source>The reported range</source>
+        <translation>Der berichtete Bereich</translation>
+    </message>
 </context>
 <context>
     <name>ReportHead</name>
@@ -693,6 +697,10 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     <message>
         <source>Error matrices</source>
         <translation>Fehlermatrizen</translation>
+    </message>
+    <message>
+        <source>None in this range; in the rest of the flight: %1.</source>
+        <translation>Keine in diesem Bereich; im übrigen Flug: %1.</translation>
     </message>
 </context>
 <context>

@@ -535,6 +535,10 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
         <source>%1 to %2 on the recording&apos;s clock</source>
         <translation>%1 a %2 en el reloj de la grabación</translation>
     </message>
+    <message>
+        <source>The reported range</source>
+        <translation>El rango del informe</translation>
+    </message>
 </context>
 <context>
     <name>ReportHead</name>
@@ -693,6 +697,10 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     <message>
         <source>Error matrices</source>
         <translation>Matrices de fallos</translation>
+    </message>
+    <message>
+        <source>None in this range; in the rest of the flight: %1.</source>
+        <translation>Ninguno en este rango; en el resto del vuelo: %1.</translation>
     </message>
 </context>
 <context>

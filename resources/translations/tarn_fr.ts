@@ -535,6 +535,10 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
         <source>%1 to %2 on the recording&apos;s clock</source>
         <translation>%1 à %2 à l&apos;horloge de l&apos;enregistrement</translation>
     </message>
+    <message>
+        <source>The reported range</source>
+        <translation>La plage du rapport</translation>
+    </message>
 </context>
 <context>
     <name>ReportHead</name>
@@ -693,6 +697,10 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <message>
         <source>Error matrices</source>
         <translation>Matrices de défauts</translation>
+    </message>
+    <message>
+        <source>None in this range; in the rest of the flight: %1.</source>
+        <translation>Aucun dans cette plage ; dans le reste du vol&#xa0;: %1.</translation>
     </message>
 </context>
 <context>

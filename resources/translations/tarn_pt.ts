@@ -535,6 +535,10 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
         <source>%1 to %2 on the recording&apos;s clock</source>
         <translation>%1 a %2 no relógio da gravação</translation>
     </message>
+    <message>
+        <source>The reported range</source>
+        <translation>O intervalo do relatório</translation>
+    </message>
 </context>
 <context>
     <name>ReportHead</name>
@@ -693,6 +697,10 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     <message>
         <source>Error matrices</source>
         <translation>Matrizes de falhas</translation>
+    </message>
+    <message>
+        <source>None in this range; in the rest of the flight: %1.</source>
+        <translation>Nenhum neste intervalo; no resto do voo: %1.</translation>
     </message>
 </context>
 <context>

@@ -159,14 +159,13 @@ QString valueLabel(double value, double step)
     return text.size() <= Longest ? text : QString::number(value, 'g', 6);
 }
 
-QString rangeLabel(double value, double extent)
+QString rangeLabel(double value, double extent, int digits)
 {
-    constexpr int Digits = 3; // of the extent
     constexpr int MostDecimals = 9;
     if (!std::isfinite(value) || !(extent > 0.0)) {
         return QString::number(value, 'g', 6);
     }
-    const int decimals = truncatedTo<int>(Digits - 1 - std::floor(std::log10(extent)));
+    const int decimals = truncatedTo<int>(digits - 1 - std::floor(std::log10(extent)));
     if (decimals > MostDecimals || std::fabs(value) >= 1e9) {
         return QString::number(value, 'g', 4);
     }

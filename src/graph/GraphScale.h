@@ -50,7 +50,7 @@ QString timeLabel(double time, double step);
 /// A value tick's label in the format of its step; in exponent notation where that is too long.
 QString valueLabel(double value, double step);
 
-/// An end of a range, with as many digits as tell it from the other.
-QString rangeLabel(double value, double extent);
+/// An end of a range, with as many digits as tell it from the other: so many of the extent.
+QString rangeLabel(double value, double extent, int digits = 3);
 
 } // namespace TARN

@@ -20,14 +20,21 @@ std::string escaped(const QString& text)
     return xmlEscaped(text, true).toStdString();
 }
 
+/// With blanks that no reader makes one of.
+QString unbroken(QString text)
+{
+    constexpr QChar NoBreak(0xA0);
+    return text.replace(' ', NoBreak);
+}
+
 } // namespace
 
 SvgCanvas::SvgCanvas(const QSizeF& whole, double height, const QString& label,
                      const GraphColor& ground, int number)
     : mHeight(height), mName(QString("c%1-").arg(number).toStdString()),
       mOut(QString("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%1\" height=\"%2\" "
-                   "viewBox=\"0 0 %1 %2\" role=\"img\" style=\"font:13px monospace;"
-                   "white-space:pre\">\n<title>%3</title>\n")
+                   "viewBox=\"0 0 %1 %2\" role=\"img\" style=\"font:13px "
+                   "monospace\">\n<title>%3</title>\n")
                .arg(whole.width())
                .arg(whole.height())
                .arg(xmlEscaped(label, true))
@@ -175,7 +182,8 @@ void SvgCanvas::addTexts(const TextLayout& texts, const GraphStyle& style)
         number(text.box.x());
         mOut += "\" y=\"";
         number(text.box.y() + Ascent);
-        mOut += "\" fill=\"" + nameOf(text.color) + "\">" + escaped(text.text) + "</text>\n";
+        mOut +=
+            "\" fill=\"" + nameOf(text.color) + "\">" + escaped(unbroken(text.text)) + "</text>\n";
     }
 }
 

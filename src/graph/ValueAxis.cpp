@@ -20,10 +20,12 @@ void shorten(QString& low, QString& high)
 std::vector<ValueAxis::Label> endLabels(const GraphStrip& strip, double lineHeight)
 {
     const double extent = strip.max - strip.min;
-    QString low = rangeLabel(strip.min, extent);
-    QString high = rangeLabel(strip.max, extent);
+    const bool isTall = strip.height >= 2.0 * lineHeight;
+    const int digits = isTall ? 3 : 2; // a line for both leaves less room
+    QString low = rangeLabel(strip.min, extent, digits);
+    QString high = rangeLabel(strip.max, extent, digits);
     shorten(low, high);
-    if (strip.height >= 2.0 * lineHeight) {
+    if (isTall) {
         return {{strip.y0 + lineHeight / 2.0, low},
                 {strip.y0 + strip.height - lineHeight / 2.0, high}};
     }

@@ -60,7 +60,7 @@ public:
     /// As one of two, whose plots stand one below the other.
     void pair()
     {
-        constexpr double Margin = 174.0; // pixels, for two ends of a range
+        constexpr double Margin = 190.0; // pixels, for two ends of a range
         mStyle.lanesOn = false;
         mStyle.leastMargin = Margin;
     }
@@ -103,7 +103,7 @@ Parameters othersOf(const ReportMatter& matter, const Episode& episode, const Ti
 QString captionOf(const Episode& episode)
 {
     QString text =
-        QString("%1   %2   %3")
+        QString("%1, %2, %3")
             .arg(clockText(episode.start), durationWords(episode.duration()), episode.name);
     if (episode.peak) {
         text += ", " + ChartTexts::tr("peak %1 at %2, threshold %3")
@@ -179,7 +179,10 @@ void ReportCharts::writeWhole()
     constexpr int Axis = 62;
     constexpr int Lanes = 40;
     constexpr int Strip = (ReportPages::Height - Axis - Lanes) / int(Strips); // pixels
-    mPages.heading(ChartTexts::tr("The whole flight"));
+    const TimeRange whole = mMatter.flight().range(mMatter.shown.offset);
+    const bool isWhole = mMatter.range.start <= whole.start && mMatter.range.stop >= whole.stop;
+    mPages.heading(isWhole ? ChartTexts::tr("The whole flight")
+                           : ChartTexts::tr("The reported range"));
     const Parameters all = mMatter.parameters();
     if (all.empty()) {
         mPages.say(ChartTexts::tr("No parameter is selected."));

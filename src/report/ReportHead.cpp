@@ -8,6 +8,8 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
 
+#include <cmath>
+
 namespace TARN {
 
 namespace {
@@ -31,7 +33,7 @@ QString utcText(const Flight& flight, double time, double offset)
     if (info.utcTime == 0) {
         return HeadTexts::tr("not recorded");
     }
-    const auto after = truncatedTo<qint64>(time - offset - info.startTime);
+    const auto after = truncatedTo<qint64>(std::round(time - offset - info.startTime));
     return QDateTime::fromSecsSinceEpoch(info.utcTime + after, Qt::UTC)
         .toString("dd.MM.yyyy hh:mm:ss");
 }

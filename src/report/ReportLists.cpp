@@ -73,7 +73,7 @@ void writeTable(EventKind kind, std::vector<const Episode*> episodes, ReportPage
     }
     ReportTable table;
     table.titles = titlesOf(kind);
-    table.shares = kind == EventKind::Limits ? std::vector<double>{13, 13, 10, 19, 10, 11, 13, 11}
+    table.shares = kind == EventKind::Limits ? std::vector<double>{13, 13, 10, 18, 10, 11, 13, 12}
                                              : std::vector<double>{14, 14, 11, 46, 15};
     for (const Episode* episode : episodes) {
         table.rows.push_back(rowOf(kind, *episode));
@@ -103,7 +103,11 @@ void writeList(EventKind kind, const QString& title, const QString& others,
     const auto announced = chosen(all, matter.range, true);
     const auto unannounced = chosen(all, matter.range, false);
     if (announced.empty() && unannounced.empty()) {
-        pages.say(allWell(kind, matter.flight()));
+        // What was looked at is all of the flight.
+        pages.say(all.empty()
+                      ? allWell(kind, matter.flight())
+                      : ReportListTexts::tr("None in this range; in the rest of the flight: %1.")
+                            .arg(countText(qint64(all.size()))));
     }
     if (!announced.empty()) {
         writeTable(kind, announced, pages);

@@ -274,6 +274,10 @@ private Q_SLOTS:
         QVERIFY(run("report --profile P --language de --letter --start 102 -o T/c.htm R").status ==
                 0);
         QVERIFY(read("c.htm").contains("lang=\"de\"") && read("c.htm").contains("size: letter"));
+        // Nothing is all right in a range because it was elsewhere.
+        QVERIFY(run("report --profile P --start 900 --stop 901 -o T/b.html R").status == 0);
+        QCOMPARE(read("b.html").count("None in this range; in the rest of the flight: "), 3);
+        QVERIFY(read("b.html").contains("no parameter was watched for limits"));
         QVERIFY(run("report --profile P -o T/d.pdf R").status == 0);
         QVERIFY(read("d.pdf").startsWith("%PDF"));
         QVERIFY(run("report --profile P -o T/e.doc R").error.find(".html or .pdf") !=
