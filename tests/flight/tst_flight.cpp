@@ -341,6 +341,8 @@ private Q_SLOTS:
         QCOMPARE(lookInto({file})->watched, 7); // as it is kept
         touch(time.addSecs(60));
         QCOMPARE(lookInto({file})->watched, 1);
+        QVERIFY(OverviewCache::keyOf({file}, *profile) !=
+                OverviewCache::keyOf({file}, *profileOf("<Device/>")));
         for (const char* damage : {"", "[]", "{\"a\":[1]}", "{\"a\":[1,2,3,4,5,6,-7,8]}", "\xff"}) {
             write("Overview.json", damage);
             QCOMPARE(lookInto({file})->watched, 1);
