@@ -166,12 +166,12 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
         <translation>Nerozsvítila se žádná výstražná kontrolka. Zkontrolované vzorky: %1, sledované kontrolky: %2.</translation>
     </message>
     <message>
-        <source>No error was active.</source>
-        <translation>Žádná chyba nebyla aktivní.</translation>
-    </message>
-    <message>
         <source>The recording holds no message of an error matrix, so none was watched.</source>
         <translation>Záznam neobsahuje žádnou zprávu matice chyb, takže žádná nebyla sledována.</translation>
+    </message>
+    <message>
+        <source>No error was active in %1 messages of %2 matrices.</source>
+        <translation>Žádná chyba nebyla aktivní v %1 zprávách %2 matic.</translation>
     </message>
 </context>
 <context>
@@ -702,6 +702,18 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
         <source>None in this range; in the rest of the flight: %1.</source>
         <translation>V tomto rozsahu žádné; ve zbytku letu: %1.</translation>
     </message>
+    <message>
+        <source>Time</source>
+        <translation>Čas</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Událost</translation>
+    </message>
+    <message>
+        <source>Nothing out of range in %1 samples of %2 watched parameters.</source>
+        <translation>Nic mimo rozsah v %1 vzorcích %2 sledovaných parametrů.</translation>
+    </message>
 </context>
 <context>
     <name>ReportNumbers</name>
@@ -1081,6 +1093,14 @@ Sledované parametry: %5</translation>
         <source>Cancel</source>
         <translation>Zrušit</translation>
     </message>
+    <message>
+        <source>Fault</source>
+        <translation>Porucha</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Kontrolka</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>
@@ -1195,6 +1215,14 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     <message>
         <source>&amp;Filter</source>
         <translation>&amp;Filtrovat</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to look for what happened.</source>
+        <translation>Není dost paměti na zjištění, co se stalo.</translation>
+    </message>
+    <message>
+        <source>What happened is being looked for.</source>
+        <translation>Zjišťuje se, co se stalo.</translation>
     </message>
 </context>
 <context>

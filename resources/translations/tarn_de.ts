@@ -166,12 +166,12 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
         <translation>Keine Warnlampe leuchtete auf. Geprüfte Messwerte: %1, überwachte Lampen: %2.</translation>
     </message>
     <message>
-        <source>No error was active.</source>
-        <translation>Kein Fehler war aktiv.</translation>
-    </message>
-    <message>
         <source>The recording holds no message of an error matrix, so none was watched.</source>
         <translation>Die Aufzeichnung enthält keine Nachricht einer Fehlermatrix, daher wurde keine überwacht.</translation>
+    </message>
+    <message>
+        <source>No error was active in %1 messages of %2 matrices.</source>
+        <translation>Kein Fehler war aktiv. Geprüfte Nachrichten: %1, Matrizen: %2.</translation>
     </message>
 </context>
 <context>
@@ -702,6 +702,18 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
         <source>None in this range; in the rest of the flight: %1.</source>
         <translation>Keine in diesem Bereich; im übrigen Flug: %1.</translation>
     </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>Nothing out of range in %1 samples of %2 watched parameters.</source>
+        <translation>Nichts außerhalb des Bereichs in %1 Messwerten von %2 überwachten Parametern.</translation>
+    </message>
 </context>
 <context>
     <name>ReportNumbers</name>
@@ -1081,6 +1093,14 @@ Fehler und Warnungen: %4
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>Fault</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lampe</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>
@@ -1195,6 +1215,14 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     <message>
         <source>&amp;Filter</source>
         <translation>&amp;Filtern</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to look for what happened.</source>
+        <translation>Der Speicher reicht nicht, um nachzusehen, was geschah.</translation>
+    </message>
+    <message>
+        <source>What happened is being looked for.</source>
+        <translation>Es wird nachgesehen, was geschah.</translation>
     </message>
 </context>
 <context>

@@ -166,12 +166,12 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
         <translation>No se encendió ninguna luz de aviso en %1 muestras de %2 luces.</translation>
     </message>
     <message>
-        <source>No error was active.</source>
-        <translation>Ningún error estuvo activo.</translation>
-    </message>
-    <message>
         <source>The recording holds no message of an error matrix, so none was watched.</source>
         <translation>La grabación no contiene ningún mensaje de una matriz de errores, por lo que no se vigiló ninguna.</translation>
+    </message>
+    <message>
+        <source>No error was active in %1 messages of %2 matrices.</source>
+        <translation>Ningún error estuvo activo en %1 mensajes de %2 matrices.</translation>
     </message>
 </context>
 <context>
@@ -702,6 +702,18 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
         <source>None in this range; in the rest of the flight: %1.</source>
         <translation>Ninguno en este rango; en el resto del vuelo: %1.</translation>
     </message>
+    <message>
+        <source>Time</source>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Nothing out of range in %1 samples of %2 watched parameters.</source>
+        <translation>Nada fuera de rango en %1 muestras de %2 parámetros vigilados.</translation>
+    </message>
 </context>
 <context>
     <name>ReportNumbers</name>
@@ -1081,6 +1093,14 @@ Parámetros vigilados: %5</translation>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>Fault</source>
+        <translation>Fallo</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Luz</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>
@@ -1195,6 +1215,14 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     <message>
         <source>&amp;Filter</source>
         <translation>&amp;Filtrar</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to look for what happened.</source>
+        <translation>No hay memoria suficiente para buscar lo que pasó.</translation>
+    </message>
+    <message>
+        <source>What happened is being looked for.</source>
+        <translation>Se está buscando lo que pasó.</translation>
     </message>
 </context>
 <context>

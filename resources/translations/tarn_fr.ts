@@ -166,12 +166,12 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
         <translation>Aucun voyant d&apos;alerte ne s&apos;est allumé dans %1 échantillons de %2 voyants.</translation>
     </message>
     <message>
-        <source>No error was active.</source>
-        <translation>Aucune erreur n&apos;a été active.</translation>
-    </message>
-    <message>
         <source>The recording holds no message of an error matrix, so none was watched.</source>
         <translation>L&apos;enregistrement ne contient aucun message d&apos;une matrice d&apos;erreurs, donc aucune n&apos;a été surveillée.</translation>
+    </message>
+    <message>
+        <source>No error was active in %1 messages of %2 matrices.</source>
+        <translation>Aucune erreur n&apos;a été active dans %1 messages de %2 matrices.</translation>
     </message>
 </context>
 <context>
@@ -702,6 +702,18 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
         <source>None in this range; in the rest of the flight: %1.</source>
         <translation>Aucun dans cette plage ; dans le reste du vol&#xa0;: %1.</translation>
     </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Événement</translation>
+    </message>
+    <message>
+        <source>Nothing out of range in %1 samples of %2 watched parameters.</source>
+        <translation>Rien hors plage dans %1 échantillons de %2 paramètres surveillés.</translation>
+    </message>
 </context>
 <context>
     <name>ReportNumbers</name>
@@ -1081,6 +1093,14 @@ Paramètres surveillés&#xa0;: %5</translation>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>Fault</source>
+        <translation>Défaut</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Voyant</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>
@@ -1195,6 +1215,14 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     <message>
         <source>&amp;Filter</source>
         <translation>&amp;Filtrer</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to look for what happened.</source>
+        <translation>La mémoire ne suffit pas pour chercher ce qui s&apos;est passé.</translation>
+    </message>
+    <message>
+        <source>What happened is being looked for.</source>
+        <translation>Recherche de ce qui s&apos;est passé en cours.</translation>
     </message>
 </context>
 <context>

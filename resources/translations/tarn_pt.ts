@@ -166,12 +166,12 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
         <translation>Nenhuma luz de aviso acendeu em %1 amostras de %2 luzes.</translation>
     </message>
     <message>
-        <source>No error was active.</source>
-        <translation>Nenhum erro esteve ativo.</translation>
-    </message>
-    <message>
         <source>The recording holds no message of an error matrix, so none was watched.</source>
         <translation>A gravação não contém nenhuma mensagem de uma matriz de erros, portanto nenhuma foi vigiada.</translation>
+    </message>
+    <message>
+        <source>No error was active in %1 messages of %2 matrices.</source>
+        <translation>Nenhum erro esteve ativo em %1 mensagens de %2 matrizes.</translation>
     </message>
 </context>
 <context>
@@ -702,6 +702,18 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
         <source>None in this range; in the rest of the flight: %1.</source>
         <translation>Nenhum neste intervalo; no resto do voo: %1.</translation>
     </message>
+    <message>
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Nothing out of range in %1 samples of %2 watched parameters.</source>
+        <translation>Nada fora da faixa em %1 amostras de %2 parâmetros vigiados.</translation>
+    </message>
 </context>
 <context>
     <name>ReportNumbers</name>
@@ -1081,6 +1093,14 @@ Parâmetros vigiados: %5</translation>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>Fault</source>
+        <translation>Falha</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Luz</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogData</name>
@@ -1195,6 +1215,14 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     <message>
         <source>&amp;Filter</source>
         <translation>&amp;Filtrar</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to look for what happened.</source>
+        <translation>Não há memória suficiente para procurar o que aconteceu.</translation>
+    </message>
+    <message>
+        <source>What happened is being looked for.</source>
+        <translation>Procurando o que aconteceu.</translation>
     </message>
 </context>
 <context>

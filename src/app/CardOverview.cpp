@@ -17,7 +17,7 @@ QString cacheFile()
 } // namespace
 
 CardOverview::CardOverview(Session& session, DialogCard& card, QObject* parent)
-    : QObject(parent), mSession(session), mFinder(cacheFile())
+    : QObject(parent), mSession(session), mView(card), mFinder(cacheFile())
 {
     connect(&session, &Session::profileChanged, this, &CardOverview::lookAgain);
     connect(&session.loading(), &Switch::turned, this,
@@ -33,6 +33,7 @@ void CardOverview::look(const CardInfo& card)
 
 void CardOverview::lookAgain()
 {
+    mView.clearOverviews();
     std::vector<std::list<QString>> flights;
     std::vector<std::list<QString>> parts;
     for (const FlightGroup& group : flightGroups(mCard)) {

@@ -24,6 +24,7 @@ private:
     void lookAgain();
 
     Session& mSession;
+    DialogCard& mView;
     CardInfo mCard;
     OverviewFinder mFinder;
 };

@@ -64,6 +64,20 @@ std::list<QString> filesOf(const QTreeWidgetItem& item)
                            : std::list<QString>(files.begin(), files.end());
 }
 
+const char* iconOf(const QTreeWidgetItem& item)
+{
+    return item.data(Name, FilesRole).isValid() ? FlightIcon : RecordingIcon;
+}
+
+void clearOverview(QTreeWidgetItem& item)
+{
+    item.setIcon(Name, QIcon(iconOf(item)));
+    item.setToolTip(Worst, {});
+    for (const int column : {Worst, Exceeded, Remarks}) {
+        item.setText(column, {});
+    }
+}
+
 /// What the headers tell of the samples.
 void showExtent(QTreeWidgetItem& item, double duration, qint64 samples)
 {
@@ -130,6 +144,7 @@ void DialogCard::updateInfo()
     mHint->setVisible(mCardInfo.records.empty());
     mTree->clear();
     mTimer.stop(); // what was picked is not listed any more
+    mSelected.clear();
     const auto groups = flightGroups(mCardInfo);
     for (const auto& [path, info] : mCardInfo.records) {
         const auto group =
@@ -176,6 +191,13 @@ QTreeWidgetItem* DialogCard::itemOf(const std::list<QString>& files) const
     return nullptr;
 }
 
+void DialogCard::clearOverviews()
+{
+    for (int row = 0; row < mTree->topLevelItemCount(); ++row) {
+        clearOverview(*mTree->topLevelItem(row));
+    }
+}
+
 void DialogCard::setOverview(const std::list<QString>& files,
                              const std::optional<Overview>& overview)
 {
@@ -183,6 +205,7 @@ void DialogCard::setOverview(const std::list<QString>& files,
     if (item == nullptr) {
         return;
     }
+    clearOverview(*item);
     if (!overview) {
         item->setText(Worst, "?");
         item->setToolTip(Worst, tr("Not looked into: it can't be read, or is too large to be read "
@@ -193,12 +216,14 @@ void DialogCard::setOverview(const std::list<QString>& files,
     const bool isWatched = found.watched > 0;
     item->setText(Worst, found.limits > 0     ? tr("Limit")
                          : found.warnings > 0 ? tr("Warning")
+                         : found.faults > 0   ? tr("Fault")
+                         : found.lamps > 0    ? tr("Lamp")
                          : isWatched          ? tr("none")
                                               : "---");
-    item->setIcon(Name, signedIcon(files.size() > 1 ? FlightIcon : RecordingIcon,
-                                   found.limits > 0     ? QColor(0xFF, 0x4A, 0x4A)
-                                   : found.warnings > 0 ? QColor(0xFF, 0xB8, 0x20)
-                                                        : QColor()));
+    const bool isOdd = found.warnings + found.faults + found.lamps > 0;
+    item->setIcon(Name, signedIcon(iconOf(*item), found.limits > 0 ? QColor(0xFF, 0x4A, 0x4A)
+                                                  : isOdd          ? QColor(0xFF, 0xB8, 0x20)
+                                                                   : QColor()));
     item->setText(Exceeded, isWatched ? countText(found.limits + found.warnings) : "---");
     item->setText(Remarks, countText(found.remarks));
     item->setToolTip(Worst,
@@ -320,12 +345,19 @@ bool DialogCard::isSureOfFlights()
     const QAbstractButton* first = box.addButton(tr("Load the First"), QMessageBox::AcceptRole);
     const QAbstractButton* all = box.addButton(tr("Lay over Each Other"), QMessageBox::ActionRole);
     box.setEscapeButton(box.addButton(tr("Cancel"), QMessageBox::RejectRole));
+    const std::list<QString> asked = mSelected;
     box.exec();
+    if (mSelected != asked) {
+        return false; // another card is listed meanwhile
+    }
     if (box.clickedButton() == first) {
         mSelected = flights.front();
         showLoaded(mSelected);
+    } else if (box.clickedButton() != all) {
+        showLoaded({}); // a click on them asks again
+        return false;
     }
-    return box.clickedButton() == first || box.clickedButton() == all;
+    return true;
 }
 
 } // namespace TARN

@@ -39,6 +39,8 @@ public:
     /// Adds what reading their samples has shown to the tool tips of the files read.
     void setIntegrity(const RecordIntegrity& integrity);
 
+    /// Forgets what recordings hold: it is of another profile.
+    void clearOverviews();
     /// What recordings hold, or those of a flight together; nothing where they were not looked
     /// into.
     void setOverview(const std::list<QString>& files, const std::optional<Overview>& overview);

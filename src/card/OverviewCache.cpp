@@ -1,6 +1,7 @@
 #include "card/OverviewCache.h"
 
 #include "base/OutputFile.h"
+#include "base/Revision.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QDateTime>
@@ -70,6 +71,7 @@ OverviewCache::OverviewCache(const QString& file) : mFile(file)
 QString OverviewCache::keyOf(const std::list<QString>& files, const Profile& profile)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(QByteArray::fromStdString(Revision::getRevisionString())); // and its rules
     hash.addData(profile.fileHash());
     for (const QString& file : files) {
         const QFileInfo info(file);

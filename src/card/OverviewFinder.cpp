@@ -4,7 +4,17 @@ namespace TARN {
 
 OverviewFinder::OverviewFinder(const QString& cacheFile, QObject* parent)
     : QObject(parent), mCache(std::make_shared<OverviewCache>(cacheFile))
-{}
+{
+    mJob.setOutOfMemory([this] { take(std::nullopt); });
+}
+
+void OverviewFinder::take(const std::optional<Overview>& overview)
+{
+    const std::list<QString> files = mWaiting.front();
+    mWaiting.pop_front();
+    Q_EMIT found(files, overview);
+    next();
+}
 
 void OverviewFinder::look(const std::vector<std::list<QString>>& flights,
                           std::shared_ptr<const Profile> profile)
@@ -48,12 +58,7 @@ void OverviewFinder::next()
             }
             return overview;
         },
-        [this](const std::optional<Overview>& overview) {
-            const std::list<QString> files = mWaiting.front();
-            mWaiting.pop_front();
-            Q_EMIT found(files, overview);
-            next();
-        });
+        [this](const std::optional<Overview>& overview) { take(overview); });
 }
 
 } // namespace TARN

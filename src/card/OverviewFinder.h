@@ -32,6 +32,7 @@ Q_SIGNALS:
 
 private:
     void next();
+    void take(const std::optional<Overview>& overview);
 
     std::shared_ptr<OverviewCache> mCache;
     std::shared_ptr<const Profile> mProfile;

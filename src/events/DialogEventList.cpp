@@ -39,7 +39,12 @@ DialogEventList::DialogEventList(Session& session, EpisodeWatch& episodes, Event
     createCommands();
     connect(mTable, &DataTableView::rowPicked, this, &DialogEventList::slotSelect);
     connect(mTable, &DataTableView::signalLink, this, &DialogEventList::signalLink);
-    connect(mFilter, &EventFilter::changed, this, &DialogEventList::updateEmptyText);
+    connect(mOrder, &EventOrder::changing, this, [this] { mTable->setPicking(false); });
+    connect(mOrder, &EventOrder::changed, this, [this] {
+        mTable->setPicking(true);
+        updateEmptyText();
+        showCurrentTime();
+    });
     connect(mFilter, &EventFilter::left, mTable, qOverload<>(&QWidget::setFocus));
     connect(&mSession, &Session::profileChanged, this, &DialogEventList::showFlight);
     connect(&mSession, &Session::flightChanged, this, &DialogEventList::showFlight);
@@ -85,9 +90,12 @@ void DialogEventList::updateEmptyText()
     const bool isFiltered = mModel->rowCount() > 0;
     const QString general = emptyTextOfAll(mSession);
     mFilter->setVisible(isFiltered);
-    mTable->setEmptyText(isFiltered           ? tr("Nothing in the list fits the filter.")
-                         : !general.isEmpty() ? general
-                                              : allWell(mModel->kind(), *mSession.flight()));
+    mTable->setEmptyText(
+        isFiltered            ? tr("Nothing in the list fits the filter.")
+        : !general.isEmpty()  ? general
+        : mEpisodes.isShort() ? tr("There is not enough memory to look for what happened.")
+        : mEpisodes.troubles() == nullptr ? tr("What happened is being looked for.")
+                                          : allWell(mModel->kind(), *mSession.flight()));
 }
 
 void DialogEventList::showTime(double time, const QObject* source)

@@ -76,9 +76,7 @@ bool EventFilter::event(QEvent* event)
 void EventFilter::apply()
 {
     const QVariant state = mSeverity->currentData();
-    mOrder.setText(mText->text());
-    mOrder.setState(state.isValid() ? std::optional(state.toInt()) : std::nullopt);
-    Q_EMIT changed();
+    mOrder.setFilter(mText->text(), state.isValid() ? std::optional(state.toInt()) : std::nullopt);
 }
 
 } // namespace TARN

@@ -25,7 +25,6 @@ public:
     void begin();
 
 Q_SIGNALS:
-    void changed();
     /// The user goes on to the list.
     void left();
 

@@ -4,8 +4,6 @@
 
 #include <QtCore/QCoreApplication>
 
-#include <algorithm>
-
 namespace TARN {
 
 namespace {
@@ -41,6 +39,11 @@ const std::vector<Episode>& episodesOf(EventKind kind, const Troubles& troubles)
 QString allWell(EventKind kind, const Flight& flight)
 {
     const Events& events = flight.events();
+    Watched messages;
+    for (const FaultHistory& history : flight.faults()) {
+        messages.samples += history.messages();
+        messages.parameters += history.isKnown() ? 1 : 0;
+    }
     switch (kind) {
     case EventKind::Limits:
         return events.watchedLimits.parameters == 0
@@ -56,8 +59,9 @@ QString allWell(EventKind kind, const Flight& flight)
                    : counted(ListTexts::tr("No warning lamp came on in %1 samples of %2 lamps."),
                              events.watchedLamps);
     default:
-        return std::ranges::any_of(flight.faults(), &FaultHistory::isKnown)
-                   ? ListTexts::tr("No error was active.")
+        return messages.samples > 0
+                   ? counted(ListTexts::tr("No error was active in %1 messages of %2 matrices."),
+                             messages)
                    : ListTexts::tr("The recording holds no message of an error matrix, so none was "
                                    "watched.");
     }

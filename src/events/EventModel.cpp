@@ -41,6 +41,11 @@ void EventModel::setEpisodes(std::shared_ptr<const std::vector<Episode>> episode
             announced[{episode.parameter, place}] = &episode;
         }
     }
+    if (mKind == EventKind::Faults) { // in the order of the times that are shown
+        std::ranges::stable_sort(mUnannounced, {}, [](const Episode* episode) {
+            return episode->start - episode->shift;
+        });
+    }
     mOfEvents.assign(eventCount(), nullptr);
     for (std::size_t i = 0; i < eventCount(); ++i) {
         const auto found = announced.find({(*mEvents)[i].parameter, (*mEvents)[i].place});
@@ -204,15 +209,18 @@ QVariant EventModel::sortKey(int row, int column) const
     if (column == TimeColumn) {
         return data(index(row, TimeColumn), TimeRole);
     }
-    if (column == TextColumn || episode == nullptr) {
+    if (column == TextColumn) {
         return textAt(row, column);
+    }
+    if (episode == nullptr) {
+        return {};
     }
     const bool hasPeak = episode->peak.has_value();
     switch (column) {
     case SeverityColumn:
         return episode->state;
     case UntilColumn:
-        return episode->end;
+        return episode->end - (eventAt(row) != nullptr ? episode->shift : shownShift(*episode));
     case DurationColumn:
         return episode->duration();
     case PeakColumn:

@@ -10,22 +10,26 @@ EventOrder::EventOrder(EventModel& list, QObject* parent)
     setSourceModel(&list);
 }
 
-void EventOrder::setText(const QString& text)
+void EventOrder::setFilter(const QString& text, std::optional<int> state)
 {
     mText = text;
-    invalidateFilter();
-}
-
-void EventOrder::setState(std::optional<int> state)
-{
     mState = state;
-    invalidateFilter();
+    rebuild();
 }
 
 void EventOrder::sort(int column, Qt::SortOrder order)
 {
+    Q_EMIT changing();
     QSortFilterProxyModel::sort(column, order);
-    invalidateFilter(); // the heading comes or goes
+    rebuild(); // the heading comes or goes
+}
+
+/// At once: rows that come and go one by one take time with each other.
+void EventOrder::rebuild()
+{
+    Q_EMIT changing();
+    invalidate();
+    Q_EMIT changed();
 }
 
 int EventOrder::rowAt(double time) const
@@ -61,8 +65,8 @@ bool EventOrder::filterAcceptsRow(int row, const QModelIndex&) const
     if (mList.isHeading(row)) {
         return sortColumn() < 0 && mText.isEmpty() && !mState;
     }
-    if (mState &&
-        mList.index(row, EventModel::SeverityColumn).data(EventModel::StateRole) != *mState) {
+    const QVariant state = mList.index(row, EventModel::SeverityColumn).data(EventModel::StateRole);
+    if (mState && state.isValid() && state != *mState) { // what is not known may be it
         return false;
     }
     if (mText.isEmpty()) {

@@ -17,10 +17,9 @@ class EventOrder : public QSortFilterProxyModel
 public:
     explicit EventOrder(EventModel& list, QObject* parent = nullptr);
 
-    /// Only rows of which a cell holds this text, in capitals or not; all for an empty one.
-    void setText(const QString& text);
-    /// Only rows of this severity; all without one.
-    void setState(std::optional<int> state);
+    /// Only rows of which a cell holds this text, in capitals or not, all for an empty one, and
+    /// which are of this severity, any without one.
+    void setFilter(const QString& text, std::optional<int> state);
 
     /// Column -1 is the list's own order.
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
@@ -32,12 +31,20 @@ public:
     /// All rows as text with a line of titles, cells parted by tabs, as a spreadsheet takes them.
     QString text() const;
 
+Q_SIGNALS:
+    // Other rows are shown, or others first.
+
+    void changing();
+    void changed();
+
 protected:
     bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
     /// What has no value comes last in either order.
     bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 
 private:
+    void rebuild();
+
     EventModel& mList;
     QString mText;
     std::optional<int> mState;

@@ -48,6 +48,7 @@ public:
 
     const FaultMatrix& matrix() const { return *mMatrix; }
 
+    std::size_t messages() const { return mEntries.size(); }
     /// Whether the recording holds a status message.
     bool isKnown() const { return !mEntries.empty(); }
 

@@ -7,12 +7,17 @@ EpisodeWatch::EpisodeWatch(Session& session, QObject* parent) : QObject(parent),
     connect(&session, &Session::profileChanged, this, &EpisodeWatch::look);
     connect(&session, &Session::flightChanged, this, &EpisodeWatch::look);
     connect(&session, &Session::offsetChanged, this, &EpisodeWatch::look);
+    mJob.setOutOfMemory([this] {
+        mIsShort = true;
+        Q_EMIT changed();
+    });
 }
 
 void EpisodeWatch::look()
 {
     mJob.cancel();
     mTroubles = nullptr;
+    mIsShort = false;
     Q_EMIT changed();
     if (mSession.flight() == nullptr) {
         return;

@@ -16,7 +16,10 @@ public:
 
     explicit EpisodeWatch(Session& session, QObject* parent = nullptr);
 
-    // Null while they are being looked for and where there is no flight.
+    /// Memory did not suffice to look for them.
+    bool isShort() const { return mIsShort; }
+
+    // Null while they are being looked for, where there is no flight and where it is too large.
 
     const std::shared_ptr<const Troubles>& troubles() const { return mTroubles; }
     /// Those of parameters out of range.
@@ -31,6 +34,7 @@ private:
     Session& mSession;
     Job<std::shared_ptr<const Troubles>> mJob;
     std::shared_ptr<const Troubles> mTroubles;
+    bool mIsShort = false;
 };
 
 } // namespace TARN

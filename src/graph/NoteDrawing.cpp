@@ -83,6 +83,7 @@ void NoteDrawing::drawEpisodes(const ParStruct& curve)
     }
     const double bottom = mPlaces.barBottom(curve);
     double drawn = -1.0;
+    double drawnWorst = -1.0; // of those at their limit
     for (const Episode* episode : mModel.hints().notes.episodesOf(curve.facts->parameter())) {
         if (episode->end < mView.xmin || episode->start > mView.xmax) {
             continue;
@@ -90,9 +91,11 @@ void NoteDrawing::drawEpisodes(const ParStruct& curve)
         const double left = std::floor(column(episode->start));
         const double right = std::max(std::ceil(column(episode->end)), left + LeastWidth);
         // The worst of those that share a column is not hidden by the others.
-        if (right > drawn || episode->state == StateLimit) {
+        const bool isWorst = episode->state == StateLimit;
+        if (right > (isWorst ? drawnWorst : drawn)) {
             mCanvas.fill(left, bottom, right, bottom + NotePlaces::BarHeight, colorOf(*episode));
-            drawn = right;
+            drawn = std::max(drawn, right);
+            drawnWorst = isWorst ? right : drawnWorst;
         }
     }
 }

@@ -86,9 +86,11 @@ std::vector<Chain> chainsOf(const CardInfo& card)
     std::vector<Chain> chains;
     for (const Recording& recording : sorted(card)) {
         const bool isEmpty = recording.info->samples < 1 || recording.info->unreadable;
-        if (!chains.empty() && !isEmpty && chains.back().back().info->samples > 0 &&
-            goesOn(chains.back().back(), recording)) {
-            chains.back().push_back(recording);
+        const auto before = std::ranges::find_if(chains, [&](const Chain& chain) {
+            return !isEmpty && chain.back().info->samples > 0 && goesOn(chain.back(), recording);
+        });
+        if (before != chains.end()) {
+            before->push_back(recording);
         } else {
             chains.push_back({recording});
         }

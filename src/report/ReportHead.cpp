@@ -3,12 +3,12 @@
 #include "base/ClockTime.h"
 #include "base/CountText.h"
 #include "base/Revision.h"
+#include "flight/StatisticsWords.h"
+#include "flight/TimeScale.h"
 #include "record/RecordText.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
-
-#include <cmath>
 
 namespace TARN {
 
@@ -27,15 +27,10 @@ QString fileNameOf(const QString& path)
     return QFileInfo(path).fileName();
 }
 
-QString utcText(const Flight& flight, double time, double offset)
+/// As the window shows it.
+QString utcText(const RecordInfo& info, double time)
 {
-    const RecordInfo& info = flight.info();
-    if (info.utcTime == 0) {
-        return HeadTexts::tr("not recorded");
-    }
-    const auto after = truncatedTo<qint64>(std::round(time - offset - info.startTime));
-    return QDateTime::fromSecsSinceEpoch(info.utcTime + after, Qt::UTC)
-        .toString("dd.MM.yyyy hh:mm:ss");
+    return info.utcTime == 0 ? HeadTexts::tr("not recorded") : dateText(info, time);
 }
 
 /// When, on both clocks.
@@ -46,11 +41,12 @@ void addTimes(const ReportMatter& matter, ReportTable& table)
                              {clockTextWithMilliseconds(range.start)}});
     table.rows.push_back(Row{{HeadTexts::tr("Until, on the recording's clock")},
                              {clockTextWithMilliseconds(range.stop)}});
-    table.rows.push_back(Row{{HeadTexts::tr("From, in UTC")},
-                             {utcText(matter.flight(), range.start, matter.shown.offset)}});
+    table.rows.push_back(
+        Row{{HeadTexts::tr("From, in UTC")}, {utcText(matter.flight().info(), range.start)}});
     if (matter.shown.offset != 0.0) {
+        constexpr int Digits = 12;
         table.rows.push_back(
-            Row{{HeadTexts::tr("Time offset")}, {QString("%1 s").arg(matter.shown.offset)}});
+            Row{{HeadTexts::tr("Time offset")}, {numberWords(matter.shown.offset, Digits) + " s"}});
     }
 }
 
@@ -152,7 +148,11 @@ void writeAnswer(const ReportMatter& matter, ReportPages& pages)
 void writeRemarks(const ReportMatter& matter, ReportPages& pages)
 {
     pages.heading(HeadTexts::tr("Remarks on the recording"));
-    QStringList remarks = recordRemarks(matter.flight().record()->integrity());
+    const RecordIntegrity& integrity = matter.flight().record()->integrity();
+    QStringList remarks = recordRemarks(integrity);
+    if (!integrity.damagedOffset.isEmpty()) { // where the card lay is not told
+        remarks.replaceInStrings(integrity.damagedOffset, fileNameOf(integrity.damagedOffset));
+    }
     const QString unknown = matter.flight().unknown().remark();
     if (!unknown.isEmpty() && matter.profile().isLoaded()) {
         remarks += unknown;

@@ -7,6 +7,7 @@
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
+#include <set>
 
 namespace TARN {
 
@@ -61,7 +62,7 @@ QStringList titlesOf(EventKind kind)
     return titles;
 }
 
-/// Those by time, where there are too many the worst of them.
+/// By time; where there are too many, the worst of them.
 void writeTable(EventKind kind, std::vector<const Episode*> episodes, ReportPages& pages)
 {
     if (episodes.size() > MostRows) {
@@ -69,8 +70,8 @@ void writeTable(EventKind kind, std::vector<const Episode*> episodes, ReportPage
             ReportListTexts::tr("The %1 worst of %2; \"orna-cli events --episodes\" lists all.")
                 .arg(countText(qint64(MostRows)), countText(qint64(episodes.size()))));
         episodes.resize(MostRows);
-        std::ranges::stable_sort(episodes, {}, &Episode::start);
     }
+    std::ranges::stable_sort(episodes, {}, &Episode::start);
     ReportTable table;
     table.titles = titlesOf(kind);
     table.shares = kind == EventKind::Limits ? std::vector<double>{13, 13, 10, 18, 10, 11, 13, 12}
@@ -81,18 +82,50 @@ void writeTable(EventKind kind, std::vector<const Episode*> episodes, ReportPage
     pages.table(table);
 }
 
-/// Those that touch the range: the worst first where there are too many, otherwise by time.
+/// Those that touch the range, the worst first.
 std::vector<const Episode*> chosen(const std::vector<Episode>& all, const TimeRange& range,
                                    bool isAnnounced)
 {
     std::vector<const Episode*> some;
-    const bool isMany = all.size() > MostRows;
-    for (const Episode* episode : isMany ? worstOf(all, all.size()) : pointersTo(all)) {
+    for (const Episode* episode : worstOf(all, all.size())) {
         if (episode->touches(range) && episode->isAnnounced() == isAnnounced) {
             some.push_back(episode);
         }
     }
     return some;
+}
+
+/// Limit events of parameters whose cells tell of no state, so that no time out of range was found.
+ReportTable momentsIn(const ReportMatter& matter)
+{
+    using Place = std::pair<const ProfileParameter*, std::size_t>;
+    std::set<Place> told;
+    for (const Episode& episode : matter.troubles.limits) {
+        for (const std::size_t place : episode.announcedBy) {
+            told.insert({episode.parameter, place});
+        }
+    }
+    ReportTable table;
+    table.titles = {ReportListTexts::tr("Time"), ReportListTexts::tr("Event")};
+    table.shares = {14, 86};
+    for (const RecordLimit& event : matter.flight().events().limits) {
+        const double time = event.time + matter.shown.series(*event.parameter).shift();
+        if (!told.contains({event.parameter, event.place}) && matter.range.contains(time) &&
+            table.rows.size() < MostRows) {
+            table.rows.push_back({timeText(time), ReportText{event.shortText, event.color}});
+        }
+    }
+    return table;
+}
+
+/// What is said where nothing of a kind was found in all of the flight.
+QString nothingOf(EventKind kind, const ReportMatter& matter)
+{
+    const Watched& watched = matter.summary.watched;
+    return kind == EventKind::Limits && watched.parameters > 0
+               ? ReportListTexts::tr("Nothing out of range in %1 samples of %2 watched parameters.")
+                     .arg(countText(qint64(watched.samples)), countText(qint64(watched.parameters)))
+               : allWell(kind, matter.flight());
 }
 
 void writeList(EventKind kind, const QString& title, const QString& others,
@@ -102,15 +135,19 @@ void writeList(EventKind kind, const QString& title, const QString& others,
     pages.heading(title);
     const auto announced = chosen(all, matter.range, true);
     const auto unannounced = chosen(all, matter.range, false);
-    if (announced.empty() && unannounced.empty()) {
+    const ReportTable moments = kind == EventKind::Limits ? momentsIn(matter) : ReportTable();
+    if (announced.empty() && unannounced.empty() && moments.rows.empty()) {
         // What was looked at is all of the flight.
         pages.say(all.empty()
-                      ? allWell(kind, matter.flight())
+                      ? nothingOf(kind, matter)
                       : ReportListTexts::tr("None in this range; in the rest of the flight: %1.")
                             .arg(countText(qint64(all.size()))));
     }
     if (!announced.empty()) {
         writeTable(kind, announced, pages);
+    }
+    if (!moments.rows.empty()) {
+        pages.table(moments);
     }
     if (!unannounced.empty()) {
         if (!others.isEmpty()) {

@@ -94,6 +94,7 @@ void DataTableView::setModel(QAbstractItemModel* model)
         updateEmptyPlace();
         mWidening.start();
     });
+    connect(model, &QAbstractItemModel::layoutChanged, this, &DataTableView::updateEmptyPlace);
     connect(model, &QAbstractItemModel::rowsInserted, this, &DataTableView::updateEmptyPlace);
     connect(model, &QAbstractItemModel::rowsRemoved, this, &DataTableView::updateEmptyPlace);
     updateEmptyPlace();
@@ -130,6 +131,9 @@ void DataTableView::fitColumns()
 void DataTableView::showRow(int row)
 {
     const QScopedValueRollback showing(mShowing, true);
+    if (row < 0) {
+        clearSelection();
+    }
     if (row >= 0 && row < model()->rowCount()) {
         selectRow(row);
         scrollTo(model()->index(row, 0), QAbstractItemView::PositionAtCenter);

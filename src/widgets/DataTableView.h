@@ -31,7 +31,11 @@ public:
     /// Gives every column the width of its title, and more as values come into sight.
     void fitColumns();
 
-    /// Selects a row and brings it to the middle, without telling that it was picked.
+    /// Rows that come to be selected otherwise than by the user are picked by nobody.
+    void setPicking(bool on) { mShowing = !on; }
+
+    /// Selects a row and brings it to the middle, without telling that it was picked; none
+    /// for -1.
     void showRow(int row);
 
 Q_SIGNALS:

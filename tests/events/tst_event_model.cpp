@@ -94,7 +94,7 @@ private Q_SLOTS:
         QVERIFY(place->parameter->name == "up" && std::fabs(place->start - 6.06) < 1e-6);
         QVERIFY(std::fabs(*place->peak - 6.06) < 1e-6 && !model.placeOf(4, *shown, 4.0)->peak);
         EventOrder order(model);
-        order.setText("LEVEL");
+        order.setFilter("LEVEL", {});
         QCOMPARE(order.text(), QString("Time\tLimits\tSeverity\tUntil\tDuration\tPeak\tThreshold\n"
                                        "00:00:09.000\tE level in warning\tWarning\t00:00:09.500\t"
                                        "0.5 s\t2.14285714286 %\t\u2265 1.42857142857\n"));
@@ -105,13 +105,13 @@ private Q_SLOTS:
             }
             return times.join(' ');
         };
-        order.setText({});
+        order.setFilter({}, {});
         QCOMPARE(timesOf(), QString("2.000 2.060  5.000 7.000 9.000"));
         QVERIFY(order.rowAt(2.06) == 1 && order.rowAt(99.0) == 1 && order.rowAt(0.0) == 0);
-        order.setState(StateWarning);
+        order.setFilter({}, StateWarning);
         QCOMPARE(timesOf(), QString("5.000 9.000"));
         QCOMPARE(order.rowAt(99.0), -1); // no event is left
-        order.setState(std::nullopt);
+        order.setFilter({}, {});
         order.sort(EventModel::PeakColumn, Qt::DescendingOrder); // a value less comes last
         QCOMPARE(timesOf(), QString("2.000 2.060 5.000 9.000 7.000"));
         order.sort(EventModel::DurationColumn);

@@ -440,6 +440,7 @@ private Q_SLOTS:
         QTest::keyClick(&window(), Qt::Key_F, Qt::ControlModifier);
         QTest::keyClicks(QApplication::focusWidget(), "OIL");
         QCOMPARE(limits->model()->rowCount(), 3);
+        QCOMPARE(timeEdit()->time(), QTime(9, 23, 38, 706)); // nobody picked another row
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(limits->model()->rowCount() == 9 && limits->hasFocus());
         const QPoint peak(limits->columnViewportPosition(5) + 20, 5);
