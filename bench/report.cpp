@@ -20,7 +20,7 @@ public:
         std::filesystem::create_directories(card);
         Demo::CardOptions options;
         options.folder = card.string();
-        options.minutes = suite.options().quick ? 10 : 60;
+        options.minutes = 60;
         require(Demo::writeCard(options).empty(), "the demo flight was not written");
         for (const auto& entry : std::filesystem::directory_iterator(card)) {
             mFiles.push_back(QString::fromStdString(entry.path().string()));
