@@ -9,11 +9,22 @@
 
 namespace TARN {
 
+namespace {
+
+template <typename Face>
+ExportFace* make(QWidget* window)
+{
+    return new Face(window);
+}
+
+} // namespace
+
 ExportRunner::ExportRunner(Session& session, QWidget& window)
     : QObject(&window), mSession(session),
-      mWindow(window), mFaces{{ActionType::ExportKml, new DialogExportKml(&window)},
-                              {ActionType::ExportCsv, new DialogExportCsv(&window)},
-                              {ActionType::FlightReport, new DialogReport(&window)}}
+      mWindow(window), mKinds{{ActionType::ExportKml, {make<DialogExportKml>}},
+                              {ActionType::ExportCsv, {make<DialogExportCsv>}},
+                              {ActionType::FlightReport, {make<DialogReport>, false}}}
+// it says that there are none
 {
     mJob.setListener(
         [this](int percent, const QString& task) { Q_EMIT progressed(percent, task); });
@@ -22,7 +33,7 @@ ExportRunner::ExportRunner(Session& session, QWidget& window)
 std::vector<ActionType> ExportRunner::commands() const
 {
     std::vector<ActionType> commands;
-    for (const auto& [command, face] : mFaces) {
+    for (const auto& [command, kind] : mKinds) {
         commands.push_back(command);
     }
     return commands;
@@ -30,18 +41,20 @@ std::vector<ActionType> ExportRunner::commands() const
 
 void ExportRunner::start(ActionType command)
 {
-    const auto found = mFaces.find(command);
-    if (found == mFaces.end()) {
+    const auto found = mKinds.find(command);
+    if (found == mKinds.end()) {
         return;
     }
+    Kind& kind = found->second;
+    kind.face = kind.face != nullptr ? kind.face : kind.make(&mWindow);
     // What is exported is what is shown when the wizard opens.
     const ExportInput shown{mSession.flight(), mSession.selection(), mSession.offset()};
     ExportOptions preset;
     preset.startTime = rangeOf(mSession).start;
     preset.stopTime = rangeOf(mSession).stop;
     preset.currentTime = mSession.time();
-    if (auto exporter = found->second->ask(shown, preset)) {
-        run(std::move(exporter), shown, *found->second);
+    if (auto exporter = kind.face->ask(shown, preset)) {
+        run(std::move(exporter), shown, *kind.face);
     }
 }
 
@@ -49,7 +62,7 @@ bool ExportRunner::isPossible(ActionType command) const
 {
     const auto& flight = mSession.flight();
     return flight != nullptr && !isRunning() &&
-           !(flight->samples().empty() && mFaces.at(command)->needsSamples());
+           !(flight->samples().empty() && mKinds.at(command).needsSamples);
 }
 
 void ExportRunner::run(std::shared_ptr<Exporter> exporter, const ExportInput& input,

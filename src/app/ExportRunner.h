@@ -41,12 +41,20 @@ Q_SIGNALS:
     void finished(const QString& message, bool done);
 
 private:
+    /// One kind of export. Its face is made when it is first asked for: the start does not wait.
+    struct Kind
+    {
+        std::function<ExportFace*(QWidget*)> make;
+        bool needsSamples = true;   ///< there is nothing to export without
+        ExportFace* face = nullptr; ///< child of the window
+    };
+
     void run(std::shared_ptr<Exporter> exporter, const ExportInput& input, ExportFace& face);
     void report(const ExportResult& result, const QString& path, ExportFace& face);
 
     Session& mSession;
     QWidget& mWindow;
-    std::map<ActionType, ExportFace*> mFaces; ///< children of the window
+    std::map<ActionType, Kind> mKinds;
     Job<ExportResult> mJob;
 };
 

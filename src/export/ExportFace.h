@@ -26,9 +26,6 @@ public:
     };
     virtual Words words() const = 0;
 
-    /// Whether there is nothing to export without samples.
-    virtual bool needsSamples() const { return true; }
-
     /// The file is there.
     virtual void written(const QString& /*path*/) {}
 };

@@ -25,8 +25,6 @@ public:
     /// flight.
     std::shared_ptr<Exporter> ask(const ExportInput& shown, const ExportOptions& preset) override;
     Words words() const override;
-    /// A report says that there are no samples.
-    bool needsSamples() const override { return false; }
     /// Opens it, if the user wants that.
     void written(const QString& path) override;
 
