@@ -24,7 +24,6 @@ ExportRunner::ExportRunner(Session& session, QWidget& window)
       mWindow(window), mKinds{{ActionType::ExportKml, {make<DialogExportKml>}},
                               {ActionType::ExportCsv, {make<DialogExportCsv>}},
                               {ActionType::FlightReport, {make<DialogReport>, false}}}
-// it says that there are none
 {
     mJob.setListener(
         [this](int percent, const QString& task) { Q_EMIT progressed(percent, task); });
