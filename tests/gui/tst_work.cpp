@@ -157,7 +157,9 @@ private Q_SLOTS:
             {{}, "report"}, {{33200.0, 33300.0}, "report --letter --start 33200 --stop 33300"}};
         for (const auto& [marks, command] : ranges) {
             session().setMarks(marks);
+            QTRY_VERIFY(action(ActionType::FlightReport)->isEnabled());
             run(ActionType::FlightReport);
+            QTRY_VERIFY2(QFile::exists(file), qPrintable(QString::number(asked)));
             settle();
             QVERIFY2(said().startsWith("Written: " + file), qPrintable(said()));
             QVERIFY(writeByCommand(command, "LOG_0001.CAN LOG_0002.CAN"));
