@@ -438,10 +438,12 @@ private Q_SLOTS:
         QVERIFY(views()->currentIndex() == Limits && rowOf(limits) == 0);
         // A filter, which Escape takes back, and an order, which the third click does.
         QTest::keyClick(&window(), Qt::Key_F, Qt::ControlModifier);
-        QTest::keyClicks(QApplication::focusWidget(), "OIL");
+        auto* filter = limits->parentWidget()->findChild<QLineEdit*>();
+        QTRY_VERIFY(filter->hasFocus());
+        QTest::keyClicks(filter, "OIL");
         QCOMPARE(limits->model()->rowCount(), 3);
         QCOMPARE(timeEdit()->time(), QTime(9, 23, 38, 706)); // nobody picked another row
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        QTest::keyClick(filter, Qt::Key_Escape);
         QVERIFY(limits->model()->rowCount() == 9 && limits->hasFocus());
         const QPoint peak(limits->columnViewportPosition(5) + 20, 5);
         for (const char* first : {"0 bar", "1088 °C", "246.6 °C"}) {
