@@ -31,7 +31,8 @@ QSurfaceFormat graphFormat()
 
 WidgetGraph::WidgetGraph(QWidget* parent)
     : QOpenGLWidget(parent), mFeed(mModel), mGestures(mModel), mLegend(mModel),
-      mTexts(QFontMetricsF(graphFont())), mEmpty(new EmptyPlace(this))
+      mTexts(QFontMetricsF(graphFont())), mSpots(mModel, mStyle, mTexts),
+      mEmpty(new EmptyPlace(this))
 {
     constexpr int RepaintInterval = 30; // ms
     constexpr int RecalcDelay = 50;
@@ -291,12 +292,12 @@ void WidgetGraph::mousePressEvent(QMouseEvent* event)
     const QPointF place = event->position();
     mRightPressed = place;
     if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
-        if (const auto legend = mTexts.legendAt(place)) {
+        if (const auto legend = mSpots.legendAt(place)) {
             setPointed(mModel, legend);
             mLegend.press(*legend, place);
             return;
         }
-        const auto notes = notesAt(place);
+        const auto notes = mSpots.notesAt(place);
         if (!notes.empty()) {
             mGestures.goTo(notes.front().time);
             return;
@@ -308,7 +309,7 @@ void WidgetGraph::mousePressEvent(QMouseEvent* event)
 void WidgetGraph::mouseMoveEvent(QMouseEvent* event)
 {
     if (mLegend.isHeld()) {
-        mLegend.move(event->position(), curveAt(event->position()));
+        mLegend.move(event->position(), mSpots.curveAt(event->position()));
     } else {
         mGestures.move(*event);
     }
@@ -325,7 +326,7 @@ void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)
     }
     if (event->button() == Qt::RightButton &&
         (event->position() - mRightPressed).manhattanLength() <= Still) {
-        if (const auto curve = curveAt(event->position())) {
+        if (const auto curve = mSpots.curveAt(event->position())) {
             setPointed(mModel, curve);
         }
         Q_EMIT signalMenu(event->globalPosition().toPoint());
@@ -336,7 +337,7 @@ void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)
 /// What was clicked, and half a minute around it.
 void WidgetGraph::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const auto notes = notesAt(event->position());
+    const auto notes = mSpots.notesAt(event->position());
     if (event->button() == Qt::LeftButton && !notes.empty()) {
         zoomToMinute(mModel, notes.front().time);
     } else {
@@ -358,20 +359,8 @@ bool WidgetGraph::event(QEvent* event)
         return QOpenGLWidget::event(event);
     }
     const auto& help = static_cast<const QHelpEvent&>(*event);
-    QToolTip::showText(help.globalPos(), toolTipAt(help.pos()), this);
+    QToolTip::showText(help.globalPos(), mSpots.toolTipAt(help.pos()), this);
     return true;
-}
-
-QString WidgetGraph::toolTipAt(QPointF position) const
-{
-    if (const auto legend = mTexts.legendAt(position)) {
-        const ParStruct& curve = *mModel.curves().curve(*legend);
-        return curve.name + "\n" +
-               (curve.hidden
-                    ? tr("Click to show the curve")
-                    : tr("Click to hide the curve, drag to move it, right click for more"));
-    }
-    return textOf(notesAt(position));
 }
 
 /// The shape of the mouse says what a press would do.
@@ -381,28 +370,11 @@ void WidgetGraph::updateMouse(QPointF position)
     if (mModel.layout().displayMode() == DisplaySingle) {
         pointAt(mModel, view.viewportToX(position.x()), height() - position.y());
     }
-    const bool isHand = mTexts.legendAt(position) || !notesAt(position).empty();
+    const bool isHand = mSpots.isForClicks(position);
     setCursor(mLegend.isDragging()        ? Qt::ClosedHandCursor
               : isHand                    ? Qt::PointingHandCursor
               : mGestures.endAt(position) ? Qt::SplitHCursor
                                           : Qt::ArrowCursor);
-}
-
-std::vector<GraphNote> WidgetGraph::notesAt(QPointF position) const
-{
-    return NotePlaces(mModel, mStyle).at(position.x(), height() - position.y());
-}
-
-/// The curve whose legend, in split mode whose strip, is there.
-std::optional<unsigned> WidgetGraph::curveAt(QPointF position)
-{
-    if (const auto legend = mTexts.legendAt(position)) {
-        return legend;
-    }
-    const ParStruct* curve = mModel.layout().displayMode() == DisplaySplit
-                                 ? mModel.curves().at(height() - position.y())
-                                 : nullptr;
-    return curve != nullptr ? std::optional(mModel.curves().indexOf(*curve)) : std::nullopt;
 }
 
 void WidgetGraph::wheelEvent(QWheelEvent* event)

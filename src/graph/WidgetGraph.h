@@ -2,10 +2,9 @@
 
 #include "graph/GlCanvas.h"
 #include "graph/GraphGestures.h"
+#include "graph/GraphSpots.h"
 #include "graph/LegendGestures.h"
 #include "graph/LiveFeed.h"
-#include "graph/NotePlaces.h"
-#include "graph/TextLayout.h"
 #include "widgets/EmptyPlace.h"
 
 #include <QtCore/QElapsedTimer>
@@ -107,9 +106,6 @@ protected:
 private:
     void updateEmptyPlace();
     void updateMouse(QPointF position);
-    std::vector<TARN::GraphNote> notesAt(QPointF position) const;
-    std::optional<unsigned> curveAt(QPointF position);
-    QString toolTipAt(QPointF position) const;
 
     TARN::GraphModel mModel;
     TARN::GraphStyle mStyle;
@@ -119,6 +115,7 @@ private:
     QPointF mRightPressed;
     TARN::GlCanvas mCanvas;
     TARN::TextLayout mTexts;
+    TARN::GraphSpots mSpots;
     TARN::EmptyPlace* mEmpty;
     QString mEmptyText;
     QTimer mRepaintTimer;
