@@ -1,6 +1,7 @@
 #include "cli/CommandLine.h"
 
 #include "base/Revision.h"
+#include "cli/CompareCommand.h"
 #include "cli/DecodeCommand.h"
 #include "cli/EventsCommand.h"
 #include "cli/ExportCommands.h"
@@ -96,6 +97,25 @@ void addStats(CLI::App& app, StatsArguments& arguments, std::ostream& out)
     addRange(*command, arguments.range);
     addFiles(*command, arguments.files);
     command->final_callback([&] { runStats(arguments, out); });
+}
+
+void addCompare(CLI::App& app, CompareArguments& arguments, std::ostream& out)
+{
+    CLI::App* command = app.add_subcommand(
+        "compare", "Statistics of two flights and of their difference, as JSON lines");
+    addProfile(*command, arguments.profile);
+    addSelection(*command, arguments.selection);
+    addRange(*command, arguments.range);
+    const CLI::Validator isAlignment([](const std::string& text) { return alignmentFault(text); },
+                                     "start|T:T");
+    command
+        ->add_option("--align", arguments.align,
+                     "\"start\" lays the starts together, T1:T2 second T1 of the flight on second "
+                     "T2 of the reference; without it the clocks stay")
+        ->check(isAlignment);
+    addFiles(*command, arguments.files);
+    command->add_option("--with", arguments.with, "recordings of the reference flight")->required();
+    command->final_callback([&] { runCompare(arguments, out); });
 }
 
 void addGraph(CLI::App& app, GraphArguments& arguments)
@@ -225,6 +245,7 @@ struct Arguments
     DecodeArguments decode;
     EventsArguments events;
     StatsArguments stats;
+    CompareArguments compare;
     FaultsArguments faults;
     GraphArguments graph;
     ReportArguments report;
@@ -245,6 +266,7 @@ int runCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
     addDecode(app, arguments.decode, out);
     addEvents(app, arguments.events, out);
     addStats(app, arguments.stats, out);
+    addCompare(app, arguments.compare, out);
     addFaults(app, arguments.faults, out);
     addGraph(app, arguments.graph);
     addReport(app, arguments.report);

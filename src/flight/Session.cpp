@@ -4,7 +4,7 @@ namespace TARN {
 
 Session::Session(QObject* parent)
     : QObject(parent), mProfile(std::make_shared<Profile>()), mLooks(new Looks(this)),
-      mAllDigits(new Switch(this)), mLoading(new Switch(this))
+      mReference(new Reference(this)), mAllDigits(new Switch(this)), mLoading(new Switch(this))
 {}
 
 TimeRange rangeOf(const Session& session)
@@ -16,12 +16,14 @@ TimeRange rangeOf(const Session& session)
 }
 
 void Session::setProfile(std::shared_ptr<const Profile> profile, const Selection& ticks,
-                         std::shared_ptr<const Flight> flight)
+                         std::shared_ptr<const Flight> flight,
+                         std::shared_ptr<const Flight> reference)
 {
     mProfile = std::move(profile);
     mFlight = std::move(flight);
     mTicks = ticks;
     mSelection = ticks;
+    mReference->setFlight(std::move(reference));
     Q_EMIT profileChanged();
 }
 

@@ -2,6 +2,7 @@
 
 #include "flight/Flight.h"
 #include "flight/Looks.h"
+#include "flight/Reference.h"
 #include "flight/Switch.h"
 #include "profile/Selection.h"
 
@@ -32,6 +33,8 @@ public:
     const Selection& ticks() const { return mTicks; }
 
     Looks& looks() const { return *mLooks; }
+    /// The flight to compare with.
+    Reference& reference() const { return *mReference; }
 
     double offset() const { return mOffset; } ///< time offset, seconds
     double time() const { return mTime; }     ///< current time, seconds with the offset
@@ -39,10 +42,11 @@ public:
     const TimeRange& marks() const { return mMarks; }
 
     /// Another profile: with the ticks that hold in it, which are confirmed at once, and the
-    /// flight that is shown as this profile understands it, null when none is shown. Time, offset
-    /// and marks stay.
+    /// flight that is shown and the reference as this profile understands them, null when there is
+    /// none. Time, offset and marks stay.
     void setProfile(std::shared_ptr<const Profile> profile, const Selection& ticks,
-                    std::shared_ptr<const Flight> flight);
+                    std::shared_ptr<const Flight> flight,
+                    std::shared_ptr<const Flight> reference = nullptr);
 
     /// Another flight, understood by this profile: from its start, with the offset of its card,
     /// nothing marked. Null when nothing is to be shown.
@@ -81,6 +85,7 @@ private:
     double mTime = 0.0;
     TimeRange mMarks;
     Looks* mLooks;
+    Reference* mReference;
     Switch* mAllDigits;
     Switch* mLoading;
 };

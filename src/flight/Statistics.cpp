@@ -1,9 +1,12 @@
 #include "flight/Statistics.h"
 
+#include "flight/ValueReader.h"
+
 #include <algorithm>
 #include <atomic>
 #include <cmath>
 #include <future>
+#include <ranges>
 
 namespace TARN {
 
@@ -48,13 +51,13 @@ StatisticsIndex::StatisticsIndex(std::shared_ptr<const Flight> flight,
 bool StatisticsIndex::build(double offset, Progress& progress)
 {
     const std::size_t blocks = mSeries.size() / Block;
-    mLevels[0].resize(blocks);
+    mTree.resize(mSeries.size());
     mRule.gaps = QuickRhythm::rule();
     QuickRhythm rhythm;
     std::vector<std::size_t> left;
     Decoded samples;
     for (std::size_t block = 0; block <= blocks; ++block) {
-        if (block % FanOut == 0) {
+        if (block % SummaryTree::FanOut == 0) {
             progress.report(block, blocks + 1);
         }
         if (progress.stopRequested()) {
@@ -70,7 +73,7 @@ bool StatisticsIndex::build(double offset, Progress& progress)
         }
         auto plain = plainSummaryOf(samples.allTimes(), samples.allValues(), mRule);
         if (plain) {
-            mLevels[0][block] = std::move(*plain);
+            mTree.set(block, std::move(*plain));
         } else {
             left.push_back(block);
         }
@@ -79,12 +82,9 @@ bool StatisticsIndex::build(double offset, Progress& progress)
         mRule.gaps = mSeries.gapRule([&] { return mFlight->silences(offset); });
     }
     for (const std::size_t block : left) {
-        mLevels[0][block] = scan(block * Block, (block + 1) * Block);
+        mTree.set(block, scan(block * Block, (block + 1) * Block));
     }
-    mLevels[1].resize(blocks / FanOut);
-    for (std::size_t block = 0; block < blocks / FanOut * FanOut; ++block) {
-        mLevels[1][block / FanOut].append(mLevels[0][block], mRule);
-    }
+    mTree.finish(mRule);
     mSize = mSeries.size();
     return true;
 }
@@ -111,56 +111,44 @@ RangeSummary StatisticsIndex::scan(std::size_t begin, std::size_t end) const
     return summaryOf(samples.allTimes(), samples.allValues(), mRule);
 }
 
-RangeSummary StatisticsIndex::summary(std::size_t begin, std::size_t end) const
+Statistics StatisticsIndex::range(const TimeRange& range, double shift) const
 {
-    const std::size_t first = (begin + Block - 1) / Block;
-    const std::size_t last = std::min(end / Block, mLevels[0].size());
-    if (first >= last) {
-        return scan(begin, end);
+    const auto placeOf = [&](auto isBefore) {
+        const auto numbers = std::views::iota(std::size_t(0), mSize);
+        return static_cast<std::size_t>(std::ranges::partition_point(numbers, isBefore) -
+                                        numbers.begin());
+    };
+    const std::size_t begin =
+        placeOf([&](std::size_t k) { return mSeries.time(k) + shift < range.start; });
+    const std::size_t end = std::max(
+        begin, placeOf([&](std::size_t k) { return mSeries.time(k) + shift <= range.stop; }));
+    Statistics found = statistics(mTree.of(
+        begin, end, mRule, [this](std::size_t from, std::size_t to) { return scan(from, to); }));
+    for (auto* extreme : {&found.min, &found.max}) {
+        if (*extreme) {
+            (*extreme)->time += shift;
+        }
     }
-    RangeSummary all = scan(begin, first * Block);
-    for (std::size_t k = first; k < last;) {
-        const bool isWhole = k % FanOut == 0 && k + FanOut <= last;
-        all.append(isWhole ? mLevels[1][k / FanOut] : mLevels[0][k], mRule);
-        k += isWhole ? FanOut : 1;
-    }
-    all.append(scan(last * Block, end), mRule);
-    return all;
-}
-
-Statistics StatisticsIndex::range(const TimeRange& range) const
-{
-    const std::size_t begin = std::min(mSize, mSeries.firstNotBefore(range.start));
-    const std::size_t end = std::clamp(mSeries.firstAfter(range.stop), begin, mSize);
-    return statistics(summary(begin, end));
+    return found;
 }
 
 std::optional<double> StatisticsIndex::valueAt(double time) const
 {
-    const std::size_t k = mSeries.firstNotBefore(time);
-    if (k >= mSize || (k == 0 && mSeries.time(0) != time)) {
+    if (mSize == 0) {
         return std::nullopt;
     }
-    double value = mSeries.value(k);
-    if (mSeries.time(k) != time) {
-        const double before = mSeries.time(k - 1);
-        if (mRule.gaps.isGap(before, mSeries.time(k))) {
-            return std::nullopt;
-        }
-        const double share = (time - before) / (mSeries.time(k) - before);
-        value = mSeries.value(k - 1) + share * (value - mSeries.value(k - 1));
-    }
+    ValueReader<SeriesSamples> reader({mSeries, mRule.gaps}, Between::Line);
+    const double value = reader.at(time);
     return std::isnan(value) ? std::nullopt : std::optional(value);
 }
 
-Statistics StatisticsIndex::statistics(const RangeSummary& summary) const
+Statistics statisticsOf(const RangeSummary& summary)
 {
     Statistics result;
     result.samples = summary.samples;
     result.invalid = summary.invalid;
     result.gaps = summary.gaps;
     result.gapSeconds = summary.gapSeconds;
-    result.gapLimit = mRule.gaps.limit();
     result.integral = numberOf(summary.integral);
     if (summary.values() > 0) {
         result.first = summary.first;
@@ -174,6 +162,13 @@ Statistics StatisticsIndex::statistics(const RangeSummary& summary) const
     if (summary.held > 0.0) {
         result.timeMean = numberOf(summary.heldSum / summary.held);
     }
+    return result;
+}
+
+Statistics StatisticsIndex::statistics(const RangeSummary& summary) const
+{
+    Statistics result = statisticsOf(summary);
+    result.gapLimit = mRule.gaps.limit();
     for (std::size_t i = 0; i < mRule.thresholds.size(); ++i) {
         const ProfileThrValue& threshold = mThresholds->values[i];
         result.above.push_back({mRule.thresholds[i], threshold.color, threshold.state,

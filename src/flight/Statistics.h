@@ -1,7 +1,7 @@
 #pragma once
 
 #include "flight/Flight.h"
-#include "flight/RangeSummary.h"
+#include "flight/SummaryTree.h"
 
 #include <QtGui/QColor>
 
@@ -43,6 +43,9 @@ struct Statistics
     std::vector<Above> above;       ///< for each threshold value in document order
 };
 
+/// What a summary says of values, without gap limit and thresholds.
+Statistics statisticsOf(const RangeSummary& summary);
+
 /// Answers for the statistics of a parameter between any two times at once, however many samples
 /// lie between: sums and extremes of blocks are kept, and blocks of blocks. Never changes; any
 /// number of threads may ask it.
@@ -54,17 +57,19 @@ public:
                     double offset, Progress& progress);
 
     const ProfileParameter& parameter() const { return mSeries.parameter(); }
+    const Series& series() const { return mSeries; } ///< whose order of time is known
+    const GapRule& gaps() const { return mRule.gaps; }
 
-    /// Of the samples from start to stop, both included.
-    Statistics range(const TimeRange& range) const;
+    /// Of the samples from start to stop, both included. The range and the times told are on a
+    /// clock that is \p shift seconds ahead of the series's.
+    Statistics range(const TimeRange& range, double shift = 0.0) const;
 
     /// The value at a time: a sample's, the first of equal times, or interpolated between two.
     /// Nothing outside of them all, inside a gap, and where there is no number.
     std::optional<double> valueAt(double time) const;
 
 private:
-    static constexpr std::size_t Block = 256;
-    static constexpr std::size_t FanOut = 64;
+    static constexpr std::size_t Block = SummaryTree::Block;
 
     /// Samples decoded at once, fewer than make two blocks.
     struct Decoded
@@ -80,15 +85,14 @@ private:
     bool build(double offset, Progress& progress);
     void decode(std::size_t begin, std::size_t end, Decoded& samples) const;
     RangeSummary scan(std::size_t begin, std::size_t end) const;
-    RangeSummary summary(std::size_t begin, std::size_t end) const;
     Statistics statistics(const RangeSummary& summary) const;
 
     std::shared_ptr<const Flight> mFlight;
     Series mSeries;
     const ProfileThr* mThresholds; ///< null when there are none
     SummaryRule mRule;
-    std::size_t mSize = 0;                            ///< samples that are known
-    std::array<std::vector<RangeSummary>, 2> mLevels; ///< of blocks, and of FanOut blocks
+    std::size_t mSize = 0; ///< samples that are known
+    SummaryTree mTree;
 };
 
 using StatisticsIndexes = std::vector<std::shared_ptr<const StatisticsIndex>>;

@@ -1,0 +1,50 @@
+#include "flight/Alignment.h"
+
+#include <cmath>
+
+namespace TARN {
+
+std::optional<double> firstPassing(const FlightClock& clock, const ProfileParameter& parameter,
+                                   double value, Progress& progress)
+{
+    const Series series = clock.flight.series(parameter, clock.offset);
+    std::optional<bool> wasAbove;
+    for (std::size_t k = 0; k < series.size() && !progress.stopRequested(); ++k) {
+        const double now = series.value(k);
+        if (std::isnan(now)) {
+            continue;
+        }
+        const bool isAbove = now >= value;
+        if (wasAbove && isAbove != *wasAbove) {
+            return series.time(k);
+        }
+        wasAbove = isAbove;
+    }
+    return std::nullopt;
+}
+
+std::optional<double> shiftOf(const Alignment& alignment, const FlightClock& flight,
+                              const FlightClock& reference, Progress& progress)
+{
+    switch (alignment.by) {
+    case Alignment::Clock:
+        return 0.0;
+    case Alignment::Start:
+        return flight.flight.range(flight.offset).start -
+               reference.flight.range(reference.offset).start;
+    case Alignment::Passing: {
+        const auto parameters = flight.flight.profile()->parameters();
+        if (alignment.parameter >= parameters.size()) {
+            return std::nullopt;
+        }
+        const ProfileParameter& parameter = *parameters[alignment.parameter].parameter;
+        const auto own = firstPassing(flight, parameter, alignment.value, progress);
+        const auto other = firstPassing(reference, parameter, alignment.value, progress);
+        return own && other ? std::optional(*own - *other) : std::nullopt;
+    }
+    default:
+        return std::nullopt;
+    }
+}
+
+} // namespace TARN

@@ -1,0 +1,163 @@
+#pragma once
+
+#include "profile/Series.h"
+
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <vector>
+
+namespace TARN {
+
+/// How a value is found between two samples.
+enum class Between
+{
+    Line, ///< on the straight line from one to the other
+    Held  ///< the earlier one's: of bit fields and states
+};
+
+/// What \p series says between its samples.
+inline Between betweenOf(const Series& series)
+{
+    return series.decoder().isNumeric() ? Between::Line : Between::Held;
+}
+
+/// A series as samples to read: times carry \p shift, gaps are found without it.
+struct SeriesSamples
+{
+    const Series& series; // both live as long
+    const GapRule& gaps;
+    double shift = 0.0; ///< seconds
+
+    std::size_t size() const { return series.size(); }
+    double time(std::size_t k) const { return series.time(k) + shift; }
+    double value(std::size_t k) const { return series.value(k); }
+    bool isGapBefore(std::size_t k) const { return gaps.isGap(series.time(k - 1), series.time(k)); }
+};
+
+/// The values of samples at any time, fastest at times that ascend. Samples are in the order of
+/// time and offer size(), time(k), value(k) and isGapBefore(k). No value is NaN: outside of them
+/// all, inside a gap, and where a sample that it would be made of has none.
+template <typename Samples>
+class ValueReader
+{
+public:
+    ValueReader(Samples samples, Between between) : mSamples(std::move(samples)), mBetween(between)
+    {}
+
+    /// At a sample's time that sample's value, of equal times number \p which, the last one where
+    /// there are fewer.
+    double at(double time, std::size_t which = 0)
+    {
+        moveTo(time);
+        const std::size_t size = mSamples.size();
+        if (mNext < size && mSamples.time(mNext) == time) {
+            std::size_t k = mNext;
+            while (which > 0 && k + 1 < size && mSamples.time(k + 1) == time) {
+                ++k;
+                --which;
+            }
+            return mSamples.value(k);
+        }
+        if (mNext == 0 || mNext == size || mSamples.isGapBefore(mNext)) {
+            return std::numeric_limits<double>::quiet_NaN();
+        }
+        return between(time);
+    }
+
+    /// Whether there are times from one to another, which is not before it, at which nothing is
+    /// known.
+    bool isCutWithin(double from, double to)
+    {
+        moveTo(from);
+        const std::size_t size = mSamples.size();
+        if (size == 0 || mSamples.time(0) > from || mSamples.time(size - 1) < to) {
+            return true;
+        }
+        std::size_t k = mNext + (mNext < size && mSamples.time(mNext) == from ? 1 : 0);
+        for (; k < size && k > 0 && mSamples.time(k - 1) < to; ++k) {
+            if (mSamples.isGapBefore(k) && mSamples.time(k) > from) {
+                return true;
+            }
+        }
+        return false;
+    }
+
+private:
+    /// mNext becomes the first sample that is not before a time.
+    void moveTo(double time)
+    {
+        constexpr std::size_t Near = 8; // samples that are stepped over one by one
+        const std::size_t size = mSamples.size();
+        if (mNext > 0 && !(mSamples.time(mNext - 1) < time)) {
+            mNext = 0;
+        }
+        for (std::size_t step = 0; mNext < size && mSamples.time(mNext) < time; ++step) {
+            if (step == Near) {
+                search(time);
+                return;
+            }
+            ++mNext;
+        }
+    }
+
+    void search(double time)
+    {
+        std::size_t end = mSamples.size();
+        while (mNext < end) {
+            const std::size_t middle = mNext + (end - mNext) / 2;
+            if (mSamples.time(middle) < time) {
+                mNext = middle + 1;
+            } else {
+                end = middle;
+            }
+        }
+    }
+
+    double between(double time) const
+    {
+        const double before = mSamples.value(mNext - 1);
+        if (mBetween == Between::Held) {
+            return before;
+        }
+        const double from = mSamples.time(mNext - 1);
+        const double share = (time - from) / (mSamples.time(mNext) - from);
+        return before + share * (mSamples.value(mNext) - before);
+    }
+
+    Samples mSamples;
+    Between mBetween;
+    std::size_t mNext = 0;
+};
+
+/// Appends samples \p begin to before \p end of a flight minus what another one has at their
+/// times. A time at which one of the two has no value has NaN; where something is cut between a
+/// sample and the next one, which may be behind the end, NaN follows at once, so that the
+/// difference does not hold over it.
+template <typename Samples, typename Others>
+void readDifference(const Samples& samples, ValueReader<Others>& others, std::size_t begin,
+                    std::size_t end, std::vector<double>& times, std::vector<double>& values)
+{
+    std::size_t which = 0; // of equal times
+    for (std::size_t k = begin; k > 0 && k < samples.size(); --k, ++which) {
+        if (samples.time(k - 1) != samples.time(begin)) {
+            break;
+        }
+    }
+    for (std::size_t k = begin; k < end; ++k) {
+        const double time = samples.time(k);
+        times.push_back(time);
+        values.push_back(samples.value(k) - others.at(time, which));
+        if (k + 1 == samples.size()) {
+            break;
+        }
+        const double next = samples.time(k + 1);
+        which = next == time ? which + 1 : 0;
+        if (samples.isGapBefore(k + 1) || (next > time && others.isCutWithin(time, next))) {
+            times.push_back(time);
+            values.push_back(std::numeric_limits<double>::quiet_NaN());
+        }
+    }
+}
+
+} // namespace TARN
