@@ -25,6 +25,7 @@ public:
     CurveFacts(std::shared_ptr<const Flight> flight, Series series, GapRule gaps);
 
     const ProfileParameter& parameter() const { return mSeries.parameter(); }
+    const Series& series() const { return mSeries; }
 
     /// Whether its numbers are of single precision as they were sent.
     bool isSingle() const { return mSeries.decoder().isSingle(); }

@@ -66,8 +66,17 @@ void CurveSet::clear()
         curve.series = nullptr;
         curve.facts = nullptr;
         curve.frames.clear();
+        curve.reference.clear();
+        curve.difference.clear();
         curve.valueSet = false;
     }
+}
+
+bool CurveSet::hasDifferences() const
+{
+    return std::ranges::any_of(mCurves, [](const ParStruct& curve) {
+        return curve.isShown() && curve.difference.samples != nullptr;
+    });
 }
 
 void CurveSet::moveTo(unsigned curve, unsigned place)
@@ -97,7 +106,8 @@ ParStruct* CurveSet::at(double y)
     const std::vector<unsigned> all = shown();
     const auto found = std::ranges::find_if(all, [&](unsigned k) {
         const GraphStrip& strip = mCurves[k].strip;
-        return y >= strip.y0 && y < strip.y0 + strip.height;
+        const double below = mCurves[k].differenceStrip.height;
+        return y >= strip.y0 - below && y < strip.y0 + strip.height;
     });
     return all.empty() ? nullptr : &mCurves[found != all.end() ? *found : all.front()];
 }

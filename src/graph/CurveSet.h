@@ -13,6 +13,16 @@
 
 namespace TARN {
 
+/// Samples that are drawn with a curve.
+struct Companion
+{
+    std::shared_ptr<const CurveSamples> samples; ///< null: it has none
+    std::shared_ptr<const CurveFacts> facts;     ///< may be null
+    CurveFrames frames;                          ///< of the visible time
+
+    void clear() { *this = {}; }
+};
+
 /// One plotted curve: its samples, and how and where it is drawn.
 struct ParStruct
 {
@@ -33,6 +43,9 @@ struct ParStruct
     bool hidden = false;                     ///< active, but not drawn
     std::optional<ValueRange> ownRange;      ///< Y range of its strip, instead of what is in sight
     std::optional<ValueRange> zoomed;        ///< for as long as the user looks at it so
+    Companion reference;                     ///< of the other flight, on its own clock
+    Companion difference;                    ///< flight minus reference
+    GraphStrip differenceStrip; ///< where that is drawn, without height where it is not
 
     bool isShown() const { return active && !hidden; }
     const CurveSamples& samples() const { return series != nullptr ? *series : live; }
@@ -74,6 +87,9 @@ public:
 
     /// Shows other samples, of a whole recording.
     void setSeries(unsigned i, std::shared_ptr<const CurveSamples> samples);
+
+    /// Whether a curve that is shown has a difference.
+    bool hasDifferences() const;
 
     /// Takes the samples away; the ranges of all values ever put stay.
     void clear();

@@ -4,6 +4,7 @@
 #include "graph/GraphActions.h"
 #include "graph/GraphButtons.h"
 #include "graph/GraphPanes.h"
+#include "graph/ReferenceGraph.h"
 #include "graph/SessionGraph.h"
 #include "graph/WidgetGraph.h"
 
@@ -92,6 +93,9 @@ void DialogDataGraph::createGraph()
         mNote->setText(note);
         mNote->setVisible(!note.isEmpty());
     });
+    mReference = new ReferenceGraph(mSession, *mGraph, this);
+    connect(mReference, &ReferenceGraph::failed, mNote, &QLabel::setText);
+    connect(mReference, &ReferenceGraph::failed, mNote, &QLabel::show);
     slotModeChanged();
 }
 
@@ -283,6 +287,9 @@ void DialogDataGraph::openMenu(QPoint global)
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     mMenu->addTo(*menu);
+    menu->addSeparator();
+    menu->addAction(mReference->showing());
+    menu->addAction(mReference->showingDifference());
     menu->addSeparator();
     menu->addAction(tr("&Save Picture..."), this, &DialogDataGraph::saveSnapshot);
     menu->addAction(tr("Co&py Picture"), this, [this] { mSnapshot->copy(); });

@@ -19,6 +19,7 @@ class DialogGraphSetup;
 class EpisodeWatch;
 class GraphButtons;
 class GraphPanes;
+class ReferenceGraph;
 
 /// The "Graph" tab: the selected parameters as curves, and the buttons beside them. Where no
 /// OpenGL is to be had a message stands in the graph's place and every operation does nothing.
@@ -75,6 +76,7 @@ private:
     GraphPanes* mPanes = nullptr;
     std::optional<Snapshot> mSnapshot; ///< where there is a graph
     std::optional<CurveMenu> mMenu;
+    ReferenceGraph* mReference = nullptr;
     QLabel* mNote; ///< of what is left out
 };
 

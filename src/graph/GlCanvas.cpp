@@ -74,6 +74,15 @@ void GlCanvas::strip(const float* points, int count, const GraphColor& color)
     draw(GL_LINE_STRIP, points, count, color);
 }
 
+void GlCanvas::dashed(const float* points, int count, const GraphColor& color)
+{
+    constexpr GLushort Dashes = 0x0F0F;
+    glEnable(GL_LINE_STIPPLE);
+    glLineStipple(static_cast<GLint>(std::lround(mRatio)), Dashes);
+    draw(GL_LINE_STRIP, points, count, color);
+    glDisable(GL_LINE_STIPPLE);
+}
+
 void GlCanvas::lines(const std::vector<float>& points, const GraphColor& color)
 {
     draw(GL_LINES, points.data(), static_cast<int>(points.size() / 2), color);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace TARN {
 
@@ -29,7 +30,7 @@ GraphDrawing::GraphDrawing(const GraphModel& model, const GraphStyle& style,
                            const KeyCursor& keyCursor, GraphCanvas& canvas, TextLayout& texts)
     : mModel(model), mStyle(style), mKeyCursor(keyCursor), mSize(model.layout().size()),
       mCanvas(canvas), mTexts(texts), mView(model.layout().view()),
-      mNotes(model, style, canvas, texts)
+      mNotes(model, style, canvas, texts), mCompanions(model, style, canvas, texts)
 {}
 
 void GraphDrawing::draw()
@@ -37,7 +38,7 @@ void GraphDrawing::draw()
     const bool split = mModel.layout().displayMode() == DisplaySplit;
     drawBackground();
     if (!split) {
-        drawTicksY(nullptr);
+        drawAxis(nullptr);
     }
     drawTicksX();
     if (const auto pointed = mModel.hints().pointed; !split && pointed) {
@@ -46,16 +47,8 @@ void GraphDrawing::draw()
             mNotes.drawThresholds(*curve);
         }
     }
-    const std::vector<unsigned> shown = mModel.curves().shown();
-    for (const unsigned k : shown) {
-        const ParStruct& curve = *mModel.curves().curve(k);
-        if (split) {
-            drawTicksY(&curve);
-            mNotes.drawThresholds(curve);
-        }
-        drawParameter(curve);
-        mNotes.drawEpisodes(curve);
-    }
+    drawCurves();
+    drawDifferences();
     drawMarker();
     // Texts are painted on top of it all; the cursor's keep clear of the legend.
     if (mStyle.legendOn) {
@@ -63,7 +56,7 @@ void GraphDrawing::draw()
     }
     mNotes.drawLanes();
     mNotes.drawEvents();
-    for (const unsigned k : shown) {
+    for (const unsigned k : mModel.curves().shown()) {
         mNotes.drawWords(*mModel.curves().curve(k));
     }
     drawMarkerEnds();
@@ -71,6 +64,47 @@ void GraphDrawing::draw()
         drawCursor();
     }
     drawOutline();
+}
+
+/// What belongs to the reference lies behind all curves of the same place.
+void GraphDrawing::drawCurves()
+{
+    const bool split = mModel.layout().displayMode() == DisplaySplit;
+    const std::vector<unsigned> shown = mModel.curves().shown();
+    for (const unsigned k : split ? std::vector<unsigned>() : shown) {
+        mCompanions.drawReference(*mModel.curves().curve(k), inkOf(*mModel.curves().curve(k)));
+    }
+    for (const unsigned k : shown) {
+        const ParStruct& curve = *mModel.curves().curve(k);
+        if (split) {
+            drawAxis(&curve);
+            mNotes.drawThresholds(curve);
+            mCompanions.drawReference(curve, inkOf(curve));
+        }
+        drawParameter(curve);
+        mNotes.drawEpisodes(curve);
+    }
+}
+
+void GraphDrawing::drawDifferences()
+{
+    bool isFirst = true;
+    for (const unsigned k : mModel.curves().shown()) {
+        const ParStruct& curve = *mModel.curves().curve(k);
+        if (curve.differenceStrip.height <= 0.0) {
+            continue;
+        }
+        const bool split = mModel.layout().displayMode() == DisplaySplit;
+        if (!split && isFirst) {
+            mCanvas.fill(mView.x0, mView.base, mView.x0 + mView.width,
+                         mView.base + curve.differenceStrip.height, mStyle.back);
+        }
+        if (std::exchange(isFirst, false) || split) { // in single mode they share the axis
+            drawTicksY(mModel.layout().differenceAxis(k), curve.differenceStrip,
+                       split ? curve.color : mStyle.label);
+        }
+        mCompanions.drawDifference(curve, inkOf(curve));
+    }
 }
 
 void GraphDrawing::drawBackground()
@@ -106,14 +140,18 @@ void GraphDrawing::drawTicksX()
     }
 }
 
-void GraphDrawing::drawTicksY(const ParStruct* curve)
+/// Of a curve's strip, or of the plot that all curves share.
+void GraphDrawing::drawAxis(const ParStruct* curve)
+{
+    const unsigned i = curve != nullptr ? mModel.curves().indexOf(*curve) : 0;
+    drawTicksY(mModel.layout().axis(i), curve != nullptr ? curve->strip : mView.whole(),
+               curve != nullptr ? curve->color : mStyle.label);
+}
+
+void GraphDrawing::drawTicksY(const ValueAxis& axis, const GraphStrip& strip, const GraphColor& ink)
 {
     constexpr double LabelToTick = 3.0;
-    const GraphStrip strip = curve != nullptr ? curve->strip : mView.whole();
-    const unsigned i = curve != nullptr ? mModel.curves().indexOf(*curve) : 0;
-    const GraphColor color =
-        legibleOn(mStyle.labelBack, curve != nullptr ? curve->color : mStyle.label);
-    const ValueAxis& axis = mModel.layout().axis(i);
+    const GraphColor color = legibleOn(mStyle.labelBack, ink);
     std::vector<float> marks;
     std::vector<float> grid;
     for (const GraphTick& tick : axis.ticks.ticks) {
@@ -303,7 +341,8 @@ QString GraphDrawing::legendOf(const ParStruct& curve, double room) const
     } else if (!curve.unit.isEmpty()) {
         value += " " + curve.unit;
     }
-    return name + "   " + value;
+    const QString other = mCompanions.referenceText(curve);
+    return name + "   " + value + (other.isEmpty() ? QString() : "   " + other);
 }
 
 void GraphDrawing::addLegend(unsigned k, QPointF place, const QRectF& plot)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graph/CompanionDrawing.h"
 #include "graph/GraphCanvas.h"
 #include "graph/GraphLine.h"
 #include "graph/GraphModel.h"
@@ -25,7 +26,10 @@ public:
 private:
     void drawBackground();
     void drawTicksX();
-    void drawTicksY(const ParStruct* curve);
+    void drawCurves();
+    void drawDifferences();
+    void drawAxis(const ParStruct* curve);
+    void drawTicksY(const ValueAxis& axis, const GraphStrip& strip, const GraphColor& color);
     void drawParameter(const ParStruct& curve);
     void drawSamples(const ParStruct& curve);
     void drawMarker();
@@ -49,6 +53,7 @@ private:
     TextLayout& mTexts;
     const GraphView& mView;
     NoteDrawing mNotes;
+    CompanionDrawing mCompanions;
     GraphLine mLine;
 };
 

@@ -170,6 +170,11 @@ void GraphGestures::reportCursor()
 
 void GraphGestures::press(const QMouseEvent& event)
 {
+    if (event.button() == Qt::LeftButton && event.modifiers() == Qt::AltModifier &&
+        mModel.hints().hasReference) {
+        mNudgeX = event.position().x();
+        return;
+    }
     const double time = timeAt(event.position(), mModel);
     switch (event.button()) {
     case Qt::LeftButton:
@@ -212,8 +217,18 @@ std::optional<MarkerEnd> GraphGestures::endAt(QPointF position) const
                    Reach * mModel.layout().view().pixelTime());
 }
 
+void GraphGestures::nudge(double x)
+{
+    const double before = std::exchange(mNudgeX, x).value_or(x);
+    Q_EMIT nudged((x - before) * mModel.layout().view().pixelTime());
+}
+
 void GraphGestures::move(const QMouseEvent& event)
 {
+    if (mNudgeX && event.buttons().testFlag(Qt::LeftButton)) {
+        nudge(event.position().x());
+        return;
+    }
     constexpr double Still = 3.0; // pixels that no hand keeps from moving
     if (mPressed && (event.position() - *mPressed).manhattanLength() > Still) {
         mPressed.reset();
@@ -240,6 +255,9 @@ void GraphGestures::move(const QMouseEvent& event)
 
 void GraphGestures::release(const QMouseEvent& event)
 {
+    if (event.button() == Qt::LeftButton && std::exchange(mNudgeX, std::nullopt)) {
+        return;
+    }
     const TimeRange marks = mModel.markers();
     mIsMarking = mIsMarking && event.button() != Qt::LeftButton;
     if (event.button() == Qt::LeftButton && std::exchange(mPressed, std::nullopt)) {

@@ -48,6 +48,8 @@ Q_SIGNALS:
     void cursorMoved(float time, double value);
     void markersMoved(float start, float stop);
     void panned();
+    /// The reference flight was dragged by so many seconds.
+    void nudged(double seconds);
     /// The key cursor came, moved or went.
     void keyCursorChanged();
 
@@ -61,6 +63,7 @@ private:
     void setCursorFrom(QPointF position);
     void reportMarkers();
     void pan(double x);
+    void nudge(double x);
 
     GraphModel& mModel;
     KeyCursor mKeyCursor;
@@ -68,6 +71,7 @@ private:
     std::optional<MarkerEnd> mHeld;  ///< by the left button
     std::optional<QPointF> mPressed; ///< of the left button, while it has not moved
     bool mIsMarking = false;         ///< the left button was pressed here, not on something else
+    std::optional<double> mNudgeX;   ///< where the mouse was that drags the reference
     bool mIsPanning = false;
     double mPanX = 0.0;   ///< where a pan began
     double mPanMin = 0.0; ///< the window then

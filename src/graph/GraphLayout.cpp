@@ -10,7 +10,8 @@ namespace {
 constexpr double Bottom = 40.0; ///< pixels below the plot
 constexpr double Top = 10.0;
 constexpr double Right = 10.0;
-constexpr double LabelGap = 20.0; ///< pixels that stand free left of the widest value label
+constexpr double DifferencePart = 0.35; ///< of a strip's height
+constexpr double LabelGap = 20.0;       ///< pixels that stand free left of the widest value label
 
 /// A tenth more on each side; something where there is no extent.
 ValueRange widened(const ValueRange& range)
@@ -31,6 +32,22 @@ ValueRange visibleRange(std::span<const FrameType> frames)
             range.widen(part.high);
         }
     }
+    return range;
+}
+
+/// What a curve shows in its strip, its reference included.
+ValueRange visibleRange(const ParStruct& curve)
+{
+    ValueRange range = curve.visible;
+    range.widen(visibleRange(curve.reference.frames.frames()));
+    return range;
+}
+
+/// Zero is always in sight.
+ValueRange differenceRange(const ParStruct& curve)
+{
+    ValueRange range = visibleRange(curve.difference.frames.frames());
+    range.widen(0.0);
     return range;
 }
 
@@ -59,6 +76,21 @@ void GraphLayout::setTimes(double min, double max)
 {
     mView.xmin = min;
     mView.xmax = max;
+}
+
+void GraphLayout::setReference(double shift, bool isShown)
+{
+    mReferenceShift = shift;
+    mIsReferenceShown = isShown;
+    mStale = true;
+}
+
+GraphView GraphLayout::referenceView() const
+{
+    GraphView view = mView;
+    view.xmin -= mReferenceShift;
+    view.xmax -= mReferenceShift;
+    return view;
 }
 
 void GraphLayout::setValues(double min, double max)
@@ -123,8 +155,11 @@ void GraphLayout::placeLanes(double lineHeight)
     while (mLanes.count > 0 && mLanes.count * lineHeight + std::max(strips, LeastPlot) > room) {
         --mLanes.count;
     }
+    // One strip of all differences below it all where the curves share one, too.
+    const bool isBelow = mDisplayMode == DisplaySingle && mCurves.hasDifferences();
+    const double below = isBelow ? DifferencePart * (room - mLanes.count * lineHeight) : 0.0;
     mView.base = Bottom;
-    mView.y0 = Bottom + mLanes.count * lineHeight;
+    mView.y0 = Bottom + below + mLanes.count * lineHeight;
     mView.height = std::max(mHeight - mView.y0 - Top, 1.0);
 }
 
@@ -136,7 +171,8 @@ void GraphLayout::prepare(const Measure& measure, double lineHeight, double leas
         updateFrames();
         updateScales();
         updateAxes(lineHeight);
-        const double widest = widestLabel(mAxes, measure);
+        const double widest =
+            std::max(widestLabel(mAxes, measure), widestLabel(mDifferenceAxes, measure));
         const double before = mView.x0;
         placePlot(std::max(widest + LabelGap, leastMargin));
         if (mView.x0 == before) {
@@ -158,6 +194,22 @@ void GraphLayout::updateFrames()
             curve.frames.rebuild(curve.samples(), frameWindow());
         }
         curve.frames.trim(mView.xmin);
+        updateCompanions(curve, isStale);
+    }
+}
+
+void GraphLayout::updateCompanions(ParStruct& curve, bool isStale) const
+{
+    const std::pair<Companion*, double> all[] = {{&curve.reference, mReferenceShift},
+                                                 {&curve.difference, 0.0}};
+    for (const auto& [companion, shift] : all) {
+        const bool isHidden = companion == &curve.reference && !mIsReferenceShown;
+        if (!curve.isShown() || isHidden || companion->samples == nullptr) {
+            companion->frames.clear();
+        } else if (isStale) {
+            companion->frames.rebuild(*companion->samples,
+                                      {mView.xmin - shift, mView.xmax - shift, mView.pixelTime()});
+        }
     }
 }
 
@@ -177,6 +229,7 @@ void GraphLayout::updateScales()
         curve.visible = range.empty() ? curve.visible : range;
         if (curve.isShown()) {
             all.widen(range);
+            all.widen(visibleRange(curve.reference.frames.frames()));
         }
     }
     const ValueRange common = mZoomed       ? *mZoomed
@@ -186,10 +239,32 @@ void GraphLayout::updateScales()
     mView.ymax = common.high;
     for (ParStruct& curve : mCurves.all()) {
         curve.strip = mView.whole();
+        curve.differenceStrip = {};
+        curve.differenceStrip.height = 0.0;
     }
-    if (mDisplayMode == DisplaySingle) {
-        return;
+    if (mDisplayMode == DisplaySplit) {
+        placeStrips();
+    } else if (mCurves.hasDifferences()) {
+        placeDifferences();
     }
+}
+
+/// The strip of all differences, below the lanes.
+void GraphLayout::placeDifferences()
+{
+    ValueRange all;
+    for (const unsigned i : mCurves.shown()) {
+        all.widen(differenceRange(*mCurves.curve(i)));
+    }
+    const ValueRange range = widened(all);
+    const double height = mView.y0 - mLanes.count * mLanes.height - mView.base;
+    for (const unsigned i : mCurves.shown()) {
+        mCurves.curve(i)->differenceStrip = {mView.base, height, range.low, range.high};
+    }
+}
+
+void GraphLayout::placeStrips()
+{
     const std::vector<unsigned> shown = mCurves.shown();
     const double height =
         mView.height / static_cast<double>(std::max<std::size_t>(shown.size(), 1));
@@ -198,15 +273,28 @@ void GraphLayout::updateScales()
         ParStruct& curve = *mCurves.curve(i);
         const ValueRange range = curve.zoomed     ? *curve.zoomed
                                  : curve.ownRange ? *curve.ownRange
-                                 : mAutoScaleY    ? widened(curve.visible)
+                                 : mAutoScaleY    ? widened(visibleRange(curve))
                                                   : mFixed;
         curve.strip = {mView.y0 + mView.height - ++k * height, height, range.low, range.high};
+        if (curve.difference.samples != nullptr) {
+            const double below = DifferencePart * height;
+            const ValueRange differences = widened(differenceRange(curve));
+            curve.differenceStrip = {curve.strip.y0, below, differences.low, differences.high};
+            curve.strip.y0 += below;
+            curve.strip.height -= below;
+        }
     }
 }
 
 void GraphLayout::updateAxes(double lineHeight)
 {
     mAxes.clear();
+    mDifferenceAxes.clear();
+    for (const ParStruct& curve : mCurves.all()) {
+        mDifferenceAxes.push_back(curve.differenceStrip.height > 0.0
+                                      ? ValueAxis::ofStrip(curve.differenceStrip, lineHeight)
+                                      : ValueAxis());
+    }
     if (mDisplayMode == DisplaySingle) {
         mAxes.push_back(ValueAxis::ofPlot(mView.whole()));
         return;
@@ -222,6 +310,12 @@ const ValueAxis& GraphLayout::axis(unsigned i) const
     static const ValueAxis None;
     const std::size_t place = mDisplayMode == DisplaySingle ? 0 : i;
     return place < mAxes.size() ? mAxes[place] : None;
+}
+
+const ValueAxis& GraphLayout::differenceAxis(unsigned i) const
+{
+    static const ValueAxis None;
+    return i < mDifferenceAxes.size() ? mDifferenceAxes[i] : None;
 }
 
 } // namespace TARN

@@ -37,6 +37,12 @@ public:
     const GraphLanes& lanes() const { return mLanes; }
     /// The visible time, seconds. Frames that hold what is in sight already stay.
     void setTimes(double min, double max);
+    /// Seconds that bring reference curves to the clock of the others, and whether they are seen.
+    void setReference(double shift, bool isShown);
+    double referenceShift() const { return mReferenceShift; }
+    bool isReferenceShown() const { return mIsReferenceShown; }
+    /// What the view is to reference curves: on their own clock.
+    GraphView referenceView() const;
     /// The Y range, for as long as it is not taken from the curves; what is no number is ignored.
     void setValues(double min, double max);
     /// Takes the Y range, and in split mode that of each curve, from what is in sight.
@@ -63,12 +69,17 @@ public:
     const GraphView& view() const { return mView; }
     /// Axis of a curve's strip in split mode, by index; the common axis in single mode.
     const ValueAxis& axis(unsigned i) const;
+    /// Axis of a curve's difference, by index; in single mode of all differences.
+    const ValueAxis& differenceAxis(unsigned i) const;
     /// The frames of a curve, up to date.
     std::span<const FrameType> frames(unsigned i);
 
 private:
     void updateFrames();
+    void updateCompanions(ParStruct& curve, bool isStale) const;
     void updateScales();
+    void placeStrips();
+    void placeDifferences();
     void updateAxes(double lineHeight);
     void placePlot(double left);
     void placeLanes(double lineHeight);
@@ -76,6 +87,8 @@ private:
 
     CurveSet& mCurves;
     GraphView mView;
+    double mReferenceShift = 0.0;
+    bool mIsReferenceShown = true;
     double mWidth = 0.0; ///< of the widget, pixels
     double mHeight = 0.0;
     unsigned mWantedLanes = 0;
@@ -87,6 +100,7 @@ private:
     bool mStale = true;                ///< frames are rebuilt when they are next needed
     double mFrameWidth = 0.0;          ///< plot width that the frames were built for
     std::vector<ValueAxis> mAxes;
+    std::vector<ValueAxis> mDifferenceAxes;
 };
 
 } // namespace TARN

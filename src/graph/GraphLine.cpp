@@ -27,10 +27,9 @@ struct Values
 class GraphLine::Scale
 {
 public:
-    Scale(const ParStruct& curve, const GraphView& view)
+    Scale(const GraphStrip& strip, const GraphView& view)
         : mLeft(view.x0), mOrigin(view.xmin), mPerSecond(ratio(view.width, view.xmax - view.xmin)),
-          mBottom(curve.strip.y0), mBase(curve.strip.min),
-          mPerUnit(ratio(curve.strip.height, curve.strip.max - curve.strip.min))
+          mBottom(strip.y0), mBase(strip.min), mPerUnit(ratio(strip.height, strip.max - strip.min))
     {}
 
     float x(const FrameType& frame) const
@@ -65,14 +64,14 @@ private:
     double mPerUnit;
 };
 
-void GraphLine::buildLine(const ParStruct& curve, const GraphView& view)
+void GraphLine::buildLine(std::span<const FrameType> frames, const GraphStrip& strip,
+                          const GraphView& view)
 {
     mPoints.clear();
     mStrips.clear();
     mFillings.clear();
     mStripBegin = 0;
-    const Scale scale(curve, view);
-    const auto frames = curve.frames.frames();
+    const Scale scale(strip, view);
     mPoints.reserve(frames.size() * 8);
     for (std::size_t k = 0; k < frames.size(); ++k) {
         if (frames[k].afterGap) {
@@ -139,7 +138,7 @@ void GraphLine::buildSamples(const ParStruct& curve, const GraphView& view)
     mPoints.clear();
     mStrips.clear();
     mFillings.clear();
-    const Scale scale(curve, view);
+    const Scale scale(curve.strip, view);
     for (const FrameType& frame : curve.frames.frames()) {
         for (const double value : Values(frame)) {
             if (!std::isnan(value)) {

@@ -22,7 +22,12 @@ public:
     /// The line through a curve's frames: in each column upright through first, low, high and
     /// last value, so that a peak is as wide as its column and the line to the next column starts
     /// where this one ended.
-    void buildLine(const ParStruct& curve, const GraphView& view);
+    void buildLine(const ParStruct& curve, const GraphView& view)
+    {
+        buildLine(curve.frames.frames(), curve.strip, view);
+    }
+    void buildLine(std::span<const FrameType> frames, const GraphStrip& strip,
+                   const GraphView& view);
 
     /// A point for each value that the frames hold.
     void buildSamples(const ParStruct& curve, const GraphView& view);

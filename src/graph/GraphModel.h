@@ -14,6 +14,7 @@ struct GraphHints
 {
     GraphNotes notes;                ///< what went wrong meanwhile
     std::optional<unsigned> pointed; ///< the curve that the user pointed at last, by index
+    bool hasReference = false;       ///< another flight lies beside the curves
 };
 
 /// What a graph shows, without the drawing: its curves, the visible time, modes, cursor and

@@ -31,12 +31,25 @@ void PainterCanvas::fill(double left, double bottom, double right, double top,
 
 void PainterCanvas::strip(const float* points, int count, const GraphColor& color)
 {
+    mPainter.setPen(QPen(color.toColor(), 1.0));
+    polyline(points, count);
+}
+
+void PainterCanvas::dashed(const float* points, int count, const GraphColor& color)
+{
+    QPen pen(color.toColor(), 1.0);
+    pen.setDashPattern({4.0, 4.0});
+    mPainter.setPen(pen);
+    polyline(points, count);
+}
+
+void PainterCanvas::polyline(const float* points, int count)
+{
     QPolygonF polygon;
     polygon.reserve(count);
     for (int i = 0; i < count; ++i) {
         polygon.append({points[2 * i], mHeight - points[2 * i + 1]});
     }
-    mPainter.setPen(QPen(color.toColor(), 1.0));
     mPainter.drawPolyline(polygon);
 }
 

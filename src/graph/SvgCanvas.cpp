@@ -112,7 +112,17 @@ void SvgCanvas::fill(double left, double bottom, double right, double top, const
 
 void SvgCanvas::strip(const float* points, int count, const GraphColor& color)
 {
-    mOut += "<polyline fill=\"none\" stroke=\"" + nameOf(color) + "\" points=\"";
+    polyline(points, count, color, "");
+}
+
+void SvgCanvas::dashed(const float* points, int count, const GraphColor& color)
+{
+    polyline(points, count, color, " stroke-dasharray=\"4\"");
+}
+
+void SvgCanvas::polyline(const float* points, int count, const GraphColor& color, const char* more)
+{
+    mOut += "<polyline fill=\"none\" stroke=\"" + nameOf(color) + "\"" + more + " points=\"";
     std::string last;
     for (int i = 0; i < count; ++i) {
         const std::size_t before = mOut.size();

@@ -27,6 +27,7 @@ public:
     void fill(double left, double bottom, double right, double top, const GraphColor& color,
               float alpha = 1.0F) override;
     void strip(const float* points, int count, const GraphColor& color) override;
+    void dashed(const float* points, int count, const GraphColor& color) override;
     void lines(const std::vector<float>& points, const GraphColor& color) override;
     void dotted(const std::vector<float>& points, const GraphColor& color) override;
     void dots(const float* points, int count, const GraphColor& color, float size) override;
@@ -42,6 +43,7 @@ private:
     void number(double value);
     void point(double x, double y);
     void rectangle(const QRectF& box, const GraphColor& color, float alpha);
+    void polyline(const float* points, int count, const GraphColor& color, const char* more);
     void segments(const std::vector<float>& points, const GraphColor& color, const char* more);
 
     double mHeight;

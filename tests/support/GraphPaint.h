@@ -15,7 +15,8 @@ public:
         Strip,
         Lines,
         Dots,
-        Dotted
+        Dotted,
+        Dashed
     };
     struct Shape
     {
@@ -55,6 +56,10 @@ private:
     void strip(const float* points, int count, const TARN::GraphColor& color) override
     {
         add(Strip, {points, points + 2 * count}, color);
+    }
+    void dashed(const float* points, int count, const TARN::GraphColor& color) override
+    {
+        add(Dashed, {points, points + 2 * count}, color);
     }
     void lines(const std::vector<float>& points, const TARN::GraphColor& color) override
     {

@@ -1,0 +1,133 @@
+#include "graph/CompanionDrawing.h"
+
+#include "graph/CurveText.h"
+#include "graph/GraphPalette.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <cmath>
+
+namespace TARN {
+
+namespace {
+
+struct CompanionTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(CompanionDrawing)
+};
+
+GraphColor mixed(const GraphColor& color, const GraphColor& back)
+{
+    constexpr float Part = 0.45F;
+    const auto mix = [](float a, float b) { return a * Part + b * (1.0F - Part); };
+    return {mix(color.red, back.red), mix(color.green, back.green), mix(color.blue, back.blue)};
+}
+
+} // namespace
+
+CompanionDrawing::CompanionDrawing(const GraphModel& model, const GraphStyle& style,
+                                   GraphCanvas& canvas, TextLayout& texts)
+    : mModel(model), mStyle(style), mCanvas(canvas), mTexts(texts), mView(model.layout().view())
+{}
+
+/// A faint line below the dashes: no spike falls between two of them.
+void CompanionDrawing::drawReference(const ParStruct& curve, const GraphColor& color)
+{
+    constexpr float DotSize = 2.0F;
+    if (curve.reference.samples == nullptr) {
+        return;
+    }
+    const GraphColor faint = mixed(color, mStyle.back);
+    mCanvas.clip(mView.x0, curve.strip.y0, mView.width, curve.strip.height);
+    mLine.buildLine(curve.reference.frames.frames(), curve.strip, mModel.layout().referenceView());
+    for (const GraphLine::Strip& strip : mLine.strips()) {
+        const float* points = mLine.points().data() + std::ptrdiff_t(strip.first) * 2;
+        if (strip.count > 1) {
+            mCanvas.strip(points, strip.count, faint);
+            mCanvas.dashed(points, strip.count, color);
+        } else {
+            mCanvas.dots(points, 1, color, DotSize); // a line needs two
+        }
+    }
+    mCanvas.clipNone();
+}
+
+void CompanionDrawing::drawDifference(const ParStruct& curve, const GraphColor& color)
+{
+    constexpr float Tint = 0.08F;
+    constexpr float DotSize = 3.0F;
+    const GraphStrip& place = curve.differenceStrip;
+    if (curve.difference.samples == nullptr || place.height <= 0.0) {
+        return;
+    }
+    const double right = mView.x0 + mView.width;
+    const bool isOfAll = mModel.layout().displayMode() == DisplaySingle;
+    if (!isOfAll) {
+        mCanvas.fill(mView.x0, place.y0, right, place.y0 + place.height, mStyle.fore, Tint);
+    }
+    mCanvas.clip(mView.x0, place.y0, mView.width, place.height);
+    const auto zero = static_cast<float>(mCanvas.sharp(place.toPixel(0.0)));
+    mCanvas.dotted({static_cast<float>(mView.x0), zero, static_cast<float>(right), zero},
+                   mStyle.fore);
+    mLine.buildLine(curve.difference.frames.frames(), place, mView);
+    for (const GraphLine::Strip& strip : mLine.strips()) {
+        const float* points = mLine.points().data() + std::ptrdiff_t(strip.first) * 2;
+        if (strip.count > 1) {
+            mCanvas.strip(points, strip.count, color);
+        } else {
+            mCanvas.dots(points, 1, color, DotSize);
+        }
+    }
+    mCanvas.lines(mLine.fillings(), color);
+    mCanvas.clipNone();
+    if (!isOfAll) {
+        addDifferenceLegend(curve, color);
+    }
+}
+
+void CompanionDrawing::addDifferenceLegend(const ParStruct& curve, const GraphColor& color)
+{
+    constexpr double Gap = 5.0;
+    const GraphStrip& place = curve.differenceStrip;
+    const double line = mTexts.sizeOf("0").height();
+    const double top = mModel.layout().size().height() - place.y0 - place.height +
+                       std::max(0.0, std::min(Gap, (place.height - line) / 2.0));
+    const QRectF plot(mView.x0, mModel.layout().size().height() - mView.y0 - mView.height,
+                      mView.width, mView.height);
+    mTexts.addNear(differenceText(curve), {mView.x0 + Gap, top}, legibleOn(mStyle.back, color),
+                   plot);
+}
+
+QString CompanionDrawing::differenceText(const ParStruct& curve) const
+{
+    constexpr int Digits = 4;
+    double value = 0.0;
+    const bool isKnown = mStyle.valuesOn && !curve.difference.samples->empty() &&
+                         curve.difference.samples->valueAt(mModel.cursor(), value) &&
+                         !std::isnan(value);
+    const QString text = "\u0394 " + mTexts.elided(curve.name, mView.width / 2.0);
+    if (!mStyle.valuesOn) {
+        return text;
+    }
+    return text + "   " +
+           (isKnown ? ((value > 0.0 ? "+" : "") + QString::number(value, 'g', Digits) + " " +
+                       curve.unit)
+                          .trimmed()
+                    : QString("---"));
+}
+
+QString CompanionDrawing::referenceText(const ParStruct& curve) const
+{
+    if (curve.reference.samples == nullptr || !mModel.layout().isReferenceShown()) {
+        return {};
+    }
+    ParStruct other;
+    other.series = curve.reference.samples;
+    other.facts = curve.reference.facts;
+    other.isSingle = curve.isSingle;
+    const QString value =
+        shownText(other, mModel.cursor() - mModel.layout().referenceShift(), mStyle, "%f");
+    return CompanionTexts::tr("ref. %1").arg(value.isEmpty() ? "---" : value);
+}
+
+} // namespace TARN
