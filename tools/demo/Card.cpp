@@ -2,8 +2,8 @@
 
 #include "CanWriter.h"
 #include "Flight.h"
-#include "Payload.h"
 #include "Traffic.h"
+#include "Week.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -15,16 +15,14 @@ namespace TARN::Demo {
 
 namespace {
 
-std::uint64_t startTicks()
+std::uint64_t startTicks(const FlightDay& day)
 {
-    FlightDay day;
     return static_cast<std::uint64_t>(day.hour * 3600 + day.minute * 60) * kTicksPerSecond;
 }
 
 /// The header of a file whose recording begins at \p ticks since midnight.
-CanHeader headerAt(std::uint64_t ticks)
+CanHeader headerAt(const FlightDay& day, std::uint64_t ticks)
 {
-    FlightDay day;
     CanHeader header;
     header.year = day.year;
     header.month = day.month;
@@ -58,7 +56,8 @@ class Card
 {
 public:
     explicit Card(const CardOptions& options)
-        : mOptions(options), mTraffic(startTicks(), options.scale, options.seed)
+        : mOptions(options), mDay(weekOf(options.seed).day),
+          mTraffic(startTicks(mDay), options.scale, options.seed)
     {}
 
     std::string write()
@@ -96,14 +95,14 @@ private:
         int number = static_cast<int>(mFiles.size()) + 1;
         auto path = std::filesystem::path(mOptions.folder) / fileName(number);
         mFiles.push_back(std::make_unique<CanWriter>(path.string(), mOptions.littleEndian));
-        std::uint64_t begin = number == 1 ? startTicks() : mFileEnd;
+        std::uint64_t begin = number == 1 ? startTicks(mDay) : mFileEnd;
         std::uint64_t whole = static_cast<std::uint64_t>(mOptions.minutes) * 60 * kTicksPerSecond;
         auto count = static_cast<std::uint64_t>(mOptions.files);
-        mFileEnd = startTicks() + whole / count * static_cast<std::uint64_t>(number);
+        mFileEnd = startTicks(mDay) + whole / count * static_cast<std::uint64_t>(number);
         // What the bus delays beyond the end of the flight still belongs to the last file.
         if (number == mOptions.files)
             mFileEnd = UINT64_MAX;
-        return mFiles.back()->open(headerAt(begin));
+        return mFiles.back()->open(headerAt(mDay, begin));
     }
 
     bool finish() { return mFiles.back()->close(); }
@@ -118,6 +117,7 @@ private:
     }
 
     CardOptions mOptions;
+    FlightDay mDay;
     Traffic mTraffic;
     std::vector<std::unique_ptr<CanWriter>> mFiles;
     std::uint64_t mFileEnd = 0;

@@ -1,5 +1,7 @@
 #include "Flight.h"
 
+#include "Week.h"
+
 namespace TARN::Demo {
 
 namespace {
@@ -9,8 +11,8 @@ constexpr double kMassWithoutFuel = 1385.0; // kg, two persons and baggage
 } // namespace
 
 Flight::Flight(double duration, std::uint64_t seed)
-    : mRandom(seed), mAirframe(mRandom), mEngine(mRandom), mThermal(mRandom), mSystems(mRandom),
-      mPilot(duration), mStory(mRandom)
+    : mRandom(seed), mAirframe(mRandom), mEngine(mRandom), mThermal(mRandom, weekOf(seed).wear),
+      mSystems(mRandom), mPilot(duration, weekOf(seed).delay), mStory(mRandom)
 {
     report();
 }

@@ -52,19 +52,19 @@ double fullCircle(double degrees, double resolution)
     return angle >= 360.0 - 0.5 * resolution ? 0.0 : angle;
 }
 
-void putTime(Payload& payload, int secondOfDay)
+void putTime(Payload& payload, const FlightDay& day, int secondOfDay)
 {
-    int seconds = secondOfDay - FlightDay{}.hoursAheadOfUtc * 3600;
+    int seconds = secondOfDay - day.hoursAheadOfUtc * 3600;
     put(payload, 4, 1, static_cast<std::uint64_t>(seconds / 3600 % 24));
     put(payload, 5, 1, static_cast<std::uint64_t>(seconds / 60 % 60));
     put(payload, 6, 1, static_cast<std::uint64_t>(seconds % 60));
 }
 
-void putDate(Payload& payload)
+void putDate(Payload& payload, const FlightDay& day)
 {
-    put(payload, 4, 1, static_cast<std::uint64_t>(FlightDay{}.day));
-    put(payload, 5, 1, static_cast<std::uint64_t>(FlightDay{}.month));
-    put(payload, 6, 2, static_cast<std::uint64_t>(FlightDay{}.year));
+    put(payload, 4, 1, static_cast<std::uint64_t>(day.day));
+    put(payload, 5, 1, static_cast<std::uint64_t>(day.month));
+    put(payload, 6, 2, static_cast<std::uint64_t>(day.year));
 }
 
 void putValues(Payload& payload, const MessageRow& row, const std::array<double, 3>& values)
@@ -111,13 +111,13 @@ void putValues(Payload& payload, const MessageRow& row, const std::array<double,
 } // namespace
 
 Payload makePayload(const MessageRow& row, std::uint8_t counter,
-                    const std::array<double, 3>& values, int secondOfDay)
+                    const std::array<double, 3>& values, const FlightDay& day, int secondOfDay)
 {
     Payload payload{row.node, typeCode(row.encoding), 0, counter, 0, 0, 0, 0};
     if (row.encoding == Encoding::TimeOfDay)
-        putTime(payload, secondOfDay);
+        putTime(payload, day, secondOfDay);
     else if (row.encoding == Encoding::Date)
-        putDate(payload);
+        putDate(payload, day);
     else
         putValues(payload, row, values);
     return payload;

@@ -6,7 +6,13 @@
 
 namespace TARN::Demo {
 
-Pilot::Pilot(double duration) : mDuration(duration)
+namespace {
+
+constexpr double kWarmUp = 195.0; // s
+
+} // namespace
+
+Pilot::Pilot(double duration, double delay) : mDuration(duration), mWarmUp(kWarmUp + delay)
 {
     mControls.brake = 3.0;
 }

@@ -34,8 +34,8 @@ enum class Phase
 class Pilot
 {
 public:
-    /// Duration of the recording in seconds.
-    explicit Pilot(double duration);
+    /// Duration of the recording and how much longer the engine warms up than usual, in seconds.
+    Pilot(double duration, double delay);
 
     /// Looks at the aircraft and sets the controls; time in seconds since power-up.
     void step(double time, const Airframe& airframe, const Engine& engine, const Thermal& thermal,
@@ -88,6 +88,7 @@ private:
     bool followRoute(const View& view, double speed);
 
     double mDuration;
+    double mWarmUp; // s
     Controls mControls;
     Phase mPhase = Phase::PreStart;
     double mPhaseTime = 0.0; // s since the phase began

@@ -28,7 +28,7 @@ void Pilot::warmUp(const View& view)
     mControls.avionics = mPhaseTime > 22.0;
     if (mPhaseTime > 1.5)
         holdRpm(view, mPhaseTime < 60.0 ? 1000.0 : 1200.0);
-    if (mPhaseTime < 195.0)
+    if (mPhaseTime < mWarmUp)
         return;
     const Runway& runway = departureRunway();
     mRoute = {runway.at(900.0, 112.0), runway.at(40.0, 110.0), runway.at(30.0, 72.0)};

@@ -14,6 +14,10 @@ constexpr std::array<double, 6> kMixtureSpread{-0.12, 0.08, 0.14, -0.05, 0.02, -
 constexpr std::array<double, 6> kHeadSpread{0.97, 1.00, 1.035, 1.02, 0.985, 0.955};
 constexpr std::array<double, 6> kProbeSpread{-7.0, 3.0, 9.0, -2.0, 6.0, -11.0};
 constexpr std::size_t kThirdCylinder = 2;
+constexpr std::size_t kSixthCylinder = 5;
+constexpr double kCruisePower = 0.61; // of full power
+constexpr double kHeadRise = 6.0;     // degrees at cruise power for each week of wear
+constexpr double kExhaustRise = 12.0;
 
 double peakExhaust(double airFlow)
 {
@@ -60,9 +64,19 @@ void Thermal::heatHeads(const Controls& controls, const Airframe& airframe, cons
     double heat = engine.running() ? 264.0 * power(clampTo(share, 0.01, 1.2), 0.65) * mixture : 0.0;
     for (std::size_t i = 0; i < mHead.size(); ++i) {
         double loss = i == kThirdCylinder ? mSealLoss : 0.0;
-        double target = outside + heat * kHeadSpread[i] * (1.0 + loss) / cooling;
+        double target = outside + heat * kHeadSpread[i] * (1.0 + loss) / cooling +
+                        kHeadRise * leaning(engine, i);
         mHead[i] += (target - mHead[i]) * cooling / 95.0 * dt;
     }
+}
+
+// The injector of cylinder 6, the coolest one, clogs from week to week. What the leaner mixture
+// does is given: at cruise mixture the curve of the exhaust temperature is too near its peak to
+// rise so.
+double Thermal::leaning(const Engine& engine, std::size_t cylinder) const
+{
+    bool lean = cylinder == kSixthCylinder && engine.running();
+    return lean ? mWear * clampTo(engine.powerFraction(), 0.0, 1.1) / kCruisePower : 0.0;
 }
 
 void Thermal::heatExhaust(const Engine& engine, double dt)
@@ -75,6 +89,7 @@ void Thermal::heatExhaust(const Engine& engine, double dt)
                      kProbeSpread[i];
             // With one plug the flame is late and the gas still burns when it leaves.
             target += engine.oneMagneto() ? 42.0 : 0.0;
+            target += kExhaustRise * leaning(engine, i);
         }
         mFlicker[i] += -mFlicker[i] * dt / 3.0 + 1.6 * std::sqrt(2.0 * dt / 3.0) * mRandom.normal();
         mExhaust[i] += (target - mExhaust[i]) * dt / (engine.running() ? 3.0 : 60.0);

@@ -15,7 +15,8 @@ namespace TARN::Demo {
 class Thermal
 {
 public:
-    explicit Thermal(Random& random) : mRandom(random)
+    /// Wear in weeks that the injector of cylinder 6 has been clogging.
+    Thermal(Random& random, double wear) : mRandom(random), mWear(wear)
     {
         mHead.fill(13.5);
         mExhaust.fill(13.5);
@@ -35,9 +36,11 @@ private:
     void heatHeads(const Controls& controls, const Airframe& airframe, const Engine& engine,
                    double dt);
     void heatExhaust(const Engine& engine, double dt);
+    double leaning(const Engine& engine, std::size_t cylinder) const;
     void pumpOil(const Airframe& airframe, const Engine& engine, double oilFactor, double dt);
 
     Random& mRandom;
+    double mWear;
     std::array<double, 6> mHead{};
     std::array<double, 6> mExhaust{};
     std::array<double, 6> mFlicker{};

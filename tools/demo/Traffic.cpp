@@ -20,7 +20,7 @@ bool restsAtZero(Signal signal)
 } // namespace
 
 Traffic::Traffic(std::uint64_t startTicks, int scale, std::uint64_t seed)
-    : mStartTicks(startTicks), mRandom(seed ^ 0xB05)
+    : mDay(weekOf(seed).day), mStartTicks(startTicks), mRandom(seed ^ 0xB05)
 {
     // A frame with eight data bytes takes about 125 us at 1 Mbit/s. Scaled rates are those of an
     // accordingly faster bus.
@@ -74,7 +74,7 @@ void Traffic::send(Sender& sender, double time, Flight& flight)
     sample.ticks = ticks;
     sample.id = row.id;
     sample.channel = row.channel;
-    sample.data = makePayload(row, sender.sent++, values, second);
+    sample.data = makePayload(row, sender.sent++, values, mDay, second);
     mMessages.push_back(sample);
 }
 

@@ -4,6 +4,7 @@
 #include "Flight.h"
 #include "MessageTable.h"
 #include "Random.h"
+#include "Week.h"
 
 #include <array>
 #include <cstdint>
@@ -45,6 +46,7 @@ private:
     void send(Sender& sender, double time, Flight& flight);
     std::array<double, 3> measure(const MessageRow& row, double time, Flight& flight);
 
+    FlightDay mDay;
     std::uint64_t mStartTicks;
     std::uint64_t mFrameTicks; // time a message occupies its bus
     Random mRandom;

@@ -18,7 +18,9 @@ void describe(CLI::App& app, TARN::Demo::CardOptions& options)
     app.add_option("--scale", options.scale, "Factor of all message rates")
         ->check(CLI::Range(1, 1000))
         ->capture_default_str();
-    app.add_option("--seed", options.seed, "Another number gives other noise and other moments")
+    app.add_option("--seed", options.seed,
+                   "Number of the flight: each is a week after the one before, with other noise, "
+                   "another take-off moment and a cylinder 6 that runs leaner from week to week")
         ->capture_default_str();
     app.add_option("--files", options.files, "Number of consecutive files")
         ->check(CLI::Range(1, 99))
