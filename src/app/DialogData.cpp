@@ -1,6 +1,7 @@
 #include "app/DialogData.h"
 
 #include "app/TimeControls.h"
+#include "compare/ReferenceBar.h"
 #include "events/DialogDataErrorMatrix.h"
 #include "events/DialogDataLimit.h"
 #include "events/DialogDataWarning.h"
@@ -41,6 +42,7 @@ DialogData::DialogData(Session& session, QWidget* parent)
             [](const ProfileInfo& profile) { return !profile.faultMatrices.empty(); });
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(mBar);
+    layout->addWidget(new ReferenceBar(session));
     layout->addWidget(mTabs, 1);
     layout->addWidget(mControls);
     connect(mControls, &TimeControls::signalMessage, this, &DialogData::signalMessage);

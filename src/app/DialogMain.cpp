@@ -8,8 +8,8 @@
 #include "app/DialogStatusBar.h"
 #include "app/DropHandler.h"
 #include "app/ExportRunner.h"
-#include "app/FlightLoader.h"
 #include "app/ProjectKeeper.h"
+#include "app/ReferenceLoader.h"
 #include "app/SmallWindows.h"
 #include "app/StartMessages.h"
 #include "app/WindowState.h"
@@ -74,8 +74,9 @@ DialogMain::DialogMain(QWidget* parent)
     : QMainWindow(parent), mEndProcess(endProcess), mCommands(new CommandSet(*this)),
       mStatusBar(new DialogStatusBar(this)), mDetails(new DialogRecordDetails(this)),
       mOpener(new CardOpener(this)), mLoader(new FlightLoader(mSession, this)),
-      mOffset(new OffsetKeeper(mSession, this)), mProject(new ProjectKeeper(mSession, *this)),
-      mExports(new ExportRunner(mSession, *this)), mSmallWindows(new SmallWindows(*this))
+      mReference(new ReferenceLoader(mSession, this)), mOffset(new OffsetKeeper(mSession, this)),
+      mProject(new ProjectKeeper(mSession, *this)), mExports(new ExportRunner(mSession, *this)),
+      mSmallWindows(new SmallWindows(*this))
 {
     setStatusBar(mStatusBar);
     createPanes();
@@ -83,6 +84,7 @@ DialogMain::DialogMain(QWidget* parent)
     connectLoading();
     connectProject();
     connectExports();
+    connectReference();
     connectDrops();
     connect(mSmallWindows, &SmallWindows::profileFileChanged, this,
             [this] { chooseProfile(setting("Profile", DefaultProfile)); });
@@ -137,6 +139,7 @@ void DialogMain::connectLoading()
     connect(&bar, &ActivityBar::cancelled, mLoader, &FlightLoader::cancel);
     auto* escape = new QShortcut(Qt::Key_Escape, this);
     connect(escape, &QShortcut::activated, mLoader, &FlightLoader::cancel);
+    connect(escape, &QShortcut::activated, mReference, &ReferenceLoader::cancel);
     connect(mLoader, &FlightLoader::started, this,
             [&bar](double samples) { bar.begin(tr("Loading"), samples, tr("%1 samples/s")); });
     connect(mLoader, &FlightLoader::progressed, &bar, &ActivityBar::setProgress);
@@ -196,6 +199,26 @@ void DialogMain::connectExports()
     enable();
 }
 
+void DialogMain::connectReference()
+{
+    ActivityBar& bar = mStatusBar->comparing();
+    connect(mCard, &DialogCard::signalLoadReference, mReference, &ReferenceLoader::load);
+    connect(&bar, &ActivityBar::cancelled, mReference, &ReferenceLoader::cancel);
+    connect(mReference, &ReferenceLoader::started, this, [&bar](double samples) {
+        bar.begin(tr("Loading the reference"), samples, tr("%1 samples/s"));
+    });
+    connect(mReference, &ReferenceLoader::progressed, &bar, &ActivityBar::setProgress);
+    connect(mReference, &ReferenceLoader::finished, this, [this, &bar] {
+        bar.finish();
+        mStatusBar->say(referenceMessage(*mSession.reference().flight()));
+    });
+    connect(mReference, &ReferenceLoader::failed, this, [this, &bar](const QString& reason) {
+        bar.abandon();
+        mStatusBar->say(reason.isEmpty() ? tr("Loading the reference was cancelled.")
+                                         : tr("No reference was loaded: %1").arg(reason));
+    });
+}
+
 void DialogMain::connectDrops()
 {
     auto* drops = new DropHandler(*this);
@@ -205,6 +228,7 @@ void DialogMain::connectDrops()
         mToPick = files;
         openCard(files.front().section('/', 0, -2), true);
     });
+    connect(drops, &DropHandler::referenceDropped, mReference, &ReferenceLoader::load);
     connect(drops, &DropHandler::profileDropped, this, [this](const QString& file) {
         storeSetting("Profile", file);
         chooseProfile(file);
@@ -284,15 +308,16 @@ void DialogMain::chooseProfile(const QString& file)
     mLoader->loadProfile(inBundle(file));
 }
 
-void DialogMain::takeProfile(const std::shared_ptr<const Profile>& profile,
-                             const std::shared_ptr<const Flight>& flight)
+void DialogMain::takeProfile(const FlightLoader::Understood& understood)
 {
+    const auto& profile = understood.profile;
     if (!profile->isLoaded()) {
         mStatusBar->sayAlso(tr("The profile \"%1\" could not be loaded: no parameters can be "
                                "shown. Choose another under Extras, Preferences.")
                                 .arg(profile->fileName()));
     }
-    mSession.setProfile(profile, mProject->ticksFor(*profile), flight);
+    mSession.setProfile(profile, mProject->ticksFor(*profile), understood.flight,
+                        understood.reference);
     mProject->profileReplaced();
     mHasProfile = true;
     reopen();

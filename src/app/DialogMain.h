@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/CommandSet.h"
+#include "app/FlightLoader.h"
 #include "flight/Session.h"
 
 #include <QtCore/QTimer>
@@ -20,9 +21,9 @@ class DialogProfile;
 class DialogRecordDetails;
 class DialogStatusBar;
 class ExportRunner;
-class FlightLoader;
 class OffsetKeeper;
 class ProjectKeeper;
+class ReferenceLoader;
 class SmallWindows;
 class WindowState;
 
@@ -53,12 +54,12 @@ private:
     void connectLoading();
     void connectProject();
     void connectExports();
+    void connectReference();
     void connectDrops();
     void run(ActionType type);
     void openCard(const QString& folder, bool remember);
     void chooseProfile(const QString& file);
-    void takeProfile(const std::shared_ptr<const Profile>& profile,
-                     const std::shared_ptr<const Flight>& flight);
+    void takeProfile(const FlightLoader::Understood& understood);
     void reopen();
     void updateTitle();
     bool mayClose();
@@ -81,6 +82,7 @@ private:
     CardOpener* mOpener;
     CardOverview* mOverview;
     FlightLoader* mLoader;
+    ReferenceLoader* mReference;
     OffsetKeeper* mOffset;
     ProjectKeeper* mProject;
     ExportRunner* mExports;

@@ -9,13 +9,16 @@ namespace TARN {
 DialogStatusBar::DialogStatusBar(QWidget* parent)
     : QStatusBar(parent), mMessage(new ElidedLabel),
       mLoading(new ActivityBar(tr("Stop loading (Escape)"))),
+      mComparing(new ActivityBar(tr("Stop loading the reference (Escape)"))),
       mExporting(new ActivityBar(tr("Stop the export")))
 {
     mMessage->setObjectName("message");
     mLoading->setObjectName("loading");
+    mComparing->setObjectName("comparing");
     mExporting->setObjectName("exporting");
     addWidget(mMessage, 1);
     addPermanentWidget(mExporting);
+    addPermanentWidget(mComparing);
     addPermanentWidget(mLoading);
     auto* label = new QLabel(QString("Brask Flight Systems    %1 %2 (%3)")
                                  .arg(QString::fromStdString(Revision::getName()),

@@ -26,12 +26,14 @@ public:
     void showTip(const QString& tip);
 
     ActivityBar& loading() { return *mLoading; }
+    ActivityBar& comparing() { return *mComparing; } ///< a reference loads
     ActivityBar& exporting() { return *mExporting; }
 
 private:
     QString mText;
     ElidedLabel* mMessage;
     ActivityBar* mLoading;
+    ActivityBar* mComparing;
     ActivityBar* mExporting;
 };
 

@@ -58,13 +58,16 @@ bool DropHandler::eventFilter(QObject* watched, QEvent* event)
         drop->acceptProposedAction();
         // Later, so that whoever dropped it need not wait for answers to questions.
         QTimer::singleShot(0, this,
-                           [this, paths = openablePaths(drop->mimeData())] { open(paths); });
+                           [this, paths = openablePaths(drop->mimeData()),
+                            asReference = drop->modifiers().testFlag(Qt::ControlModifier)] {
+                               open(paths, asReference);
+                           });
         return true;
     }
     return QObject::eventFilter(watched, event);
 }
 
-void DropHandler::open(const QStringList& paths)
+void DropHandler::open(const QStringList& paths, bool asReference)
 {
     std::list<QString> recordings;
     for (const QString& path : paths) {
@@ -77,7 +80,7 @@ void DropHandler::open(const QStringList& paths)
         }
     }
     if (!recordings.empty()) {
-        Q_EMIT recordingsDropped(recordings);
+        asReference ? Q_EMIT referenceDropped(recordings) : Q_EMIT recordingsDropped(recordings);
     }
 }
 

@@ -24,6 +24,8 @@ Q_SIGNALS:
     void cardDropped(const QString& folder);
     /// Recordings of one folder or of several, in their order.
     void recordingsDropped(const std::list<QString>& files);
+    /// Recordings dropped with Control held.
+    void referenceDropped(const std::list<QString>& files);
     void projectDropped(const QString& file);
     void profileDropped(const QString& file);
     /// An XML file that is neither.
@@ -31,7 +33,7 @@ Q_SIGNALS:
 
 private:
     static QStringList openablePaths(const QMimeData* data);
-    void open(const QStringList& paths);
+    void open(const QStringList& paths, bool asReference);
     void openXml(const QString& path);
 };
 

@@ -1,30 +1,6 @@
 #include "app/FlightLoader.h"
 
-#include "base/FreeMemory.h"
-#include "record/RecordHeader.h"
-
-#include <QtCore/QFileInfo>
-
-#include <algorithm>
-
 namespace TARN {
-
-namespace {
-
-/// Bytes that a sample takes in memory while it is read, indexes included.
-constexpr double BytesPerSample = 40.0;
-
-/// Samples that files promise by their sizes.
-double promisedSamples(const std::list<QString>& files)
-{
-    double samples = 0.0;
-    for (const QString& file : files) {
-        samples += static_cast<double>(std::max<qint64>(0, sampleCountOf(QFileInfo(file).size())));
-    }
-    return samples;
-}
-
-} // namespace
 
 FlightLoader::FlightLoader(Session& session, QObject* parent) : QObject(parent), mSession(session)
 {
@@ -54,38 +30,32 @@ void FlightLoader::load(const std::list<QString>& files)
 
 void FlightLoader::read(const std::list<QString>& files, double samples)
 {
-    const auto available = availableMemory();
-    if (available && samples * BytesPerSample > static_cast<double>(*available)) {
+    if (!fitMemory(samples)) {
         mSession.setFlight(nullptr);
     }
     Q_EMIT started(samples);
     mReading.start(
         [files, offset = mSession.offset(), profile = mSession.profile(),
          task = tr("Looking for events")](Progress& progress) {
-            auto record = std::make_shared<Record>();
-            if (!record->readRecordData(files, offset, progress)) {
-                return Loaded{nullptr, nullptr, record->errorText()};
-            }
-            progress.begin(task);
-            return Loaded{record, Flight::make(record, profile, progress), {}};
+            return readFlight(files, offset, profile, task, progress);
         },
-        [this](const Loaded& loaded) { take(loaded); });
+        [this](const ReadFlight& read) { take(read); });
 }
 
-void FlightLoader::take(const Loaded& loaded)
+void FlightLoader::take(const ReadFlight& read)
 {
-    if (loaded.flight == nullptr) {
-        end(loaded.error);
-    } else if (loaded.flight->profile() != mSession.profile()) {
+    if (read.flight == nullptr) {
+        end(read.error);
+    } else if (read.flight->profile() != mSession.profile()) {
         // Another profile has come meanwhile.
         mReading.start(
-            [record = loaded.record, profile = mSession.profile()](Progress& progress) {
-                return Loaded{record, Flight::make(record, profile, progress), {}};
+            [record = read.record, profile = mSession.profile()](Progress& progress) {
+                return ReadFlight{record, Flight::make(record, profile, progress), {}};
             },
-            [this](const Loaded& again) { take(again); });
+            [this](const ReadFlight& again) { take(again); });
     } else {
         mSession.loading().turn(false);
-        mSession.setFlight(loaded.flight);
+        mSession.setFlight(read.flight);
         Q_EMIT finished();
     }
 }
@@ -110,32 +80,36 @@ void FlightLoader::loadProfile(const QString& file)
     understand([file, before = mSession.profile()] { return Profile::load(file, before.get()); });
 }
 
-std::shared_ptr<const Record> FlightLoader::record() const
+FlightLoader::Records FlightLoader::records() const
 {
-    return mSession.flight() != nullptr ? mSession.flight()->record() : nullptr;
+    const auto recordOf = [](const std::shared_ptr<const Flight>& flight) {
+        return flight != nullptr ? flight->record() : nullptr;
+    };
+    return {recordOf(mSession.flight()), recordOf(mSession.reference().flight())};
 }
 
 void FlightLoader::understand(const std::function<std::shared_ptr<const Profile>()>& profile)
 {
     mUnderstanding.start(
-        [profile, record = record()](Progress& progress) {
-            Understood result{profile(), nullptr};
-            if (record != nullptr) {
-                result.flight = Flight::make(record, result.profile, progress);
-            }
+        [profile, records = records()](Progress& progress) {
+            Understood result{profile(), nullptr, nullptr};
+            const auto understood = [&](const std::shared_ptr<const Record>& record) {
+                return record != nullptr ? Flight::make(record, result.profile, progress) : nullptr;
+            };
+            result.flight = understood(records.flight);
+            result.reference = understood(records.reference);
             return result;
         },
-        [this, record = record()](const Understood& result) { takeProfile(result, record); });
+        [this, records = records()](const Understood& result) { takeProfile(result, records); });
 }
 
-void FlightLoader::takeProfile(const Understood& understood,
-                               const std::shared_ptr<const Record>& record)
+void FlightLoader::takeProfile(const Understood& understood, const Records& of)
 {
-    if (record != this->record()) {
+    if (of != records()) {
         // Another recording has come meanwhile.
         understand([profile = understood.profile] { return profile; });
     } else {
-        Q_EMIT profileReady(understood.profile, understood.flight);
+        Q_EMIT profileReady(understood);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/FlightReading.h"
 #include "flight/Job.h"
 #include "flight/Session.h"
 
@@ -18,6 +19,14 @@ class FlightLoader : public QObject
     Q_OBJECT
 
 public:
+    /// A profile, and the flights that are shown as it understands them, null where there are none.
+    struct Understood
+    {
+        std::shared_ptr<const Profile> profile;
+        std::shared_ptr<const Flight> flight;
+        std::shared_ptr<const Flight> reference;
+    };
+
     explicit FlightLoader(Session& session, QObject* parent = nullptr);
 
     /// Empty paths are left out; with none left nothing happens.
@@ -34,33 +43,27 @@ Q_SIGNALS:
     void finished();
     /// Why not; the files are named. Empty when it was cancelled.
     void failed(const QString& reason);
-    /// A profile, and the flight as it understands it, null when none is shown. It is not in the
-    /// session yet.
-    void profileReady(std::shared_ptr<const Profile> profile, std::shared_ptr<const Flight> flight);
+    /// A profile was loaded. It is not in the session yet.
+    void profileReady(const TARN::FlightLoader::Understood& understood);
 
 private:
-    struct Loaded
+    struct Records
     {
-        std::shared_ptr<const Record> record;
-        std::shared_ptr<const Flight> flight;
-        QString error;
-    };
-    struct Understood
-    {
-        std::shared_ptr<const Profile> profile;
-        std::shared_ptr<const Flight> flight;
+        std::shared_ptr<const Record> flight;
+        std::shared_ptr<const Record> reference;
+        friend bool operator==(const Records&, const Records&) = default;
     };
 
     void read(const std::list<QString>& files, double samples);
-    void take(const Loaded& loaded);
+    void take(const ReadFlight& read);
     void end(const QString& error);
     void understand(const std::function<std::shared_ptr<const Profile>()>& profile);
-    void takeProfile(const Understood& understood, const std::shared_ptr<const Record>& record);
-    std::shared_ptr<const Record> record() const;
+    void takeProfile(const Understood& understood, const Records& of);
+    Records records() const;
 
     Session& mSession;
     Job<double> mMeasuring;
-    Job<Loaded> mReading;
+    Job<ReadFlight> mReading;
     Job<Understood> mUnderstanding;
 };
 

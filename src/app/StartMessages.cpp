@@ -36,6 +36,13 @@ QString startMessages()
     return texts.join(' ');
 }
 
+QString referenceMessage(const Flight& flight)
+{
+    const QString text = StartTexts::tr("Reference: ") + loadedMessage(flight);
+    const QString unknown = flight.unknown().remark();
+    return unknown.isEmpty() ? text : text + ". " + unknown;
+}
+
 QString loadedMessage(const Flight& flight)
 {
     const QStringList remarks = recordRemarks(flight.record()->integrity());

@@ -11,6 +11,8 @@ class Flight;
 QString startMessages();
 
 /// What the user should know about a flight that was loaded, its remarks included.
+/// What is said when a flight was loaded to compare with.
+QString referenceMessage(const Flight& flight);
 QString loadedMessage(const Flight& flight);
 
 } // namespace TARN

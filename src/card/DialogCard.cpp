@@ -5,6 +5,7 @@
 #include "record/RecordText.h"
 
 #include <QtGui/QAction>
+#include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QHeaderView>
@@ -110,12 +111,7 @@ DialogCard::DialogCard(QWidget* parent)
     mTree->setSelectionMode(QAbstractItemView::ExtendedSelection);
     mTree->setIconSize(QSize(16, 16));
     mTree->setAccessibleName(tr("Recordings"));
-    auto* details = mFolder->addAction(QIcon(":/icons/details.svg"), QLineEdit::TrailingPosition);
-    details->setText(tr("Recording Details"));
-    details->setToolTip(tr("Header of the recording and what could be read of it"));
-    connect(details, &QAction::triggered, this, &DialogCard::askDetails);
-    mTree->addAction(details);
-    mTree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    createCommands();
     mHint->setAlignment(Qt::AlignCenter);
     mHint->setWordWrap(true);
     mHint->setForegroundRole(QPalette::PlaceholderText);
@@ -129,6 +125,46 @@ DialogCard::DialogCard(QWidget* parent)
     mTimer.setSingleShot(true);
     connect(mTree, &QTreeWidget::itemSelectionChanged, this, &DialogCard::slotSelect);
     connect(&mTimer, &QTimer::timeout, this, &DialogCard::slotTimeout);
+}
+
+void DialogCard::createCommands()
+{
+    auto* details = mFolder->addAction(QIcon(":/icons/details.svg"), QLineEdit::TrailingPosition);
+    details->setText(tr("Recording Details"));
+    details->setToolTip(tr("Header of the recording and what could be read of it"));
+    connect(details, &QAction::triggered, this, &DialogCard::askDetails);
+    auto* reference = new QAction(tr("Load as &Reference"), this);
+    reference->setToolTip(tr("Compares the flight that is open with this one"));
+    connect(reference, &QAction::triggered, this, [this] {
+        if (const QTreeWidgetItem* item = currentLine()) {
+            Q_EMIT signalLoadReference(filesOf(*item));
+        }
+    });
+    mTree->addActions({details, reference});
+    mTree->setContextMenuPolicy(Qt::ActionsContextMenu);
+    mTree->viewport()->installEventFilter(this);
+}
+
+/// A right click asks about a line; it must not load it.
+bool DialogCard::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* click = event->type() == QEvent::MouseButtonPress
+                            ? static_cast<const QMouseEvent*>(event)
+                            : nullptr;
+    if (click == nullptr || click->button() != Qt::RightButton) {
+        return QWidget::eventFilter(watched, event);
+    }
+    mTree->setFocus();
+    mTree->setCurrentItem(mTree->itemAt(click->position().toPoint()), Name,
+                          QItemSelectionModel::NoUpdate);
+    return true;
+}
+
+/// The line of a recording or a flight that is current, itself or by a detail.
+const QTreeWidgetItem* DialogCard::currentLine() const
+{
+    const QTreeWidgetItem* item = mTree->currentItem();
+    return item != nullptr && item->parent() != nullptr ? item->parent() : item;
 }
 
 void DialogCard::setCardInfo(const CardInfo& info)
@@ -297,10 +333,7 @@ QString DialogCard::toolTipOf(const RecordInfo& info, const QStringList& remarks
 
 void DialogCard::askDetails()
 {
-    const QTreeWidgetItem* item = mTree->currentItem();
-    if (item != nullptr && item->parent() != nullptr) {
-        item = item->parent(); // a detail line
-    }
+    const QTreeWidgetItem* item = currentLine();
     Q_EMIT signalDetails(item != nullptr ? item->data(0, Qt::UserRole).toString() : QString());
 }
 

@@ -50,6 +50,9 @@ Q_SIGNALS:
     /// an empty path.
     void signalLoadRecord(const std::list<QString>& files);
 
+    /// The user wants to compare with these.
+    void signalLoadReference(const std::list<QString>& files);
+
     /// The user wants to know all about the recording of this path; empty when none is current.
     void signalDetails(const QString& path);
 
@@ -58,7 +61,10 @@ private Q_SLOTS:
     void slotTimeout();
 
 private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void createCommands();
     static QString toolTipOf(const RecordInfo& info, const QStringList& remarks);
+    const QTreeWidgetItem* currentLine() const;
     void askDetails();
     void addFlight(const FlightGroup& group);
     void addRecord(const QString& path, const RecordInfo& info);

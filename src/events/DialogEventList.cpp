@@ -52,6 +52,8 @@ DialogEventList::DialogEventList(Session& session, EpisodeWatch& episodes, Event
     connect(&mSession.loading(), &Switch::turned, this, &DialogEventList::updateEmptyText);
     connect(&mSession.allDigits(), &Switch::turned, this, &DialogEventList::updateDigits);
     connect(&mEpisodes, &EpisodeWatch::changed, this, &DialogEventList::showEpisodes);
+    connect(&mEpisodes, &EpisodeWatch::referenceChanged, this, &DialogEventList::showReference);
+    connect(&mSession.reference(), &Reference::shiftChanged, this, &DialogEventList::showReference);
     showFlight();
 }
 
@@ -75,6 +77,17 @@ void DialogEventList::showEpisodes()
     mModel->setEpisodes(troubles != nullptr ? std::shared_ptr<const std::vector<Episode>>(
                                                   troubles, &episodesOf(mModel->kind(), *troubles))
                                             : nullptr);
+    updateEmptyText();
+    showCurrentTime();
+}
+
+void DialogEventList::showReference()
+{
+    const auto& troubles = mEpisodes.ofReference();
+    mModel->setReference(troubles != nullptr ? std::shared_ptr<const std::vector<Episode>>(
+                                                   troubles, &episodesOf(mModel->kind(), *troubles))
+                                             : nullptr,
+                         mSession.reference().shift());
     updateEmptyText();
     showCurrentTime();
 }

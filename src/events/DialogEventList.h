@@ -41,6 +41,7 @@ private:
     void copy() const;
     void showFlight();
     void showEpisodes();
+    void showReference();
     void showCurrentTime() { showTime(mSession.time(), nullptr); }
     void showTime(double time, const QObject* source);
     void updateDigits();

@@ -5,13 +5,11 @@
 
 #include <QtGui/QFont>
 
-#include <algorithm>
-#include <map>
-
 namespace TARN {
 
 EventModel::EventModel(EventKind kind, const QString& title, QObject* parent)
-    : QAbstractTableModel(parent), mKind(kind), mTitle(title), mSeverities(severityWords(kind))
+    : QAbstractTableModel(parent), mKind(kind), mTitle(title), mSeverities(severityWords(kind)),
+      mRows(kind)
 {}
 
 void EventModel::setEvents(std::shared_ptr<const void> owner,
@@ -19,38 +17,21 @@ void EventModel::setEvents(std::shared_ptr<const void> owner,
 {
     beginResetModel();
     mOwner = std::move(owner);
-    mEvents = events;
-    mEpisodes.reset();
-    mUnannounced.clear();
-    mOfEvents.clear();
+    mRows.setEvents(events);
     endResetModel();
 }
 
 void EventModel::setEpisodes(std::shared_ptr<const std::vector<Episode>> episodes)
 {
     beginResetModel();
-    mEpisodes = std::move(episodes);
-    mUnannounced.clear();
-    std::map<std::pair<const ProfileParameter*, std::size_t>, const Episode*> announced;
-    static const std::vector<Episode> None;
-    for (const Episode& episode : mEpisodes != nullptr ? *mEpisodes : None) {
-        if (!episode.isAnnounced()) {
-            mUnannounced.push_back(&episode);
-        }
-        for (const std::size_t place : episode.announcedBy) {
-            announced[{episode.parameter, place}] = &episode;
-        }
-    }
-    if (mKind == EventKind::Faults) { // in the order of the times that are shown
-        std::ranges::stable_sort(mUnannounced, {}, [](const Episode* episode) {
-            return episode->start - episode->shift;
-        });
-    }
-    mOfEvents.assign(eventCount(), nullptr);
-    for (std::size_t i = 0; i < eventCount(); ++i) {
-        const auto found = announced.find({(*mEvents)[i].parameter, (*mEvents)[i].place});
-        mOfEvents[i] = found != announced.end() ? found->second : nullptr;
-    }
+    mRows.setEpisodes(std::move(episodes));
+    endResetModel();
+}
+
+void EventModel::setReference(std::shared_ptr<const std::vector<Episode>> episodes, double shift)
+{
+    beginResetModel();
+    mRows.setReference(std::move(episodes), shift);
     endResetModel();
 }
 
@@ -61,73 +42,32 @@ void EventModel::setAllDigits(bool on)
     endResetModel();
 }
 
-int EventModel::rowAt(double time) const
-{
-    const auto lastOf = [key = timeKeyOf(time)](const auto& rows, const auto& keyOf) {
-        const auto after = std::ranges::upper_bound(rows, key, {}, keyOf);
-        return after == rows.begin() ? 0 : static_cast<int>(after - rows.begin() - 1);
-    };
-    if (mKind == EventKind::Faults) {
-        return lastOf(mUnannounced, [](const Episode* episode) {
-            return timeKeyOf(episode->start - episode->shift);
-        });
-    }
-    if (mEvents != nullptr) {
-        return lastOf(*mEvents, [](const RecordEvent& event) {
-            return static_cast<std::uint32_t>(event.tenths);
-        });
-    }
-    return 0;
-}
-
 std::optional<EventModel::Place> EventModel::placeOf(int row, const Flight& flight,
                                                      double offset) const
 {
-    const RecordEvent* event = eventAt(row);
-    const Episode* episode = episodeOf(row);
+    const RecordEvent* event = mRows.event(row);
+    const Episode* episode = mRows.episode(row);
     if (event == nullptr && episode == nullptr) {
         return std::nullopt;
     }
     const ProfileParameter* parameter = event != nullptr ? event->parameter : episode->parameter;
-    const double start =
-        event != nullptr ? event->time + flight.series(*parameter, offset).shift() : episode->start;
+    const double moved = mRows.isOfReference(row) ? mRows.shift(row) : 0.0;
+    const double start = event != nullptr ? event->time + flight.series(*parameter, offset).shift()
+                                          : episode->start - moved;
     return Place{parameter, start,
-                 episode != nullptr && episode->peak ? std::optional(episode->peak->time)
+                 episode != nullptr && episode->peak ? std::optional(episode->peak->time - moved)
                                                      : std::nullopt};
 }
 
 int EventModel::rowCount(const QModelIndex& parent) const
 {
-    if (parent.isValid()) {
-        return 0;
-    }
-    return static_cast<int>(mUnannounced.empty() ? eventCount()
-                                                 : firstUnannounced() + mUnannounced.size());
+    return parent.isValid() ? 0 : mRows.count();
 }
 
 int EventModel::columnCount(const QModelIndex& parent) const
 {
     const int last = mKind == EventKind::Limits ? ThresholdColumn : DurationColumn;
     return parent.isValid() ? 0 : last + 1;
-}
-
-const RecordEvent* EventModel::eventAt(int row) const
-{
-    const auto place = static_cast<std::size_t>(row);
-    return place < eventCount() ? &(*mEvents)[place] : nullptr;
-}
-
-const Episode* EventModel::unannouncedAt(int row) const
-{
-    const auto place = static_cast<std::size_t>(row);
-    return place >= firstUnannounced() ? mUnannounced[place - firstUnannounced()] : nullptr;
-}
-
-/// The episode that a row tells of; null where it tells of none.
-const Episode* EventModel::episodeOf(int row) const
-{
-    const auto place = static_cast<std::size_t>(row);
-    return place < mOfEvents.size() ? mOfEvents[place] : unannouncedAt(row);
 }
 
 QString EventModel::episodeText(const Episode& episode, int column, double shift) const
@@ -148,13 +88,8 @@ QString EventModel::episodeText(const Episode& episode, int column, double shift
     }
 }
 
-/// Seconds that the times of an episode without an event are shown without.
-double EventModel::shownShift(const Episode& episode) const
-{
-    return mKind == EventKind::Faults ? episode.shift : 0.0;
-}
-
-QString EventModel::unannouncedText(const Episode& episode) const
+/// What stands as text where no event does.
+QString EventModel::headlineOf(const Episode& episode) const
 {
     switch (mKind) {
     case EventKind::Limits:
@@ -169,31 +104,33 @@ QString EventModel::unannouncedText(const Episode& episode) const
 
 QString EventModel::textAt(int row, int column) const
 {
-    const Episode* episode = episodeOf(row);
-    if (const RecordEvent* event = eventAt(row)) {
-        if (column > TextColumn) {
-            // Times of events carry no offset, and so the end does not either.
-            return episode != nullptr ? episodeText(*episode, column, episode->shift) : QString();
-        }
-        return column == TimeColumn ? clockTextWithMilliseconds(event->time)
-               : mAllDigits         ? event->text
-                                    : event->shortText;
-    }
-    if (isHeading(row)) {
+    const Episode* episode = mRows.episode(row);
+    if (mRows.isHeading(row)) {
         return column != TextColumn         ? QString()
                : mKind == EventKind::Limits ? tr("Out of range without an event")
                                             : tr("On without an event");
     }
-    const double shift = shownShift(*episode);
-    return column == TimeColumn   ? clockTextWithMilliseconds(episode->start - shift)
-           : column == TextColumn ? unannouncedText(*episode)
-                                  : episodeText(*episode, column, shift);
+    const RecordEvent* event = mRows.event(row);
+    if (column > TextColumn) {
+        return episode != nullptr ? episodeText(*episode, column, mRows.shift(row)) : QString();
+    }
+    if (event != nullptr) {
+        return column == TimeColumn ? clockTextWithMilliseconds(event->time)
+               : mAllDigits         ? event->text
+                                    : event->shortText;
+    }
+    return column == TimeColumn       ? clockTextWithMilliseconds(episode->start - mRows.shift(row))
+           : mRows.isOfReference(row) ? tr("Reference: %1").arg(headlineOf(*episode))
+                                      : headlineOf(*episode);
 }
 
 QVariant EventModel::color(int row, int column, int role) const
 {
-    const RecordEvent* event = eventAt(row);
-    const Episode* episode = episodeOf(row);
+    if (mRows.isOfReference(row)) {
+        return role == Qt::ForegroundRole ? QVariant(QColor(Qt::gray)) : QVariant();
+    }
+    const RecordEvent* event = mRows.event(row);
+    const Episode* episode = mRows.episode(row);
     const QColor color = column == TimeColumn   ? TimeCellColor
                          : column != TextColumn ? QColor()
                          : event != nullptr     ? event->color
@@ -205,7 +142,7 @@ QVariant EventModel::color(int row, int column, int role) const
 /// Numbers by their value, all else by its text.
 QVariant EventModel::sortKey(int row, int column) const
 {
-    const Episode* episode = episodeOf(row);
+    const Episode* episode = mRows.episode(row);
     if (column == TimeColumn) {
         return data(index(row, TimeColumn), TimeRole);
     }
@@ -220,7 +157,7 @@ QVariant EventModel::sortKey(int row, int column) const
     case SeverityColumn:
         return episode->state;
     case UntilColumn:
-        return episode->end - (eventAt(row) != nullptr ? episode->shift : shownShift(*episode));
+        return episode->end - mRows.shift(row);
     case DurationColumn:
         return episode->duration();
     case PeakColumn:
@@ -243,19 +180,19 @@ QVariant EventModel::data(const QModelIndex& index, int role) const
     case SortRole:
         return sortKey(row, index.column());
     case StateRole: {
-        const Episode* episode = episodeOf(row);
+        const Episode* episode = mRows.episode(row);
         return episode != nullptr ? QVariant(episode->state) : QVariant();
     }
     case TimeRole: {
-        const RecordEvent* event = eventAt(row);
-        const Episode* episode = unannouncedAt(row);
+        const RecordEvent* event = mRows.event(row);
+        const Episode* episode = mRows.episode(row);
         if (index.column() != TimeColumn || (event == nullptr && episode == nullptr)) {
             return {};
         }
-        return (event != nullptr ? event->time : episode->start - shownShift(*episode)) * 1000.0;
+        return (event != nullptr ? event->time : episode->start - mRows.shift(row)) * 1000.0;
     }
     case Qt::ToolTipRole: {
-        const RecordEvent* event = eventAt(row);
+        const RecordEvent* event = mRows.event(row);
         return event != nullptr && index.column() == TextColumn ? event->text : QVariant();
     }
     case Qt::BackgroundRole:
@@ -265,7 +202,7 @@ QVariant EventModel::data(const QModelIndex& index, int role) const
         return index.column() > SeverityColumn ? QVariant(int(Qt::AlignRight | Qt::AlignVCenter))
                                                : QVariant();
     case Qt::FontRole:
-        if (isHeading(row)) {
+        if (mRows.isHeading(row)) {
             QFont bold;
             bold.setBold(true);
             bold.setPixelSize(11);
@@ -295,8 +232,8 @@ QVariant EventModel::headerData(int section, Qt::Orientation orientation, int ro
 
 Qt::ItemFlags EventModel::flags(const QModelIndex& index) const
 {
-    return index.isValid() && isHeading(index.row()) ? Qt::ItemIsEnabled
-                                                     : QAbstractTableModel::flags(index);
+    return index.isValid() && mRows.isHeading(index.row()) ? Qt::ItemIsEnabled
+                                                           : QAbstractTableModel::flags(index);
 }
 
 } // namespace TARN

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "events/EventWords.h"
-#include "faults/RecordEvent.h"
+#include "events/EventRows.h"
 #include "flight/Flight.h"
 
 #include <QtCore/QAbstractTableModel>
@@ -12,9 +11,9 @@
 
 namespace TARN {
 
-/// A list of events as a table, time and text in front, then what their episodes tell. Below them
-/// stand, under a heading, the episodes that no event announced. Errors have no events: their list
-/// is one of episodes, whose times carry no time offset, as the matrices do not.
+/// A list of events as a table, time and text in front, then what their episodes tell; see
+/// EventRows for what stands where. Times of errors carry no time offset, as the matrices do not.
+/// What the reference flight had is grey.
 class EventModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -50,18 +49,13 @@ public:
     /// Shows these too; times of those without an event carry the time offset. Null shows none.
     void setEpisodes(std::shared_ptr<const std::vector<Episode>> episodes);
 
+    /// Shows the reference flight's between them, moved by \p shift seconds. Null shows none.
+    void setReference(std::shared_ptr<const std::vector<Episode>> episodes, double shift);
+
     /// Values of events with all their digits instead of the shortest text.
     void setAllDigits(bool on);
 
-    /// Row of the latest event, in a list without events of the latest episode, at or before
-    /// \p time (seconds, compared in tenths); of several in one tenth the last. 0 when there is
-    /// none.
-    int rowAt(double time) const;
-    /// Whether a row is the heading over those without an event.
-    bool isHeading(int row) const
-    {
-        return mKind != EventKind::Faults && static_cast<std::size_t>(row) == eventCount();
-    }
+    const EventRows& rows() const { return mRows; }
 
     /// Where a row lies in the flight.
     struct Place
@@ -83,19 +77,9 @@ public:
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:
-    std::size_t eventCount() const { return mEvents != nullptr ? mEvents->size() : 0; }
-    /// Row of the first episode without an event.
-    std::size_t firstUnannounced() const
-    {
-        return mKind == EventKind::Faults ? 0 : eventCount() + 1; // below the heading
-    }
-    const RecordEvent* eventAt(int row) const;
-    const Episode* unannouncedAt(int row) const;
-    const Episode* episodeOf(int row) const;
     QString textAt(int row, int column) const;
     QString episodeText(const Episode& episode, int column, double shift) const;
-    double shownShift(const Episode& episode) const;
-    QString unannouncedText(const Episode& episode) const;
+    QString headlineOf(const Episode& episode) const;
     QVariant color(int row, int column, int role) const;
     QVariant sortKey(int row, int column) const;
 
@@ -104,10 +88,7 @@ private:
     QStringList mSeverities;
     bool mAllDigits = false;
     std::shared_ptr<const void> mOwner;
-    const std::vector<RecordEvent>* mEvents = nullptr;
-    std::shared_ptr<const std::vector<Episode>> mEpisodes;
-    std::vector<const Episode*> mUnannounced;
-    std::vector<const Episode*> mOfEvents; ///< the episode of each event, null where there is none
+    EventRows mRows;
 };
 
 } // namespace TARN

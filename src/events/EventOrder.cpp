@@ -34,7 +34,10 @@ void EventOrder::rebuild()
 
 int EventOrder::rowAt(double time) const
 {
-    for (int row = mList.rowAt(time); row >= 0; --row) {
+    for (int row = mList.rows().rowAt(time); row >= 0; --row) {
+        if (row < mList.rowCount() && mList.rows().isOfReference(row)) {
+            continue;
+        }
         const QModelIndex shown = mapFromSource(mList.index(row, 0));
         if (shown.isValid()) {
             return shown.row();
@@ -62,7 +65,7 @@ QString EventOrder::text() const
 
 bool EventOrder::filterAcceptsRow(int row, const QModelIndex&) const
 {
-    if (mList.isHeading(row)) {
+    if (mList.rows().isHeading(row)) {
         return sortColumn() < 0 && mText.isEmpty() && !mState;
     }
     const QVariant state = mList.index(row, EventModel::SeverityColumn).data(EventModel::StateRole);

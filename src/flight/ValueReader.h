@@ -19,7 +19,8 @@ enum class Between
 /// What \p series says between its samples.
 inline Between betweenOf(const Series& series)
 {
-    return series.decoder().isNumeric() ? Between::Line : Between::Held;
+    const bool isState = !series.decoder().isNumeric() || series.parameter().enumId != 0;
+    return isState ? Between::Held : Between::Line;
 }
 
 /// A series as samples to read: times carry \p shift, gaps are found without it.

@@ -28,12 +28,31 @@ void MeasureModel::setCurves(std::vector<MeasuredCurve> curves, const TimeRange&
 
 std::optional<double> MeasureModel::timeOf(const QModelIndex& index) const
 {
-    const Statistics& found = mCurves[static_cast<std::size_t>(index.row())].statistics;
-    const int column = index.column();
-    const bool isMin = column == MinColumn || column == MinTimeColumn;
-    const bool isMax = column == MaxColumn || column == MaxTimeColumn;
-    const auto& moment = isMin ? found.min : found.max;
-    return (isMin || isMax) && moment ? std::optional(moment->time) : std::nullopt;
+    const MeasuredCurve& curve = mCurves[static_cast<std::size_t>(index.row())];
+    const auto timeOf = [](const std::optional<Statistics::Moment>& moment) {
+        return moment ? std::optional(moment->time) : std::nullopt;
+    };
+    const Statistics none;
+    const Statistics& reference = curve.compared ? curve.compared->reference : none;
+    const Statistics& difference = curve.compared ? curve.compared->difference : none;
+    switch (index.column()) {
+    case MinColumn:
+    case MinTimeColumn:
+        return timeOf(curve.statistics.min);
+    case MaxColumn:
+    case MaxTimeColumn:
+        return timeOf(curve.statistics.max);
+    case ReferenceMinColumn:
+        return timeOf(reference.min);
+    case ReferenceMaxColumn:
+        return timeOf(reference.max);
+    case MinDifferenceColumn:
+        return timeOf(difference.min);
+    case MaxDifferenceColumn:
+        return timeOf(difference.max);
+    default:
+        return {};
+    }
 }
 
 int MeasureModel::rowCount(const QModelIndex& parent) const
@@ -91,6 +110,37 @@ std::optional<double> MeasureModel::number(const MeasuredCurve& curve, int colum
         return static_cast<double>(found.gaps);
     case AboveColumn:
         return found.above.empty() ? std::nullopt : std::optional(found.above.back().seconds);
+    default:
+        return curve.compared ? comparedNumber(*curve.compared, column) : std::nullopt;
+    }
+}
+
+std::optional<double> MeasureModel::comparedNumber(const ComparedCurve& compared, int column)
+{
+    const auto valueOf = [](const std::optional<Statistics::Moment>& moment) {
+        return moment ? std::optional(moment->value) : std::nullopt;
+    };
+    switch (column) {
+    case MeanDifferenceColumn:
+        return compared.difference.timeMean;
+    case DifferenceAColumn:
+        return compared.differenceAtA;
+    case DifferenceBColumn:
+        return compared.differenceAtB;
+    case MinDifferenceColumn:
+        return valueOf(compared.difference.min);
+    case MaxDifferenceColumn:
+        return valueOf(compared.difference.max);
+    case ReferenceMeanColumn:
+        return compared.reference.timeMean;
+    case ReferenceAColumn:
+        return compared.referenceAtA;
+    case ReferenceBColumn:
+        return compared.referenceAtB;
+    case ReferenceMinColumn:
+        return valueOf(compared.reference.min);
+    case ReferenceMaxColumn:
+        return valueOf(compared.reference.max);
     default:
         return {};
     }
@@ -153,6 +203,10 @@ QString MeasureModel::toolTip(const MeasuredCurve& curve, int column) const
     case MaxColumn:
     case MinTimeColumn:
     case MaxTimeColumn:
+    case MinDifferenceColumn:
+    case MaxDifferenceColumn:
+    case ReferenceMinColumn:
+    case ReferenceMaxColumn:
         return found ? tr("Click to go there") : QString();
     default:
         return found ? numberWords(*found, AllDigits) : QString();
@@ -230,8 +284,18 @@ QVariant MeasureModel::headerData(int section, Qt::Orientation orientation, int 
         {tr("Integral"), tr("Area below the curve from A to B: of litres an hour the litres")},
         {tr("Samples"), tr("Samples from A to B")},
         {tr("Gaps"), tr("Stretches from A to B in which the parameter was not heard")},
-        {tr("Above thresholds"),
-         tr("For each threshold the seconds that the value was not below")}};
+        {tr("Above thresholds"), tr("For each threshold the seconds that the value was not below")},
+        {tr("\u0394 time mean"), tr("Flight minus reference: mean from A to B, each difference "
+                                    "weighed with the time that it holds")},
+        {tr("\u0394 A"), tr("Flight minus reference at A")},
+        {tr("\u0394 B"), tr("Flight minus reference at B")},
+        {tr("\u0394 min"), tr("Smallest difference of flight and reference from A to B")},
+        {tr("\u0394 max"), tr("Greatest difference of flight and reference from A to B")},
+        {tr("Ref. time mean"), tr("Time mean of the reference from A to B")},
+        {tr("Ref. A"), tr("Value of the reference at A")},
+        {tr("Ref. B"), tr("Value of the reference at B")},
+        {tr("Ref. min"), tr("Smallest value of the reference from A to B")},
+        {tr("Ref. max"), tr("Greatest value of the reference from A to B")}};
     const auto& [title, help] = titles[section];
     return role == Qt::DisplayRole ? title : help;
 }

@@ -1,10 +1,21 @@
 #pragma once
 
-#include "flight/Statistics.h"
+#include "flight/Comparison.h"
 
 #include <QtCore/QAbstractTableModel>
 
 namespace TARN {
+
+/// What is measured of the same curve of the reference flight, times on the flight's clock.
+struct ComparedCurve
+{
+    std::optional<double> referenceAtA;
+    std::optional<double> referenceAtB;
+    std::optional<double> differenceAtA;
+    std::optional<double> differenceAtB;
+    Statistics reference; ///< from A to B
+    Statistics difference;
+};
 
 /// What is measured of one curve.
 struct MeasuredCurve
@@ -15,7 +26,8 @@ struct MeasuredCurve
     std::optional<double> atB;
     QString wordsAtA; ///< of a state, instead of its number; a number between two states is none
     QString wordsAtB;
-    Statistics statistics; ///< from A to B
+    Statistics statistics;                 ///< from A to B
+    std::optional<ComparedCurve> compared; ///< where there is a reference
 };
 
 /// The table of the measuring panel: a row for each curve, its values at two moments A and B and
@@ -43,7 +55,17 @@ public:
         IntegralColumn,
         SamplesColumn,
         GapsColumn,
-        AboveColumn, ///< seconds not below each threshold
+        AboveColumn,          ///< seconds not below each threshold
+        MeanDifferenceColumn, ///< this and the following with a reference only; the time means'
+        DifferenceAColumn,
+        DifferenceBColumn,
+        MinDifferenceColumn,
+        MaxDifferenceColumn,
+        ReferenceMeanColumn, ///< time mean
+        ReferenceAColumn,
+        ReferenceBColumn,
+        ReferenceMinColumn,
+        ReferenceMaxColumn,
         ColumnCount
     };
 
@@ -62,6 +84,7 @@ public:
 
 private:
     std::optional<double> number(const MeasuredCurve& curve, int column) const;
+    static std::optional<double> comparedNumber(const ComparedCurve& compared, int column);
     QVariant rowHeader(const MeasuredCurve& curve, int role) const;
     QString text(const MeasuredCurve& curve, int column) const;
     QString toolTip(const MeasuredCurve& curve, int column) const;

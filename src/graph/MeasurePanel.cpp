@@ -31,13 +31,21 @@ QString wordsAt(const ParStruct& curve, double time)
     return isState ? curve.facts->wordsAt(time) : QString();
 }
 
+ComparedCurve comparedAt(const ComparisonIndex& index, const TimeRange& range)
+{
+    return {index.referenceAt(range.start),  index.referenceAt(range.stop),
+            index.differenceAt(range.start), index.differenceAt(range.stop),
+            index.reference(range),          index.difference(range)};
+}
+
 } // namespace
 
 MeasurePanel::MeasurePanel(Session& session, WidgetGraph& graph, QWidget* parent)
     : QWidget(parent), mSession(session), mGraph(graph), mModel(new MeasureModel(this)),
       mSorted(new QSortFilterProxyModel(this)), mTable(createTable()),
       mStart(createTime(MarkerEnd::A, tr("Time of A, recording clock"))),
-      mStop(createTime(MarkerEnd::B, tr("Time of B, recording clock"))), mSpan(new QLabel)
+      mStop(createTime(MarkerEnd::B, tr("Time of B, recording clock"))), mSpan(new QLabel),
+      mComparer(session)
 {
     constexpr int Delay = 100; // ms
     setObjectName("measuringPanel");
@@ -64,6 +72,9 @@ void MeasurePanel::followSession()
     connect(&mSession, &Session::offsetChanged, this, &MeasurePanel::reload);
     connect(&mSession, &Session::marksChanged, this, &MeasurePanel::measure);
     connect(&mSession.looks(), &Looks::changed, this, &MeasurePanel::measure);
+    connect(&mSession.reference(), &Reference::flightChanged, this,
+            [this] { showColumns(*mTable); });
+    connect(&mComparer, &Comparer::changed, this, &MeasurePanel::measure);
 }
 
 QWidget* MeasurePanel::createTimes()
@@ -137,24 +148,46 @@ QTableView* MeasurePanel::createTable()
             [table] { table->sortByColumn(MeasureModel::NameColumn, Qt::AscendingOrder); });
     table->addAction(unsorted);
     table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    createColumnMenu(*table);
+    return table;
+}
+
+/// What compares with a reference stands in front: it is what was asked for.
+void MeasurePanel::createColumnMenu(QTableView& table)
+{
     const int hidden = Property::instance()->getInt(HiddenKey, 0);
-    QHeaderView* header = table->horizontalHeader();
+    QHeaderView* header = table.horizontalHeader();
     for (int column = 1; column < MeasureModel::ColumnCount; ++column) {
-        table->setColumnHidden(column, (hidden >> column & 1) != 0);
+        if (column > MeasureModel::AboveColumn) {
+            header->moveSection(column, column - MeasureModel::AboveColumn);
+        }
         auto* action = new QAction(
             mModel->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), header);
         action->setCheckable(true);
-        action->setChecked(!table->isColumnHidden(column));
-        connect(action, &QAction::toggled, table, [table, column](bool isShown) {
-            table->setColumnHidden(column, !isShown);
+        action->setChecked((hidden >> column & 1) == 0);
+        connect(action, &QAction::toggled, this, [this, column](bool isShown) {
             const int before = Property::instance()->getInt(HiddenKey, 0);
             const int bit = 1 << column;
             Property::instance()->setInt(HiddenKey, isShown ? before & ~bit : before | bit);
+            showColumns(*mTable);
         });
         header->addAction(action);
     }
     header->setContextMenuPolicy(Qt::ActionsContextMenu);
-    return table;
+    showColumns(table);
+}
+
+/// Those that compare are there only while there is something to compare with.
+void MeasurePanel::showColumns(QTableView& table) const
+{
+    const int hidden = Property::instance()->getInt(HiddenKey, 0);
+    const bool isComparing = mSession.reference().flight() != nullptr;
+    const QList<QAction*> choices = table.horizontalHeader()->actions();
+    for (int column = 1; column < MeasureModel::ColumnCount; ++column) {
+        const bool isOfUse = column <= MeasureModel::AboveColumn || isComparing;
+        table.setColumnHidden(column, !isOfUse || (hidden >> column & 1) != 0);
+        choices[column - 1]->setVisible(isOfUse);
+    }
 }
 
 void MeasurePanel::showEvent(QShowEvent* event)
@@ -171,6 +204,7 @@ void MeasurePanel::reload()
     mJob.cancel();
     mIsStale = true;
     mIndexes.clear();
+    mComparer.compare({});
     measure();
     if (isVisible()) {
         mTimer.start();
@@ -191,6 +225,7 @@ void MeasurePanel::load()
         },
         [this](StatisticsIndexes made) {
             mIndexes = std::move(made);
+            mComparer.compare(mIndexes);
             mTable->resizeColumnsToContents();
             measure();
             fitColumns();
@@ -220,7 +255,10 @@ void MeasurePanel::measure()
         const ParStruct& curve = *mGraph.model().curves().curve(k);
         curves.push_back({&index.parameter(), curve.color.toColor(), index.valueAt(range.start),
                           index.valueAt(range.stop), wordsAt(curve, range.start),
-                          wordsAt(curve, range.stop), index.range(range)});
+                          wordsAt(curve, range.stop), index.range(range),
+                          k < mComparer.indexes().size()
+                              ? std::optional(comparedAt(*mComparer.indexes()[k], range))
+                              : std::nullopt});
     }
     mModel->setCurves(std::move(curves), range);
     mFit.start();
@@ -252,7 +290,8 @@ void MeasurePanel::copy() const
     const QItemSelectionModel* picked = mTable->selectionModel();
     for (int row = -1; row < mSorted->rowCount(); ++row) {
         QStringList cells;
-        for (int column = 0; column < MeasureModel::ColumnCount; ++column) {
+        for (int place = 0; place < MeasureModel::ColumnCount; ++place) {
+            const int column = mTable->horizontalHeader()->logicalIndex(place);
             if (column == MeasureModel::NameColumn || !mTable->isColumnHidden(column)) {
                 cells += row < 0 ? mSorted->headerData(column, Qt::Horizontal).toString()
                                  : mSorted->index(row, column).data().toString();

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "flight/Job.h"
-#include "flight/Session.h"
-#include "flight/Statistics.h"
+#include "flight/Comparer.h"
 #include "graph/MarkerEnds.h"
 
 #include <QtCore/QTimer>
@@ -39,6 +37,8 @@ private:
     void followSession();
     QWidget* createTimes();
     QTableView* createTable();
+    void createColumnMenu(QTableView& table);
+    void showColumns(QTableView& table) const;
     ClockEdit* createTime(MarkerEnd end, const QString& name);
     void reload();
     void load();
@@ -59,6 +59,7 @@ private:
     QTimer mFit;   ///< until an end that is dragged stands still
     Job<StatisticsIndexes> mJob;
     StatisticsIndexes mIndexes;
+    Comparer mComparer;
     bool mIsStale = true; ///< another selection, flight or offset
 };
 

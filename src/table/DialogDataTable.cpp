@@ -27,6 +27,12 @@ DialogDataTable::DialogDataTable(Session& session, QWidget* parent)
     connect(&mSession, &Session::timeChanged, this, &DialogDataTable::showTime);
     connect(&mSession.loading(), &Switch::turned, this, &DialogDataTable::updateEmptyText);
     connect(&mSession.allDigits(), &Switch::turned, this, &DialogDataTable::updateDigits);
+    const Reference& reference = mSession.reference();
+    connect(&mSession, &Session::profileChanged, this, &DialogDataTable::loadReference);
+    connect(&mSession, &Session::selectionChanged, this, &DialogDataTable::loadReference);
+    connect(&reference, &Reference::flightChanged, this, &DialogDataTable::loadReference);
+    connect(&reference, &Reference::shiftChanged, this, &DialogDataTable::showReference);
+    connect(&reference.columnsShown(), &Switch::turned, this, &DialogDataTable::showReference);
     mJob.setOutOfMemory([this] {
         mIsShort = true;
         updateEmptyText();
@@ -37,11 +43,16 @@ DialogDataTable::DialogDataTable(Session& session, QWidget* parent)
 /// The columns of the selection at once, their rows when they are found.
 void DialogDataTable::showColumns()
 {
-    constexpr int TimeColumnWidth = 80;
     mModel->setRows(std::make_shared<TableRows>(mSession.profile(), mSession.selection()));
+    fitColumns();
+    fill();
+}
+
+void DialogDataTable::fitColumns()
+{
+    constexpr int TimeColumnWidth = 80;
     mTable->fitColumns();
     mTable->setColumnWidth(0, TimeColumnWidth);
-    fill();
 }
 
 void DialogDataTable::fill()
@@ -61,6 +72,39 @@ void DialogDataTable::fill()
             },
             [this](std::shared_ptr<const TableRows> rows) { showRows(std::move(rows)); });
     });
+}
+
+void DialogDataTable::loadReference()
+{
+    const Reference& reference = mSession.reference();
+    mReferenceJob.cancel();
+    mReference.reset();
+    showReference();
+    if (reference.flight() == nullptr) {
+        return;
+    }
+    mReferenceJob.start(
+        [flight = reference.flight(), selection = mSession.selection(),
+         offset = reference.offset()](Progress& progress) {
+            return std::shared_ptr<const ReferenceColumns>(
+                std::make_shared<ReferenceColumns>(flight, selection, offset, progress));
+        },
+        [this](std::shared_ptr<const ReferenceColumns> made) {
+            mReference = std::move(made);
+            showReference();
+        });
+}
+
+/// Rows stay where they are; columns may come or go.
+void DialogDataTable::showReference()
+{
+    const int columns = mModel->columnCount();
+    const Reference& reference = mSession.reference();
+    mModel->setReference(mReference, reference.shift(), reference.columnsShown().isOn());
+    if (mModel->columnCount() != columns) {
+        fitColumns();
+    }
+    showTime(mSession.time(), nullptr);
 }
 
 void DialogDataTable::showRows(std::shared_ptr<const TableRows> rows)

@@ -2,6 +2,7 @@
 
 #include "flight/Job.h"
 #include "flight/Session.h"
+#include "table/ReferenceColumns.h"
 #include "table/TableRows.h"
 #include "widgets/SeenFirst.h"
 
@@ -30,7 +31,10 @@ private Q_SLOTS:
 
 private:
     void showColumns();
+    void fitColumns();
     void fill();
+    void loadReference();
+    void showReference();
     void showRows(std::shared_ptr<const TableRows> rows);
     void showTime(double time, const QObject* source);
     void updateDigits();
@@ -41,6 +45,8 @@ private:
     DataTableView* mTable;
     SeenFirst mSeenFirst{*this};
     Job<std::shared_ptr<const TableRows>> mJob;
+    Job<std::shared_ptr<const ReferenceColumns>> mReferenceJob;
+    std::shared_ptr<const ReferenceColumns> mReference; ///< null while it is being made
     bool mIsShort = false; ///< there was not enough memory for the rows
 };
 

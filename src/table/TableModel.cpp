@@ -32,6 +32,16 @@ void TableModel::setRows(std::shared_ptr<const TableRows> rows)
     endResetModel();
 }
 
+void TableModel::setReference(std::shared_ptr<const ReferenceColumns> columns, double shift,
+                              bool inColumns)
+{
+    beginResetModel();
+    mReference = std::move(columns);
+    mShift = shift;
+    mInColumns = inColumns;
+    endResetModel();
+}
+
 void TableModel::setAllDigits(bool on)
 {
     beginResetModel();
@@ -46,7 +56,7 @@ int TableModel::rowCount(const QModelIndex& parent) const
 
 int TableModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(mRows->columnCount()) + 1;
+    return parent.isValid() ? 0 : static_cast<int>(mRows->columnCount()) * columnsEach() + 1;
 }
 
 QVariant TableModel::data(const QModelIndex& index, int role) const
@@ -54,8 +64,10 @@ QVariant TableModel::data(const QModelIndex& index, int role) const
     if (!index.isValid()) {
         return {};
     }
-    return index.column() == 0 ? timeData(index.row(), role)
-                               : valueData(index.row(), index.column(), role);
+    const int column = index.column();
+    return column == 0             ? timeData(index.row(), role)
+           : isOfReference(column) ? referenceData(index.row(), placeOf(column), role)
+                                   : valueData(index.row(), placeOf(column), role);
 }
 
 QVariant TableModel::timeData(int row, int role) const
@@ -75,9 +87,28 @@ QVariant TableModel::timeData(int row, int role) const
     }
 }
 
-QVariant TableModel::valueData(int row, int column, int role) const
+QString TableModel::referenceText(int row, std::size_t place) const
 {
-    const auto place = static_cast<std::size_t>(column - 1);
+    constexpr double Tenth = 0.1; // s
+    return mReference->textAt(place, mRows->key(static_cast<std::size_t>(row)) * Tenth - mShift);
+}
+
+QVariant TableModel::referenceData(int row, std::size_t place, int role) const
+{
+    switch (role) {
+    case Qt::DisplayRole:
+        return referenceText(row, place);
+    case Qt::ForegroundRole:
+        return QColor(Qt::gray);
+    case Qt::TextAlignmentRole:
+        return int(Qt::AlignRight | Qt::AlignVCenter);
+    default:
+        return {};
+    }
+}
+
+QVariant TableModel::valueData(int row, std::size_t place, int role) const
+{
     const bool isShown = role == Qt::DisplayRole || role == Qt::BackgroundRole ||
                          role == Qt::ForegroundRole || role == Qt::ToolTipRole;
     const Decoder& decoder = mRows->decoder(place);
@@ -93,7 +124,13 @@ QVariant TableModel::valueData(int row, int column, int role) const
         return textOf(decoder, *entry, mAllDigits);
     }
     if (role == Qt::ToolTipRole) {
-        return decoder.isSingle() ? textOf(decoder, *entry, true) : QVariant();
+        QString tip = decoder.isSingle() ? textOf(decoder, *entry, true) : QString();
+        if (mReference != nullptr) {
+            const QString other = referenceText(row, place);
+            tip = (decoder.isSingle() ? tip : textOf(decoder, *entry, true)) + "\n" +
+                  tr("Reference: %1").arg(other.isEmpty() ? "---" : other);
+        }
+        return tip.isEmpty() ? QVariant() : tip;
     }
     const QColor color = decoder.cellColor(*entry);
     return role == Qt::BackgroundRole ? backgroundOf(color) : foregroundOn(color);
@@ -106,8 +143,11 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     if (!isTitle || section < 0 || section >= columnCount()) {
         return QAbstractTableModel::headerData(section, orientation, role);
     }
-    return section == 0 ? tr("Time")
-                        : mRows->parameter(static_cast<std::size_t>(section - 1)).title();
+    if (section == 0) {
+        return tr("Time");
+    }
+    const QString title = mRows->parameter(placeOf(section)).title();
+    return isOfReference(section) ? tr("ref. %1").arg(title) : title;
 }
 
 } // namespace TARN

@@ -56,7 +56,7 @@ private Q_SLOTS:
         EventModel model(EventKind::Limits, "Limits");
         QAbstractItemModelTester tester(&model,
                                         QAbstractItemModelTester::FailureReportingMode::QtTest);
-        QVERIFY(model.rowCount() == 0 && model.rowAt(3.0) == 0);
+        QVERIFY(model.rowCount() == 0 && model.rows().rowAt(3.0) == 0);
         model.setEvents(shown, &shown->events().limits);
         QStringList header;
         for (int column = 0; column < model.columnCount(); ++column) {
@@ -184,7 +184,7 @@ private Q_SLOTS:
                  QString("02.000|i|Information|04.000|2.0 s 02.000|w|Warning|03.000|"
                          "1.0 s 02.000|f|Fault|03.000|1.0 s "
                          "04.000|w|Warning|04.000|0.0 s"));
-        QVERIFY(faults.rowAt(3.0) == 2 && faults.rowAt(99.0) == 3);
+        QVERIFY(faults.rows().rowAt(3.0) == 2 && faults.rows().rowAt(99.0) == 3);
         QVERIFY(other.limits.times == 0 && other.watched.parameters == 0);
     }
 
@@ -199,7 +199,7 @@ private Q_SLOTS:
         const std::pair<double, int> times[] = {{-9, 0},   {0.5, 0},   {2.44, 0}, {2.45, 2},
                                                 {29.9, 2}, {29.96, 3}, {1e300, 3}};
         for (const auto& [time, row] : times) {
-            QCOMPARE(model.rowAt(time), row);
+            QCOMPARE(model.rows().rowAt(time), row);
         }
     }
 };

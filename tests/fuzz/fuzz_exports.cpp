@@ -108,7 +108,7 @@ void checkEvents(const ExportInput& input)
             if (row < static_cast<int>(events->size())) {
                 const double time = (*events)[static_cast<std::size_t>(row)].time;
                 require(info.startTime <= time && time <= info.stopTime);
-                require(model.rowAt(time) >= row);
+                require(model.rows().rowAt(time) >= row);
             }
         }
     }
@@ -158,7 +158,7 @@ void checkTable(const ExportInput& input)
         }
         require(!isEmpty);
         const double time = model.index(row, 0).data(Qt::UserRole).toDouble() * 0.001;
-        require(model.rowAt(time) == row);
+        require(model.rows().rowAt(time) == row);
     }
 }
 

@@ -40,7 +40,7 @@ private Q_SLOTS:
         Progress progress;
         for (const auto& [device, parameter] : flight->profile()->parameters()) {
             const StatisticsIndex index(flight, *parameter, 0.0, progress);
-            curves.push_back({parameter, Qt::red, {}, {}, {}, {}, index.range(range)});
+            curves.push_back({parameter, Qt::red, {}, {}, {}, {}, index.range(range), {}});
         }
         curves[0].atA = 1.0;
         curves[0].atB = 1.0 / 3.0;

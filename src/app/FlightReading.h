@@ -1,0 +1,29 @@
+#pragma once
+
+#include "flight/Flight.h"
+
+#include <list>
+
+namespace TARN {
+
+/// Recordings as they were read and understood.
+struct ReadFlight
+{
+    std::shared_ptr<const Record> record; ///< null: they can't be read
+    std::shared_ptr<const Flight> flight; ///< null with the recording, and when it was stopped
+    QString error;                        ///< why not; empty when it was stopped
+};
+
+/// Reads files as one recording. \p offset holds where their folder names none; \p task is the
+/// name of the work that follows reading.
+ReadFlight readFlight(const std::list<QString>& files, double offset,
+                      std::shared_ptr<const Profile> profile, const QString& task,
+                      Progress& progress);
+
+/// Samples that files promise by their sizes.
+double promisedSamples(const std::list<QString>& files);
+
+/// Whether so many samples fit the memory that the system can give; true where it does not say.
+bool fitMemory(double samples);
+
+} // namespace TARN

@@ -1,0 +1,55 @@
+#include "flight/Comparer.h"
+
+namespace TARN {
+
+Comparer::Comparer(Session& session, QObject* parent) : QObject(parent), mSession(session)
+{
+    connect(&session.reference(), &Reference::flightChanged, this, &Comparer::forget);
+    connect(&session.reference(), &Reference::shiftChanged, this, &Comparer::start);
+}
+
+void Comparer::compare(StatisticsIndexes flight)
+{
+    mFlight = std::move(flight);
+    forget();
+}
+
+void Comparer::forget()
+{
+    mReferences.clear();
+    start();
+}
+
+void Comparer::start()
+{
+    const Reference& reference = mSession.reference();
+    mJob.cancel();
+    mIndexes.clear();
+    Q_EMIT changed();
+    if (reference.flight() == nullptr || mFlight.empty()) {
+        return;
+    }
+    mJob.start(
+        [flight = mFlight, known = mReferences, other = reference.flight(),
+         offset = reference.offset(), shift = reference.shift()](Progress& progress) {
+            std::vector<const ProfileParameter*> parameters;
+            for (const auto& index : flight) {
+                parameters.push_back(&index->parameter());
+            }
+            Made made;
+            made.references =
+                known.empty() ? makeIndexes(other, parameters, offset, progress) : known;
+            for (std::size_t k = 0; k < flight.size() && !progress.stopRequested(); ++k) {
+                made.indexes.push_back(std::make_shared<ComparisonIndex>(
+                    flight[k], made.references[k], shift, progress));
+            }
+            return made;
+        },
+        [this](Made made) {
+            mReferences = std::move(made.references);
+            mIndexes = std::move(made.indexes);
+            Q_EMIT changed();
+        });
+}
+
+} // namespace TARN
