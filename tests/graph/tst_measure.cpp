@@ -44,8 +44,20 @@ private Q_SLOTS:
         }
         curves[0].atA = 1.0;
         curves[0].atB = 1.0 / 3.0;
+        ComparedCurve& compared = curves[0].compared.emplace();
+        compared.referenceAtB = 7.0;
+        compared.differenceAtB = -6.5;
+        compared.reference.max = {8.0, 11.0};
+        compared.difference.timeMean = -2.0;
+        compared.difference.min = {-9.0, 10.5};
         model.setCurves(curves, range);
-        QCOMPARE(rowOf(model, 0, Qt::DisplayRole),
+        QCOMPARE(rowOf(model, 0, Qt::DisplayRole).mid(16),
+                 QStringList({"-2", "---", "-6.5", "-9", "---", "---", "---", "7", "---", "8"}));
+        QCOMPARE(model.timeOf(model.index(0, MeasureModel::MinDifferenceColumn)),
+                 std::optional(10.5));
+        QCOMPARE(model.timeOf(model.index(0, MeasureModel::ReferenceMaxColumn)),
+                 std::optional(11.0));
+        QCOMPARE(rowOf(model, 0, Qt::DisplayRole).mid(0, 16),
                  QStringList({"Flow [l/h]", "1", "0.333333", "-0.666667", "-0.333333", "1",
                               "00:00:10.000", "60.5", "00:00:12.000", "21.5", "2", "27.5892",
                               "0.009375 l", "3", "0", "\u2265 3: 1.0 s  \u2265 60: 0.0 s"}));
