@@ -18,7 +18,7 @@ private:
     static constexpr const char* Profile =
         "<EnumList><Enum name='E'><Value val='0' text='OFF'/></Enum></EnumList>"
         "<Device name='D'><Parameter name='Number' id='500' dataType='FLOAT' startByte='4'/>"
-        "<Parameter name='State' id='501' dataType='BLONG' startByte='4' fieldCount='32'/>"
+        "<Parameter name='State' id='501' dataType='BLONG' startByte='4' endBit='31'/>"
         "</Device>";
 
     struct Pair
@@ -143,7 +143,7 @@ private Q_SLOTS:
     void values()
     {
         const Pair pair = pairOf("500@10=1 500@11=5", "500@10=1 500@12=3 500@12=9 500@40=9 "
-                                                      "501@10=02:00000003 501@12=02:00000007");
+                                                      "501@10=5:00000003 501@12=5:00000007");
         const ComparisonIndex index = comparison(pair, 0.0);
         const ComparisonIndex states = comparison(pair, 0.0, 1);
         const struct
