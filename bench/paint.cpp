@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -16,7 +17,8 @@ namespace TARN::Bench {
 namespace {
 
 constexpr unsigned Curves = 30;
-constexpr int Samples = 100'000;
+constexpr int FewSamples = 100'000;
+constexpr int ManySamples = 1'000'000;
 constexpr double Hour = 3600.0;
 constexpr std::size_t Columns = 850; // of the plot; the rest of the width is labels
 
@@ -24,21 +26,13 @@ constexpr std::size_t Columns = 850; // of the plot; the rest of the width is la
 class PaintedGraph : public WidgetGraph
 {
 public:
-    PaintedGraph()
+    explicit PaintedGraph(int samples = FewSamples)
     {
         resize(1000, 700);
         setMaxParameters(Curves);
-        std::vector<double> times;
-        std::vector<double> values;
-        for (int k = 0; k < Samples; ++k) {
-            times.push_back(k * Hour / Samples);
-            values.push_back(std::sin(k * 1e-3) + (k * 7919 % 1000) * 1e-3);
-        }
         for (unsigned i = 0; i < Curves; ++i) {
-            auto samples = std::make_shared<CurveSamples>();
-            samples->putSeries(times, values);
             setActive(i, true);
-            model().curves().setSeries(i, samples);
+            model().curves().setSeries(i, curveOf(samples, 0.0));
         }
         setGraphMode(GraphManual);
         setDisplayMode(DisplaySplit);
@@ -46,10 +40,32 @@ public:
         setXmax(static_cast<float>(Hour));
     }
 
-    double paintSeconds()
+    void addReference(int samples)
+    {
+        for (ParStruct& curve : model().curves().all()) {
+            curve.reference.samples = curveOf(samples, 0.3);
+        }
+    }
+
+    /// A step of the wheel until it is painted.
+    double zoomSeconds(bool withReference)
+    {
+        mStep = mStep == 0.05 ? 0.06 : 0.05;
+        model().layout().setReference(10.0, withReference);
+        model().window().set(mStep * Hour, (1.0 - mStep) * Hour);
+        const double seconds = paintSeconds([this] { model().windowChanged(); });
+        const ParStruct& curve = model().curves().all().front();
+        const auto columns = curve.reference.frames.frames().size();
+        require(withReference ? columns + 10 > curve.frames.frames().size() : columns == 0,
+                "the reference has too few columns");
+        return seconds;
+    }
+
+    double paintSeconds(const std::function<void()>& before = [] {})
     {
         makeCurrent();
-        const double seconds = secondsOf([this] {
+        const double seconds = secondsOf([&] {
+            before();
             paintGL();
             glFinish();
         });
@@ -78,6 +94,22 @@ public:
     }
 
 private:
+    static std::shared_ptr<const CurveSamples> curveOf(int count, double phase)
+    {
+        std::vector<double> times;
+        std::vector<double> values;
+        for (int k = 0; k < count; ++k) {
+            times.push_back(k * Hour / count);
+            values.push_back(std::sin(k * 100.0 / count + phase) +
+                             static_cast<double>(k * 7919LL % 1000) * 1e-3);
+        }
+        auto samples = std::make_shared<CurveSamples>();
+        samples->putSeries(times, values);
+        return samples;
+    }
+
+    double mStep = 0.05; ///< of the hour that the next zoom leaves out at its ends
+
     std::vector<float> bareVertices()
     {
         std::vector<float> vertices;
@@ -97,14 +129,36 @@ private:
     }
 };
 
-double paintRatio()
+void expose(PaintedGraph& graph)
 {
-    constexpr int Rounds = 15;
-    PaintedGraph graph;
     graph.show();
     QEventLoop exposed;
     QTimer::singleShot(1000, &exposed, &QEventLoop::quit);
     exposed.exec();
+}
+
+double compareRatio(int samples)
+{
+    constexpr int Rounds = 15;
+    PaintedGraph graph(samples);
+    graph.addReference(samples);
+    expose(graph);
+    std::vector<double> ratios;
+    for (int i = 0; i < Rounds; ++i) {
+        graph.zoomSeconds(true);
+        const double both = graph.zoomSeconds(true);
+        graph.zoomSeconds(false);
+        ratios.push_back(both / graph.zoomSeconds(false));
+    }
+    std::ranges::sort(ratios);
+    return ratios[Rounds / 2];
+}
+
+double paintRatio()
+{
+    constexpr int Rounds = 15;
+    PaintedGraph graph;
+    expose(graph);
     std::vector<double> ratios;
     for (int i = 0; i < Rounds; ++i) {
         graph.paintSeconds();
@@ -121,6 +175,9 @@ double paintRatio()
 void paintFigures(Suite& suite)
 {
     suite.figure("graph.paint", 1.5, paintRatio);
+    // Zooming with a reference, against without; sixty curves against thirty.
+    suite.figure("graph.compare", 2.0,
+                 [&] { return compareRatio(suite.options().quick ? FewSamples : ManySamples); });
 }
 
 } // namespace TARN::Bench

@@ -4,6 +4,7 @@
 #include "app/Bundle.h"
 #include "app/CardOpener.h"
 #include "app/CardOverview.h"
+#include "app/CloseQuestion.h"
 #include "app/DialogData.h"
 #include "app/DialogStatusBar.h"
 #include "app/DropHandler.h"
@@ -25,8 +26,6 @@
 #include <QtGui/QCloseEvent>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QMessageBox>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QVBoxLayout>
 
@@ -55,17 +54,6 @@ void storeSetting(const char* key, const QString& value)
 {
     Property::instance()->setString(key, value.toStdString());
     Property::instance()->writeXmlFile();
-}
-
-std::list<QString> filesOf(const Flight* flight)
-{
-    std::list<QString> paths;
-    if (flight != nullptr) {
-        for (const FileIntegrity& file : flight->record()->integrity().files) {
-            paths.push_back(file.info.fileName);
-        }
-    }
-    return paths;
 }
 
 } // namespace
@@ -383,20 +371,13 @@ bool DialogMain::mayClose()
     if (!mExports->isRunning()) {
         return true;
     }
-    QMessageBox box(QMessageBox::Question, tr("ORNA Warning"),
-                    tr("An export is running.\nWait until it is complete, or stop it? A stopped "
-                       "export leaves the old file."),
-                    QMessageBox::NoButton, this);
-    const QAbstractButton* wait = box.addButton(tr("Wait"), QMessageBox::AcceptRole);
-    const QAbstractButton* stop = box.addButton(tr("Stop"), QMessageBox::DestructiveRole);
-    box.addButton(tr("Cancel"), QMessageBox::RejectRole);
-    box.exec();
-    if (box.clickedButton() == stop) {
+    const OnClose choice = askOnClose(*this);
+    if (choice == OnClose::Stop) {
         mExports->stop();
         return true;
     }
-    mClosesLater = box.clickedButton() == wait && mExports->isRunning();
-    return box.clickedButton() == wait && !mExports->isRunning();
+    mClosesLater = choice == OnClose::Wait && mExports->isRunning();
+    return choice == OnClose::Wait && !mExports->isRunning();
 }
 
 void DialogMain::closeEvent(QCloseEvent* event)

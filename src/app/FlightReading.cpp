@@ -21,6 +21,17 @@ ReadFlight readFlight(const std::list<QString>& files, double offset,
     return {record, Flight::make(record, std::move(profile), progress), {}};
 }
 
+std::list<QString> filesOf(const Flight* flight)
+{
+    std::list<QString> paths;
+    if (flight != nullptr) {
+        for (const FileIntegrity& file : flight->record()->integrity().files) {
+            paths.push_back(file.info.fileName);
+        }
+    }
+    return paths;
+}
+
 double promisedSamples(const std::list<QString>& files)
 {
     double samples = 0.0;

@@ -20,6 +20,9 @@ ReadFlight readFlight(const std::list<QString>& files, double offset,
                       std::shared_ptr<const Profile> profile, const QString& task,
                       Progress& progress);
 
+/// The files that a flight was read from; none of no flight.
+std::list<QString> filesOf(const Flight* flight);
+
 /// Samples that files promise by their sizes.
 double promisedSamples(const std::list<QString>& files);
 

@@ -30,7 +30,7 @@ CompanionDrawing::CompanionDrawing(const GraphModel& model, const GraphStyle& st
     : mModel(model), mStyle(style), mCanvas(canvas), mTexts(texts), mView(model.layout().view())
 {}
 
-/// A faint line below the dashes: no spike falls between two of them.
+/// A faint line between the dashes: no spike is lost there.
 void CompanionDrawing::drawReference(const ParStruct& curve, const GraphColor& color)
 {
     constexpr float DotSize = 2.0F;
@@ -43,8 +43,7 @@ void CompanionDrawing::drawReference(const ParStruct& curve, const GraphColor& c
     for (const GraphLine::Strip& strip : mLine.strips()) {
         const float* points = mLine.points().data() + std::ptrdiff_t(strip.first) * 2;
         if (strip.count > 1) {
-            mCanvas.strip(points, strip.count, faint);
-            mCanvas.dashed(points, strip.count, color);
+            mCanvas.dashed(points, strip.count, color, faint);
         } else {
             mCanvas.dots(points, 1, color, DotSize); // a line needs two
         }

@@ -3,6 +3,7 @@
 #include <QtGui/QOpenGLContext>
 #include <QtGui/QOpenGLFunctions>
 
+#include <algorithm>
 #include <cmath>
 
 namespace TARN {
@@ -10,6 +11,7 @@ namespace TARN {
 void GlCanvas::begin(QSize size, double ratio, const GraphColor& background)
 {
     mRatio = ratio;
+    mWidth = static_cast<float>(size.width());
     // Text is painted in the same context, with shaders and buffers of its own.
     QOpenGLFunctions* functions = QOpenGLContext::currentContext()->functions();
     functions->glUseProgram(0);
@@ -74,13 +76,38 @@ void GlCanvas::strip(const float* points, int count, const GraphColor& color)
     draw(GL_LINE_STRIP, points, count, color);
 }
 
-void GlCanvas::dashed(const float* points, int count, const GraphColor& color)
+/// One pass for both colours: a segment has that of its end, and none is longer than a dash.
+void GlCanvas::dashed(const float* points, int count, const GraphColor& color,
+                      const GraphColor& between)
 {
-    constexpr GLushort Dashes = 0x0F0F;
-    glEnable(GL_LINE_STIPPLE);
-    glLineStipple(static_cast<GLint>(std::lround(mRatio)), Dashes);
-    draw(GL_LINE_STRIP, points, count, color);
-    glDisable(GL_LINE_STIPPLE);
+    constexpr float Dash = 4.0F; // pixels
+    mPoints.clear();
+    mColors.clear();
+    const auto add = [&](float x, float y, float left) {
+        const bool isOn = (static_cast<int>(left / Dash) & 1) == 0;
+        const GraphColor& now = isOn ? color : between;
+        mPoints.insert(mPoints.end(), {x, y});
+        mColors.insert(mColors.end(), {now.red, now.green, now.blue});
+    };
+    for (int k = 0; k < count; ++k) {
+        const float x = points[2 * k];
+        const float y = points[2 * k + 1];
+        float from = k > 0 ? points[2 * k - 2] : x;
+        const float slope = x > from ? (y - points[2 * k - 1]) / (x - from) : 0.0F;
+        const float end = std::min(x, mWidth); // neighbours may lie far outside
+        for (float edge = (std::floor(std::max(from, 0.0F) / Dash) + 1.0F) * Dash; edge < end;
+             edge += Dash) {
+            add(edge, y - (x - edge) * slope, from);
+            from = edge;
+        }
+        add(x, y, from);
+    }
+    glShadeModel(GL_FLAT);
+    glEnableClientState(GL_COLOR_ARRAY);
+    glColorPointer(3, GL_FLOAT, 0, mColors.data());
+    glVertexPointer(2, GL_FLOAT, 0, mPoints.data());
+    glDrawArrays(GL_LINE_STRIP, 0, static_cast<GLsizei>(mPoints.size() / 2));
+    glDisableClientState(GL_COLOR_ARRAY);
 }
 
 void GlCanvas::lines(const std::vector<float>& points, const GraphColor& color)

@@ -19,7 +19,8 @@ public:
     void fill(double left, double bottom, double right, double top, const GraphColor& color,
               float alpha = 1.0F) override;
     void strip(const float* points, int count, const GraphColor& color) override;
-    void dashed(const float* points, int count, const GraphColor& color) override;
+    void dashed(const float* points, int count, const GraphColor& color,
+                const GraphColor& between) override;
     void lines(const std::vector<float>& points, const GraphColor& color) override;
     void dotted(const std::vector<float>& points, const GraphColor& color) override;
     void dots(const float* points, int count, const GraphColor& color, float size) override;
@@ -30,6 +31,9 @@ private:
               float alpha = 1.0F) const;
 
     double mRatio = 1.0;
+    float mWidth = 0.0F;        ///< pixels
+    std::vector<float> mPoints; ///< of what is dashed; kept to spare allocations
+    std::vector<float> mColors;
 };
 
 } // namespace TARN

@@ -24,8 +24,9 @@ public:
 
     // One pixel wide.
     virtual void strip(const float* points, int count, const GraphColor& color) = 0;
-    /// The same in dashes.
-    virtual void dashed(const float* points, int count, const GraphColor& color) = 0;
+    /// The same in dashes, with another colour between them.
+    virtual void dashed(const float* points, int count, const GraphColor& color,
+                        const GraphColor& between) = 0;
     virtual void lines(const std::vector<float>& points, const GraphColor& color) = 0;
     /// Level and upright lines of which every other pixel is drawn.
     virtual void dotted(const std::vector<float>& points, const GraphColor& color) = 0;

@@ -35,8 +35,10 @@ void PainterCanvas::strip(const float* points, int count, const GraphColor& colo
     polyline(points, count);
 }
 
-void PainterCanvas::dashed(const float* points, int count, const GraphColor& color)
+void PainterCanvas::dashed(const float* points, int count, const GraphColor& color,
+                           const GraphColor& between)
 {
+    strip(points, count, between);
     QPen pen(color.toColor(), 1.0);
     pen.setDashPattern({4.0, 4.0});
     mPainter.setPen(pen);

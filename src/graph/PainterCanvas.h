@@ -22,7 +22,8 @@ public:
     void fill(double left, double bottom, double right, double top, const GraphColor& color,
               float alpha = 1.0F) override;
     void strip(const float* points, int count, const GraphColor& color) override;
-    void dashed(const float* points, int count, const GraphColor& color) override;
+    void dashed(const float* points, int count, const GraphColor& color,
+                const GraphColor& between) override;
     void lines(const std::vector<float>& points, const GraphColor& color) override;
     void dotted(const std::vector<float>& points, const GraphColor& color) override;
     void dots(const float* points, int count, const GraphColor& color, float size) override;

@@ -115,8 +115,10 @@ void SvgCanvas::strip(const float* points, int count, const GraphColor& color)
     polyline(points, count, color, "");
 }
 
-void SvgCanvas::dashed(const float* points, int count, const GraphColor& color)
+void SvgCanvas::dashed(const float* points, int count, const GraphColor& color,
+                       const GraphColor& between)
 {
+    strip(points, count, between);
     polyline(points, count, color, " stroke-dasharray=\"4\"");
 }
 

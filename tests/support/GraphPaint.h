@@ -57,7 +57,8 @@ private:
     {
         add(Strip, {points, points + 2 * count}, color);
     }
-    void dashed(const float* points, int count, const TARN::GraphColor& color) override
+    void dashed(const float* points, int count, const TARN::GraphColor& color,
+                const TARN::GraphColor&) override
     {
         add(Dashed, {points, points + 2 * count}, color);
     }
