@@ -1,10 +1,12 @@
 #include "graph/GraphPalette.h"
 #include "graph/LiveFeed.h"
+#include "graph/PainterCanvas.h"
 #include "support/FlightTest.h"
 #include "support/GraphPaint.h"
 #include "support/PlainCurve.h"
 
 #include <QtGui/QGuiApplication>
+#include <QtGui/QPainter>
 #include <QtTest/QSignalSpy>
 
 using namespace TARN;
@@ -160,6 +162,34 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(ValueAxis::ofPlot({40.0, 300.0, 0.0, 9.0}).labels.front().y, 40.0);
+        QCOMPARE(ValueAxis::ofStrip({0.0, 20.0, 1.5, 3.0}, LineHeight).labels[0].text, "1.5 … 3.0");
+    }
+
+    /// Heights count from below; what is clipped is not there.
+    void painterCanvas()
+    {
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        PainterCanvas canvas(painter, 8.0);
+        const GraphColor white = GraphColor::of(Qt::white);
+        const float middle[] = {4.0F, 4.0F};
+        canvas.lines({0.0F, 7.5F, 8.0F, 7.5F, 0.5F, 0.0F, 0.5F, 8.0F}, white);
+        canvas.dotted({2.0F, 5.5F, 8.0F, 5.5F}, white);
+        canvas.dots(middle, 1, white, 2.0F);
+        canvas.clip(2.0, 0.0, 3.0, 2.0);
+        canvas.fill(0.0, 1.0, 8.0, 8.0, white, 1.0F);
+        canvas.clipNone();
+        canvas.fill(6.0, 0.0, 8.0, 1.0, white, 1.0F);
+        painter.end();
+        QString rows;
+        for (int y = 0; y < 8; ++y) {
+            for (int x = 0; x < 8; ++x) {
+                rows += qGray(image.pixel(x, y)) > 128 ? '#' : '.';
+            }
+            rows += ' ';
+        }
+        QCOMPARE(rows, "######## #....... #.#.#.#. #..##... #..##... #....... #.###... #.....## ");
     }
 
     void colorsAreToldApart()

@@ -175,6 +175,16 @@ private Q_SLOTS:
         QCOMPARE(captionOf(*model.hints().notes.flight(), {1.0, 2.5}),
                  "REC_8000.CAN  |  00:00:01.000 to 00:00:02.500 on the recording's clock  |  "
                  "profile.xml");
+        Progress none;
+        const Episode hot = model.hints().notes.flight()->troubles(0.5, none).faults.at(0);
+        QVERIFY(hot.start == 2.5 && hot.end == 6.5);
+        model.setDisplayMode(DisplaySingle);
+        GraphPaint(model, {600.0, 400.0});
+        model.hints().pointed = 1;
+        for (const auto& [above, pointed] : {std::pair(13.0, 1U), {11.0, 0U}}) {
+            pointAt(model, 3.5, model.curves().curve(0)->strip.toPixel(35.0) + above);
+            QCOMPARE(model.hints().pointed, std::optional(pointed)); // the last where none is near
+        }
     }
 
     void legendHidesAndMovesCurves()

@@ -233,6 +233,15 @@ private Q_SLOTS:
         QTest::newRow("the other side")
             << "LOG_0001 0-9@100 LOG_0002 9-20@109 LOG_8001 3-19@103 LOG_8002 500-501@600"
             << "0001 0002 8001|8002";
+        QTest::newRow("the other side lasts longer") << "LOG_0001 0-9@100 LOG_8001 8-60@150"
+                                                     << "0001 8001";
+        QStringList many; // of which none is before another but by name
+        QStringList apart;
+        for (int i = 1001; i <= 1020; ++i) {
+            many += QString("LOG_%1 0-0").arg(i);
+            apart += QString::number(i);
+        }
+        QTest::newRow("many empty") << many.join(' ') << apart.join('|');
         QTest::newRow("empty") << "LOG_0001 0-0 LOG_0002 0-0"
                                << "0001|0002";
     }
