@@ -297,6 +297,15 @@ private Q_SLOTS:
                                  "of an error matrix, so none", "no parameter was watched"}) {
             QVERIFY2(read("b.html").contains(said), said);
         }
+        QByteArray many; // as one chart takes
+        for (int i = 0; i < 14; ++i) {
+            many += "<Parameter id='500' dataType='FLOAT' startByte='4' name='P" +
+                    QByteArray::number(i) + "'/>";
+        }
+        write("many.xml",
+              "<CanAerospaceProfile><Device name='D'>" + many + "</Device></CanAerospaceProfile>");
+        QVERIFY(run("report --profile T/many.xml -o T/b.html R").status == 0);
+        QCOMPARE(read("b.html").count("<polyline"), 14);
         QVERIFY(run("report --profile P -o T/e.doc R").error.find(".html or .pdf") !=
                 std::string::npos);
     }
@@ -304,12 +313,16 @@ private Q_SLOTS:
     /// On each page what is painted is kept within the margins, title and number stand below.
     void pages()
     {
-        for (const auto& [paper, body] : {std::pair("", "650 650 m\n9267 650 l\n9267 13083"),
-                                          {"--letter", "650 650 m\n9550 650 l\n9550 12250"}}) {
+        const std::tuple<const char*, const char*, const char*> papers[] = {
+            {"", "650 650 m\n9267 650 l\n9267 13083", "\n206.500000 "},
+            {"--letter", "650 650 m\n9550 650 l\n9550 12250", "\n213.500000 "}};
+        for (const auto& [paper, body, column] : papers) {
             QVERIFY(run(QString("report --profile P %1 -o T/d.pdf R").arg(paper)).status == 0);
             QVERIFY(read("d.pdf").startsWith("%PDF"));
             const QByteArrayList pages = pagesOf(read("d.pdf"));
             QCOMPARE(pages.size(), 3);
+            QVERIFY2(pages[0].contains(column) && read("d.pdf").contains("-Bold"), pages[0]);
+            QCOMPARE(pages[0].count("\nBT\n"), 103); // texts
             for (const QByteArray& page : pages) {
                 const qsizetype title = page.lastIndexOf(" Tm\n");
                 const qsizetype number = page.lastIndexOf(" Tm\n", title - 1);

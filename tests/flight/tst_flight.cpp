@@ -321,12 +321,14 @@ private Q_SLOTS:
         const auto lookInto = [&](const std::list<QString>& files) {
             OverviewFinder finder(cache);
             std::vector<std::optional<Overview>> answers;
+            const std::vector<std::list<QString>> asked = {files, {path("none.CAN")}};
             connect(&finder, &OverviewFinder::found, this,
-                    [&](const auto&, const std::optional<Overview>& found) {
+                    [&](const auto& of, const std::optional<Overview>& found) {
+                        [&] { QCOMPARE(of, asked.at(answers.size())); }();
                         answers.push_back(found);
                     });
             finder.pause(true);
-            finder.look({files, {path("none.CAN")}}, profile);
+            finder.look(asked, profile);
             finder.pause(false);
             [&] { QTRY_COMPARE(answers.size(), 2U); }();
             return !answers[1] ? answers[0] : std::nullopt; // there is no such file

@@ -1,3 +1,4 @@
+#include "graph/GraphData.h"
 #include "graph/GraphPalette.h"
 #include "graph/LiveFeed.h"
 #include "graph/PainterCanvas.h"
@@ -7,6 +8,7 @@
 
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
+#include <QtGui/QPalette>
 #include <QtTest/QSignalSpy>
 
 using namespace TARN;
@@ -194,6 +196,11 @@ private Q_SLOTS:
 
     void colorsAreToldApart()
     {
+        for (const auto ground : {Qt::black, Qt::white}) {
+            QGuiApplication::setPalette(QPalette(ground));
+            QCOMPARE(isLight(GraphTheme::Desktop), ground == Qt::white);
+            QVERIFY(isLight(GraphTheme::Light) && !isLight(GraphTheme::Dark));
+        }
         constexpr unsigned Given = 6; // that were not ours to choose
         const auto grey = [](int part) { return GraphColor::of(QColor(part, part, part)); };
         for (unsigned i = 0; i < CurveSet::MaxCurves; ++i) {
@@ -405,6 +412,8 @@ private Q_SLOTS:
         model.setGraphMode(GraphAutomatic);
         model.feed.setTime(60.0);
         QCOMPARE(model.layout().frames(1).size(), 4U);
+        model.feed.setTime(1000.0);
+        QCOMPARE(model.layout().frames(1).size(), 1U);
         QCOMPARE(diagnostics(), "");
     }
 
@@ -443,6 +452,11 @@ private Q_SLOTS:
                                             std::fabs(found.top() - box.top()) == nearest);
             }
         }
+        const TextLayout even(8.0, 14.0);
+        const QStringList cut = {
+            even.elided("abcdef", 7.9), even.elided("abcdef", 8.0), even.elided("abcdef", 39.9),
+            even.elided("abcdef", 40.0, Qt::ElideRight), even.elided("abcdef", 48.0)};
+        QCOMPARE(cut, QStringList({"", "…", "ab…f", "abcd…", "abcdef"}));
     }
 
     void drawsWhatIsThere()
@@ -520,6 +534,17 @@ private Q_SLOTS:
                      (std::vector{float(view.xToViewport(50)), 40.0F, 590.0F, 390.0F}));
         }
         QCOMPARE(model.curves().at(5.0), model.curves().curve(1)); // below all: the first
+        const QImage picture = GraphPicture{style, {}, {600, 400}, {}}.toImage(model, 1.0);
+        QCOMPARE(picture.pixelColor(585, 15).blue(), 0); // the plot, marked in yellow
+        QCOMPARE(picture.pixelColor(585, 375), style.labelBack.toColor());
+        const GraphStrip& strip = model.curves().curve(1)->strip;
+        const double highest = strip.max;
+        model.layout().zoomY(strip.y0 + 1.0, 0.5);
+        model.layout().prepare(widthOf, LineHeight);
+        QVERIFY(strip.max < highest);
+        model.layout().resetZoomY();
+        model.layout().prepare(widthOf, LineHeight);
+        QCOMPARE(strip.max, highest);
         for (const unsigned i : {1U, 2U, 4U}) {
             QVERIFY(model.curves().hasSamples());
             model.curves().curve(i)->active = false;

@@ -29,7 +29,7 @@ const QByteArray Elements =
 
 const QString Samples = "500@0=10 500@1=10 500@2=25 500@3=35 500@4=25 500@5=10 500@6=10 500@10=10 "
                         "501@0=5:00000000 501@1=5:00000000 501@2=5:00000001 501@3=5:00000001 "
-                        "501@4=5:00000001 501@5=5:00000000 501@6=5:00000000 501@10=5:00000000 "
+                        "501@4=5:00000001 501@5=5:00000000 501@6=5:00000000 501@10=5:00000001 "
                         "502@3=5:00000001 900@0=5:00000000 900@2=5:00000001 900@4=5:00000003 "
                         "900@6=5:00000000 900@10=5:00000000";
 
@@ -217,9 +217,11 @@ private Q_SLOTS:
         QVERIFY(looks.byName["P2"].color == Qt::blue && looks.byName["P2"].range->second == 2.0);
 
         GraphModel other; // where P2 comes first, and P1 is not
-        other.curves().curve(0)->active = other.curves().curve(1)->active = true;
-        other.curves().curve(0)->name = "P0";
-        other.curves().curve(1)->name = "P2";
+        looks.byName["P3"].hidden = true;
+        for (const auto& [k, name] : {std::pair(0U, "P0"), {1U, "P2"}, {2U, "P3"}}) {
+            other.curves().curve(k)->active = true;
+            other.curves().curve(k)->name = name;
+        }
         applyLooks(other.curves(), looks, colors);
         QCOMPARE(other.curves().shown(), std::vector<unsigned>({1, 0}));
         QVERIFY(other.curves().curve(1)->color == GraphColor::of(Qt::blue));
