@@ -314,8 +314,8 @@ private Q_SLOTS:
     void pages()
     {
         const std::tuple<const char*, const char*, const char*> papers[] = {
-            {"", "650 650 m\n9267 650 l\n9267 13083", "\n206.500000 "},
-            {"--letter", "650 650 m\n9550 650 l\n9550 12250", "\n213.500000 "}};
+            {"", "650 650 m\n9267 650 l\n9267 13083", "\n206.5"},
+            {"--letter", "650 650 m\n9550 650 l\n9550 12250", "\n213.5"}};
         for (const auto& [paper, body, column] : papers) {
             QVERIFY(run(QString("report --profile P %1 -o T/d.pdf R").arg(paper)).status == 0);
             QVERIFY(read("d.pdf").startsWith("%PDF"));
