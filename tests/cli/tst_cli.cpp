@@ -77,6 +77,20 @@ class TestCli : public FlightTest
                    : "failed: " + QByteArray::fromStdString(done.error);
     }
 
+    /// How the pages of a document are painted.
+    static QByteArrayList pagesOf(const QByteArray& pdf)
+    {
+        QByteArrayList pages;
+        for (qsizetype at = 0; (at = pdf.indexOf("\nstream\nx", at) + 8) >= 8;) {
+            const qsizetype size = pdf.indexOf("endstream", at) - at;
+            const QByteArray painted = qUncompress(QByteArray(4, '\0') + pdf.mid(at, size));
+            if (painted.contains(" Tf ")) {
+                pages += painted;
+            }
+        }
+        return pages;
+    }
+
 private Q_SLOTS:
     void initTestCase() { std::setlocale(LC_NUMERIC, "C"); } // as the program does
 
@@ -283,10 +297,42 @@ private Q_SLOTS:
                                  "of an error matrix, so none", "no parameter was watched"}) {
             QVERIFY2(read("b.html").contains(said), said);
         }
-        QVERIFY(run("report --profile P -o T/d.pdf R").status == 0);
-        QVERIFY(read("d.pdf").startsWith("%PDF"));
+        QByteArray many; // as one chart takes
+        for (int i = 0; i < 14; ++i) {
+            many += "<Parameter id='500' dataType='FLOAT' startByte='4' name='P" +
+                    QByteArray::number(i) + "'/>";
+        }
+        write("many.xml",
+              "<CanAerospaceProfile><Device name='D'>" + many + "</Device></CanAerospaceProfile>");
+        QVERIFY(run("report --profile T/many.xml -o T/b.html R").status == 0);
+        QCOMPARE(read("b.html").count("<polyline"), 14);
         QVERIFY(run("report --profile P -o T/e.doc R").error.find(".html or .pdf") !=
                 std::string::npos);
+    }
+
+    /// On each page what is painted is kept within the margins, title and number stand below.
+    void pages()
+    {
+        const std::tuple<const char*, const char*, const char*> papers[] = {
+            {"", "650 650 m\n9267 650 l\n9267 13083", "\n206.5"},
+            {"--letter", "650 650 m\n9550 650 l\n9550 12250", "\n213.5"}};
+        for (const auto& [paper, body, column] : papers) {
+            QVERIFY(run(QString("report --profile P %1 -o T/d.pdf R").arg(paper)).status == 0);
+            QVERIFY(read("d.pdf").startsWith("%PDF"));
+            const QByteArrayList pages = pagesOf(read("d.pdf"));
+            QCOMPARE(pages.size(), 3);
+            QVERIFY2(pages[0].contains(column) && read("d.pdf").contains("-Bold"), pages[0]);
+            QCOMPARE(pages[0].count("\nBT\n"), 103); // texts
+            for (const QByteArray& page : pages) {
+                const qsizetype title = page.lastIndexOf(" Tm\n");
+                const qsizetype number = page.lastIndexOf(" Tm\n", title - 1);
+                const auto left = page.mid(title + 4, 40).split(' ');
+                const auto right = page.mid(number + 4, 40).split(' ');
+                QVERIFY2(page.contains(body), page.left(500));
+                QVERIFY(left[0].toDouble() == 52.0 && right[0].toDouble() > 600.0);
+                QCOMPARE(left[1], right[1]);
+            }
+        }
     }
 
     void selections_data()

@@ -122,6 +122,9 @@ private Q_SLOTS:
             QVERIFY(result.message.contains(parameters.isEmpty() ? "No parameter" : "No sample"));
             QCOMPARE(read("out.csv"), parameters.isEmpty() ? "Time\n" : "Time;Oil;Rpm;Lamp;Höhe\n");
         }
+        const ExportResult row =
+            run(ExportCsv(options({0.5, 1.0})), inputOf(flightOf("500@1=1", Parameters)));
+        QVERIFY(row.done && row.message.isEmpty() && read("out.csv").count('\n') == 2);
     }
 
     /// Rows count from the first sample, whatever the clock says.

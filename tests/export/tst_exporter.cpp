@@ -3,6 +3,7 @@
 #include "export/ExportCsv.h"
 #include "export/ExportKml.h"
 #include "export/ExportTest.h"
+#include "report/ReportOptions.h"
 #include "support/ResourceLimit.h"
 
 #include <QtCore/QDir>
@@ -181,10 +182,12 @@ private Q_SLOTS:
             "KmlLineAlpha 255 16|KmlPolygonOn true false|KmlPolygonColor 0000ff 040506|"
             "KmlPolygonAlpha 100 17|KmlPlaceMarkOn true false|KmlPlaceMarkIntervall 10 25|"
             "KmlPlaceMarkColor ffcc00 070809|KmlErrorMarkOn true false|KmlShowLimit true false|"
-            "KmlShowWarning true false|KmlErrorMarkColor ff0000 0a0b0c"};
+            "KmlShowWarning true false|KmlErrorMarkColor ff0000 0a0b0c",
+            "ReportPaper 0 1 2|ReportPdf false true|ReportOpens true false"};
         for (const QString& settings : rows) {
-            const auto load = settings.startsWith("Csv") ? loadedAndStored<CsvExportOptions>
-                                                         : loadedAndStored<KmlExportOptions>;
+            const auto load = settings.startsWith("Csv")   ? loadedAndStored<CsvExportOptions>
+                              : settings.startsWith("Kml") ? loadedAndStored<KmlExportOptions>
+                                                           : loadedAndStored<ReportOptions>;
             for (const auto& [from, to] : {std::pair(9, 1), {2, 2}, {3, 1}}) { // given, then stored
                 Property given;
                 for (const QString& setting : settings.split('|')) {

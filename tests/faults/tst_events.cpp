@@ -305,9 +305,11 @@ private Q_SLOTS:
                                   std::back_inserter(expected));
             }
             std::ranges::stable_sort(expected, {}, &Episode::start);
-            Progress progress;
+            int told = 0;
+            Progress progress([&](int percent, const QString&) { told = percent; });
             const auto found = flight->episodes(offset, progress);
             QCOMPARE(numbersOf(found), numbersOf(expected));
+            QVERIFY(told > 90 && told <= 100);
         }
     }
 

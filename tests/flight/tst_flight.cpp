@@ -303,8 +303,11 @@ private Q_SLOTS:
         const auto kept = watch.episodes();
         const std::weak_ptr<const Profile> profile = session.profile();
         QTRY_COMPARE(pendingWork(), 0);
-        session.setProfile(profileOf("<Device/>"), {}, nullptr);
-        QVERIFY(watch.episodes() == nullptr && changed.count() == 5);
+        session.setOffset(5.0);
+        session.setProfile(profileOf("<Device/>"), {}, nullptr); // before the answer
+        QTRY_COMPARE(pendingWork(), 0);
+        QCoreApplication::processEvents();
+        QVERIFY(watch.episodes() == nullptr && changed.count() == 6);
         QVERIFY(kept->at(0).start == 6.0 && !profile.expired()); // what they refer to
     }
 
@@ -318,12 +321,14 @@ private Q_SLOTS:
         const auto lookInto = [&](const std::list<QString>& files) {
             OverviewFinder finder(cache);
             std::vector<std::optional<Overview>> answers;
+            const std::vector<std::list<QString>> asked = {files, {path("none.CAN")}};
             connect(&finder, &OverviewFinder::found, this,
-                    [&](const auto&, const std::optional<Overview>& found) {
+                    [&](const auto& of, const std::optional<Overview>& found) {
+                        [&] { QCOMPARE(of, asked.at(answers.size())); }();
                         answers.push_back(found);
                     });
             finder.pause(true);
-            finder.look({files, {path("none.CAN")}}, profile);
+            finder.look(asked, profile);
             finder.pause(false);
             [&] { QTRY_COMPARE(answers.size(), 2U); }();
             return !answers[1] ? answers[0] : std::nullopt; // there is no such file

@@ -1,10 +1,14 @@
+#include "graph/GraphData.h"
 #include "graph/GraphPalette.h"
 #include "graph/LiveFeed.h"
+#include "graph/PainterCanvas.h"
 #include "support/FlightTest.h"
 #include "support/GraphPaint.h"
 #include "support/PlainCurve.h"
 
 #include <QtGui/QGuiApplication>
+#include <QtGui/QPainter>
+#include <QtGui/QPalette>
 #include <QtTest/QSignalSpy>
 
 using namespace TARN;
@@ -160,10 +164,43 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(ValueAxis::ofPlot({40.0, 300.0, 0.0, 9.0}).labels.front().y, 40.0);
+        QCOMPARE(ValueAxis::ofStrip({0.0, 20.0, 1.5, 3.0}, LineHeight).labels[0].text, "1.5 … 3.0");
+    }
+
+    /// Heights count from below; what is clipped is not there.
+    void painterCanvas()
+    {
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(Qt::black);
+        QPainter painter(&image);
+        PainterCanvas canvas(painter, 8.0);
+        const GraphColor white = GraphColor::of(Qt::white);
+        const float middle[] = {4.0F, 4.0F};
+        canvas.lines({0.0F, 7.5F, 8.0F, 7.5F, 0.5F, 0.0F, 0.5F, 8.0F}, white);
+        canvas.dotted({2.0F, 5.5F, 8.0F, 5.5F}, white);
+        canvas.dots(middle, 1, white, 2.0F);
+        canvas.clip(2.0, 0.0, 3.0, 2.0);
+        canvas.fill(0.0, 1.0, 8.0, 8.0, white, 1.0F);
+        canvas.clipNone();
+        canvas.fill(6.0, 0.0, 8.0, 1.0, white, 1.0F);
+        painter.end();
+        QString rows;
+        for (int y = 0; y < 8; ++y) {
+            for (int x = 0; x < 8; ++x) {
+                rows += qGray(image.pixel(x, y)) > 128 ? '#' : '.';
+            }
+            rows += ' ';
+        }
+        QCOMPARE(rows, "######## #....... #.#.#.#. #..##... #..##... #....... #.###... #.....## ");
     }
 
     void colorsAreToldApart()
     {
+        for (const auto ground : {Qt::black, Qt::white}) {
+            QGuiApplication::setPalette(QPalette(ground));
+            QCOMPARE(isLight(GraphTheme::Desktop), ground == Qt::white);
+            QVERIFY(isLight(GraphTheme::Light) && !isLight(GraphTheme::Dark));
+        }
         constexpr unsigned Given = 6; // that were not ours to choose
         const auto grey = [](int part) { return GraphColor::of(QColor(part, part, part)); };
         for (unsigned i = 0; i < CurveSet::MaxCurves; ++i) {
@@ -375,6 +412,8 @@ private Q_SLOTS:
         model.setGraphMode(GraphAutomatic);
         model.feed.setTime(60.0);
         QCOMPARE(model.layout().frames(1).size(), 4U);
+        model.feed.setTime(1000.0);
+        QCOMPARE(model.layout().frames(1).size(), 1U);
         QCOMPARE(diagnostics(), "");
     }
 
@@ -413,6 +452,11 @@ private Q_SLOTS:
                                             std::fabs(found.top() - box.top()) == nearest);
             }
         }
+        const TextLayout even(8.0, 14.0);
+        const QStringList cut = {
+            even.elided("abcdef", 7.9), even.elided("abcdef", 8.0), even.elided("abcdef", 39.9),
+            even.elided("abcdef", 40.0, Qt::ElideRight), even.elided("abcdef", 48.0)};
+        QCOMPARE(cut, QStringList({"", "…", "ab…f", "abcd…", "abcdef"}));
     }
 
     void drawsWhatIsThere()
@@ -490,6 +534,17 @@ private Q_SLOTS:
                      (std::vector{float(view.xToViewport(50)), 40.0F, 590.0F, 390.0F}));
         }
         QCOMPARE(model.curves().at(5.0), model.curves().curve(1)); // below all: the first
+        const QImage picture = GraphPicture{style, {}, {600, 400}, {}}.toImage(model, 1.0);
+        QCOMPARE(picture.pixelColor(585, 15).blue(), 0); // the plot, marked in yellow
+        QCOMPARE(picture.pixelColor(585, 375), style.labelBack.toColor());
+        const GraphStrip& strip = model.curves().curve(1)->strip;
+        const double highest = strip.max;
+        model.layout().zoomY(strip.y0 + 1.0, 0.5);
+        model.layout().prepare(widthOf, LineHeight);
+        QVERIFY(strip.max < highest);
+        model.layout().resetZoomY();
+        model.layout().prepare(widthOf, LineHeight);
+        QCOMPARE(strip.max, highest);
         for (const unsigned i : {1U, 2U, 4U}) {
             QVERIFY(model.curves().hasSamples());
             model.curves().curve(i)->active = false;

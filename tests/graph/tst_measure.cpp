@@ -4,6 +4,7 @@
 #include "support/FlightTest.h"
 
 #include <QtTest/QAbstractItemModelTester>
+#include <QtTest/QSignalSpy>
 
 using namespace TARN;
 
@@ -69,6 +70,11 @@ private Q_SLOTS:
         QCOMPARE(model.timeOf(model.index(0, MeasureModel::MinColumn)), std::optional(10.0));
         QVERIFY(!model.timeOf(model.index(0, MeasureModel::MeanColumn)));
         QVERIFY(!model.timeOf(model.index(1, MeasureModel::MaxColumn)));
+        QSignalSpy told(&model, &MeasureModel::headerDataChanged);
+        model.setCurves(curves, range);
+        QCOMPARE(told.value(0).value(2), QVariant(1));
+        QCOMPARE(model.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), "A");
+        QCOMPARE(model.headerData(1, Qt::Horizontal, Qt::ToolTipRole).toString(), "Value at A");
         model.setCurves({}, range);
         QCOMPARE(model.rowCount(), 0);
     }

@@ -29,7 +29,7 @@ const QByteArray Elements =
 
 const QString Samples = "500@0=10 500@1=10 500@2=25 500@3=35 500@4=25 500@5=10 500@6=10 500@10=10 "
                         "501@0=5:00000000 501@1=5:00000000 501@2=5:00000001 501@3=5:00000001 "
-                        "501@4=5:00000001 501@5=5:00000000 501@6=5:00000000 501@10=5:00000000 "
+                        "501@4=5:00000001 501@5=5:00000000 501@6=5:00000000 501@30=5:00000001 "
                         "502@3=5:00000001 900@0=5:00000000 900@2=5:00000001 900@4=5:00000003 "
                         "900@6=5:00000000 900@10=5:00000000";
 
@@ -175,6 +175,16 @@ private Q_SLOTS:
         QCOMPARE(captionOf(*model.hints().notes.flight(), {1.0, 2.5}),
                  "REC_8000.CAN  |  00:00:01.000 to 00:00:02.500 on the recording's clock  |  "
                  "profile.xml");
+        Progress none;
+        const Episode hot = model.hints().notes.flight()->troubles(0.5, none).faults.at(0);
+        QVERIFY(hot.start == 2.5 && hot.end == 6.5);
+        model.setDisplayMode(DisplaySingle);
+        GraphPaint(model, {600.0, 400.0});
+        model.hints().pointed = 1;
+        for (const auto& [above, pointed] : {std::pair(13.0, 1U), {11.0, 0U}}) {
+            pointAt(model, 3.5, model.curves().curve(0)->strip.toPixel(35.0) + above);
+            QCOMPARE(model.hints().pointed, std::optional(pointed)); // the last where none is near
+        }
     }
 
     void legendHidesAndMovesCurves()
@@ -207,9 +217,11 @@ private Q_SLOTS:
         QVERIFY(looks.byName["P2"].color == Qt::blue && looks.byName["P2"].range->second == 2.0);
 
         GraphModel other; // where P2 comes first, and P1 is not
-        other.curves().curve(0)->active = other.curves().curve(1)->active = true;
-        other.curves().curve(0)->name = "P0";
-        other.curves().curve(1)->name = "P2";
+        looks.byName["P3"].hidden = true;
+        for (const auto& [k, name] : {std::pair(0U, "P0"), {1U, "P2"}, {2U, "P3"}}) {
+            other.curves().curve(k)->active = true;
+            other.curves().curve(k)->name = name;
+        }
         applyLooks(other.curves(), looks, colors);
         QCOMPARE(other.curves().shown(), std::vector<unsigned>({1, 0}));
         QVERIFY(other.curves().curve(1)->color == GraphColor::of(Qt::blue));

@@ -233,6 +233,16 @@ private Q_SLOTS:
         QTest::newRow("the other side")
             << "LOG_0001 0-9@100 LOG_0002 9-20@109 LOG_8001 3-19@103 LOG_8002 500-501@600"
             << "0001 0002 8001|8002";
+        QTest::newRow("the other side lasts longer") << "LOG_0001 0-9@100 LOG_8001 8-60@150"
+                                                     << "0001 8001";
+        QString many; // of which only their names tell the order
+        QString apart;
+        for (int i = 1001; i <= 1018; ++i) {
+            many += QString("LOG_%1 0-0 ").arg(i);
+            apart += QString("%1|").arg(i);
+        }
+        QTest::newRow("many at once")
+            << many + "LOG_1019 0-0.5 LOG_1020 0-9" << apart + "1019 1020";
         QTest::newRow("empty") << "LOG_0001 0-0 LOG_0002 0-0"
                                << "0001|0002";
     }
