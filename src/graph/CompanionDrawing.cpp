@@ -80,21 +80,27 @@ void CompanionDrawing::drawDifference(const ParStruct& curve, const GraphColor& 
     mCanvas.lines(mLine.fillings(), color);
     mCanvas.clipNone();
     if (!isOfAll) {
-        addDifferenceLegend(curve, color);
+        addLegend(differenceText(curve), place, color);
     }
 }
 
-void CompanionDrawing::addDifferenceLegend(const ParStruct& curve, const GraphColor& color)
+void CompanionDrawing::drawTitle(const GraphStrip& place)
+{
+    addLegend(CompanionTexts::tr("\u0394 flight minus reference"), place, mStyle.fore);
+}
+
+void CompanionDrawing::addLegend(const QString& text, const GraphStrip& place,
+                                 const GraphColor& color)
 {
     constexpr double Gap = 5.0;
-    const GraphStrip& place = curve.differenceStrip;
     const double line = mTexts.sizeOf("0").height();
     const double top = mModel.layout().size().height() - place.y0 - place.height +
                        std::max(0.0, std::min(Gap, (place.height - line) / 2.0));
-    const QRectF plot(mView.x0, mModel.layout().size().height() - mView.y0 - mView.height,
-                      mView.width, mView.height);
-    mTexts.addNear(differenceText(curve), {mView.x0 + Gap, top}, legibleOn(mStyle.back, color),
-                   plot);
+    const double bottom = std::min(mView.y0, place.y0);
+    const double height = mView.y0 + mView.height - bottom;
+    const QRectF plot(mView.x0, mModel.layout().size().height() - bottom - height, mView.width,
+                      height);
+    mTexts.addNear(text, {mView.x0 + Gap, top}, legibleOn(mStyle.back, color), plot);
 }
 
 QString CompanionDrawing::differenceText(const ParStruct& curve) const

@@ -19,13 +19,15 @@ public:
 
     void drawReference(const ParStruct& curve, const GraphColor& color);
     void drawDifference(const ParStruct& curve, const GraphColor& color);
+    /// Of the strip that all differences share in single mode.
+    void drawTitle(const GraphStrip& place);
 
     /// What the legend says of the reference at the cursor; empty where the curve has none.
     QString referenceText(const ParStruct& curve) const;
 
 private:
     QString differenceText(const ParStruct& curve) const;
-    void addDifferenceLegend(const ParStruct& curve, const GraphColor& color);
+    void addLegend(const QString& text, const GraphStrip& place, const GraphColor& color);
 
     const GraphModel& mModel;
     const GraphStyle& mStyle;

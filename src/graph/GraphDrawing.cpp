@@ -98,6 +98,7 @@ void GraphDrawing::drawDifferences()
         if (!split && isFirst) {
             mCanvas.fill(mView.x0, mView.base, mView.x0 + mView.width,
                          mView.base + curve.differenceStrip.height, mStyle.back);
+            mCompanions.drawTitle(curve.differenceStrip);
         }
         if (std::exchange(isFirst, false) || split) { // in single mode they share the axis
             drawTicksY(mModel.layout().differenceAxis(k), curve.differenceStrip,

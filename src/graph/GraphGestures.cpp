@@ -54,6 +54,12 @@ void GraphGestures::press(QKeyEvent& event)
 {
     constexpr double FastPixels = 10.0;
     const double pixels = event.modifiers().testFlag(Qt::ShiftModifier) ? FastPixels : 1.0;
+    const bool isSideways = event.key() == Qt::Key_Left || event.key() == Qt::Key_Right;
+    if (isSideways && event.modifiers().testFlag(Qt::AltModifier) && mModel.hints().hasReference) {
+        const double step = event.key() == Qt::Key_Left ? -pixels : pixels;
+        Q_EMIT nudged(step * mModel.layout().view().pixelTime());
+        return;
+    }
     switch (event.key()) {
     case Qt::Key_Left:
         moveCursorX(-pixels);
