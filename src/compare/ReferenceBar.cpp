@@ -257,9 +257,20 @@ QString ReferenceBar::missing() const
            (names.size() > Most ? tr(" and %1 more").arg(names.size() - Most) : QString());
 }
 
-QString ReferenceBar::note() const
+bool ReferenceBar::haveCommonTime() const
 {
     const Reference& reference = mSession.reference();
+    if (mSession.flight() == nullptr || mAligner.isRunning()) {
+        return true; // nobody knows
+    }
+    const TimeRange common =
+        commonRange(mSession.flight()->range(mSession.offset()),
+                    reference.flight()->range(reference.offset()), reference.shift());
+    return common.stop >= common.start;
+}
+
+QString ReferenceBar::note() const
+{
     if (mPicked) {
         return tr("Moment of the flight: %1. Go to where the reference's curve shows the same "
                   "moment, then press Align Here.")
@@ -268,16 +279,9 @@ QString ReferenceBar::note() const
     if (!mAligner.isPossible()) {
         return tr("One of the flights does not pass this value: the shift is the one before.");
     }
-    if (mSession.flight() != nullptr && !mAligner.isRunning()) {
-        const TimeRange common =
-            commonRange(mSession.flight()->range(mSession.offset()),
-                        reference.flight()->range(reference.offset()), reference.shift());
-        if (common.stop < common.start) {
-            return tr("The flights have no time in common: align them by their start, or shift "
-                      "the reference.");
-        }
-    }
-    return missing();
+    const QString apart = tr("The flights have no time in common: align them by their start, or "
+                             "shift the reference.");
+    return ((haveCommonTime() ? QString() : apart + " ") + missing()).trimmed();
 }
 
 void ReferenceBar::updateNote()

@@ -36,6 +36,7 @@ private:
     void updateNote();
     QString note() const;
     QString missing() const;
+    bool haveCommonTime() const;
     void chooseMode(int mode);
     void choosePassing();
     void pickMoment();

@@ -124,7 +124,7 @@ void WindowTest::clickCheckBox(const QString& name)
     QTest::mouseClick(parameters()->viewport(), Qt::LeftButton, {}, box.center());
 }
 
-bool WindowTest::drop(const QStringList& paths)
+bool WindowTest::drop(const QStringList& paths, Qt::KeyboardModifiers held)
 {
     QMimeData data;
     QList<QUrl> urls;
@@ -136,7 +136,7 @@ bool WindowTest::drop(const QStringList& paths)
     enter.ignore();
     QApplication::sendEvent(mWindow.get(), &enter);
     if (enter.isAccepted()) {
-        QDropEvent fall({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QDropEvent fall({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, held);
         QApplication::sendEvent(mWindow.get(), &fall);
     }
     return enter.isAccepted();

@@ -90,7 +90,7 @@ public:
         settle();
     }
     /// Drags paths onto the window and lets them fall where it would take them.
-    bool drop(const QStringList& paths);
+    bool drop(const QStringList& paths, Qt::KeyboardModifiers held = {});
     /// Chooses another profile in the preferences.
     void useProfile(const QString& file);
 
