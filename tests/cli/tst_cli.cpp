@@ -217,6 +217,45 @@ private Q_SLOTS:
         QCOMPARE(part.at(0)["invalid"].dump() + part.at(0)["mean"].dump(), "1null");
     }
 
+    void compare()
+    {
+        const auto differenceOf = [](const json& line) {
+            const json& found = line["difference"];
+            return line["shift"].dump() + " " + found["samples"].dump() + " " +
+                   found["min"].dump() + " " + found["max"].dump() + " " +
+                   found["timeMean"].dump() + " " + found["integral"].dump();
+        };
+        const auto self = linesOf(run("compare --profile P --parameter ECU/Oil R --with R").out);
+        QCOMPARE(self.size(), 1U);
+        QCOMPARE(self[0]["flight"].dump(), self[0]["reference"].dump());
+        QCOMPARE(self[0]["flight"].dump(),
+                 linesOf(run("stats --profile P --parameter ECU/Oil R").out)[0].dump());
+        QCOMPARE(differenceOf(self[0]), std::string("0.0 3 0.0 0.0 0.0 0.0"));
+        writeRecording("500@2001=1.5 500@2003=5.5", "W.CAN");
+        const struct
+        {
+            QString arguments;
+            std::string expected;
+            std::string said; ///< where it fails
+        } rows[] = {
+            {"--align start R --with T/W.CAN", "-2000.5 2 1.25 4.5 1.25 3.59375", ""},
+            {"--align 1:2001 --start 1.5 R --with T/W.CAN", "-2000.0 2 5.0 9.25 5.0 5.34375", ""},
+            {"R --with T/W.CAN", "", "the flights have no time in common: "},
+            {"--align soon R --with T/W.CAN", "", "\"soon\" is neither \"start\" nor"},
+            {"--align 1:x R --with T/W.CAN", "", "\"1:x\" is neither"},
+            {"--align 1:inf R --with T/W.CAN", "", "is neither"},
+            {"R", "", "--with is required"},
+            {"R --with T/none.CAN", "", "none.CAN"}};
+        for (const auto& [arguments, expected, said] : rows) {
+            const auto done = run("compare --profile P --parameter ECU/Oil " + arguments);
+            QCOMPARE(done.status == 0, said.empty());
+            QVERIFY2(done.error.find(said) != std::string::npos, done.error.c_str());
+            if (said.empty()) {
+                QCOMPARE(differenceOf(linesOf(done.out)[0]), expected);
+            }
+        }
+    }
+
     void graph()
     {
         QCOMPARE(run("graph --profile P --parameter ECU/Oil --width 300 --height 200 --scale 2 "
