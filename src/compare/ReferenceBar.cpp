@@ -4,6 +4,7 @@
 #include "flight/Comparison.h"
 #include "widgets/ElidedLabel.h"
 
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QHBoxLayout>
@@ -46,6 +47,7 @@ ReferenceBar::ReferenceBar(Session& session, QWidget* parent)
     mNote->setObjectName("note");
     mNote->setWordWrap(true);
     followSession();
+    showAlignment();
     showFlights();
 }
 
@@ -85,6 +87,7 @@ QComboBox* ReferenceBar::createModes()
     modes->setToolTip(tr("What is laid on what: times of day, the first samples, a moment picked "
                          "in both, or when a parameter first passes a value"));
     modes->setAccessibleName(tr("Alignment"));
+    modes->view()->setAccessibleName(modes->accessibleName());
     connect(modes, &QComboBox::activated, this, &ReferenceBar::chooseMode);
     return modes;
 }
@@ -111,7 +114,10 @@ QWidget* ReferenceBar::createControls()
     mParameter->setObjectName("passingParameter");
     mParameter->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     mParameter->setMinimumContentsLength(12);
-    mParameter->setAccessibleName(tr("Parameter that passes the value"));
+    for (QWidget* widget :
+         {static_cast<QWidget*>(mParameter), static_cast<QWidget*>(mParameter->view())}) {
+        widget->setAccessibleName(tr("Parameter that passes the value"));
+    }
     mValue->setObjectName("passingValue");
     mValue->setAccessibleName(tr("Value that is passed"));
     mShift->setObjectName("shift");
