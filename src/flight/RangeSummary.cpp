@@ -45,20 +45,6 @@ RangeSummary summaryOfOne(double time, double value, const SummaryRule& rule)
     return one;
 }
 
-/// Whether every sample has a value and no step can be a gap.
-bool isPlain(std::span<const double> times, std::span<const double> values, const GapRule& gaps)
-{
-    const double shortest = gaps.shortest();
-    bool isPlain = true;
-    for (std::size_t k = 0; k < times.size(); ++k) {
-        isPlain &= values[k] == values[k];
-    }
-    for (std::size_t k = 1; k < times.size(); ++k) {
-        isPlain &= times[k] - times[k - 1] <= shortest;
-    }
-    return isPlain;
-}
-
 void addExtremes(std::span<const double> times, std::span<const double> values, RangeSummary& all)
 {
     std::array<double, Lanes> sum{};
@@ -71,8 +57,9 @@ void addExtremes(std::span<const double> times, std::span<const double> values, 
         low[lane] = values[k] < low[lane] ? values[k] : low[lane];
         high[lane] = values[k] > high[lane] ? values[k] : high[lane];
     });
-    const auto place = [&](double value) {
-        return static_cast<std::size_t>(std::ranges::find(values, value) - values.begin());
+    const auto place = [&](double value) { // the first value where NaN has taken part
+        const auto found = std::ranges::find(values, value) - values.begin();
+        return static_cast<std::size_t>(found) % values.size();
     };
     const std::size_t lowest = place(std::ranges::min(low));
     const std::size_t highest = place(std::ranges::max(high));
@@ -187,9 +174,10 @@ void RangeSummary::append(const RangeSummary& next, const SummaryRule& rule)
 }
 
 std::optional<RangeSummary> plainSummaryOf(std::span<const double> times,
-                                           std::span<const double> values, const SummaryRule& rule)
+                                           std::span<const double> values, double longestStep,
+                                           const SummaryRule& rule)
 {
-    if (times.empty() || !isPlain(times, values, rule.gaps)) {
+    if (times.empty() || !(longestStep <= rule.gaps.shortest())) {
         return std::nullopt;
     }
     RangeSummary all;
@@ -199,6 +187,11 @@ std::optional<RangeSummary> plainSummaryOf(std::span<const double> times,
     all.backTime = times.back();
     all.backValue = all.last = values.back();
     addExtremes(times, values, all);
+    // Of no number nothing but no number can come.
+    if (std::isnan(all.mean) &&
+        std::ranges::any_of(values, [](double value) { return std::isnan(value); })) {
+        return std::nullopt;
+    }
     addSteps(times, values, rule, all);
     return all;
 }
@@ -206,7 +199,7 @@ std::optional<RangeSummary> plainSummaryOf(std::span<const double> times,
 RangeSummary summaryOf(std::span<const double> times, std::span<const double> values,
                        const SummaryRule& rule)
 {
-    if (auto plain = plainSummaryOf(times, values, rule)) {
+    if (auto plain = plainSummaryOf(times, values, stepsOf(times).longest, rule)) {
         return *plain;
     }
     RangeSummary all;

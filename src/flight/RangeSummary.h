@@ -57,9 +57,11 @@ struct RangeSummary
 
 /// The summary of samples in the order of time, equally many times and values, where each has a
 /// value and none of their steps can be a gap by \p rule nor by any with a longer limit; nothing
-/// else. Takes a small part of the time that summaryOf takes otherwise.
+/// else. \p longestStep of the times. Takes a small part of the time that summaryOf takes
+/// otherwise.
 std::optional<RangeSummary> plainSummaryOf(std::span<const double> times,
-                                           std::span<const double> values, const SummaryRule& rule);
+                                           std::span<const double> values, double longestStep,
+                                           const SummaryRule& rule);
 
 /// The summary of any samples in the order of time; equally many times and values.
 RangeSummary summaryOf(std::span<const double> times, std::span<const double> values,

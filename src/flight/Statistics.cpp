@@ -64,14 +64,15 @@ bool StatisticsIndex::build(double offset, Progress& progress)
             return true;
         }
         decode(block * Block, std::min((block + 1) * Block, mSeries.size()), samples);
-        rhythm.add(samples.allTimes());
+        const StepRange steps = stepsOf(samples.allTimes());
+        rhythm.add(samples.allTimes(), steps);
         if (rhythm.falls()) {
             return false;
         }
         if (block == blocks) {
             break; // the samples after the last whole block
         }
-        auto plain = plainSummaryOf(samples.allTimes(), samples.allValues(), mRule);
+        auto plain = plainSummaryOf(samples.allTimes(), samples.allValues(), steps.longest, mRule);
         if (plain) {
             mTree.set(block, std::move(*plain));
         } else {

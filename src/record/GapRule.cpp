@@ -1,6 +1,7 @@
 #include "record/GapRule.h"
 
 #include <algorithm>
+#include <array>
 
 namespace TARN {
 
@@ -35,7 +36,41 @@ GapRule::GapRule(std::vector<double> positiveSteps, const SilencesSource& silenc
     }
 }
 
-void QuickRhythm::add(std::span<const double> times)
+StepRange stepsOf(std::span<const double> times)
+{
+    // Side by side: one comparison alone would wait for the one before.
+    constexpr std::size_t Lanes = 4;
+    if (times.size() < 2) {
+        return {};
+    }
+    std::array<double, Lanes> low;
+    std::array<double, Lanes> high;
+    low.fill(times[1] - times[0]);
+    high = low;
+    std::size_t k = 1;
+    for (; k + Lanes <= times.size(); k += Lanes) {
+        for (std::size_t lane = 0; lane < Lanes; ++lane) {
+            const double step = times[k + lane] - times[k + lane - 1];
+            low[lane] = step < low[lane] ? step : low[lane];
+            high[lane] = step > high[lane] ? step : high[lane];
+        }
+    }
+    for (; k < times.size(); ++k) {
+        const double step = times[k] - times[k - 1];
+        low[0] = std::min(low[0], step);
+        high[0] = std::max(high[0], step);
+    }
+    return {std::ranges::min(low), std::ranges::max(high)};
+}
+
+/// Whether all of them are steps that count for a rhythm.
+bool QuickRhythm::isEven(const StepRange& steps) const
+{
+    return steps.shortest > 0.0 && steps.shortest >= mBound &&
+           steps.longest <= Unsteadiness * mBound && StepsOfLimit * steps.longest <= ShortestLimit;
+}
+
+void QuickRhythm::add(std::span<const double> times, const StepRange& steps)
 {
     if (times.empty()) {
         return;
@@ -45,7 +80,19 @@ void QuickRhythm::add(std::span<const double> times)
         const double span = times.back() - times.front();
         mBound = span / static_cast<double>(times.size()) / 2.0;
     }
-    // Counted in local variables and without branches, several steps at a time.
+    const double ahead[] = {mBefore, times.front()};
+    count(ahead);
+    if (isEven(steps)) {
+        mSteps += times.size() - 1;
+    } else {
+        count(times);
+    }
+    mBefore = times.back();
+}
+
+/// Without branches, several steps at a time.
+void QuickRhythm::count(std::span<const double> times)
+{
     const double bound = mBound;
     const double far = Unsteadiness * bound;
     std::size_t steps = 0;
@@ -53,24 +100,20 @@ void QuickRhythm::add(std::span<const double> times)
     std::size_t beyond = 0;
     std::size_t slow = 0;
     std::size_t falling = 0;
-    const auto count = [&](double step) {
+    for (std::size_t k = 1; k < times.size(); ++k) {
+        const double step = times[k] - times[k - 1];
         const std::size_t isStep = step > 0.0 ? 1 : 0;
         steps += isStep;
         below += isStep & (step < bound ? 1U : 0U);
         beyond += step > far ? 1 : 0;
         slow += StepsOfLimit * step > ShortestLimit ? 1 : 0;
         falling += step < 0.0 ? 1 : 0;
-    };
-    count(times.front() - mBefore);
-    for (std::size_t k = 1; k < times.size(); ++k) {
-        count(times[k] - times[k - 1]);
     }
     mSteps += steps;
     mBelow += below;
     mBeyond += beyond;
     mSlow += slow;
     mFalls |= falling > 0;
-    mBefore = times.back();
 }
 
 bool QuickRhythm::isProven() const

@@ -56,13 +56,22 @@ private:
     std::shared_ptr<const Silences> mSilences; ///< of a parameter without rhythm
 };
 
+/// The shortest and the longest step from one time to the next; both 0 where there is none.
+struct StepRange
+{
+    double shortest = 0.0;
+    double longest = 0.0;
+};
+StepRange stepsOf(std::span<const double> times);
+
 /// Proves by counting that a series has a rhythm and the shortest limit, as nearly every long one
 /// does. That spares finding the median, which takes longer than decoding the series.
 class QuickRhythm
 {
 public:
-    /// Takes the next times of the series, seconds with the offset.
-    void add(std::span<const double> times);
+    /// Takes the next times of the series, seconds with the offset; \p steps are theirs.
+    void add(std::span<const double> times, const StepRange& steps);
+    void add(std::span<const double> times) { add(times, stepsOf(times)); }
 
     /// Whether the times taken prove it; else nothing is known. Times that fall prove nothing.
     bool isProven() const;
@@ -74,6 +83,9 @@ public:
     static GapRule rule();
 
 private:
+    bool isEven(const StepRange& steps) const;
+    void count(std::span<const double> times);
+
     double mBound = 0.0; ///< that the median is not below; 0 before there are times
     double mBefore = std::numeric_limits<double>::quiet_NaN(); ///< no step from there
     std::size_t mSteps = 0;                                    ///< that are positive
