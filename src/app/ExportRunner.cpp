@@ -47,7 +47,11 @@ void ExportRunner::start(ActionType command)
     Kind& kind = found->second;
     kind.face = kind.face != nullptr ? kind.face : kind.make(&mWindow);
     // What is exported is what is shown when the wizard opens.
-    const ExportInput shown{mSession.flight(), mSession.selection(), mSession.offset()};
+    ExportInput shown{mSession.flight(), mSession.selection(), mSession.offset()};
+    const Reference& reference = mSession.reference();
+    if (reference.flight() != nullptr) {
+        shown.reference = {reference.flight(), reference.offset(), reference.shift()};
+    }
     ExportOptions preset;
     preset.startTime = rangeOf(mSession).start;
     preset.stopTime = rangeOf(mSession).stop;

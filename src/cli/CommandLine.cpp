@@ -9,9 +9,9 @@
 #include "cli/GraphCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/ReportCommand.h"
+#include "cli/SharedOptions.h"
 #include "cli/StatsCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <new>
 #include <ostream>
 
@@ -21,35 +21,6 @@ namespace {
 
 constexpr int ExitFailure = 1;
 constexpr int ExitUsage = 2;
-
-void addSelection(CLI::App& command, SelectionArguments& selection)
-{
-    auto* project =
-        command.add_option("--project", selection.project, "parameters selected in this project");
-    auto* parameter = command.add_option("--parameter", selection.parameters,
-                                         "a parameter as \"Device/Name\"; repeatable");
-    parameter->allow_extra_args(false); // what follows the one name are files
-    auto* all = command.add_flag("--all", selection.all, "every parameter (the default)");
-    project->excludes(parameter)->excludes(all);
-    parameter->excludes(all);
-}
-
-void addRange(CLI::App& command, Range& range)
-{
-    command.add_option("--start", range.start, "first second, on the recording's clock");
-    command.add_option("--stop", range.stop, "last second, on the recording's clock");
-}
-
-void addProfile(CLI::App& command, std::string& profile)
-{
-    command.add_option("--profile", profile, "parameter profile")->required();
-}
-
-void addFiles(CLI::App& command, std::vector<std::string>& files)
-{
-    command.add_option("FILE", files, "recording files, in order, read as one recording")
-        ->required();
-}
 
 void addInfo(CLI::App& app, InfoArguments& arguments, std::ostream& out)
 {
@@ -71,11 +42,6 @@ void addDecode(CLI::App& app, DecodeArguments& arguments, std::ostream& out)
     addSelection(*command, arguments.selection);
     addFiles(*command, arguments.files);
     command->final_callback([&] { runDecode(arguments, out); });
-}
-
-void addOut(CLI::App& command, std::string& out)
-{
-    command.add_option("-o,--out", out, "file to write")->required();
 }
 
 void addEvents(CLI::App& app, EventsArguments& arguments, std::ostream& out)
@@ -106,15 +72,8 @@ void addCompare(CLI::App& app, CompareArguments& arguments, std::ostream& out)
     addProfile(*command, arguments.profile);
     addSelection(*command, arguments.selection);
     addRange(*command, arguments.range);
-    const CLI::Validator isAlignment([](const std::string& text) { return alignmentFault(text); },
-                                     "start|T:T");
-    command
-        ->add_option("--align", arguments.align,
-                     "\"start\" lays the starts together, T1:T2 second T1 of the flight on second "
-                     "T2 of the reference; without it the clocks stay")
-        ->check(isAlignment);
     addFiles(*command, arguments.files);
-    command->add_option("--with", arguments.with, "recordings of the reference flight")->required();
+    addReference(*command, "--with", arguments.reference)->required();
     command->final_callback([&] { runCompare(arguments, out); });
 }
 
@@ -156,6 +115,7 @@ void addReport(CLI::App& app, ReportArguments& arguments)
     command->add_option("--language", arguments.language, "of the texts")
         ->check(CLI::IsMember({"en", "de", "es", "fr", "pt", "cs"}));
     command->add_flag("--letter", arguments.letter, "paper of that size instead of A4");
+    addReference(*command, "--reference", arguments.reference);
     addOut(*command, arguments.out);
     addFiles(*command, arguments.files);
     command->final_callback([&] { runReport(arguments); });

@@ -1,6 +1,7 @@
 #include "cli/ReportCommand.h"
 
 #include "cli/ExportRun.h"
+#include "flight/Comparison.h"
 #include "report/ExportReport.h"
 
 #include <QtCore/QCoreApplication>
@@ -33,9 +34,14 @@ private:
 void runReport(const ReportArguments& arguments)
 {
     const Language language(arguments.language == "cs" ? "cz" : arguments.language);
-    const ExportInput input = inputOf(arguments.profile, arguments.files, arguments.selection);
+    ExportInput input = inputOf(arguments.profile, arguments.files, arguments.selection);
     ReportOptions options;
-    complete(options, arguments.out, arguments.range, input.flight->range(input.offset));
+    const TimeRange whole = input.flight->range(input.offset);
+    complete(options, arguments.out, arguments.range, whole);
+    if (!arguments.reference.files.empty()) {
+        input.reference = referenceOf(arguments.reference, *input.flight, input.offset);
+        commonTimeOf(commonRange(whole, options.range(), 0.0), *input.reference);
+    }
     options.paper = arguments.letter ? ReportOptions::Letter : ReportOptions::A4;
     runExport(ExportReport(options), input);
 }

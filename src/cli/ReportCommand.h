@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/Inputs.h"
+#include "cli/ReferenceInput.h"
 
 namespace TARN {
 
@@ -13,10 +13,12 @@ struct ReportArguments
     bool letter = false; ///< paper, instead of A4
     std::string out;
     std::vector<std::string> files;
+    ReferenceArguments reference; ///< without files: none
 };
 
 /// Writes what happened on a few pages, as HTML or PDF by the name of the file. PDF needs a
-/// QGuiApplication, though no display.
+/// QGuiApplication, though no display. Fails where the reported range has no time in common with
+/// the reference.
 void runReport(const ReportArguments& arguments);
 
 } // namespace TARN

@@ -28,7 +28,9 @@ bool isSource(const Record& record, const QString& path)
 
 ExportResult Exporter::run(const ExportInput& input, Progress& progress)
 {
-    if (isSource(*input.flight->record(), path())) {
+    const auto& reference = input.reference;
+    if (isSource(*input.flight->record(), path()) ||
+        (reference && isSource(*reference->flight->record(), path()))) {
         return ExportResult::failure(
             QCoreApplication::translate(
                 "Exporter", "\"%1\" is the recording itself. Choose another name or folder.")

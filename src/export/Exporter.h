@@ -3,14 +3,25 @@
 #include "flight/Flight.h"
 #include "profile/Selection.h"
 
+#include <optional>
+
 namespace TARN {
+
+/// Another flight that lies beside the one that is exported, understood by the same profile.
+struct ExportReference
+{
+    std::shared_ptr<const Flight> flight; ///< never null
+    double offset = 0.0;                  ///< its time offset, seconds
+    double shift = 0.0; ///< seconds that bring its times, with the offset, to the other's clock
+};
 
 /// What an export is made of; nothing of it changes meanwhile.
 struct ExportInput
 {
     std::shared_ptr<const Flight> flight;
-    Selection selection; ///< of the flight's profile
-    double offset = 0.0; ///< time offset, seconds
+    Selection selection;                           ///< of the flight's profile
+    double offset = 0.0;                           ///< time offset, seconds
+    std::optional<ExportReference> reference = {}; ///< to compare with
 
     Series series(const ProfileParameter& parameter) const
     {

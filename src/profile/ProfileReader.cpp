@@ -2,6 +2,8 @@
 
 #include "base/Diagnostics.h"
 
+#include <cmath>
+
 namespace TARN {
 
 namespace {
@@ -155,7 +157,15 @@ ProfileParameter ProfileReader::readParameter(const QDomElement& element, const 
     parameter.enumId = mProfile.mEnumIds[text(element, "enumId")];
     parameter.thresholdId = mProfile.mThresholdIds[text(element, "thresholdId")];
     parameter.errorType = errorTypeOf(text(element, "errorType"));
+    readSteady(element, parameter);
     return parameter;
+}
+
+void ProfileReader::readSteady(const QDomElement& element, ProfileParameter& parameter)
+{
+    const auto percent = number(element, "steady");
+    parameter.steady = percent && *percent >= 0.0 ? percent : std::nullopt;
+    parameter.steadyAbove = number(element, "steadyAbove");
 }
 
 void ProfileReader::noteKmlParameter(const QString& kmlId, const ProfileParameter& parameter)
@@ -195,6 +205,14 @@ QString ProfileReader::text(const QDomElement& element, const char* name)
 int ProfileReader::integer(const QDomElement& element, const char* name)
 {
     return mXml.xmlGetIntAttribute(element.attributes(), name, 0);
+}
+
+/// Nothing where there is none: here 0 would mean something.
+std::optional<double> ProfileReader::number(const QDomElement& element, const char* name)
+{
+    bool isNumber = false;
+    const double value = text(element, name).toDouble(&isNumber);
+    return isNumber && std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
 } // namespace TARN

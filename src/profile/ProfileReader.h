@@ -21,11 +21,13 @@ private:
     void readDevice(const QDomElement& element);
     void readErrorMatrix(const QDomElement& element);
     ProfileParameter readParameter(const QDomElement& element, const QString& device);
+    void readSteady(const QDomElement& element, ProfileParameter& parameter);
     void noteKmlParameter(const QString& kmlId, const ProfileParameter& parameter);
     void store(ProfileDevice& device, const ProfileParameter& parameter);
 
     QString text(const QDomElement& element, const char* name);
     int integer(const QDomElement& element, const char* name);
+    std::optional<double> number(const QDomElement& element, const char* name);
 
     Profile& mProfile;
     XmlHandler mXml;

@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace TARN {
@@ -118,6 +119,9 @@ struct ProfileParameter
     double factor = 1.0;
     int uid = ProfileUid::next();
     int errorType = ErrorNone;
+    /// Percent by which its values may differ where a flight is steady; nothing: they don't count.
+    std::optional<double> steady;
+    std::optional<double> steadyAbove; ///< scaled; above it they are where a flight is steady
 
     /// Name, with the unit in brackets where there is one: "RPM [1/min]".
     QString title() const { return unit.isEmpty() ? name : QString("%1 [%2]").arg(name, unit); }

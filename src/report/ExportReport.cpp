@@ -3,6 +3,7 @@
 #include "report/HtmlPages.h"
 #include "report/PdfPages.h"
 #include "report/ReportCharts.h"
+#include "report/ReportComparison.h"
 #include "report/ReportHead.h"
 #include "report/ReportLists.h"
 #include "report/ReportNumbers.h"
@@ -37,6 +38,7 @@ void writePages(const ReportMatter& matter, ReportPages& pages, Progress& progre
     charts.writeWorst();
     charts.writeWhole();
     writeNumbers(matter, pages, progress);
+    writeComparison(matter, charts, pages, progress);
     writeRemarks(matter, pages);
 }
 

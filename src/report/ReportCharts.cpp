@@ -65,6 +65,24 @@ public:
         mStyle.leastMargin = Margin;
     }
 
+    /// Puts the reference's curves behind those of the flight.
+    void compare(const ExportReference& reference, const Parameters& parameters,
+                 const TimeRange& range)
+    {
+        Progress none;
+        CurveWindows windows(reference.flight, reference.offset);
+        const TimeRange own{range.start - reference.shift, range.stop - reference.shift};
+        for (unsigned k = 0; k < parameters.size(); ++k) {
+            Companion& companion = mModel.curves().curve(k)->reference;
+            const DecodedCurve decoded = windows.decode(*parameters[k], own, none);
+            companion.samples = decoded.samples;
+            companion.facts = decoded.facts;
+        }
+        mModel.layout().setReference(reference.shift, true);
+        mModel.curvesChanged();
+        mStyle.lanesOn = false;
+    }
+
     ReportFigure figure(int height, const QString& label)
     {
         return {{mStyle, {}, {ReportPages::Width, height}, {}}, &mModel, label};
@@ -202,6 +220,17 @@ void ReportCharts::writeWhole()
                       {chart.figure(Axis + Lanes + Strip * static_cast<int>(end - begin), words)});
         mProgress.report(end, all.size());
     }
+}
+
+void ReportCharts::writeCompared(const Parameters& parameters, const TimeRange& range)
+{
+    constexpr int Axis = 62;   // pixels
+    constexpr int Strip = 130; // as high as two lines can be told from each other
+    const QString words = ChartTexts::tr("%1 to %2 on the recording's clock; dashed: the reference")
+                              .arg(clockText(range.start), clockText(range.stop));
+    Chart chart(mMatter, mWindows, parameters, range);
+    chart.compare(*mMatter.shown.reference, parameters, range);
+    mPages.figure(words, {chart.figure(Axis + Strip * static_cast<int>(parameters.size()), words)});
 }
 
 } // namespace TARN

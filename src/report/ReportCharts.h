@@ -21,6 +21,10 @@ public:
     /// All of the range, a strip for each selected parameter.
     void writeWhole();
 
+    /// Parameters of the flight, which are a few, with the reference, which there is, behind them.
+    void writeCompared(const std::vector<const ProfileParameter*>& parameters,
+                       const TimeRange& range);
+
 private:
     void writeEpisode(const Episode& episode);
 

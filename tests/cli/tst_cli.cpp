@@ -374,6 +374,82 @@ private Q_SLOTS:
         }
     }
 
+    /// The part that is compared, what changed most there, and the same as compare says.
+    void comparedReport_data()
+    {
+        QTest::addColumn<QString>("arguments");
+        QTest::addColumn<QString>("range"); // that is compared
+        QTest::addColumn<QString>("said");
+        QTest::newRow("clocks") << QString() << QString("--start 20 --stop 240")
+                                << QString("shifted by 0 s. Compared from 00:00:20 to 00:04:00, "
+                                           "while both flights are steady.");
+        QTest::newRow("aligned") << QString("--align 60:20")
+                                 << QString("--align 60:20 --start 60 --stop 240")
+                                 << QString("by 40 s. Compared from 00:01:00 to 00:04:00, while");
+        QTest::newRow("range") << QString("--stop 150") << QString("--stop 150")
+                               << QString("from 00:00:00 to 00:02:30: there is no common steady");
+    }
+
+    void comparedReport()
+    {
+        QFETCH(const QString, arguments);
+        QFETCH(const QString, range);
+        QFETCH(const QString, said);
+        write("steady.xml",
+              "<CanAerospaceProfile><EnumList><Enum name='E'/></EnumList><Device name='D'>"
+              "<Parameter name='Lever' id='500' dataType='FLOAT' startByte='4' steady='5'/>"
+              "<Parameter name='Temp' id='501' dataType='FLOAT' startByte='4'/>"
+              "<Parameter name='Fixed' id='502' dataType='FLOAT' startByte='4'/>"
+              "<Parameter name='State' id='503' dataType='FLOAT' startByte='4' enumId='E'/>"
+              "<Parameter name='Noise' id='504' dataType='FLOAT' startByte='4'/>"
+              "<Parameter name='Same' id='505' dataType='FLOAT' startByte='4'/>"
+              "</Device></CanAerospaceProfile>");
+        for (const bool isOwn : {true, false}) {
+            QString samples;
+            for (int time = 0; time <= 300; time += 2) {
+                const bool isOdd = time / 2 % 2 == 1;
+                const bool isSteady = isOwn ? time <= 240 : time >= 20;
+                const double values[] = {
+                    isSteady ? 50.0 : 80.0, isOwn ? 5.0 - isOdd : 7.0 + isOdd, isOwn ? 2.5 : 3.0,
+                    isOwn ? 1.0 : 2.0,      isOdd + (isOwn ? 0.1 : 0.0),       7.0};
+                for (std::size_t k = 0; k < std::size(values); ++k) {
+                    samples += QString(" %1@%2=%3").arg(500 + k).arg(time).arg(values[k]);
+                }
+            }
+            writeRecording(samples, isOwn ? "A.CAN" : "B.CAN");
+        }
+        const QString files = " --profile T/steady.xml T/A.CAN ";
+        QCOMPARE(run("report -o T/a.html --parameter D/Same" + files + "--reference T/B.CAN " +
+                     arguments)
+                     .error,
+                 "");
+        const QByteArray page = read("a.html");
+        const qsizetype begin = page.indexOf("<h2>Compared with the reference</h2>");
+        const QByteArray part = page.mid(begin, page.indexOf("<figure>", begin) - begin);
+        QVERIFY(begin > page.indexOf("<h2>Statistics</h2>"));
+        QVERIFY2(part.contains("Reference: B.CAN") && part.contains(said.toUtf8()),
+                 part.constData());
+        std::map<std::string, json> expected;
+        for (const json& line : linesOf(run("compare" + files + "--with T/B.CAN " + range).out)) {
+            expected[line["parameter"]] = line;
+        }
+        QStringList names;
+        for (const QString& row : QString::fromUtf8(part).split("<tr><td>").mid(1)) {
+            names += row.section('<', 0, 0);
+            const json& line = expected[names.back().toStdString()];
+            const double deviation = line["reference"]["stddev"];
+            const double difference = line["difference"]["timeMean"];
+            const double numbers[] = {line["flight"]["timeMean"], line["reference"]["timeMean"],
+                                      difference, difference / deviation};
+            for (int k = 0; k < 4; ++k) {
+                const QString told = row.section("data-value=\"", k + 1, k + 1).section('"', 0, 0);
+                QCOMPARE(told.toDouble(), numbers[k]);
+            }
+        }
+        QCOMPARE(names.join(' ').replace(" Lever", ""), QString("Fixed Temp Noise"));
+        QVERIFY(part.contains("data-value=\"-inf\">-\u221E<"));
+    }
+
     void selections_data()
     {
         QTest::addColumn<QByteArray>("titles"); // of the table
@@ -495,6 +571,11 @@ private Q_SLOTS:
         row("kml --profile P --line-alpha 256 -o T/out R", 2, "--line-alpha");
         row("kml --profile P --polygon-alpha -1 -o T/out R", 2, "--polygon-alpha");
         row("can --profile P -o T/out R", 2, "--profile");
+        row("report --profile P --align start -o T/out R", 2, "requires");
+        row("report --profile P --reference R --align 9:x -o T/out R", 2, "--align");
+        row("report --profile P --reference R --start 900 -o T/out R", 1, "no time in common");
+        row("report --profile P --reference gone.CAN -o T/out R", 1, "\"gone.CAN\"");
+        row("compare --profile P R --align 900:0 --with R", 1, "no time in common");
         row("info gone.CAN", 1, "\"gone.CAN\"");
         row("info --check gone.CAN", 1, "\"gone.CAN\"");
         row("decode --profile P R gone.CAN", 1, "\"gone.CAN\"");

@@ -1,5 +1,6 @@
 #include "demo/Card.h"
 #include "flight/Statistics.h"
+#include "flight/SteadyStretch.h"
 #include "support/FlightTest.h"
 
 #include <QtCore/QCryptographicHash>
@@ -23,6 +24,7 @@ struct Told
     QString header;
     QString utc;
     double takeOff = 0.0;
+    TimeRange steady;
     std::array<double, 12> warming{};
     std::array<double, 12> cruise{}; ///< means of CHT 1 to 6, EGT 1 to 6
 };
@@ -85,6 +87,10 @@ class TestDemo : public FlightTest
             told.warming[i] = index.range(Warming).mean.value_or(NAN);
             told.cruise[i] = index.range(Cruise).mean.value_or(NAN);
         }
+        const auto steady = steadyStretch(
+            *Flight::make(record, Profile::load(ORNA_RESOURCES "/Tolvane_Profile.xml")), 0.0,
+            progress);
+        told.steady = steady.value_or(TimeRange());
         told.takeOff =
             firstAbove(flight->series(*profile->parameters().back().parameter, 0.0), 70.0);
         return told;
@@ -151,6 +157,11 @@ private Q_SLOTS:
         const double delay = std::fabs(told.takeOff - first.takeOff);
         QVERIFY2(wear > 0 ? delay > 10.0 && delay < 90.0 : delay < 1.0,
                  qPrintable(QString::number(delay)));
+        // From leaning to the descent.
+        QVERIFY2(told.steady.start < Cruise.start && told.steady.stop > Cruise.stop &&
+                     told.steady.start > Cruise.start - 600.0 &&
+                     told.steady.stop < Cruise.stop + 180.0,
+                 qPrintable(QString("%1 %2").arg(told.steady.start).arg(told.steady.stop)));
         for (std::size_t i = 0; i < told.cruise.size(); ++i) {
             const double week = i % 6 != Worn ? 0.0 : i < 6 ? 6.0 : 12.0;
             const double more = told.cruise[i] - first.cruise[i];

@@ -85,14 +85,16 @@ class TestExporter : public ExportTest
 private Q_SLOTS:
     void targets()
     {
-        const ExportInput input = flightOfTexts(3);
+        ExportInput input = flightOfTexts(3);
+        const QString reference = write("C.CAN", read("B.CAN"));
+        input.reference = {Flight::make(load({reference}), input.flight->profile())};
         write("file", "old");
         QVERIFY(QDir(folder()).mkdir("folder"));
         QCOMPARE(mkfifo(path("pipe").toLocal8Bit().constData(), 0600), 0);
         QVERIFY(QFile::link(path("B.CAN"), path("symbolic")));
         std::filesystem::create_hard_link(path("B.CAN").toStdString(), path("hard").toStdString());
         const auto before = contents();
-        const QStringList recordings = {"A.CAN", "folder/../B.CAN", "symbolic", "hard"};
+        const QStringList recordings = {"A.CAN", "folder/../B.CAN", "symbolic", "hard", "C.CAN"};
         const QStringList others = {"gone/out", "file/out", "folder", "folder/", "pipe"};
         for (const QString& target : recordings + others) {
             const QString reason = recordings.contains(target) ? "is the recording itself" : "";

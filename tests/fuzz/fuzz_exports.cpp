@@ -221,8 +221,10 @@ void checkKml(const ExportInput& input, const ExportOptions& range, std::uint8_t
 }
 
 /// Nothing in the input makes it anything but a page of text, tables and pictures.
-void checkReport(const ExportInput& input, const ExportOptions& range)
+void checkReport(ExportInput input, const ExportOptions& range)
 {
+    constexpr double Shift = 0.25; // seconds: the flight against itself
+    input.reference = {input.flight, input.offset, Shift};
     static const std::set<QString> Elements = {
         "html", "head", "meta", "title",    "style",      "body",     "h1",
         "h2",   "h3",   "p",    "span",     "table",      "thead",    "tbody",

@@ -153,9 +153,16 @@ private Q_SLOTS:
             dialog.findChild<QCheckBox*>()->setChecked(false);
         };
         const QString file = path("out/LOG_0001.html");
-        const std::pair<TimeRange, const char*> ranges[] = {
-            {{}, "report"}, {{33200.0, 33300.0}, "report --letter --start 33200 --stop 33300"}};
+        const QString other = path("card/LOG_0001.CAN");
+        const std::pair<TimeRange, QString> ranges[] = {
+            {{}, "report"},
+            {{33200.0, 33300.0},
+             "report --letter --start 33200 --stop 33300 --align 2.5:0 --reference " + other}};
         for (const auto& [marks, command] : ranges) {
+            if (marks.hasExtent()) {
+                session().reference().setFlight(Flight::make(load({other}), session().profile()));
+                session().reference().setShift(2.5);
+            }
             session().setMarks(marks);
             QTRY_VERIFY(action(ActionType::FlightReport)->isEnabled());
             run(ActionType::FlightReport);
@@ -165,6 +172,7 @@ private Q_SLOTS:
             QVERIFY(writeByCommand(command, "LOG_0001.CAN LOG_0002.CAN"));
             QVERIFY(read(file).size() > 10000);
             QVERIFY2(read(file) == read("other.html"), "window and command line differ");
+            QCOMPARE(read(file).contains("Compared with the reference"), marks.hasExtent());
             QFile::remove(file);
         }
     }

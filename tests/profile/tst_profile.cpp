@@ -108,6 +108,24 @@ private Q_SLOTS:
         }
     }
 
+    void steadyMarks()
+    {
+        const std::tuple<const char*, double, double> rows[] = {
+            {"", NAN, NAN},           {"steady='2.5' steadyAbove='-1e2'", 2.5, -100.0},
+            {"steady='0'", 0.0, NAN}, {"steady='-1' steadyAbove='7'", NAN, 7.0},
+            {"steady='x'", NAN, NAN}, {"steady='inf' steadyAbove='nan'", NAN, NAN},
+            {"steady=''", NAN, NAN},  {"steady='1' steadyAbove='x'", 1.0, NAN}};
+        const auto isSame = [](const std::optional<double>& found, double expected) {
+            return std::isnan(expected) ? !found : found == expected;
+        };
+        for (const auto& [attributes, percent, above] : rows) {
+            const auto profile =
+                profileOf("<Device><Parameter " + QByteArray(attributes) + "/></Device>");
+            const ProfileParameter& p = parameter(*profile, 0);
+            QVERIFY2(isSame(p.steady, percent) && isSame(p.steadyAbove, above), attributes);
+        }
+    }
+
     void colors()
     {
         QByteArray values;
