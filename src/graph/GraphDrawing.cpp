@@ -30,7 +30,8 @@ GraphDrawing::GraphDrawing(const GraphModel& model, const GraphStyle& style,
                            const KeyCursor& keyCursor, GraphCanvas& canvas, TextLayout& texts)
     : mModel(model), mStyle(style), mKeyCursor(keyCursor), mSize(model.layout().size()),
       mCanvas(canvas), mTexts(texts), mView(model.layout().view()),
-      mNotes(model, style, canvas, texts), mCompanions(model, style, canvas, texts)
+      mNotes(model, style, canvas, texts), mCompanions(model, style, canvas, texts),
+      mLegend(model, style, mCompanions, texts)
 {}
 
 void GraphDrawing::draw()
@@ -52,7 +53,7 @@ void GraphDrawing::draw()
     drawMarker();
     // Texts are painted on top of it all; the cursor's keep clear of the legend.
     if (mStyle.legendOn) {
-        drawLabels();
+        mLegend.draw();
     }
     mNotes.drawLanes();
     mNotes.drawEvents();
@@ -72,14 +73,15 @@ void GraphDrawing::drawCurves()
     const bool split = mModel.layout().displayMode() == DisplaySplit;
     const std::vector<unsigned> shown = mModel.curves().shown();
     for (const unsigned k : split ? std::vector<unsigned>() : shown) {
-        mCompanions.drawReference(*mModel.curves().curve(k), inkOf(*mModel.curves().curve(k)));
+        mCompanions.drawReference(*mModel.curves().curve(k),
+                                  mStyle.inkOf(mModel.curves().curve(k)->color));
     }
     for (const unsigned k : shown) {
         const ParStruct& curve = *mModel.curves().curve(k);
         if (split) {
             drawAxis(&curve);
             mNotes.drawThresholds(curve);
-            mCompanions.drawReference(curve, inkOf(curve));
+            mCompanions.drawReference(curve, mStyle.inkOf(curve.color));
         }
         drawParameter(curve);
         mNotes.drawEpisodes(curve);
@@ -104,7 +106,7 @@ void GraphDrawing::drawDifferences()
             drawTicksY(mModel.layout().differenceAxis(k), curve.differenceStrip,
                        split ? curve.color : mStyle.label);
         }
-        mCompanions.drawDifference(curve, inkOf(curve));
+        mCompanions.drawDifference(curve, mStyle.inkOf(curve.color));
     }
 }
 
@@ -176,7 +178,7 @@ void GraphDrawing::drawTicksY(const ValueAxis& axis, const GraphStrip& strip, co
 
 void GraphDrawing::drawParameter(const ParStruct& curve)
 {
-    const GraphColor color = inkOf(curve);
+    const GraphColor color = mStyle.inkOf(curve.color);
     mCanvas.clip(mView.x0, curve.strip.y0, mView.width, curve.strip.height);
     mLine.buildLine(curve, mView);
     for (const GraphLine::Strip& strip : mLine.strips()) {
@@ -319,89 +321,7 @@ void GraphDrawing::drawCursorValues(double x, double y)
         if (curve.isShown() && curve.samples().valueAt(mModel.cursor(), value)) {
             const double row = mSize.height() - mView.yToViewport(curve.strip, value);
             add(shownText(curve, mModel.cursor(), mStyle, "%.2f"), row - lineHeight / 2.0,
-                inkOf(curve));
-        }
-    }
-}
-
-/// A curve's colour, dark enough on a light plot.
-GraphColor GraphDrawing::inkOf(const ParStruct& curve) const
-{
-    return mStyle.isLight() ? legibleOn(mStyle.back, curve.color) : curve.color;
-}
-
-QString GraphDrawing::legendOf(const ParStruct& curve, double room) const
-{
-    const QString name = mTexts.elided(curve.name, room);
-    if (!mStyle.valuesOn) {
-        return name;
-    }
-    QString value = shownText(curve, mModel.cursor(), mStyle, "%f");
-    if (value.isEmpty()) {
-        value = "---";
-    } else if (!curve.unit.isEmpty()) {
-        value += " " + curve.unit;
-    }
-    const QString other = mCompanions.referenceText(curve);
-    return name + "   " + value + (other.isEmpty() ? QString() : "   " + other);
-}
-
-void GraphDrawing::addLegend(unsigned k, QPointF place, const QRectF& plot)
-{
-    const ParStruct& curve = *mModel.curves().curve(k);
-    const QString text = legendOf(curve, plot.width() / 2.0);
-    const auto alert = mStyle.thresholdsOn && mStyle.valuesOn && curve.facts != nullptr
-                           ? curve.facts->alertAt(mModel.cursor())
-                           : std::nullopt;
-    mTexts.add({text, QRectF(place, mTexts.sizeOf(text)),
-                legibleOn(alert.value_or(mStyle.back), curve.color), true, alert, k},
-               plot);
-}
-
-void GraphDrawing::drawLabels()
-{
-    constexpr double ColumnGap = 20.0;
-    const QRectF plot = plotBox();
-    const bool split = mModel.layout().displayMode() == DisplaySplit;
-    const double lineHeight = mTexts.sizeOf("0").height();
-    double left = plot.left() + Gap;
-    double top = plot.top() + Gap;
-    double widest = 0.0;
-    for (const unsigned k : mModel.curves().shown()) {
-        const ParStruct& curve = *mModel.curves().curve(k);
-        if (split) {
-            top = mSize.height() - curve.strip.y0 - curve.strip.height +
-                  std::min(Gap, (curve.strip.height - lineHeight) / 2.0);
-            top = std::clamp(top, plot.top(), std::max(plot.top(), plot.bottom() - lineHeight));
-        } else if (top + lineHeight > plot.bottom()) {
-            left += widest + ColumnGap; // another column
-            top = plot.top() + Gap;
-            widest = 0.0;
-        }
-        addLegend(k, {left, top}, plot);
-        widest = std::max(widest, mTexts.sizeOf(legendOf(curve, plot.width() / 2.0)).width());
-        top += lineHeight + Gap;
-    }
-    drawHiddenLabels();
-}
-
-/// The names of hidden curves, so that they can be shown again, along the plot's lower edge.
-void GraphDrawing::drawHiddenLabels()
-{
-    constexpr double NameGap = 12.0;
-    const QRectF plot = plotBox();
-    const double top = plot.bottom() - Gap - mTexts.sizeOf("0").height();
-    double right = plot.right() - Gap;
-    for (const unsigned k : mModel.curves().order()) {
-        const ParStruct& curve = *mModel.curves().curve(k);
-        if (curve.active && curve.hidden) {
-            const QString text = "(" + mTexts.elided(curve.name, plot.width() / 4.0) + ")";
-            const QSizeF size = mTexts.sizeOf(text);
-            right -= size.width();
-            mTexts.add({text, QRectF(QPointF(right, top), size),
-                        legibleOn(mStyle.back, mStyle.grid), true, std::nullopt, k},
-                       plot);
-            right -= NameGap;
+                mStyle.inkOf(curve.color));
         }
     }
 }

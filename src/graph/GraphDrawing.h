@@ -1,10 +1,10 @@
 #pragma once
 
-#include "graph/CompanionDrawing.h"
 #include "graph/GraphCanvas.h"
 #include "graph/GraphLine.h"
 #include "graph/GraphModel.h"
 #include "graph/GraphStyle.h"
+#include "graph/LegendDrawing.h"
 #include "graph/NoteDrawing.h"
 #include "graph/TextLayout.h"
 
@@ -34,14 +34,9 @@ private:
     void drawSamples(const ParStruct& curve);
     void drawMarker();
     void drawMarkerEnds();
-    void drawLabels();
     void drawCursor();
     void drawCursorValues(double x, double y);
     void drawOutline();
-    QString legendOf(const ParStruct& curve, double room) const;
-    void addLegend(unsigned k, QPointF place, const QRectF& plot);
-    void drawHiddenLabels();
-    GraphColor inkOf(const ParStruct& curve) const;
     QRectF plotBox() const;
     double keyCursorY() const;
 
@@ -54,6 +49,7 @@ private:
     const GraphView& mView;
     NoteDrawing mNotes;
     CompanionDrawing mCompanions;
+    LegendDrawing mLegend;
     GraphLine mLine;
 };
 

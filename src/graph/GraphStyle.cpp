@@ -1,5 +1,7 @@
 #include "graph/GraphStyle.h"
 
+#include "graph/GraphPalette.h"
+
 namespace TARN {
 
 GraphStyle themed(GraphStyle style, bool isLight)
@@ -12,6 +14,11 @@ GraphStyle themed(GraphStyle style, bool isLight)
     style.fore = isLight ? GraphColor{0.15F, 0.15F, 0.15F} : dark.fore;
     style.marks = isLight ? GraphColor{0.85F, 0.6F, 0.0F} : dark.marks;
     return style;
+}
+
+GraphColor GraphStyle::inkOf(const GraphColor& color) const
+{
+    return isLight() ? legibleOn(back, color) : color;
 }
 
 } // namespace TARN

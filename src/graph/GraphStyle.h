@@ -25,6 +25,8 @@ struct GraphStyle
     bool allDigits = false;   ///< values with all the digits that they are recorded with
 
     bool isLight() const { return back.toColor().lightness() >= 128; }
+    /// A curve's colour as it is drawn: dark enough on a light plot.
+    GraphColor inkOf(const GraphColor& color) const;
 };
 
 /// A style with the colours of a dark or a light plot.

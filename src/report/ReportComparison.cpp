@@ -4,6 +4,7 @@
 #include "flight/Comparison.h"
 #include "flight/StatisticsWords.h"
 #include "flight/SteadyStretch.h"
+#include "record/UtcDetector.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
@@ -96,6 +97,12 @@ std::optional<Change> changeOf(const ProfileParameter& parameter, const Comparis
     return Change{&parameter, found.flight.timeMean, reference.timeMean, difference, deviations};
 }
 
+/// Of the messages that say when it was: those of two flights always differ.
+bool isDate(const ProfileParameter& parameter)
+{
+    return parameter.id == int(UtcDetector::TimeId) || parameter.id == int(UtcDetector::DateId);
+}
+
 /// Numbers that both flights have recorded.
 std::vector<const ProfileParameter*> comparable(const ReportMatter& matter)
 {
@@ -103,7 +110,7 @@ std::vector<const ProfileParameter*> comparable(const ReportMatter& matter)
     std::vector<const ProfileParameter*> parameters;
     for (const auto& [device, parameter] : matter.profile().parameters()) {
         const Series series = matter.shown.series(*parameter);
-        if (betweenOf(series) == Between::Line && !series.empty() &&
+        if (betweenOf(series) == Between::Line && !series.empty() && !isDate(*parameter) &&
             !other.flight->series(*parameter, other.offset).empty()) {
             parameters.push_back(parameter);
         }
