@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>CompanionDrawing</name>
+    <message>
+        <source>Δ flight minus reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ref. %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CurveMenu</name>
     <message>
         <source>&amp;Show</source>
@@ -539,6 +550,53 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
         <source>The reported range</source>
         <translation>O intervalo do relatório</translation>
     </message>
+    <message>
+        <source>%1 to %2 on the recording&apos;s clock; dashed: the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReportComparison</name>
+    <message>
+        <source>Reference: %1, shifted by %2 s. Compared from %3 to %4, while both flights are steady.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference: %1, shifted by %2 s. Compared from %3 to %4: there is no common steady part.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parâmetro</translation>
+    </message>
+    <message>
+        <source>Time mean, flight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time mean, reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard deviations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What changed most, in standard deviations of the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compared with the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No parameter has changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ReportHead</name>
@@ -806,6 +864,10 @@ Escolha uma pasta em que se possa escrever, com espaço livre suficiente, e um n
     <message>
         <source>. Remarks: %1 (see Recording Details). </source>
         <translation>. Observações: %1 (ver Detalhes da gravação). </translation>
+    </message>
+    <message>
+        <source>Reference: </source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1100,6 +1162,14 @@ Parâmetros vigiados: %5</translation>
     <message>
         <source>Lamp</source>
         <translation>Luz</translation>
+    </message>
+    <message>
+        <source>Load as &amp;Reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compares the flight that is open with this one</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1761,6 +1831,18 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
         <source>Stop</source>
         <translation>Interromper</translation>
     </message>
+    <message>
+        <source>Loading the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading the reference was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No reference was loaded: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogPreferences</name>
@@ -2008,6 +2090,10 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
         <source>Stop the export</source>
         <translation>Interromper a exportação</translation>
     </message>
+    <message>
+        <source>Stop loading the reference (Escape)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TARN::DirectoryEdit</name>
@@ -2092,6 +2178,10 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     <message>
         <source>Severity</source>
         <translation>Gravidade</translation>
+    </message>
+    <message>
+        <source>Reference: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2324,6 +2414,86 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
         <source>Area below the curve from A to B: of litres an hour the litres</source>
         <translation>Área sob a curva de A a B: de litros por hora, os litros</translation>
     </message>
+    <message>
+        <source>Δ time mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flight minus reference: mean from A to B, each difference weighed with the time that it holds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Δ A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flight minus reference at A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Δ B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flight minus reference at B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Δ min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smallest difference of flight and reference from A to B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Δ max</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Greatest difference of flight and reference from A to B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ref. time mean</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time mean of the reference from A to B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ref. A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value of the reference at A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ref. B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value of the reference at B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ref. min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smallest value of the reference from A to B</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ref. max</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Greatest value of the reference from A to B</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TARN::MeasurePanel</name>
@@ -2445,6 +2615,155 @@ O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translat
     </message>
 </context>
 <context>
+    <name>TARN::ReferenceBar</name>
+    <message>
+        <source>Curves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the reference&apos;s curves (B in the graph)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show flight minus reference in strips of their own (D in the graph)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the reference&apos;s values in the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the reference flight away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Passing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is laid on what: times of day, the first samples, a moment picked in both, or when a parameter first passes a value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alignment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameter that passes the value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value that is passed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift of the reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds by which the reference is shifted; Alt and a drag in the graph shift it too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;lign:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;hift:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flight: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference (dashed): %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align Here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pick Moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lays the reference&apos;s value at the cursor on the moment picked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the cursor&apos;s time as the moment of the flight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The reference holds no sample of: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moment of the flight: %1. Go to where the reference&apos;s curve shows the same moment, then press Align Here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One of the flights does not pass this value: the shift is the one before.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The flights have no time in common: align them by their start, or shift the reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ReferenceGraph</name>
+    <message>
+        <source>Show &amp;Reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show &amp;Difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the reference&apos;s curves; select fewer parameters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::ReferenceLoader</name>
+    <message>
+        <source>There is not enough memory for a reference beside the flight.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking for events</source>
+        <translation>Procurando eventos</translation>
+    </message>
+</context>
+<context>
     <name>TARN::SessionGraph</name>
     <message>
         <source>There is not enough memory for these curves; select fewer parameters.</source>
@@ -2478,6 +2797,14 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     <message>
         <source>Time</source>
         <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Reference: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ref. %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
