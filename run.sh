@@ -17,6 +17,7 @@ cmake --preset release -DCMAKE_CXX_COMPILER_LAUNCHER=ccache >"$root/build-log.tx
 mkdir -p "$demo/home/ORNA"
 mv "$root/build-log.txt" "$demo/build-log.txt"
 [ -e "$demo/card/LOG_0001.CAN" ] || "$build/bin/orna-demo" --out "$demo/card"
+[ -e "$demo/week2/LOG_0001.CAN" ] || "$build/bin/orna-demo" --seed 2 --out "$demo/week2"
 
 export HOME=$demo/home
 settings=$HOME/ORNA/ORNA.ini
@@ -33,6 +34,7 @@ fi
 cd "$build" # the program looks for its bundle below the working directory
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || [ "$(uname)" = Darwin ]; then
     echo "Opening the demo flight: click a recording in the list on the left."
+    echo "The same aircraft a week later, to compare with: $demo/week2"
     exec orna.app/Contents/MacOS/orna
 fi
 profile=orna.app/Contents/Resources/Tolvane_Profile.xml

@@ -105,20 +105,20 @@ void CompanionDrawing::addLegend(const QString& text, const GraphStrip& place,
 
 QString CompanionDrawing::differenceText(const ParStruct& curve) const
 {
-    constexpr int Digits = 4;
-    double value = 0.0;
-    const bool isKnown = mStyle.valuesOn && !curve.difference.samples->empty() &&
-                         curve.difference.samples->valueAt(mModel.cursor(), value) &&
-                         !std::isnan(value);
     const QString text = "\u0394 " + mTexts.elided(curve.name, mView.width / 2.0);
     if (!mStyle.valuesOn) {
         return text;
     }
-    return text + "   " +
-           (isKnown ? ((value > 0.0 ? "+" : "") + QString::number(value, 'g', Digits) + " " +
-                       curve.unit)
-                          .trimmed()
-                    : QString("---"));
+    double value = 0.0;
+    const CurveSamples& samples = *curve.difference.samples;
+    if (samples.empty() || !samples.valueAt(mModel.cursor(), value) || std::isnan(value)) {
+        return text + "   ---";
+    }
+    // As many decimals as the curve itself has there.
+    const QString own = curveText(curve, mModel.cursor());
+    const auto decimals = static_cast<int>(own.contains('e') ? 0 : own.section('.', 1).size());
+    const QString number = QString::number(value, 'f', decimals);
+    return text + "   " + ((value > 0.0 ? "+" : "") + number + " " + curve.unit).trimmed();
 }
 
 QString CompanionDrawing::referenceText(const ParStruct& curve) const

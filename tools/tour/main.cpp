@@ -1,6 +1,7 @@
 // Opens the viewer on the card and project of the settings, uses it as a person would and leaves
 // screenshots. Needs a display, a virtual one will do.
 
+#include "app/DialogData.h"
 #include "app/DialogMain.h"
 #include "app/DialogSplash.h"
 #include "app/StartUp.h"
@@ -12,6 +13,7 @@
 #include "graph/WidgetGraph.h"
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QDir>
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
 #include <QtGui/QAction>
@@ -37,7 +39,8 @@ struct Arguments
     bool dark;
     int width;
     int height;
-    bool examples; ///< the manual's pictures instead of the tour
+    bool examples;     ///< the manual's pictures instead of the tour
+    QString reference; ///< folder of the flight to compare with in them
 };
 
 /// What the manual asks of the demo flight, and where the answer stands.
@@ -127,7 +130,51 @@ public:
             show(example);
             shoot(QString("example%1").arg(++number), mWindow.findChild<TARN::GraphPanes*>());
         }
+        compare();
         return !mFailed;
+    }
+
+    /// What is open with a flight of the week before, by the take-offs.
+    void compare()
+    {
+        if (mArguments.reference.isEmpty()) {
+            return;
+        }
+        show({{"CHT 3", "CHT 5", "CHT 6"},
+              33600.0,
+              35700.0,
+              {34920.0, 35600.0},
+              35400.0,
+              TARN::MeasureModel::MeanDifferenceColumn});
+        TARN::Reference& reference = mWindow.session().reference();
+        reference.setFlight(flightOf(mArguments.reference));
+        reference.align({TARN::Alignment::Passing, placeOf("IAS"), 40.0});
+        reference.differenceShown().turn(true);
+        settle();
+        auto* data = mWindow.findChild<TARN::DialogData*>();
+        auto* panes = mWindow.findChild<TARN::GraphPanes*>();
+        const int bottom = panes->mapTo(data, QPoint(0, panes->height())).y();
+        shoot("example5", data, QRect(0, 0, data->width(), bottom));
+    }
+
+    std::size_t placeOf(const QString& name)
+    {
+        const auto all = mWindow.session().profile()->parameters();
+        const auto found = std::ranges::find_if(
+            all, [&](const auto& item) { return item.parameter->name == name; });
+        return static_cast<std::size_t>(found - all.begin());
+    }
+
+    std::shared_ptr<const TARN::Flight> flightOf(const QString& folder)
+    {
+        std::list<QString> files;
+        for (const QFileInfo& file :
+             QDir(folder).entryInfoList({"*.CAN"}, QDir::Files, QDir::Name)) {
+            files.push_back(file.filePath());
+        }
+        auto record = std::make_shared<TARN::Record>();
+        mFailed = mFailed || !record->readRecordData(files);
+        return TARN::Flight::make(record, mWindow.session().profile());
     }
 
     void show(const Example& example)
@@ -262,11 +309,11 @@ private:
 
     void shoot(const QString& name) { shoot(name, &mWindow); }
 
-    void shoot(const QString& name, QWidget* window)
+    void shoot(const QString& name, QWidget* window, const QRect& part = {0, 0, -1, -1})
     {
         const QString suffix = mArguments.dark ? "-dark" : "";
         const QString file = QString::fromStdString(mArguments.out) + "/" + name + suffix + ".png";
-        if (!window->grab().save(file)) {
+        if (!window->grab(part).save(file)) {
             std::cerr << "orna-tour: could not write " << file.toStdString() << '\n';
             mFailed = true;
         }
@@ -291,14 +338,18 @@ int main(int argc, char** argv)
     command.addOptions({{"dark", "with a dark theme"},
                         {"width", "window width, pixels", "pixels", "1280"},
                         {"height", "window height, pixels", "pixels", "860"},
-                        {"examples", "the pictures of the manual instead"}});
+                        {"examples", "the pictures of the manual instead"},
+                        {"reference", "card to compare with in them", "folder"}});
     command.process(application);
     if (command.positionalArguments().size() != 1) {
         command.showHelp(2);
     }
     const Arguments arguments{command.positionalArguments().front().toStdString(),
-                              command.isSet("dark"), command.value("width").toInt(),
-                              command.value("height").toInt(), command.isSet("examples")};
+                              command.isSet("dark"),
+                              command.value("width").toInt(),
+                              command.value("height").toInt(),
+                              command.isSet("examples"),
+                              command.value("reference")};
     if (arguments.dark) {
         QApplication::setPalette(darkPalette());
     }
