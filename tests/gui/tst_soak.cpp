@@ -104,6 +104,7 @@ private:
             {"profile", [this] { useProfile(any(3) == 0 ? projectPath() : profilePath()); }},
             {"card", [this] { drop({isHeads() ? cardPath() : exportPath()}); }},
             {"project", [this] { drop({projectPath()}); }},
+            {"reference", [this] { compare(); }},
             {"export", [this] { run(isHeads() ? Type::ExportKml : Type::ExportCsv); }},
             {"stop", [this] { find<QWidget>("exporting")->findChild<QToolButton*>()->click(); }},
             {"cancel", [this] { QTest::keyClick(recordings(), Qt::Key_Escape); }},
@@ -139,10 +140,10 @@ private:
 
     void pressKeys()
     {
-        constexpr int Keys[] = {Qt::Key_Left, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_Home,
-                                Qt::Key_F2,   Qt::Key_F3, Qt::Key_F4,       Qt::Key_Tab,
-                                Qt::Key_Plus, Qt::Key_A,  Qt::Key_C,        Qt::Key_N,
-                                Qt::Key_P,    Qt::Key_R,  Qt::Key_X,        Qt::Key_Z};
+        constexpr int Keys[] = {
+            Qt::Key_Left, Qt::Key_Up,  Qt::Key_PageDown, Qt::Key_Home, Qt::Key_F2, Qt::Key_F3,
+            Qt::Key_F4,   Qt::Key_Tab, Qt::Key_Plus,     Qt::Key_A,    Qt::Key_C,  Qt::Key_N,
+            Qt::Key_P,    Qt::Key_R,   Qt::Key_X,        Qt::Key_Z,    Qt::Key_B,  Qt::Key_D};
         for (int i = 0; i < 5; ++i) {
             QWidget* focus = QApplication::focusWidget();
             QTest::keyClick(focus != nullptr && isHeads() ? focus : views()->currentWidget(),
@@ -172,6 +173,34 @@ private:
         }
     }
 
+    void compare()
+    {
+        Reference& reference = session().reference();
+        QTreeWidgetItem* item = recording(any(recordingCount() + 1)); // or none
+        switch (any(5)) {
+        case 0:
+            drop({item != nullptr ? item->data(0, Qt::UserRole).toString() : path("gone.CAN")},
+                 Qt::ControlModifier);
+            break;
+        case 1:
+            recordings()->setCurrentItem(item, 0, QItemSelectionModel::NoUpdate);
+            recordings()->actions().last()->trigger();
+            break;
+        case 2:
+            for (Switch* of :
+                 {&reference.shown(), &reference.differenceShown(), &reference.columnsShown()}) {
+                of->turn(isHeads());
+            }
+            break;
+        case 3:
+            reference.align(
+                {static_cast<Alignment::By>(any(4)), std::size_t(any(90)), any(100) * 1.0});
+            break;
+        default:
+            isHeads() ? reference.setShift(any(1000) - 500.0) : reference.setFlight(nullptr);
+        }
+    }
+
     void giveCommand()
     {
         using Type = ActionType;
@@ -190,13 +219,16 @@ private:
         const auto& flight = session().flight();
         const bool canExport = flight != nullptr && !flight->samples().empty() &&
                                !find<ActivityBar>("exporting")->isActive();
+        const auto& other = session().reference().flight();
+        const auto shown = static_cast<std::size_t>(table()->model()->columnCount());
         const auto columns = session().selection().parameters(*session().profile()).size() + 1;
         const std::pair<const char*, bool> all[] = {
             {"visible", window().isVisible()},
             {"title", title().startsWith("ORNA ")},
             {"export", action(ActionType::ExportCsv)->isEnabled() == canExport},
             {"profile", flight == nullptr || flight->profile() == session().profile()},
-            {"columns", table()->model()->columnCount() == static_cast<int>(columns)}};
+            {"reference", other == nullptr || other->profile() == session().profile()},
+            {"columns", shown == columns || shown == 2 * columns - 1}};
         QString broken;
         for (const auto& [name, holds] : all) {
             broken += holds ? QString() : QString("%1, ").arg(name);
