@@ -68,6 +68,12 @@ QWidget* ReferenceBar::createNames()
         reference.differenceShown()));
     layout->addWidget(createSwitch(tr("Columns"), tr("Show the reference's values in the table"),
                                    reference.columnsShown()));
+    layout->addWidget(createAway());
+    return names;
+}
+
+QToolButton* ReferenceBar::createAway()
+{
     auto* away = new QToolButton;
     away->setObjectName("removeReference");
     away->setAutoRaise(true);
@@ -75,8 +81,7 @@ QWidget* ReferenceBar::createNames()
     away->setToolTip(tr("Take the reference flight away"));
     away->setAccessibleName(away->toolTip());
     connect(away, &QToolButton::clicked, this, [this] { mSession.reference().setFlight(nullptr); });
-    layout->addWidget(away);
-    return names;
+    return away;
 }
 
 QComboBox* ReferenceBar::createModes()
@@ -104,13 +109,8 @@ QToolButton* ReferenceBar::createSwitch(const QString& text, const QString& tool
     return button;
 }
 
-QWidget* ReferenceBar::createControls()
+void ReferenceBar::preparePassing()
 {
-    constexpr double Longest = 1e7; // seconds, more than a season
-    constexpr int Decimals = 3;
-    auto* controls = new QWidget;
-    auto* layout = new QHBoxLayout(controls);
-    layout->setContentsMargins(0, 0, 0, 0);
     mParameter->setObjectName("passingParameter");
     mParameter->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     mParameter->setMinimumContentsLength(12);
@@ -120,24 +120,39 @@ QWidget* ReferenceBar::createControls()
     }
     mValue->setObjectName("passingValue");
     mValue->setAccessibleName(tr("Value that is passed"));
+    connect(mParameter, &QComboBox::activated, this, &ReferenceBar::choosePassing);
+    connect(mValue, &QDoubleSpinBox::valueChanged, this, &ReferenceBar::choosePassing);
+}
+
+void ReferenceBar::prepareShift()
+{
     mShift->setObjectName("shift");
     mShift->setSuffix(" s");
     mShift->setSingleStep(0.1);
     mShift->setAccessibleName(tr("Shift of the reference"));
     mShift->setToolTip(tr("Seconds by which the reference is shifted; Alt and a drag in the graph "
                           "shift it too"));
+    connect(mShift, &QDoubleSpinBox::valueChanged, this,
+            [this](double seconds) { mSession.reference().setShift(seconds); });
+    mPick->setObjectName("pick");
+    connect(mPick, &QToolButton::clicked, this, &ReferenceBar::pickMoment);
+}
+
+QWidget* ReferenceBar::createControls()
+{
+    constexpr double Longest = 1e7; // seconds, more than a season
+    constexpr int Decimals = 3;
+    auto* controls = new QWidget;
+    auto* layout = new QHBoxLayout(controls);
+    layout->setContentsMargins(0, 0, 0, 0);
     for (QDoubleSpinBox* box : {mValue, mShift}) {
         box->setRange(-Longest, Longest);
         box->setDecimals(Decimals);
         box->setKeyboardTracking(false);
         box->setMaximumWidth(box->fontMetrics().horizontalAdvance("-00000.000 s") + 40);
     }
-    mPick->setObjectName("pick");
-    connect(mParameter, &QComboBox::activated, this, &ReferenceBar::choosePassing);
-    connect(mValue, &QDoubleSpinBox::valueChanged, this, &ReferenceBar::choosePassing);
-    connect(mShift, &QDoubleSpinBox::valueChanged, this,
-            [this](double seconds) { mSession.reference().setShift(seconds); });
-    connect(mPick, &QToolButton::clicked, this, &ReferenceBar::pickMoment);
+    preparePassing();
+    prepareShift();
     auto* label = new QLabel(tr("A&lign:"));
     label->setBuddy(mModes);
     auto* shiftLabel = new QLabel(tr("S&hift:"));

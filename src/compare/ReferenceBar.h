@@ -26,7 +26,10 @@ public:
 
 private:
     QWidget* createNames();
+    QToolButton* createAway();
     QWidget* createControls();
+    void preparePassing();
+    void prepareShift();
     QComboBox* createModes();
     QToolButton* createSwitch(const QString& text, const QString& toolTip, Switch& on);
     void followSession();

@@ -84,14 +84,10 @@ void EventRows::merge()
     }
     const std::size_t mixed = mKind == EventKind::Faults ? mUnannounced.size() : eventCount();
     std::size_t next = 0;
-    const auto addBefore = [&](double time) {
-        for (; next < mReference.size() && shownStart(*mReference[next]) + mShift < time; ++next) {
-            mOwn.push_back(-1 - static_cast<int>(next));
-        }
-    };
     for (std::size_t own = 0; own <= ownCount(); ++own) {
-        if (own <= mixed) {
-            addBefore(own < mixed ? timeOf(own) : std::numeric_limits<double>::infinity());
+        const double time = own < mixed ? timeOf(own) : std::numeric_limits<double>::infinity();
+        while (next < mReference.size() && shownStart(*mReference[next]) + mShift < time) {
+            mOwn.push_back(-1 - static_cast<int>(next++));
         }
         if (own < ownCount()) {
             mRows.push_back(static_cast<int>(mOwn.size()));

@@ -23,6 +23,23 @@ std::optional<double> firstPassing(const FlightClock& clock, const ProfileParame
     return std::nullopt;
 }
 
+namespace {
+
+std::optional<double> passingShift(const Alignment& alignment, const FlightClock& flight,
+                                   const FlightClock& reference, Progress& progress)
+{
+    const auto& parameters = flight.flight.profile()->parameters();
+    if (alignment.parameter >= parameters.size()) {
+        return std::nullopt;
+    }
+    const ProfileParameter& parameter = *parameters[alignment.parameter].parameter;
+    const auto own = firstPassing(flight, parameter, alignment.value, progress);
+    const auto other = firstPassing(reference, parameter, alignment.value, progress);
+    return own && other ? std::optional(*own - *other) : std::nullopt;
+}
+
+} // namespace
+
 std::optional<double> shiftOf(const Alignment& alignment, const FlightClock& flight,
                               const FlightClock& reference, Progress& progress)
 {
@@ -32,16 +49,8 @@ std::optional<double> shiftOf(const Alignment& alignment, const FlightClock& fli
     case Alignment::Start:
         return flight.flight.range(flight.offset).start -
                reference.flight.range(reference.offset).start;
-    case Alignment::Passing: {
-        const auto parameters = flight.flight.profile()->parameters();
-        if (alignment.parameter >= parameters.size()) {
-            return std::nullopt;
-        }
-        const ProfileParameter& parameter = *parameters[alignment.parameter].parameter;
-        const auto own = firstPassing(flight, parameter, alignment.value, progress);
-        const auto other = firstPassing(reference, parameter, alignment.value, progress);
-        return own && other ? std::optional(*own - *other) : std::nullopt;
-    }
+    case Alignment::Passing:
+        return passingShift(alignment, flight, reference, progress);
     default:
         return std::nullopt;
     }

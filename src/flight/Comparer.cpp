@@ -2,6 +2,22 @@
 
 namespace TARN {
 
+namespace {
+
+/// Of the same parameters of another flight.
+StatisticsIndexes indexesLike(const StatisticsIndexes& indexes,
+                              const std::shared_ptr<const Flight>& other, double offset,
+                              Progress& progress)
+{
+    std::vector<const ProfileParameter*> parameters;
+    for (const auto& index : indexes) {
+        parameters.push_back(&index->parameter());
+    }
+    return makeIndexes(other, parameters, offset, progress);
+}
+
+} // namespace
+
 Comparer::Comparer(Session& session, QObject* parent) : QObject(parent), mSession(session)
 {
     connect(&session.reference(), &Reference::flightChanged, this, &Comparer::forget);
@@ -32,13 +48,7 @@ void Comparer::start()
     mJob.start(
         [flight = mFlight, known = mReferences, other = reference.flight(),
          offset = reference.offset(), shift = reference.shift()](Progress& progress) {
-            std::vector<const ProfileParameter*> parameters;
-            for (const auto& index : flight) {
-                parameters.push_back(&index->parameter());
-            }
-            Made made;
-            made.references =
-                known.empty() ? makeIndexes(other, parameters, offset, progress) : known;
+            Made made{known.empty() ? indexesLike(flight, other, offset, progress) : known, {}};
             for (std::size_t k = 0; k < flight.size() && !progress.stopRequested(); ++k) {
                 made.indexes.push_back(std::make_shared<ComparisonIndex>(
                     flight[k], made.references[k], shift, progress));

@@ -131,6 +131,17 @@ private:
     std::size_t mNext = 0;
 };
 
+/// How many samples ahead of one have the same time.
+template <typename Samples>
+std::size_t placeAmongEquals(const Samples& samples, std::size_t k)
+{
+    std::size_t place = 0;
+    while (place < k && samples.time(k - place - 1) == samples.time(k)) {
+        ++place;
+    }
+    return place;
+}
+
 /// Appends samples \p begin to before \p end of a flight minus what another one has at their
 /// times. A time at which one of the two has no value has NaN; where something is cut between a
 /// sample and the next one, which may be behind the end, NaN follows at once, so that the
@@ -139,12 +150,7 @@ template <typename Samples, typename Others>
 void readDifference(const Samples& samples, ValueReader<Others>& others, std::size_t begin,
                     std::size_t end, std::vector<double>& times, std::vector<double>& values)
 {
-    std::size_t which = 0; // of equal times
-    for (std::size_t k = begin; k > 0 && k < samples.size(); --k, ++which) {
-        if (samples.time(k - 1) != samples.time(begin)) {
-            break;
-        }
-    }
+    std::size_t which = begin < end ? placeAmongEquals(samples, begin) : 0;
     for (std::size_t k = begin; k < end; ++k) {
         const double time = samples.time(k);
         times.push_back(time);

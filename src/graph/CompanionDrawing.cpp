@@ -54,7 +54,6 @@ void CompanionDrawing::drawReference(const ParStruct& curve, const GraphColor& c
 void CompanionDrawing::drawDifference(const ParStruct& curve, const GraphColor& color)
 {
     constexpr float Tint = 0.08F;
-    constexpr float DotSize = 3.0F;
     const GraphStrip& place = curve.differenceStrip;
     if (curve.difference.samples == nullptr || place.height <= 0.0) {
         return;
@@ -68,7 +67,18 @@ void CompanionDrawing::drawDifference(const ParStruct& curve, const GraphColor& 
     const auto zero = static_cast<float>(mCanvas.sharp(place.toPixel(0.0)));
     mCanvas.dotted({static_cast<float>(mView.x0), zero, static_cast<float>(right), zero},
                    mStyle.fore);
-    mLine.buildLine(curve.difference.frames.frames(), place, mView);
+    drawLine(curve.difference.frames.frames(), place, color);
+    mCanvas.clipNone();
+    if (!isOfAll) {
+        addLegend(differenceText(curve), place, color);
+    }
+}
+
+void CompanionDrawing::drawLine(std::span<const FrameType> frames, const GraphStrip& place,
+                                const GraphColor& color)
+{
+    constexpr float DotSize = 3.0F;
+    mLine.buildLine(frames, place, mView);
     for (const GraphLine::Strip& strip : mLine.strips()) {
         const float* points = mLine.points().data() + std::ptrdiff_t(strip.first) * 2;
         if (strip.count > 1) {
@@ -78,10 +88,6 @@ void CompanionDrawing::drawDifference(const ParStruct& curve, const GraphColor& 
         }
     }
     mCanvas.lines(mLine.fillings(), color);
-    mCanvas.clipNone();
-    if (!isOfAll) {
-        addLegend(differenceText(curve), place, color);
-    }
 }
 
 void CompanionDrawing::drawTitle(const GraphStrip& place)

@@ -26,6 +26,8 @@ public:
     QString referenceText(const ParStruct& curve) const;
 
 private:
+    void drawLine(std::span<const FrameType> frames, const GraphStrip& place,
+                  const GraphColor& color);
     QString differenceText(const ParStruct& curve) const;
     void addLegend(const QString& text, const GraphStrip& place, const GraphColor& color);
 

@@ -80,27 +80,11 @@ void GlCanvas::strip(const float* points, int count, const GraphColor& color)
 void GlCanvas::dashed(const float* points, int count, const GraphColor& color,
                       const GraphColor& between)
 {
-    constexpr float Dash = 4.0F; // pixels
     mPoints.clear();
     mColors.clear();
-    const auto add = [&](float x, float y, float left) {
-        const bool isOn = (static_cast<int>(left / Dash) & 1) == 0;
-        const GraphColor& now = isOn ? color : between;
-        mPoints.insert(mPoints.end(), {x, y});
-        mColors.insert(mColors.end(), {now.red, now.green, now.blue});
-    };
     for (int k = 0; k < count; ++k) {
-        const float x = points[2 * k];
-        const float y = points[2 * k + 1];
-        float from = k > 0 ? points[2 * k - 2] : x;
-        const float slope = x > from ? (y - points[2 * k - 1]) / (x - from) : 0.0F;
-        const float end = std::min(x, mWidth); // neighbours may lie far outside
-        for (float edge = (std::floor(std::max(from, 0.0F) / Dash) + 1.0F) * Dash; edge < end;
-             edge += Dash) {
-            add(edge, y - (x - edge) * slope, from);
-            from = edge;
-        }
-        add(x, y, from);
+        addDashes(points + std::ptrdiff_t(2) * std::max(k - 1, 0), points + std::ptrdiff_t(2) * k,
+                  color, between);
     }
     glShadeModel(GL_FLAT);
     glEnableClientState(GL_COLOR_ARRAY);
@@ -108,6 +92,27 @@ void GlCanvas::dashed(const float* points, int count, const GraphColor& color,
     glVertexPointer(2, GL_FLOAT, 0, mPoints.data());
     glDrawArrays(GL_LINE_STRIP, 0, static_cast<GLsizei>(mPoints.size() / 2));
     glDisableClientState(GL_COLOR_ARRAY);
+}
+
+/// The way from one point to the next, cut where dashes end.
+void GlCanvas::addDashes(const float* start, const float* stop, const GraphColor& color,
+                         const GraphColor& between)
+{
+    constexpr float Dash = 4.0F; // pixels
+    const auto add = [&](float x, float y, float left) {
+        const GraphColor& now = (static_cast<int>(left / Dash) & 1) == 0 ? color : between;
+        mPoints.insert(mPoints.end(), {x, y});
+        mColors.insert(mColors.end(), {now.red, now.green, now.blue});
+    };
+    float from = start[0];
+    const float slope = stop[0] > from ? (stop[1] - start[1]) / (stop[0] - from) : 0.0F;
+    const float end = std::min(stop[0], mWidth); // neighbours may lie far outside
+    for (float edge = (std::floor(std::max(from, 0.0F) / Dash) + 1.0F) * Dash; edge < end;
+         edge += Dash) {
+        add(edge, stop[1] - (stop[0] - edge) * slope, from);
+        from = edge;
+    }
+    add(stop[0], stop[1], from);
 }
 
 void GlCanvas::lines(const std::vector<float>& points, const GraphColor& color)

@@ -30,6 +30,9 @@ private:
     void draw(unsigned mode, const float* points, int count, const GraphColor& color,
               float alpha = 1.0F) const;
 
+    void addDashes(const float* start, const float* stop, const GraphColor& color,
+                   const GraphColor& between);
+
     double mRatio = 1.0;
     float mWidth = 0.0F;        ///< pixels
     std::vector<float> mPoints; ///< of what is dashed; kept to spare allocations

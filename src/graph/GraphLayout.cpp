@@ -51,6 +51,16 @@ ValueRange differenceRange(const ParStruct& curve)
     return range;
 }
 
+/// The difference has the lower part.
+void divideStrip(ParStruct& curve)
+{
+    const double below = DifferencePart * curve.strip.height;
+    const ValueRange range = widened(differenceRange(curve));
+    curve.differenceStrip = {curve.strip.y0, below, range.low, range.high};
+    curve.strip.y0 += below;
+    curve.strip.height -= below;
+}
+
 double widestLabel(const std::vector<ValueAxis>& axes, const GraphLayout::Measure& measure)
 {
     double widest = 0.0;
@@ -277,11 +287,7 @@ void GraphLayout::placeStrips()
                                                   : mFixed;
         curve.strip = {mView.y0 + mView.height - ++k * height, height, range.low, range.high};
         if (curve.difference.samples != nullptr) {
-            const double below = DifferencePart * height;
-            const ValueRange differences = widened(differenceRange(curve));
-            curve.differenceStrip = {curve.strip.y0, below, differences.low, differences.high};
-            curve.strip.y0 += below;
-            curve.strip.height -= below;
+            divideStrip(curve);
         }
     }
 }

@@ -161,20 +161,25 @@ void MeasurePanel::createColumnMenu(QTableView& table)
         if (column > MeasureModel::AboveColumn) {
             header->moveSection(column, column - MeasureModel::AboveColumn);
         }
-        auto* action = new QAction(
-            mModel->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), header);
-        action->setCheckable(true);
-        action->setChecked((hidden >> column & 1) == 0);
-        connect(action, &QAction::toggled, this, [this, column](bool isShown) {
-            const int before = Property::instance()->getInt(HiddenKey, 0);
-            const int bit = 1 << column;
-            Property::instance()->setInt(HiddenKey, isShown ? before & ~bit : before | bit);
-            showColumns(*mTable);
-        });
-        header->addAction(action);
+        header->addAction(createChoice(column, (hidden >> column & 1) == 0));
     }
     header->setContextMenuPolicy(Qt::ActionsContextMenu);
     showColumns(table);
+}
+
+QAction* MeasurePanel::createChoice(int column, bool isShown)
+{
+    auto* action =
+        new QAction(mModel->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString(), this);
+    action->setCheckable(true);
+    action->setChecked(isShown);
+    connect(action, &QAction::toggled, this, [this, column](bool isOn) {
+        const int before = Property::instance()->getInt(HiddenKey, 0);
+        const int bit = 1 << column;
+        Property::instance()->setInt(HiddenKey, isOn ? before & ~bit : before | bit);
+        showColumns(*mTable);
+    });
+    return action;
 }
 
 /// Those that compare are there only while there is something to compare with.

@@ -6,6 +6,7 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QWidget>
 
+class QAction;
 class QLabel;
 class QSortFilterProxyModel;
 class QTableView;
@@ -38,6 +39,7 @@ private:
     QWidget* createTimes();
     QTableView* createTable();
     void createColumnMenu(QTableView& table);
+    QAction* createChoice(int column, bool isShown);
     void showColumns(QTableView& table) const;
     ClockEdit* createTime(MarkerEnd end, const QString& name);
     void reload();

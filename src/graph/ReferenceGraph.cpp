@@ -104,22 +104,25 @@ ReferenceGraph::Source ReferenceGraph::sourceOf(unsigned k) const
     return {curve.series, curve.reference.samples, between, mModel.layout().referenceShift()};
 }
 
-/// Makes those differences anew that are of other curves than before. What they were made of is
-/// gone from the picture at once.
+/// Makes those differences anew that are of other curves than before.
 void ReferenceGraph::updateDifferences()
 {
-    if (mIsUpdating) {
-        return;
-    }
     bool isOther = false;
     for (unsigned k = 0; k < mMadeOf.size(); ++k) {
         isOther = isOther || !(sourceOf(k) == mMadeOf[k]);
     }
-    if (!isOther) {
-        return;
+    if (isOther && !mIsUpdating) {
+        makeDifferences(takeOutdated());
+        mIsUpdating = true;
+        mModel.curvesChanged();
+        mIsUpdating = false;
     }
+}
+
+/// The curves whose difference is to be made; the one before is gone from the picture at once.
+std::vector<unsigned> ReferenceGraph::takeOutdated()
+{
     std::vector<unsigned> places;
-    std::vector<Source> sources;
     for (unsigned k = 0; k < mMadeOf.size(); ++k) {
         Companion& difference = mModel.curves().curve(k)->difference;
         const bool isDone = sourceOf(k) == mMadeOf[k] && difference.samples != nullptr &&
@@ -130,8 +133,16 @@ void ReferenceGraph::updateDifferences()
         } else if (!isDone) {
             difference.samples = std::make_shared<CurveSamples>(); // its strip is there already
             places.push_back(k);
-            sources.push_back(mMadeOf[k]);
         }
+    }
+    return places;
+}
+
+void ReferenceGraph::makeDifferences(const std::vector<unsigned>& places)
+{
+    std::vector<Source> sources;
+    for (const unsigned k : places) {
+        sources.push_back(mMadeOf[k]);
     }
     mJob.start(
         [sources](Progress& progress) {
@@ -143,9 +154,6 @@ void ReferenceGraph::updateDifferences()
             return made;
         },
         [this, places](const Differences& made) { take(places, made); });
-    mIsUpdating = true;
-    mModel.curvesChanged();
-    mIsUpdating = false;
 }
 
 void ReferenceGraph::take(const std::vector<unsigned>& places, const Differences& differences)

@@ -48,6 +48,8 @@ private:
     void reload();
     void showShift();
     void updateDifferences();
+    std::vector<unsigned> takeOutdated();
+    void makeDifferences(const std::vector<unsigned>& places);
     Source sourceOf(unsigned k) const;
     void take(const std::vector<unsigned>& places, const Differences& differences);
     void nudge(double seconds);

@@ -20,6 +20,16 @@ DialogDataTable::DialogDataTable(Session& session, QWidget* parent)
     setFocusProxy(mTable);
     connect(mTable, &DataTableView::rowPicked, this, &DialogDataTable::slotSelect);
     connect(mTable, &DataTableView::signalLink, this, &DialogDataTable::signalLink);
+    mJob.setOutOfMemory([this] {
+        mIsShort = true;
+        updateEmptyText();
+    });
+    followSession();
+    showColumns();
+}
+
+void DialogDataTable::followSession()
+{
     connect(&mSession, &Session::profileChanged, this, &DialogDataTable::showColumns);
     connect(&mSession, &Session::selectionChanged, this, &DialogDataTable::showColumns);
     connect(&mSession, &Session::flightChanged, this, &DialogDataTable::showColumns);
@@ -33,11 +43,6 @@ DialogDataTable::DialogDataTable(Session& session, QWidget* parent)
     connect(&reference, &Reference::flightChanged, this, &DialogDataTable::loadReference);
     connect(&reference, &Reference::shiftChanged, this, &DialogDataTable::showReference);
     connect(&reference.columnsShown(), &Switch::turned, this, &DialogDataTable::showReference);
-    mJob.setOutOfMemory([this] {
-        mIsShort = true;
-        updateEmptyText();
-    });
-    showColumns();
 }
 
 /// The columns of the selection at once, their rows when they are found.

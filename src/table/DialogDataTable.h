@@ -30,6 +30,7 @@ private Q_SLOTS:
     void slotSelect(int row);
 
 private:
+    void followSession();
     void showColumns();
     void fitColumns();
     void fill();
