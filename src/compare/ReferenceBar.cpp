@@ -5,6 +5,7 @@
 #include "widgets/ElidedLabel.h"
 
 #include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QHBoxLayout>
@@ -97,16 +98,14 @@ QComboBox* ReferenceBar::createModes()
     return modes;
 }
 
-QToolButton* ReferenceBar::createSwitch(const QString& text, const QString& toolTip, Switch& on)
+QCheckBox* ReferenceBar::createSwitch(const QString& text, const QString& toolTip, Switch& on)
 {
-    auto* button = new QToolButton;
-    button->setText(text);
-    button->setToolTip(toolTip);
-    button->setCheckable(true);
-    button->setChecked(on.isOn());
-    connect(button, &QToolButton::toggled, &on, &Switch::turn);
-    connect(&on, &Switch::turned, button, &QToolButton::setChecked);
-    return button;
+    auto* box = new QCheckBox(text);
+    box->setToolTip(toolTip);
+    box->setChecked(on.isOn());
+    connect(box, &QCheckBox::toggled, &on, &Switch::turn);
+    connect(&on, &Switch::turned, box, &QCheckBox::setChecked);
+    return box;
 }
 
 void ReferenceBar::preparePassing()
