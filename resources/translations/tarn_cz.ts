@@ -2689,7 +2689,7 @@ Původní soubor zůstal beze změny; uložte projekt do jiné složky.</transla
         <translation>Za&amp;rovnat:</translation>
     </message>
     <message>
-        <source>S&amp;hift:</source>
+        <source>Sh&amp;ift:</source>
         <translation>Pos&amp;unout:</translation>
     </message>
     <message>

@@ -2689,7 +2689,7 @@ Die alte Datei ist unverändert; speichern Sie das Projekt in einem anderen Ordn
         <translation>Aus&amp;richten:</translation>
     </message>
     <message>
-        <source>S&amp;hift:</source>
+        <source>Sh&amp;ift:</source>
         <translation>&amp;Verschieben:</translation>
     </message>
     <message>

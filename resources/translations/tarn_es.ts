@@ -2689,7 +2689,7 @@ El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
         <translation>A&amp;linear:</translation>
     </message>
     <message>
-        <source>S&amp;hift:</source>
+        <source>Sh&amp;ift:</source>
         <translation>&amp;Desplazar:</translation>
     </message>
     <message>

@@ -2689,7 +2689,7 @@ L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre d
         <translation>A&amp;ligner&#xa0;:</translation>
     </message>
     <message>
-        <source>S&amp;hift:</source>
+        <source>Sh&amp;ift:</source>
         <translation>&amp;Décaler&#xa0;:</translation>
     </message>
     <message>

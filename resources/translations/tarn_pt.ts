@@ -2689,7 +2689,7 @@ O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translat
         <translation>A&amp;linhar:</translation>
     </message>
     <message>
-        <source>S&amp;hift:</source>
+        <source>Sh&amp;ift:</source>
         <translation>&amp;Deslocar:</translation>
     </message>
     <message>

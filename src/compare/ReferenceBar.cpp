@@ -154,7 +154,7 @@ QWidget* ReferenceBar::createControls()
     prepareShift();
     auto* label = new QLabel(tr("A&lign:"));
     label->setBuddy(mModes);
-    auto* shiftLabel = new QLabel(tr("S&hift:"));
+    auto* shiftLabel = new QLabel(tr("Sh&ift:"));
     shiftLabel->setBuddy(mShift);
     for (QWidget* widget : std::initializer_list<QWidget*>{label, mModes, mParameter, mValue,
                                                            shiftLabel, mShift, mPick}) {
