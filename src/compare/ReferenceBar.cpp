@@ -59,8 +59,8 @@ QWidget* ReferenceBar::createNames()
     layout->setContentsMargins(0, 0, 0, 0);
     mFlight->setObjectName("flightName");
     mReference->setObjectName("referenceName");
-    layout->addWidget(mFlight, 1);
-    layout->addWidget(mReference, 1);
+    layout->addWidget(mFlight, 3);
+    layout->addWidget(mReference, 4); // has more to say
     Reference& reference = mSession.reference();
     layout->addWidget(createSwitch(tr("Curves"), tr("Show the reference's curves (B in the graph)"),
                                    reference.shown()));
