@@ -139,7 +139,7 @@ void ReferenceBar::prepareShift()
 
 QWidget* ReferenceBar::createControls()
 {
-    constexpr double Longest = 1e7; // seconds, more than a season
+    constexpr double Longest = 1e12; // seconds, of a broken clock too
     constexpr int Decimals = 3;
     auto* controls = new QWidget;
     auto* layout = new QHBoxLayout(controls);
@@ -174,7 +174,8 @@ void ReferenceBar::followSession()
     connect(&reference, &Reference::flightChanged, this, &ReferenceBar::showFlights);
     connect(&reference, &Reference::alignmentChanged, this, &ReferenceBar::showAlignment);
     connect(&reference, &Reference::shiftChanged, this, &ReferenceBar::showAlignment);
-    connect(&mAligner, &Aligner::done, this, &ReferenceBar::updateNote);
+    connect(&reference.memoryShort(), &Switch::turned, this, &ReferenceBar::updateNote);
+    connect(&mAligner, &Aligner::changed, this, &ReferenceBar::updateNote);
 }
 
 void ReferenceBar::showFlights()
@@ -192,22 +193,22 @@ void ReferenceBar::showFlights()
     showAlignment();
 }
 
+/// Proposes the take-off, where the profile has a speed.
 void ReferenceBar::showParameters()
 {
     constexpr double Flying = 40.0; // kt
-    const QString before = mParameter->currentText();
-    int speed = 0;
+    const Alignment& alignment = mSession.reference().alignment();
+    int speed = -1;
     mParameter->clear();
     for (const auto& [device, parameter] : mSession.profile()->parameters()) {
-        speed = speed == 0 && parameter->unit == "kt" ? mParameter->count() : speed;
-        mParameter->addItem(parameter->title());
+        speed = speed < 0 && parameter->unit == "kt" ? mParameter->count() : speed;
+        mParameter->addItem(parameter->title(), parameter->fullName);
     }
-    const int known = before.isEmpty() ? -1 : mParameter->findText(before);
-    if (known < 0) {
-        const QSignalBlocker quiet(mValue);
-        mValue->setValue(speed > 0 ? Flying : 0.0);
-    }
-    mParameter->setCurrentIndex(known < 0 ? speed : known);
+    const QSignalBlocker quiet(mValue);
+    mValue->setValue(!alignment.parameter.isEmpty() ? alignment.value : speed < 0 ? 0.0 : Flying);
+    mParameter->setCurrentIndex(alignment.parameter.isEmpty()
+                                    ? std::max(speed, 0)
+                                    : mParameter->findData(alignment.parameter));
 }
 
 void ReferenceBar::showAlignment()
@@ -241,9 +242,8 @@ void ReferenceBar::chooseMode(int mode)
 
 void ReferenceBar::choosePassing()
 {
-    mSession.reference().align({Alignment::Passing,
-                                static_cast<std::size_t>(std::max(0, mParameter->currentIndex())),
-                                mValue->value()});
+    mSession.reference().align(
+        {Alignment::Passing, mParameter->currentData().toString(), mValue->value()});
 }
 
 /// First the moment of the flight, then that of the reference.
@@ -280,7 +280,7 @@ QString ReferenceBar::missing() const
 bool ReferenceBar::haveCommonTime() const
 {
     const Reference& reference = mSession.reference();
-    if (mSession.flight() == nullptr || mAligner.isRunning()) {
+    if (mSession.flight() == nullptr) {
         return true; // nobody knows
     }
     const TimeRange common =
@@ -296,12 +296,19 @@ QString ReferenceBar::note() const
                   "moment, then press Align Here.")
             .arg(clockTextWithMilliseconds(*mPicked));
     }
+    if (mAligner.isRunning()) {
+        return tr("The flights are being aligned.");
+    }
     if (!mAligner.isPossible()) {
         return tr("One of the flights does not pass this value: the shift is the one before.");
     }
     const QString apart = tr("The flights have no time in common: align them by their start, or "
                              "shift the reference.");
-    return ((haveCommonTime() ? QString() : apart + " ") + missing()).trimmed();
+    const QString tooLarge = tr("There is not enough memory to compare everything; select fewer "
+                                "parameters.");
+    return ((mSession.reference().memoryShort().isOn() ? tooLarge + " " : QString()) +
+            (haveCommonTime() ? QString() : apart + " ") + missing())
+        .trimmed();
 }
 
 void ReferenceBar::updateNote()

@@ -63,8 +63,8 @@ private:
         std::optional<std::size_t> before;
         for (std::size_t k = 0; k < series.size(); ++k) {
             const double now = series.time(k) + shift;
-            if (now == time) {
-                for (; which > 0 && k + 1 < series.size() && series.time(k + 1) + shift == time;
+            if (std::fabs(now - time) <= HalfTick) {
+                for (; which > 0 && k + 1 < series.size() && series.time(k + 1) == series.time(k);
                      --which) {
                     ++k;
                 }
@@ -87,11 +87,12 @@ private:
     static bool plainKnows(const StatisticsIndex& index, double shift, double from, double to)
     {
         const Series& series = index.series();
-        bool isKnown = !series.empty() && series.time(0) + shift <= from &&
-                       series.time(series.size() - 1) + shift >= to;
+        bool isKnown = !series.empty() && series.time(0) + shift <= from + HalfTick &&
+                       series.time(series.size() - 1) + shift >= to - HalfTick;
         for (std::size_t k = 1; k < series.size(); ++k) {
             const bool isGap = index.gaps().isGap(series.time(k - 1), series.time(k));
-            const bool isBetween = series.time(k - 1) + shift < to && series.time(k) + shift > from;
+            const bool isBetween = series.time(k - 1) + shift < to - HalfTick &&
+                                   series.time(k) + shift > from + HalfTick;
             isKnown = isKnown && !(isGap && isBetween);
         }
         return isKnown;
@@ -204,12 +205,12 @@ private Q_SLOTS:
         Progress none;
         using A = Alignment;
         const std::pair<Alignment, std::optional<double>> rows[] = {
-            {{A::Clock}, 0.0},
-            {{A::Start}, 0.0},
-            {{A::Moment}, std::nullopt},
-            {{A::Passing, 0, 40.0}, 13.0 - 16.0}, // 40 is not below
-            {{A::Passing, 0, 55.0}, std::nullopt},
-            {{A::Passing, 7, 1.0}, std::nullopt}};
+            {{A::Clock, {}, 0.0}, 0.0},
+            {{A::Start, {}, 0.0}, 0.0},
+            {{A::Moment, {}, 0.0}, std::nullopt},
+            {{A::Passing, "D/Number", 40.0}, 13.0 - 16.0}, // 40 is not below
+            {{A::Passing, "D/Number", 55.0}, std::nullopt},
+            {{A::Passing, "D/Gone", 1.0}, std::nullopt}};
         for (const auto& [alignment, expected] : rows) {
             QCOMPARE(shiftOf(alignment, own, other, none), expected);
         }
@@ -227,12 +228,12 @@ private Q_SLOTS:
         Reference& reference = session.reference();
         QTRY_VERIFY(!aligner.isRunning());
         QCOMPARE(reference.shift(), 0.0);
-        reference.align({Alignment::Passing, 0, 40.0});
+        reference.align({Alignment::Passing, "D/Number", 40.0});
         QTRY_COMPARE(reference.shift(), -3.0);
         comparer.compare({indexOf(pair.flight, 0)});
         QTRY_COMPARE(comparer.indexes().size(), 1U);
         QCOMPARE(comparer.indexes()[0]->difference({0.0, 99.0}).max->value, -9.0);
-        reference.align({Alignment::Passing, 0, 45.0});
+        reference.align({Alignment::Passing, "D/Number", 45.0});
         QTRY_VERIFY(!aligner.isPossible());
         QCOMPARE(reference.shift(), -3.0);
         reference.setShift(0.5);
