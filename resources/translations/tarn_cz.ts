@@ -594,8 +594,16 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
         <translation>Porovnání s referencí</translation>
     </message>
     <message>
-        <source>No parameter has changed.</source>
-        <translation>Žádný parametr se nezměnil.</translation>
+        <source>Reference: %1. It has no time in common with this range.</source>
+        <translation>Reference: %1. S tímto rozsahem nemá žádný společný čas.</translation>
+    </message>
+    <message>
+        <source>No parameter has values in both flights there.</source>
+        <translation>Žádný parametr tam nemá hodnoty v obou letech.</translation>
+    </message>
+    <message>
+        <source>None of %1 parameters has changed.</source>
+        <translation>Žádný z %1 parametrů se nezměnil.</translation>
     </message>
 </context>
 <context>
@@ -2735,6 +2743,14 @@ Původní soubor zůstal beze změny; uložte projekt do jiné složky.</transla
     <message>
         <source>The flights have no time in common: align them by their start, or shift the reference.</source>
         <translation>Lety nemají žádný společný čas: zarovnejte je podle začátku, nebo posuňte referenci.</translation>
+    </message>
+    <message>
+        <source>The flights are being aligned.</source>
+        <translation>Lety se zarovnávají.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to compare everything; select fewer parameters.</source>
+        <translation>Na porovnání všeho není dost paměti; vyberte méně parametrů.</translation>
     </message>
 </context>
 <context>

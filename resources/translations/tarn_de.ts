@@ -594,8 +594,16 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
         <translation>Vergleich mit der Referenz</translation>
     </message>
     <message>
-        <source>No parameter has changed.</source>
-        <translation>Kein Parameter hat sich geändert.</translation>
+        <source>Reference: %1. It has no time in common with this range.</source>
+        <translation>Referenz: %1. Sie hat mit diesem Bereich keine Zeit gemeinsam.</translation>
+    </message>
+    <message>
+        <source>No parameter has values in both flights there.</source>
+        <translation>Kein Parameter hat dort in beiden Flügen Werte.</translation>
+    </message>
+    <message>
+        <source>None of %1 parameters has changed.</source>
+        <translation>Keiner von %1 Parametern hat sich geändert.</translation>
     </message>
 </context>
 <context>
@@ -2735,6 +2743,14 @@ Die alte Datei ist unverändert; speichern Sie das Projekt in einem anderen Ordn
     <message>
         <source>The flights have no time in common: align them by their start, or shift the reference.</source>
         <translation>Die Flüge haben keine gemeinsame Zeit: Richten Sie sie am Anfang aus oder verschieben Sie die Referenz.</translation>
+    </message>
+    <message>
+        <source>The flights are being aligned.</source>
+        <translation>Die Flüge werden ausgerichtet.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to compare everything; select fewer parameters.</source>
+        <translation>Der Speicher reicht nicht, um alles zu vergleichen; wählen Sie weniger Parameter aus.</translation>
     </message>
 </context>
 <context>

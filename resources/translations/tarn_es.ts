@@ -594,8 +594,16 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
         <translation>Comparación con la referencia</translation>
     </message>
     <message>
-        <source>No parameter has changed.</source>
-        <translation>Ningún parámetro ha cambiado.</translation>
+        <source>Reference: %1. It has no time in common with this range.</source>
+        <translation>Referencia: %1. No tiene tiempo en común con este rango.</translation>
+    </message>
+    <message>
+        <source>No parameter has values in both flights there.</source>
+        <translation>Ningún parámetro tiene ahí valores en ambos vuelos.</translation>
+    </message>
+    <message>
+        <source>None of %1 parameters has changed.</source>
+        <translation>Ninguno de %1 parámetros ha cambiado.</translation>
     </message>
 </context>
 <context>
@@ -2735,6 +2743,14 @@ El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
     <message>
         <source>The flights have no time in common: align them by their start, or shift the reference.</source>
         <translation>Los vuelos no tienen ningún tiempo en común: alinéelos por su inicio o desplace la referencia.</translation>
+    </message>
+    <message>
+        <source>The flights are being aligned.</source>
+        <translation>Los vuelos se están alineando.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to compare everything; select fewer parameters.</source>
+        <translation>No hay memoria suficiente para comparar todo; seleccione menos parámetros.</translation>
     </message>
 </context>
 <context>

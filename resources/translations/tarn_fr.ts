@@ -594,8 +594,16 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
         <translation>Comparaison avec la référence</translation>
     </message>
     <message>
-        <source>No parameter has changed.</source>
-        <translation>Aucun paramètre n&apos;a changé.</translation>
+        <source>Reference: %1. It has no time in common with this range.</source>
+        <translation>Référence&#xa0;: %1. Elle n&apos;a pas de temps en commun avec cette plage.</translation>
+    </message>
+    <message>
+        <source>No parameter has values in both flights there.</source>
+        <translation>Aucun paramètre n&apos;y a de valeurs dans les deux vols.</translation>
+    </message>
+    <message>
+        <source>None of %1 parameters has changed.</source>
+        <translation>Aucun des %1 paramètres n&apos;a changé.</translation>
     </message>
 </context>
 <context>
@@ -2735,6 +2743,14 @@ L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre d
     <message>
         <source>The flights have no time in common: align them by their start, or shift the reference.</source>
         <translation>Les vols n&apos;ont aucun temps en commun&#xa0;: alignez-les par leur début, ou décalez la référence.</translation>
+    </message>
+    <message>
+        <source>The flights are being aligned.</source>
+        <translation>Les vols sont en cours d&apos;alignement.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to compare everything; select fewer parameters.</source>
+        <translation>La mémoire ne suffit pas pour tout comparer ; sélectionnez moins de paramètres.</translation>
     </message>
 </context>
 <context>

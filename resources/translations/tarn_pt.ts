@@ -594,8 +594,16 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
         <translation>Comparação com a referência</translation>
     </message>
     <message>
-        <source>No parameter has changed.</source>
-        <translation>Nenhum parâmetro mudou.</translation>
+        <source>Reference: %1. It has no time in common with this range.</source>
+        <translation>Referência: %1. Não tem tempo em comum com esta faixa.</translation>
+    </message>
+    <message>
+        <source>No parameter has values in both flights there.</source>
+        <translation>Nenhum parâmetro tem ali valores nos dois voos.</translation>
+    </message>
+    <message>
+        <source>None of %1 parameters has changed.</source>
+        <translation>Nenhum de %1 parâmetros mudou.</translation>
     </message>
 </context>
 <context>
@@ -2735,6 +2743,14 @@ O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translat
     <message>
         <source>The flights have no time in common: align them by their start, or shift the reference.</source>
         <translation>Os voos não têm nenhum tempo em comum: alinhe-os pelo início ou desloque a referência.</translation>
+    </message>
+    <message>
+        <source>The flights are being aligned.</source>
+        <translation>Os voos estão sendo alinhados.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to compare everything; select fewer parameters.</source>
+        <translation>Não há memória suficiente para comparar tudo; selecione menos parâmetros.</translation>
     </message>
 </context>
 <context>

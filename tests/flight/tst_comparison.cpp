@@ -196,6 +196,31 @@ private Q_SLOTS:
         }
     }
 
+    /// The same flight on another clock, and one whose clock stands still.
+    void otherClocks()
+    {
+        QString now;
+        QString before;
+        QString frozen;
+        for (int k = 0; k < 5000; ++k) {
+            const int state = k / 3 % 2;
+            now += QString(" 501@%1=5:0000000%2").arg(33000.1 + k * 0.1).arg(state);
+            before += QString(" 501@%1=5:0000000%2").arg(60.1 + k * 0.1).arg(state);
+            frozen += QString(" 500@100=%1").arg(k);
+        }
+        const Pair pair = pairOf(now, before);
+        const double shift =
+            pair.flight->series(*pair.flight->profile()->parameters()[1].parameter, 0.0).time(0) -
+            60.1;
+        const Statistics same = comparison(pair, shift, 1).difference({0.0, 1e6});
+        QVERIFY(same.samples == 5000U && same.min->value == 0.0 && same.max->value == 0.0);
+        const TimeRange common = commonRange({33000.1, 33600.0}, {60.1, 660.0}, 33000.1 - 60.1);
+        QVERIFY(common.contains(33000.1) && common.contains(60.1 + (33000.1 - 60.1)));
+        const Pair still = pairOf(frozen, frozen);
+        const Statistics none = comparison(still, 0.0).difference({0.0, 1e6});
+        QVERIFY(none.samples == 5000U && none.min->value == 0.0 && none.max->value == 0.0);
+    }
+
     void alignments()
     {
         const Pair pair = pairOf("500@10=nan 500@11=0 500@12=39 500@13=41 500@14=30",
@@ -239,9 +264,9 @@ private Q_SLOTS:
         reference.setShift(0.5);
         QTRY_COMPARE(comparer.indexes().size(), 1U);
         QVERIFY(aligner.isPossible() && reference.alignment().by == Alignment::Moment);
-        session.setFlight(pair.reference); // compared with itself now, by the same moment
-        QCOMPARE(reference.shift(), 0.5);
-        reference.setFlight(pair.flight);
+        session.setOffset(2.0); // what lies on each other stays so
+        QCOMPARE(reference.shift(), 2.5);
+        session.setFlight(pair.reference); // the moment was one of the flight before
         QTRY_COMPARE(reference.shift(), 0.0);
         QCOMPARE(reference.alignment().by, Alignment::Start);
         reference.setFlight(nullptr);
