@@ -2705,8 +2705,8 @@ Původní soubor zůstal beze změny; uložte projekt do jiné složky.</transla
         <translation>Let: %1</translation>
     </message>
     <message>
-        <source>Reference (dashed): %1</source>
-        <translation>Reference (čárkovaně): %1</translation>
+        <source>Reference: %1</source>
+        <translation>Reference: %1</translation>
     </message>
     <message>
         <source>Align Here</source>

@@ -2705,8 +2705,8 @@ Die alte Datei ist unverändert; speichern Sie das Projekt in einem anderen Ordn
         <translation>Flug: %1</translation>
     </message>
     <message>
-        <source>Reference (dashed): %1</source>
-        <translation>Referenz (gestrichelt): %1</translation>
+        <source>Reference: %1</source>
+        <translation>Referenz: %1</translation>
     </message>
     <message>
         <source>Align Here</source>

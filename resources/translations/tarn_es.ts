@@ -2705,8 +2705,8 @@ El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
         <translation>Vuelo: %1</translation>
     </message>
     <message>
-        <source>Reference (dashed): %1</source>
-        <translation>Referencia (discontinua): %1</translation>
+        <source>Reference: %1</source>
+        <translation>Referencia: %1</translation>
     </message>
     <message>
         <source>Align Here</source>

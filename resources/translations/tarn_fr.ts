@@ -2705,8 +2705,8 @@ L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre d
         <translation>Vol&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Reference (dashed): %1</source>
-        <translation>Référence (en tirets)&#xa0;: %1</translation>
+        <source>Reference: %1</source>
+        <translation>Référence&#xa0;: %1</translation>
     </message>
     <message>
         <source>Align Here</source>

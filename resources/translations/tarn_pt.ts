@@ -2705,8 +2705,8 @@ O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translat
         <translation>Voo: %1</translation>
     </message>
     <message>
-        <source>Reference (dashed): %1</source>
-        <translation>Referência (tracejada): %1</translation>
+        <source>Reference: %1</source>
+        <translation>Referência: %1</translation>
     </message>
     <message>
         <source>Align Here</source>

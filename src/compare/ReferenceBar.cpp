@@ -18,7 +18,7 @@ namespace TARN {
 
 namespace {
 
-/// "LOG_0001.CAN (+2)   21.06.2025 09:00:00".
+/// "LOG_0001.CAN (+2) 21.6.2025 9:00:00".
 QString nameOf(const Flight& flight)
 {
     const auto& files = flight.record()->integrity().files;
@@ -27,7 +27,7 @@ QString nameOf(const Flight& flight)
         name += QString(" (+%1)").arg(files.size() - 1);
     }
     const RecordInfo& first = files.empty() ? flight.info() : files.front().info;
-    return name + "   " + first.dateTimeText();
+    return (name + " " + first.dateTimeText()).trimmed();
 }
 
 } // namespace
@@ -188,7 +188,7 @@ void ReferenceBar::showFlights()
         return;
     }
     mFlight->setFullText(tr("Flight: %1").arg(flight != nullptr ? nameOf(*flight) : "---"));
-    mReference->setFullText(tr("Reference (dashed): %1").arg(nameOf(*reference)));
+    mReference->setFullText(tr("Reference: %1").arg(nameOf(*reference)));
     showParameters();
     showAlignment();
 }
