@@ -18,7 +18,7 @@ namespace TARN {
 
 namespace {
 
-/// "LOG_0001.CAN (+2) 21.6.2025 9:00:00".
+/// "21.6.2025 9:00:00 LOG_0001.CAN (+2)": cards name their files alike.
 QString nameOf(const Flight& flight)
 {
     const auto& files = flight.record()->integrity().files;
@@ -27,7 +27,7 @@ QString nameOf(const Flight& flight)
         name += QString(" (+%1)").arg(files.size() - 1);
     }
     const RecordInfo& first = files.empty() ? flight.info() : files.front().info;
-    return (name + " " + first.dateTimeText()).trimmed();
+    return (first.dateTimeText() + " " + name).trimmed();
 }
 
 } // namespace
