@@ -34,7 +34,7 @@ QString nameOf(const Flight& flight)
 
 ReferenceBar::ReferenceBar(Session& session, QWidget* parent)
     : QWidget(parent), mSession(session), mAligner(session), mFlight(new ElidedLabel),
-      mReference(new ElidedLabel), mNote(new QLabel), mModes(createModes()),
+      mReference(new ElidedLabel), mNote(new QLabel), mModes(createModes()), mPassing(new QWidget),
       mParameter(new QComboBox), mValue(new QDoubleSpinBox), mShift(new QDoubleSpinBox),
       mPick(new QToolButton)
 {
@@ -44,6 +44,7 @@ ReferenceBar::ReferenceBar(Session& session, QWidget* parent)
     layout->setSpacing(2);
     layout->addWidget(createNames());
     layout->addWidget(createControls());
+    layout->addWidget(mPassing);
     layout->addWidget(mNote);
     mNote->setObjectName("note");
     mNote->setWordWrap(true);
@@ -59,16 +60,8 @@ QWidget* ReferenceBar::createNames()
     layout->setContentsMargins(0, 0, 0, 0);
     mFlight->setObjectName("flightName");
     mReference->setObjectName("referenceName");
-    layout->addWidget(mFlight, 3);
-    layout->addWidget(mReference, 4); // has more to say
-    Reference& reference = mSession.reference();
-    layout->addWidget(createSwitch(tr("Curves"), tr("Show the reference's curves (B in the graph)"),
-                                   reference.shown()));
-    layout->addWidget(createSwitch(
-        tr("Difference"), tr("Show flight minus reference in strips of their own (D in the graph)"),
-        reference.differenceShown()));
-    layout->addWidget(createSwitch(tr("Columns"), tr("Show the reference's values in the table"),
-                                   reference.columnsShown()));
+    layout->addWidget(mFlight, 5);
+    layout->addWidget(mReference, 6); // has more to say
     layout->addWidget(createAway());
     return names;
 }
@@ -110,6 +103,11 @@ QCheckBox* ReferenceBar::createSwitch(const QString& text, const QString& toolTi
 
 void ReferenceBar::preparePassing()
 {
+    auto* layout = new QHBoxLayout(mPassing);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(mParameter);
+    layout->addWidget(mValue);
+    layout->addStretch();
     mParameter->setObjectName("passingParameter");
     mParameter->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     mParameter->setMinimumContentsLength(12);
@@ -156,11 +154,19 @@ QWidget* ReferenceBar::createControls()
     label->setBuddy(mModes);
     auto* shiftLabel = new QLabel(tr("Sh&ift:"));
     shiftLabel->setBuddy(mShift);
-    for (QWidget* widget : std::initializer_list<QWidget*>{label, mModes, mParameter, mValue,
-                                                           shiftLabel, mShift, mPick}) {
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{label, mModes, shiftLabel, mShift, mPick}) {
         layout->addWidget(widget);
     }
     layout->addStretch();
+    Reference& reference = mSession.reference();
+    layout->addWidget(createSwitch(tr("Curves"), tr("Show the reference's curves (B in the graph)"),
+                                   reference.shown()));
+    layout->addWidget(createSwitch(
+        tr("Difference"), tr("Show flight minus reference in strips of their own (D in the graph)"),
+        reference.differenceShown()));
+    layout->addWidget(createSwitch(tr("Columns"), tr("Show the reference's values in the table"),
+                                   reference.columnsShown()));
     return controls;
 }
 
@@ -216,8 +222,7 @@ void ReferenceBar::showAlignment()
     const Reference& reference = mSession.reference();
     const bool isPassing = reference.alignment().by == Alignment::Passing;
     mModes->setCurrentIndex(reference.alignment().by);
-    mParameter->setVisible(isPassing);
-    mValue->setVisible(isPassing);
+    mPassing->setVisible(isPassing);
     const QSignalBlocker quiet(mShift);
     mShift->setValue(reference.shift());
     mPick->setText(mPicked ? tr("Align Here") : tr("Pick Moment"));

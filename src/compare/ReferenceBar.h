@@ -52,6 +52,7 @@ private:
     ElidedLabel* mReference;
     QLabel* mNote;
     QComboBox* mModes;
+    QWidget* mPassing; ///< what is passed; seen while that is what is laid on each other
     QComboBox* mParameter;
     QDoubleSpinBox* mValue;
     QDoubleSpinBox* mShift;
