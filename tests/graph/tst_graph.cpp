@@ -1,3 +1,5 @@
+#include "graph/CurveDifference.h"
+#include "graph/CurveText.h"
 #include "graph/GraphData.h"
 #include "graph/GraphPalette.h"
 #include "graph/LiveFeed.h"
@@ -457,6 +459,60 @@ private Q_SLOTS:
             even.elided("abcdef", 7.9), even.elided("abcdef", 8.0), even.elided("abcdef", 39.9),
             even.elided("abcdef", 40.0, Qt::ElideRight), even.elided("abcdef", 48.0)};
         QCOMPARE(cut, QStringList({"", "…", "ab…f", "abcd…", "abcdef"}));
+    }
+
+    /// Behind the curve, at its shift, no spike lost; the difference in a strip of its own.
+    void drawsTheReference()
+    {
+        GraphModel model;
+        model.setGraphMode(GraphManual);
+        ParStruct& curve = *model.curves().curve(1);
+        curve.name = "Curve";
+        curve.unit = "bar";
+        curve.active = true;
+        std::vector<double> times;
+        for (int k = 0; k < 10000; ++k) {
+            times.push_back(10.0 + k * 0.01);
+        }
+        std::vector<double> values(times.size(), 4.0);
+        curve.series = seriesOf(times, values);
+        values[5000] = 9.0; // at 60 s on its own clock
+        std::ranges::for_each(times, [](double& time) { time -= 1000.0; });
+        curve.reference.samples = seriesOf(times, values);
+        Progress none;
+        curve.difference.samples =
+            differenceOf(curve.samples(), *curve.reference.samples, Between::Line, 1000.0, none);
+        model.window().set(10.0, 110.0);
+        model.setCursorPosition(60.0, false);
+        for (const auto mode : {DisplaySplit, DisplaySingle}) {
+            for (const bool isShown : {true, false}) {
+                model.setDisplayMode(mode);
+                model.layout().setReference(1000.0, isShown);
+                model.windowChanged();
+                const GraphPaint paint(model, {600.0, 400.0});
+                const auto dashed =
+                    std::ranges::find(paint.shapes, GraphPaint::Dashed, &GraphPaint::Shape::kind);
+                QCOMPARE(dashed != paint.shapes.end(), isShown);
+                QStringList texts;
+                for (const TextLayout::Text& text : paint.texts.texts()) {
+                    texts += text.text;
+                }
+                QCOMPARE(texts.filter("ref. 9").size(), isShown ? 1 : 0);
+                QCOMPARE(texts.contains("\u0394 Curve   -5 bar"), mode == DisplaySplit);
+                const GraphView& view = model.layout().view();
+                QVERIFY(curve.differenceStrip.toPixel(-5.0) > curve.differenceStrip.y0);
+                QVERIFY(curve.differenceStrip.y0 + curve.differenceStrip.height <= curve.strip.y0);
+                if (isShown) {
+                    const std::vector<float>& points = dashed->points;
+                    const auto peak = static_cast<float>(curve.strip.toPixel(9.0));
+                    const auto at = std::ranges::find(points, peak) - points.begin();
+                    QVERIFY(std::fabs(points[std::size_t(at - 1)] - view.xToViewport(60.0)) < 1.5);
+                }
+            }
+        }
+        model.setCursorPosition(200.0, false);
+        const QString spoken = spokenText(model, {});
+        QVERIFY2(spoken.contains("Curve ---, \u0394 ---"), qPrintable(spoken));
     }
 
     void drawsWhatIsThere()
