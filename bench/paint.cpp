@@ -51,7 +51,7 @@ public:
     double zoomSeconds(bool withReference)
     {
         mStep = mStep == 0.05 ? 0.06 : 0.05;
-        model().layout().setReference(10.0, withReference);
+        model().layout().setReference({10.0, withReference});
         model().window().set(mStep * Hour, (1.0 - mStep) * Hour);
         const double seconds = paintSeconds([this] { model().windowChanged(); });
         const ParStruct& curve = model().curves().all().front();

@@ -101,7 +101,7 @@ public:
         constexpr int Turn = 20; // ms
         do {
             live(Turn);
-        } while (pendingWork() > 0 || session().loading().isOn());
+        } while (pendingWork() > 0 || session().switches().loading.isOn());
     }
 
     void pick(const std::string& recording)
@@ -262,7 +262,8 @@ double cancelRatio(Suite& suite, Viewer& viewer)
         live(50);
         ratios.push_back(secondsOf([&] {
                              viewer.cancelLoading();
-                             require(!viewer.session().loading().isOn(), "it goes on loading");
+                             require(!viewer.session().switches().loading.isOn(),
+                                     "it goes on loading");
                              QEventLoop loop;
                              QTimer::singleShot(0, &loop, &QEventLoop::quit);
                              loop.exec();

@@ -20,8 +20,8 @@ CardOverview::CardOverview(Session& session, DialogCard& card, QObject* parent)
     : QObject(parent), mSession(session), mView(card), mFinder(cacheFile())
 {
     connect(&session, &Session::profileChanged, this, &CardOverview::lookAgain);
-    connect(&session.loading(), &Switch::turned, this,
-            [this] { mFinder.pause(mSession.loading().isOn()); });
+    connect(&session.switches().loading, &Switch::turned, this,
+            [this] { mFinder.pause(mSession.switches().loading.isOn()); });
     connect(&mFinder, &OverviewFinder::found, &card, &DialogCard::setOverview);
 }
 

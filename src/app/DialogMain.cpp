@@ -76,11 +76,12 @@ DialogMain::DialogMain(QWidget* parent)
     connectDrops();
     connect(mSmallWindows, &SmallWindows::profileFileChanged, this,
             [this] { chooseProfile(setting("Profile", DefaultProfile)); });
-    connect(mSmallWindows, &SmallWindows::allDigitsChanged, &mSession.allDigits(), &Switch::turn);
+    connect(mSmallWindows, &SmallWindows::allDigitsChanged, &mSession.switches().allDigits,
+            &Switch::turn);
     setWindowIcon(QIcon(":/icons/orna.svg"));
     mState = std::make_unique<WindowState>(*this, *mSplitter, *mData);
     mState->restore();
-    mSession.allDigits().turn(Property::instance()->getSwitch("AllDigits", false));
+    mSession.switches().allDigits.turn(Property::instance()->getSwitch("AllDigits", false));
     mStatusBar->say(startMessages());
     updateTitle();
     mLoader->loadProfile(inBundle(setting("Profile", DefaultProfile)));

@@ -21,7 +21,7 @@ void FlightLoader::load(const std::list<QString>& files)
         return;
     }
     mReading.cancel();
-    mSession.loading().turn(true);
+    mSession.switches().loading.turn(true);
     Q_EMIT started(0.0);
     // A card that does not answer must not hold the window, so even sizes are asked for beside it.
     mMeasuring.start([paths](Progress&) { return promisedSamples(paths); },
@@ -54,7 +54,7 @@ void FlightLoader::take(const ReadFlight& read)
             },
             [this](const ReadFlight& again) { take(again); });
     } else {
-        mSession.loading().turn(false);
+        mSession.switches().loading.turn(false);
         mSession.setFlight(read.flight);
         Q_EMIT finished();
     }
@@ -62,13 +62,13 @@ void FlightLoader::take(const ReadFlight& read)
 
 void FlightLoader::end(const QString& error)
 {
-    mSession.loading().turn(false);
+    mSession.switches().loading.turn(false);
     Q_EMIT failed(error);
 }
 
 void FlightLoader::cancel()
 {
-    if (mSession.loading().isOn()) {
+    if (mSession.switches().loading.isOn()) {
         mMeasuring.cancel();
         mReading.cancel();
         end({});

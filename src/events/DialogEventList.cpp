@@ -63,8 +63,8 @@ DialogEventList::DialogEventList(Session& session, EpisodeWatch& episodes, Event
     connect(&mSession, &Session::profileChanged, this, &DialogEventList::showFlight);
     connect(&mSession, &Session::flightChanged, this, &DialogEventList::showFlight);
     connect(&mSession, &Session::timeChanged, this, &DialogEventList::showTime);
-    connect(&mSession.loading(), &Switch::turned, this, &DialogEventList::updateEmptyText);
-    connect(&mSession.allDigits(), &Switch::turned, this, &DialogEventList::updateDigits);
+    connect(&mSession.switches().loading, &Switch::turned, this, &DialogEventList::updateEmptyText);
+    connect(&mSession.switches().allDigits, &Switch::turned, this, &DialogEventList::updateDigits);
     connect(&mEpisodes, &EpisodeWatch::changed, this, &DialogEventList::showEpisodes);
     connect(&mEpisodes, &EpisodeWatch::referenceChanged, this, &DialogEventList::showReference);
     connect(&mSession.reference(), &Reference::shiftChanged, this, &DialogEventList::showReference);
@@ -115,7 +115,7 @@ void DialogEventList::showReference()
 
 void DialogEventList::updateDigits()
 {
-    mModel->setAllDigits(mSession.allDigits().isOn());
+    mModel->setAllDigits(mSession.switches().allDigits.isOn());
     showCurrentTime();
 }
 

@@ -25,7 +25,7 @@ QString withoutProfile(const Session& session)
 
 QString withoutSamples(const Session& session)
 {
-    if (session.loading().isOn() && session.flight() == nullptr) {
+    if (session.switches().loading.isOn() && session.flight() == nullptr) {
         return EmptyTexts::tr("The recording is being loaded.");
     }
     if (session.flight() == nullptr) {

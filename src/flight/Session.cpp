@@ -4,7 +4,7 @@ namespace TARN {
 
 Session::Session(QObject* parent)
     : QObject(parent), mProfile(std::make_shared<Profile>()), mLooks(new Looks(this)),
-      mReference(new Reference(this)), mAllDigits(new Switch(this)), mLoading(new Switch(this))
+      mReference(new Reference(this)), mSwitches(std::make_unique<Switches>())
 {}
 
 TimeRange rangeOf(const Session& session)

@@ -59,11 +59,13 @@ public:
     void setTime(double time, const QObject* source = nullptr);
     void setMarks(const TimeRange& marks);
 
-    /// Numbers are shown with all the digits that the profile gives them, instead of the shortest
-    /// text that reads back as what was recorded.
-    Switch& allDigits() const { return *mAllDigits; }
-    /// Another flight is on its way.
-    Switch& loading() const { return *mLoading; }
+    /// What is so or not.
+    struct Switches
+    {
+        Switch allDigits; ///< of numbers, not the shortest text that reads back as recorded
+        Switch loading;   ///< another flight is on its way
+    };
+    Switches& switches() const { return *mSwitches; }
 
 Q_SIGNALS:
     /// The profile, and with it the flight and both selections.
@@ -86,8 +88,7 @@ private:
     TimeRange mMarks;
     Looks* mLooks;
     Reference* mReference;
-    Switch* mAllDigits;
-    Switch* mLoading;
+    std::unique_ptr<Switches> mSwitches;
 };
 
 /// What an export or a statistic works on: the marked range, all of the flight with its offset

@@ -85,7 +85,8 @@ public:
             mSamples.time(size - 1) < to - HalfTick) {
             return true;
         }
-        std::size_t k = isAt(from) ? lastOfRun() + 1 : mNext;
+        // Of times that are no numbers none is before another.
+        std::size_t k = std::max(isAt(from) ? lastOfRun() + 1 : mNext, std::size_t(1));
         for (; k < size && mSamples.time(k - 1) < to - HalfTick; ++k) {
             if (mSamples.isGapBefore(k)) {
                 return true;

@@ -37,7 +37,8 @@ void CompanionDrawing::drawReference(const ParStruct& curve, const GraphColor& c
     }
     const GraphColor faint = mixed(color, mStyle.back);
     mCanvas.clip(mView.x0, curve.strip.y0, mView.width, curve.strip.height);
-    mLine.buildLine(curve.reference.frames.frames(), curve.strip, mModel.layout().referenceView());
+    mLine.buildLine(curve.reference.frames.frames(), curve.strip,
+                    mModel.layout().reference().viewOf(mView));
     for (const GraphLine::Strip& strip : mLine.strips()) {
         const float* points = mLine.points().data() + std::ptrdiff_t(strip.first) * 2;
         if (strip.count > 1) {
@@ -119,11 +120,11 @@ QString CompanionDrawing::differenceText(const ParStruct& curve) const
 
 QString CompanionDrawing::referenceText(const ParStruct& curve) const
 {
-    if (curve.reference.samples == nullptr || !mModel.layout().isReferenceShown()) {
+    if (curve.reference.samples == nullptr || !mModel.layout().reference().isShown) {
         return {};
     }
     const QString value =
-        referenceTextOf(curve, mModel.cursor() - mModel.layout().referenceShift(), mStyle);
+        referenceTextOf(curve, mModel.cursor() - mModel.layout().reference().shift, mStyle);
     return CompanionTexts::tr("ref. %1").arg(value.isEmpty() ? "---" : value);
 }
 

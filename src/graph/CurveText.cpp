@@ -86,8 +86,8 @@ QString spokenValues(const ParStruct& curve, const GraphModel& model, const Grap
         return (value.isEmpty() ? "---" : value + " " + curve.unit).trimmed();
     };
     QString words = curve.name + " " + withUnit(shownText(curve, model.cursor(), style, "%f"));
-    if (curve.reference.samples != nullptr && model.layout().isReferenceShown()) {
-        const double time = model.cursor() - model.layout().referenceShift();
+    if (curve.reference.samples != nullptr && model.layout().reference().isShown) {
+        const double time = model.cursor() - model.layout().reference().shift;
         words += ", ref. " + withUnit(referenceTextOf(curve, time, style));
     }
     if (curve.difference.samples != nullptr) {

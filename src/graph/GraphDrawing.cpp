@@ -103,7 +103,7 @@ void GraphDrawing::drawDifferences()
             mCompanions.drawTitle(curve.differenceStrip);
         }
         if (std::exchange(isFirst, false) || split) { // in single mode they share the axis
-            drawTicksY(mModel.layout().differenceAxis(k), curve.differenceStrip,
+            drawTicksY(mModel.layout().differenceAxes()[k], curve.differenceStrip,
                        split ? curve.color : mStyle.label);
         }
         mCompanions.drawDifference(curve, mStyle.inkOf(curve.color));

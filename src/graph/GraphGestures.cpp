@@ -224,16 +224,12 @@ std::optional<MarkerEnd> GraphGestures::endAt(QPointF position) const
                    Reach * mModel.layout().view().pixelTime());
 }
 
-void GraphGestures::nudge(double x)
-{
-    const double before = std::exchange(mNudgeX, x).value_or(x);
-    Q_EMIT nudged((x - before) * mModel.layout().view().pixelTime());
-}
-
 void GraphGestures::move(const QMouseEvent& event)
 {
     if (mNudgeX && event.buttons().testFlag(Qt::LeftButton)) {
-        nudge(event.position().x());
+        const double x = event.position().x();
+        const double before = std::exchange(mNudgeX, x).value_or(x);
+        Q_EMIT nudged((x - before) * mModel.layout().view().pixelTime());
         return;
     }
     constexpr double Still = 3.0; // pixels that no hand keeps from moving

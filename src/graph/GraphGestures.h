@@ -63,7 +63,6 @@ private:
     void setCursorFrom(QPointF position);
     void reportMarkers();
     void pan(double x);
-    void nudge(double x);
 
     GraphModel& mModel;
     KeyCursor mKeyCursor;

@@ -61,6 +61,56 @@ void divideStrip(ParStruct& curve)
     curve.strip.height -= below;
 }
 
+FrameWindow windowOf(const GraphView& view)
+{
+    return {view.xmin, view.xmax, view.pixelTime()};
+}
+
+void updateCompanions(ParStruct& curve, const GraphView& view, const ReferencePlace& reference,
+                      bool isStale)
+{
+    const std::pair<Companion*, GraphView> all[] = {{&curve.reference, reference.viewOf(view)},
+                                                    {&curve.difference, view}};
+    for (const auto& [companion, of] : all) {
+        const bool isHidden = companion == &curve.reference && !reference.isShown;
+        if (!curve.isShown() || isHidden || companion->samples == nullptr) {
+            companion->frames.clear();
+        } else if (isStale) {
+            companion->frames.rebuild(*companion->samples, windowOf(of));
+        }
+    }
+}
+
+/// The strip that all differences share: of this height, from the bottom of the plot's lanes.
+void placeDifferences(CurveSet& curves, double bottom, double height)
+{
+    ValueRange all;
+    for (const unsigned i : curves.shown()) {
+        all.widen(differenceRange(*curves.curve(i)));
+    }
+    const ValueRange range = widened(all);
+    for (const unsigned i : curves.shown()) {
+        curves.curve(i)->differenceStrip = {bottom, height, range.low, range.high};
+    }
+}
+
+/// A strip for each curve, from the top; \p rangeOf gives what it shows.
+template <typename RangeOf>
+void placeStrips(CurveSet& curves, const GraphView& view, RangeOf rangeOf)
+{
+    const std::vector<unsigned> shown = curves.shown();
+    const double height = view.height / static_cast<double>(std::max<std::size_t>(shown.size(), 1));
+    int k = 0;
+    for (const unsigned i : shown) {
+        ParStruct& curve = *curves.curve(i);
+        const ValueRange range = rangeOf(curve);
+        curve.strip = {view.y0 + view.height - ++k * height, height, range.low, range.high};
+        if (curve.difference.samples != nullptr) {
+            divideStrip(curve);
+        }
+    }
+}
+
 double widestLabel(const std::vector<ValueAxis>& axes, const GraphLayout::Measure& measure)
 {
     double widest = 0.0;
@@ -88,19 +138,10 @@ void GraphLayout::setTimes(double min, double max)
     mView.xmax = max;
 }
 
-void GraphLayout::setReference(double shift, bool isShown)
+void GraphLayout::setReference(const ReferencePlace& place)
 {
-    mReferenceShift = shift;
-    mIsReferenceShown = isShown;
+    mReference = place;
     mStale = true;
-}
-
-GraphView GraphLayout::referenceView() const
-{
-    GraphView view = mView;
-    view.xmin -= mReferenceShift;
-    view.xmax -= mReferenceShift;
-    return view;
 }
 
 void GraphLayout::setValues(double min, double max)
@@ -144,7 +185,7 @@ void GraphLayout::resetZoomY()
 void GraphLayout::add(ParStruct& curve, double time, double value)
 {
     if (curve.active && !mStale) {
-        curve.frames.add(time, value, frameWindow());
+        curve.frames.add(time, value, windowOf(mView));
     }
 }
 
@@ -201,25 +242,10 @@ void GraphLayout::updateFrames()
         if (!curve.active) {
             curve.frames.clear();
         } else if (isStale) {
-            curve.frames.rebuild(curve.samples(), frameWindow());
+            curve.frames.rebuild(curve.samples(), windowOf(mView));
         }
         curve.frames.trim(mView.xmin);
-        updateCompanions(curve, isStale);
-    }
-}
-
-void GraphLayout::updateCompanions(ParStruct& curve, bool isStale) const
-{
-    const std::pair<Companion*, double> all[] = {{&curve.reference, mReferenceShift},
-                                                 {&curve.difference, 0.0}};
-    for (const auto& [companion, shift] : all) {
-        const bool isHidden = companion == &curve.reference && !mIsReferenceShown;
-        if (!curve.isShown() || isHidden || companion->samples == nullptr) {
-            companion->frames.clear();
-        } else if (isStale) {
-            companion->frames.rebuild(*companion->samples,
-                                      {mView.xmin - shift, mView.xmax - shift, mView.pixelTime()});
-        }
+        updateCompanions(curve, mView, mReference, isStale);
     }
 }
 
@@ -253,42 +279,14 @@ void GraphLayout::updateScales()
         curve.differenceStrip.height = 0.0;
     }
     if (mDisplayMode == DisplaySplit) {
-        placeStrips();
+        placeStrips(mCurves, mView, [this](const ParStruct& curve) {
+            return curve.zoomed     ? *curve.zoomed
+                   : curve.ownRange ? *curve.ownRange
+                   : mAutoScaleY    ? widened(visibleRange(curve))
+                                    : mFixed;
+        });
     } else if (mCurves.hasDifferences()) {
-        placeDifferences();
-    }
-}
-
-/// The strip of all differences, below the lanes.
-void GraphLayout::placeDifferences()
-{
-    ValueRange all;
-    for (const unsigned i : mCurves.shown()) {
-        all.widen(differenceRange(*mCurves.curve(i)));
-    }
-    const ValueRange range = widened(all);
-    const double height = mView.y0 - mLanes.count * mLanes.height - mView.base;
-    for (const unsigned i : mCurves.shown()) {
-        mCurves.curve(i)->differenceStrip = {mView.base, height, range.low, range.high};
-    }
-}
-
-void GraphLayout::placeStrips()
-{
-    const std::vector<unsigned> shown = mCurves.shown();
-    const double height =
-        mView.height / static_cast<double>(std::max<std::size_t>(shown.size(), 1));
-    int k = 0;
-    for (const unsigned i : shown) {
-        ParStruct& curve = *mCurves.curve(i);
-        const ValueRange range = curve.zoomed     ? *curve.zoomed
-                                 : curve.ownRange ? *curve.ownRange
-                                 : mAutoScaleY    ? widened(visibleRange(curve))
-                                                  : mFixed;
-        curve.strip = {mView.y0 + mView.height - ++k * height, height, range.low, range.high};
-        if (curve.difference.samples != nullptr) {
-            divideStrip(curve);
-        }
+        placeDifferences(mCurves, mView.base, mView.y0 - mLanes.count * mLanes.height - mView.base);
     }
 }
 
@@ -316,12 +314,6 @@ const ValueAxis& GraphLayout::axis(unsigned i) const
     static const ValueAxis None;
     const std::size_t place = mDisplayMode == DisplaySingle ? 0 : i;
     return place < mAxes.size() ? mAxes[place] : None;
-}
-
-const ValueAxis& GraphLayout::differenceAxis(unsigned i) const
-{
-    static const ValueAxis None;
-    return i < mDifferenceAxes.size() ? mDifferenceAxes[i] : None;
 }
 
 } // namespace TARN

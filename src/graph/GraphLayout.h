@@ -12,6 +12,21 @@
 
 namespace TARN {
 
+/// How the curves of the reference flight lie beside the others.
+struct ReferencePlace
+{
+    double shift = 0.0; ///< seconds that bring them to the clock of the others
+    bool isShown = true;
+
+    /// What the view is to them: on their own clock.
+    GraphView viewOf(GraphView view) const
+    {
+        view.xmin -= shift;
+        view.xmax -= shift;
+        return view;
+    }
+};
+
 /// Lines under the strips, for what is no curve.
 struct GraphLanes
 {
@@ -37,12 +52,9 @@ public:
     const GraphLanes& lanes() const { return mLanes; }
     /// The visible time, seconds. Frames that hold what is in sight already stay.
     void setTimes(double min, double max);
-    /// Seconds that bring reference curves to the clock of the others, and whether they are seen.
-    void setReference(double shift, bool isShown);
-    double referenceShift() const { return mReferenceShift; }
-    bool isReferenceShown() const { return mIsReferenceShown; }
-    /// What the view is to reference curves: on their own clock.
-    GraphView referenceView() const;
+    /// How the reference curves lie.
+    void setReference(const ReferencePlace& place);
+    const ReferencePlace& reference() const { return mReference; }
     /// The Y range, for as long as it is not taken from the curves; what is no number is ignored.
     void setValues(double min, double max);
     /// Takes the Y range, and in split mode that of each curve, from what is in sight.
@@ -69,26 +81,21 @@ public:
     const GraphView& view() const { return mView; }
     /// Axis of a curve's strip in split mode, by index; the common axis in single mode.
     const ValueAxis& axis(unsigned i) const;
-    /// Axis of a curve's difference, by index; in single mode of all differences.
-    const ValueAxis& differenceAxis(unsigned i) const;
+    /// Axes of the curves' differences, by index; in single mode they are all the same.
+    const std::vector<ValueAxis>& differenceAxes() const { return mDifferenceAxes; }
     /// The frames of a curve, up to date.
     std::span<const FrameType> frames(unsigned i);
 
 private:
     void updateFrames();
-    void updateCompanions(ParStruct& curve, bool isStale) const;
     void updateScales();
-    void placeStrips();
-    void placeDifferences();
     void updateAxes(double lineHeight);
     void placePlot(double left);
     void placeLanes(double lineHeight);
-    FrameWindow frameWindow() const { return {mView.xmin, mView.xmax, mView.pixelTime()}; }
 
     CurveSet& mCurves;
     GraphView mView;
-    double mReferenceShift = 0.0;
-    bool mIsReferenceShown = true;
+    ReferencePlace mReference;
     double mWidth = 0.0; ///< of the widget, pixels
     double mHeight = 0.0;
     unsigned mWantedLanes = 0;

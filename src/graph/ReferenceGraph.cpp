@@ -88,7 +88,7 @@ void ReferenceGraph::reload()
 void ReferenceGraph::showShift()
 {
     const Reference& reference = mSession.reference();
-    mModel.layout().setReference(reference.shift(), reference.shown().isOn());
+    mModel.layout().setReference({reference.shift(), reference.shown().isOn()});
     mModel.curvesChanged();
 }
 
@@ -101,7 +101,7 @@ ReferenceGraph::Source ReferenceGraph::sourceOf(unsigned k) const
     }
     const Between between =
         curve.facts != nullptr ? betweenOf(curve.facts->series()) : Between::Line;
-    return {curve.series, curve.reference.samples, between, mModel.layout().referenceShift()};
+    return {curve.series, curve.reference.samples, between, mModel.layout().reference().shift};
 }
 
 /// Makes those differences anew that are of other curves than before.

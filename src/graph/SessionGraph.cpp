@@ -20,8 +20,8 @@ SessionGraph::SessionGraph(Session& session, EpisodeWatch& episodes, WidgetGraph
     connect(&mSession, &Session::selectionChanged, this, &SessionGraph::showSelection);
     connect(&mSession, &Session::offsetChanged, this, &SessionGraph::refill);
     connect(&mSession, &Session::timeChanged, this, &SessionGraph::showTime);
-    connect(&mSession.loading(), &Switch::turned, this, &SessionGraph::updateTexts);
-    connect(&mSession.allDigits(), &Switch::turned, this, &SessionGraph::updateDigits);
+    connect(&mSession.switches().loading, &Switch::turned, this, &SessionGraph::updateTexts);
+    connect(&mSession.switches().allDigits, &Switch::turned, this, &SessionGraph::updateDigits);
     connect(&mGraph, &WidgetGraph::signalCursor, this,
             [this](float time) { mSession.setTime(time, this); });
     connect(&mModel, &GraphModel::changed, this, [this] { mSession.setMarks(mModel.markers()); });
@@ -160,7 +160,7 @@ void SessionGraph::showTime(double time, const QObject* source)
 void SessionGraph::updateDigits()
 {
     GraphStyle style = mGraph.graphStyle();
-    style.allDigits = mSession.allDigits().isOn();
+    style.allDigits = mSession.switches().allDigits.isOn();
     mGraph.setGraphStyle(style);
 }
 

@@ -78,7 +78,7 @@ public:
             companion.samples = decoded.samples;
             companion.facts = decoded.facts;
         }
-        mModel.layout().setReference(reference.shift, true);
+        mModel.layout().setReference({reference.shift, true});
         mModel.curvesChanged();
         mStyle.lanesOn = false;
     }

@@ -36,8 +36,8 @@ void DialogDataTable::followSession()
     connect(&mSession, &Session::flightChanged, this, &DialogDataTable::showColumns);
     connect(&mSession, &Session::offsetChanged, this, &DialogDataTable::fill);
     connect(&mSession, &Session::timeChanged, this, &DialogDataTable::showTime);
-    connect(&mSession.loading(), &Switch::turned, this, &DialogDataTable::updateEmptyText);
-    connect(&mSession.allDigits(), &Switch::turned, this, &DialogDataTable::updateDigits);
+    connect(&mSession.switches().loading, &Switch::turned, this, &DialogDataTable::updateEmptyText);
+    connect(&mSession.switches().allDigits, &Switch::turned, this, &DialogDataTable::updateDigits);
     const Reference& reference = mSession.reference();
     connect(&mSession, &Session::profileChanged, this, &DialogDataTable::loadReference);
     connect(&mSession, &Session::selectionChanged, this, &DialogDataTable::loadReference);
@@ -135,7 +135,7 @@ void DialogDataTable::slotSelect(int row)
 
 void DialogDataTable::updateDigits()
 {
-    mModel->setAllDigits(mSession.allDigits().isOn());
+    mModel->setAllDigits(mSession.switches().allDigits.isOn());
     mTable->fitColumns();
     showTime(mSession.time(), nullptr);
 }

@@ -151,16 +151,16 @@ private Q_SLOTS:
         connect(&session, &Session::offsetChanged, this, hear("offset"));
         connect(&session, &Session::timeChanged, this, hear("time"));
         connect(&session, &Session::marksChanged, this, hear("marks"));
-        connect(&session.loading(), &Switch::turned, this, hear("loading"));
-        connect(&session.allDigits(), &Switch::turned, this, hear("digits"));
+        connect(&session.switches().loading, &Switch::turned, this, hear("loading"));
+        connect(&session.switches().allDigits, &Switch::turned, this, hear("digits"));
         QVERIFY(!session.profile()->isLoaded() && rangeOf(session) == TimeRange());
         QSignalSpy times(&session, &Session::timeChanged);
 
         session.setProfile(one, select(*one, {"a"}), nullptr);
         for (int twice = 0; twice < 2; ++twice) {
             session.setOffset(-1.0);
-            session.loading().turn(true);
-            session.allDigits().turn(true);
+            session.switches().loading.turn(true);
+            session.switches().allDigits.turn(true);
         }
         session.setFlight(flight);
         QVERIFY(rangeOf(session) == flight->range(2.5));
@@ -201,15 +201,15 @@ private Q_SLOTS:
         note();
         session.setProfile(profile, {}, nullptr);
         note();
-        session.loading().turn(true);
+        session.switches().loading.turn(true);
         session.setTicks(select(*profile, {"a"}));
         session.confirm();
         note();
-        session.loading().turn(false);
+        session.switches().loading.turn(false);
         note();
         session.setFlight(Flight::make(load({writeRecording("")}), profile));
         note();
-        session.loading().turn(true);
+        session.switches().loading.turn(true);
         session.setFlight(Flight::make(load({writeRecording("77@1=0")}), profile));
         note();
         session.setTicks({});

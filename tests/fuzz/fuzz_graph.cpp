@@ -85,7 +85,7 @@ void compare(GraphModel& model, const std::shared_ptr<const CurveSamples>& serie
     ParStruct& curve = *model.curves().curve(Curve);
     curve.reference.samples = series;
     curve.difference.samples = differenceOf(*series, *series, Between::Line, shift, none);
-    model.layout().setReference(shift, true);
+    model.layout().setReference({shift, true});
     paint(model);
     model.setDisplayMode(model.layout().displayMode() == DisplaySplit ? DisplaySingle
                                                                       : DisplaySplit);

@@ -487,7 +487,7 @@ private Q_SLOTS:
         for (const auto mode : {DisplaySplit, DisplaySingle}) {
             for (const bool isShown : {true, false}) {
                 model.setDisplayMode(mode);
-                model.layout().setReference(1000.0, isShown);
+                model.layout().setReference({1000.0, isShown});
                 model.windowChanged();
                 const GraphPaint paint(model, {600.0, 400.0});
                 const auto dashed =

@@ -40,7 +40,7 @@ private Q_SLOTS:
         ActivityBar& bar = *find<ActivityBar>("loading");
         const auto limit = ResourceLimit::shortMemory(rlim_t(how == "memory" ? 1 : 1 << 14) << 26);
         pick({0});
-        QVERIFY(session.loading().isOn() && bar.isVisible() && row > 0);
+        QVERIFY(session.switches().loading.isOn() && bar.isVisible() && row > 0);
         QCOMPARE(session.flight(), flight);
         if (how == "button") {
             QTest::mouseClick(bar.findChild<QToolButton*>(), Qt::LeftButton);
@@ -65,7 +65,7 @@ private Q_SLOTS:
         }
         settle();
         QVERIFY2(this->said().startsWith(said), qPrintable(this->said()));
-        QVERIFY(!session.loading().isOn() && !bar.isVisible());
+        QVERIFY(!session.switches().loading.isOn() && !bar.isVisible());
         QVERIFY(session.flight() == flight && session.time() == time);
         QCOMPARE(rowOf(table()), row);
         if (how == "button") { // a click on what did not load tries again
