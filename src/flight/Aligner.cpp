@@ -39,17 +39,21 @@ void Aligner::takeOffset()
 void Aligner::align()
 {
     const Reference& reference = mSession.reference();
-    const auto flight = mSession.flight();
-    const auto other = reference.flight();
     mJob.cancel();
     mIsPossible = true;
-    if (flight == nullptr || other == nullptr || reference.alignment().by == Alignment::Moment) {
-        Q_EMIT changed();
-        return;
+    if (mSession.flight() != nullptr && reference.flight() != nullptr &&
+        reference.alignment().by != Alignment::Moment) {
+        start();
     }
+    Q_EMIT changed();
+}
+
+void Aligner::start()
+{
+    const Reference& reference = mSession.reference();
     mJob.start(
-        [flight, other, offset = mSession.offset(), otherOffset = reference.offset(),
-         alignment = reference.alignment()](Progress& progress) {
+        [flight = mSession.flight(), other = reference.flight(), offset = mSession.offset(),
+         otherOffset = reference.offset(), alignment = reference.alignment()](Progress& progress) {
             return shiftOf(alignment, {*flight, offset}, {*other, otherOffset}, progress);
         },
         [this](std::optional<double> shift) {
@@ -59,7 +63,6 @@ void Aligner::align()
             }
             Q_EMIT changed();
         });
-    Q_EMIT changed();
 }
 
 } // namespace TARN

@@ -26,6 +26,7 @@ private:
     void takeFlight();
     void takeOffset();
     void align();
+    void start();
 
     Session& mSession;
     std::shared_ptr<const Record> mRecord; ///< of the flight that was aligned

@@ -28,6 +28,21 @@ double rowOf(const KeyCursor& cursor, const GraphModel& model)
                      : view.yToViewport(cursor.value);
 }
 
+/// The value under a pixel row, in split mode of the strip that it lies in.
+void takeValueAt(double y, GraphModel& model, KeyCursor& cursor)
+{
+    const GraphView& view = model.layout().view();
+    const ParStruct* curve =
+        model.layout().displayMode() == DisplaySplit ? model.curves().at(y) : nullptr;
+    if (curve != nullptr) {
+        cursor.curve = model.curves().indexOf(*curve);
+        cursor.isOfDifference = curve->isDifferenceAt(y);
+        cursor.value = view.viewportToY(curve->stripOf(cursor.isOfDifference), y);
+    } else {
+        cursor.value = view.viewportToY(y);
+    }
+}
+
 } // namespace
 
 GraphGestures::GraphGestures(GraphModel& model, QObject* parent) : QObject(parent), mModel(model)
@@ -144,25 +159,10 @@ void GraphGestures::moveCursorX(double pixels)
 
 void GraphGestures::moveCursorY(double pixels)
 {
-    takeValueAt(rowOf(mKeyCursor, mModel) + pixels);
+    takeValueAt(rowOf(mKeyCursor, mModel) + pixels, mModel, mKeyCursor);
     pointAt(mModel, mModel.cursor(), rowOf(mKeyCursor, mModel));
     mCursorTimer.start();
     reportCursor();
-}
-
-/// The value under a pixel row, in split mode of the strip that it lies in.
-void GraphGestures::takeValueAt(double y)
-{
-    const GraphView& view = mModel.layout().view();
-    const ParStruct* curve =
-        mModel.layout().displayMode() == DisplaySplit ? mModel.curves().at(y) : nullptr;
-    if (curve != nullptr) {
-        mKeyCursor.curve = mModel.curves().indexOf(*curve);
-        mKeyCursor.isOfDifference = curve->isDifferenceAt(y);
-        mKeyCursor.value = view.viewportToY(curve->stripOf(mKeyCursor.isOfDifference), y);
-    } else {
-        mKeyCursor.value = view.viewportToY(y);
-    }
 }
 
 /// The time is told in single precision; what is shown beside the cursor is what was told.
@@ -266,7 +266,7 @@ void GraphGestures::release(const QMouseEvent& event)
     if (event.button() == Qt::LeftButton && std::exchange(mPressed, std::nullopt)) {
         const double y = mModel.layout().size().height() - event.position().y();
         pointAt(mModel, timeAt(event.position(), mModel), y);
-        takeValueAt(y);
+        takeValueAt(y, mModel, mKeyCursor);
         goTo(timeAt(event.position(), mModel));
     } else if (event.button() == Qt::LeftButton && marks.stop < marks.start) {
         mModel.setMarker(marks.stop, marks.start);
@@ -284,7 +284,7 @@ void GraphGestures::goTo(double time)
 
 void GraphGestures::setCursorFrom(QPointF position)
 {
-    takeValueAt(mModel.layout().size().height() - position.y());
+    takeValueAt(mModel.layout().size().height() - position.y(), mModel, mKeyCursor);
     mModel.setCursorPosition(timeAt(position, mModel),
                              false); // a window that followed would run away from the mouse
     mCursorTimer.stop();             // shown for as long as the button is held

@@ -58,7 +58,6 @@ private:
     void panTo(double min, double max);
     void moveCursorX(double pixels);
     void moveCursorY(double pixels);
-    void takeValueAt(double y);
     void reportCursor();
     void setCursorFrom(QPointF position);
     void reportMarkers();

@@ -111,6 +111,37 @@ void placeStrips(CurveSet& curves, const GraphView& view, RangeOf rangeOf)
     }
 }
 
+std::vector<ValueAxis> axesOf(const CurveSet& curves, const GraphView& view, eDisplayMode mode,
+                              double lineHeight)
+{
+    if (mode == DisplaySingle) {
+        return {ValueAxis::ofPlot(view.whole())};
+    }
+    std::vector<ValueAxis> axes;
+    for (const ParStruct& curve : curves.all()) {
+        axes.push_back(curve.isShown() ? ValueAxis::ofStrip(curve.strip, lineHeight) : ValueAxis());
+    }
+    return axes;
+}
+
+std::vector<ValueAxis> differenceAxesOf(const CurveSet& curves, double lineHeight)
+{
+    std::vector<ValueAxis> axes;
+    for (const ParStruct& curve : curves.all()) {
+        axes.push_back(curve.differenceStrip.height > 0.0
+                           ? ValueAxis::ofStrip(curve.differenceStrip, lineHeight)
+                           : ValueAxis());
+    }
+    return axes;
+}
+
+/// In a widget of this width.
+void placePlot(GraphView& view, double left, double width)
+{
+    view.x0 = std::min(left, width / 2.0);
+    view.width = std::max(width - view.x0 - Right, 1.0);
+}
+
 double widestLabel(const std::vector<ValueAxis>& axes, const GraphLayout::Measure& measure)
 {
     double widest = 0.0;
@@ -129,7 +160,7 @@ void GraphLayout::setSize(double width, double height)
     mWidth = width;
     mHeight = height;
     placeLanes(mLanes.height);
-    placePlot(mView.x0 > 0.0 ? mView.x0 : Bottom + LabelGap);
+    placePlot(mView, mView.x0 > 0.0 ? mView.x0 : Bottom + LabelGap, mWidth);
 }
 
 void GraphLayout::setTimes(double min, double max)
@@ -189,12 +220,6 @@ void GraphLayout::add(ParStruct& curve, double time, double value)
     }
 }
 
-void GraphLayout::placePlot(double left)
-{
-    mView.x0 = std::min(left, mWidth / 2.0);
-    mView.width = std::max(mWidth - mView.x0 - Right, 1.0);
-}
-
 void GraphLayout::placeLanes(double lineHeight)
 {
     constexpr double LeastPlot = 60.0; ///< pixels
@@ -221,11 +246,12 @@ void GraphLayout::prepare(const Measure& measure, double lineHeight, double leas
     for (int round = 0; round < Rounds; ++round) {
         updateFrames();
         updateScales();
-        updateAxes(lineHeight);
+        mAxes = axesOf(mCurves, mView, mDisplayMode, lineHeight);
+        mDifferenceAxes = differenceAxesOf(mCurves, lineHeight);
         const double widest =
             std::max(widestLabel(mAxes, measure), widestLabel(mDifferenceAxes, measure));
         const double before = mView.x0;
-        placePlot(std::max(widest + LabelGap, leastMargin));
+        placePlot(mView, std::max(widest + LabelGap, leastMargin), mWidth);
         if (mView.x0 == before) {
             break;
         }
@@ -287,25 +313,6 @@ void GraphLayout::updateScales()
         });
     } else if (mCurves.hasDifferences()) {
         placeDifferences(mCurves, mView.base, mView.y0 - mLanes.count * mLanes.height - mView.base);
-    }
-}
-
-void GraphLayout::updateAxes(double lineHeight)
-{
-    mAxes.clear();
-    mDifferenceAxes.clear();
-    for (const ParStruct& curve : mCurves.all()) {
-        mDifferenceAxes.push_back(curve.differenceStrip.height > 0.0
-                                      ? ValueAxis::ofStrip(curve.differenceStrip, lineHeight)
-                                      : ValueAxis());
-    }
-    if (mDisplayMode == DisplaySingle) {
-        mAxes.push_back(ValueAxis::ofPlot(mView.whole()));
-        return;
-    }
-    for (const ParStruct& curve : mCurves.all()) {
-        mAxes.push_back(curve.isShown() ? ValueAxis::ofStrip(curve.strip, lineHeight)
-                                        : ValueAxis());
     }
 }
 

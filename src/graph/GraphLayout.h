@@ -89,8 +89,6 @@ public:
 private:
     void updateFrames();
     void updateScales();
-    void updateAxes(double lineHeight);
-    void placePlot(double left);
     void placeLanes(double lineHeight);
 
     CurveSet& mCurves;

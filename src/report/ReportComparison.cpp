@@ -189,6 +189,21 @@ void writeFirst(const std::vector<Change>& changes, const TimeRange& range, Repo
     charts.writeCompared(parameters, range);
 }
 
+void writeFound(std::vector<Change> changes, const TimeRange& range, ReportCharts& charts,
+                ReportPages& pages)
+{
+    const std::size_t compared = changes.size();
+    keepGreatest(changes);
+    if (compared == 0) {
+        pages.say(ComparisonTexts::tr("No parameter has values in both flights there."));
+    } else if (changes.empty()) {
+        pages.say(ComparisonTexts::tr("None of %1 parameters has changed.").arg(compared));
+    } else {
+        writeChanges(changes, pages);
+        writeFirst(changes, range, charts);
+    }
+}
+
 } // namespace
 
 void writeComparison(const ReportMatter& matter, ReportCharts& charts, ReportPages& pages,
@@ -205,20 +220,7 @@ void writeComparison(const ReportMatter& matter, ReportCharts& charts, ReportPag
         return;
     }
     writeWhat(matter, part, pages);
-    std::vector<Change> changes = changesOf(matter, part.range, progress);
-    const std::size_t compared = changes.size();
-    keepGreatest(changes);
-    if (progress.stopRequested()) {
-        return;
-    }
-    if (changes.empty()) {
-        pages.say(compared == 0
-                      ? ComparisonTexts::tr("No parameter has values in both flights there.")
-                      : ComparisonTexts::tr("None of %1 parameters has changed.").arg(compared));
-        return;
-    }
-    writeChanges(changes, pages);
-    writeFirst(changes, part.range, charts);
+    writeFound(changesOf(matter, part.range, progress), part.range, charts, pages);
 }
 
 } // namespace TARN
