@@ -8,6 +8,7 @@
 #include "cli/FaultsCommand.h"
 #include "cli/GraphCommand.h"
 #include "cli/InfoCommand.h"
+#include "cli/LogbookOptions.h"
 #include "cli/ReportCommand.h"
 #include "cli/SharedOptions.h"
 #include "cli/StatsCommand.h"
@@ -212,6 +213,7 @@ struct Arguments
     CsvArguments csv;
     KmlArguments kml;
     CanArguments can;
+    LogbookArguments logbook;
 };
 
 } // namespace
@@ -233,6 +235,7 @@ int runCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
     addCsv(app, arguments.csv);
     addKml(app, arguments.kml);
     addCan(app, arguments.can);
+    addLogbook(app, arguments.logbook, out, error);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {
