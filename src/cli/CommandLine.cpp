@@ -38,9 +38,14 @@ void addInfo(CLI::App& app, InfoArguments& arguments, std::ostream& out)
 void addDecode(CLI::App& app, DecodeArguments& arguments, std::ostream& out)
 {
     CLI::App* command =
-        app.add_subcommand("decode", "Every sample of every selected parameter, as JSON lines");
+        app.add_subcommand("decode", "Every sample of every selected parameter, one a line");
     addProfile(*command, arguments.profile);
     addSelection(*command, arguments.selection);
+    const std::map<std::string, LineFormat> formats = {
+        {"jsonl", LineFormat::Json}, {"csv", LineFormat::Csv}, {"tsv", LineFormat::Tsv}};
+    command->add_option("--format", arguments.format, "of the lines: jsonl, csv or tsv")
+        ->transform(CLI::Transformer(formats))
+        ->option_text("FORMAT");
     addFiles(*command, arguments.files);
     command->final_callback([&] { runDecode(arguments, out); });
 }
