@@ -42,7 +42,7 @@ void addDecode(CLI::App& app, DecodeArguments& arguments, std::ostream& out)
     addProfile(*command, arguments.profile);
     addSelection(*command, arguments.selection);
     const std::map<std::string, LineFormat> formats = {
-        {"jsonl", LineFormat::Json}, {"csv", LineFormat::Csv}, {"tsv", LineFormat::Tsv}};
+        {"jsonl", LineFormat::JsonLines}, {"csv", LineFormat::Csv}, {"tsv", LineFormat::Tsv}};
     command->add_option("--format", arguments.format, "of the lines: jsonl, csv or tsv")
         ->transform(CLI::Transformer(formats))
         ->option_text("FORMAT");

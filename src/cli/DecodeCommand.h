@@ -11,7 +11,7 @@ struct DecodeArguments
 {
     std::string profile;
     SelectionArguments selection;
-    LineFormat format = LineFormat::Json;
+    LineFormat format = LineFormat::JsonLines;
     std::vector<std::string> files;
 };
 

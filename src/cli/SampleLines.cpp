@@ -86,7 +86,7 @@ void appendTsv(const std::string& text, std::string& to)
 
 SampleLines::SampleLines(LineFormat format, std::ostream& out) : mFormat(format), mOut(out)
 {
-    if (mFormat != LineFormat::Json) {
+    if (mFormat != LineFormat::JsonLines) {
         for (const char* name : Names) {
             mBuffer.append(name).append(1, separatorOf(mFormat));
         }
@@ -97,7 +97,7 @@ SampleLines::SampleLines(LineFormat format, std::ostream& out) : mFormat(format)
 void SampleLines::begin(const ProfileDevice& device, const ProfileParameter& parameter)
 {
     std::swap(mBuffer, mBeginning); // it is written where lines are
-    mBuffer = mFormat == LineFormat::Json ? "{\"device\":" : "";
+    mBuffer = mFormat == LineFormat::JsonLines ? "{\"device\":" : "";
     appendText(device.name.toStdString());
     field("parameter");
     appendText(parameter.name.toStdString());
@@ -123,7 +123,7 @@ void SampleLines::add(const RecordEntry& entry, const Decoder& decoder)
     appendText(mText);
     field("color");
     appendColor(color);
-    mBuffer += mFormat == LineFormat::Json ? "}\n" : "\n";
+    mBuffer += mFormat == LineFormat::JsonLines ? "}\n" : "\n";
     if (mBuffer.size() >= Full) {
         flush();
     }
@@ -138,7 +138,7 @@ void SampleLines::flush()
 void SampleLines::field(const char* name)
 {
     mBuffer += separatorOf(mFormat);
-    if (mFormat == LineFormat::Json) {
+    if (mFormat == LineFormat::JsonLines) {
         mBuffer.append(1, '"').append(name).append("\":");
     }
 }
@@ -163,7 +163,7 @@ void SampleLines::number(const char* name, int value)
 void SampleLines::appendText(const std::string& text)
 {
     switch (mFormat) {
-    case LineFormat::Json:
+    case LineFormat::JsonLines:
         return appendJson(text, mBuffer);
     case LineFormat::Csv:
         return appendCsv(text, mBuffer);
@@ -178,7 +178,7 @@ void SampleLines::appendColor(const QColor& color)
     if (!color.isValid()) {
         return appendNull();
     }
-    const char* quote = mFormat == LineFormat::Json ? "\"" : "";
+    const char* quote = mFormat == LineFormat::JsonLines ? "\"" : "";
     const QRgb rgb = color.rgb();
     mBuffer.append(quote).append(1, '#');
     for (int shift = 20; shift >= 0; shift -= 4) {
@@ -189,7 +189,7 @@ void SampleLines::appendColor(const QColor& color)
 
 void SampleLines::appendNull()
 {
-    mBuffer += mFormat == LineFormat::Json ? "null" : mFormat == LineFormat::Tsv ? "\\N" : "";
+    mBuffer += mFormat == LineFormat::JsonLines ? "null" : mFormat == LineFormat::Tsv ? "\\N" : "";
 }
 
 } // namespace TARN

@@ -12,9 +12,9 @@ namespace TARN {
 /// parameter, channel, id, time, int, double, raw, state, text, color; numbers round-trip exactly.
 enum class LineFormat
 {
-    Json, ///< objects; what is no finite number and an invalid colour are null
-    Csv,  ///< separated by commas, quoted where it must be, after a line of names; null is empty
-    Tsv   ///< separated by tabs, \t \n \r \\ escaped, after a line of names; null is \N
+    JsonLines, ///< objects; what is no finite number and an invalid colour are null
+    Csv, ///< separated by commas, quoted where it must be, after a line of names; null is empty
+    Tsv  ///< separated by tabs, \t \n \r \\ escaped, after a line of names; null is \N
 };
 
 /// Writes samples, many at once.

@@ -38,7 +38,10 @@ void printTable(const QList<QStringList>& rows, std::ostream& out)
         for (qsizetype k = 0; k < row.size(); ++k) {
             line += padded(onOneLine(row[k]), widths[k]) + "  ";
         }
-        out << line.trimmed().toStdString() << '\n';
+        while (line.endsWith(' ')) {
+            line.chop(1);
+        }
+        out << line.toStdString() << '\n';
     }
 }
 

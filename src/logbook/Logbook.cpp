@@ -63,7 +63,7 @@ const QStringList& figureNames()
 Logbook::Logbook(const QString& url, SqlConnection::Missing missing)
     : mSql(logbookPlace(url), missing)
 {
-    migrateLogbook(mSql);
+    migrateLogbook(mSql, missing);
 }
 
 bool Logbook::knows(const QString& aircraft, const QString& flight)

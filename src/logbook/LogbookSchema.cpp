@@ -168,12 +168,16 @@ int logbookVersion()
     return static_cast<int>(migrations().size());
 }
 
-void migrateLogbook(SqlConnection& connection)
+void migrateLogbook(SqlConnection& connection, SqlConnection::Missing missing)
 {
     using namespace std::chrono_literals;
     constexpr int Tries = 10;
+    const bool isNew = versionOf(connection) == 0;
+    if (isNew && missing == SqlConnection::Refuse) {
+        throw LogbookError(
+            SchemaTexts::tr("there is no logbook in %1").arg(connection.place().text()));
+    }
     if (connection.place().isFile()) {
-        const bool isNew = versionOf(connection) == 0;
         tryToMigrate(connection);
         if (isNew) {
             letReadersIn(connection);

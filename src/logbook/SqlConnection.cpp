@@ -104,7 +104,7 @@ void SqlConnection::open()
     database.setPort(mPlace.port);
     database.setUserName(mPlace.user);
     database.setPassword(mPlace.password);
-    database.setConnectOptions(mPlace.isFile() ? "QSQLITE_BUSY_TIMEOUT=60000" : mPlace.options);
+    database.setConnectOptions(mPlace.isFile() ? "QSQLITE_BUSY_TIMEOUT=10000" : mPlace.options);
     if (!database.open()) {
         fail(database.lastError());
     }
@@ -143,13 +143,14 @@ QSqlQuery SqlConnection::run(const QString& sql, const QVariantList& values)
 void SqlConnection::insert(const QString& table, const QString& columns,
                            const QList<QVariantList>& rows)
 {
-    constexpr qsizetype MostValues = 6000; // databases take a few times as many in a statement
+    // A server is asked as seldom as may be; with a file the time grows with the square of them.
+    const qsizetype mostValues = mPlace.isFile() ? 200 : 6000;
     if (rows.isEmpty()) {
         return;
     }
     const qsizetype width = rows.front().size();
     const QString row = "(?" + QString(", ?").repeated(width - 1) + ")";
-    const qsizetype atOnce = std::max<qsizetype>(1, MostValues / width);
+    const qsizetype atOnce = std::max<qsizetype>(1, mostValues / width);
     for (qsizetype begin = 0; begin < rows.size(); begin += atOnce) {
         const qsizetype count = std::min(atOnce, rows.size() - begin);
         QVariantList values;

@@ -428,6 +428,9 @@ private Q_SLOTS:
         if (mServer == nullptr) {
             QSKIP("no server is asked for");
         }
+        QVERIFY(failureOf([&] {
+                    Logbook(mServer->url(), SqlConnection::Refuse);
+                }).startsWith("there is no logbook in postgresql://orna@127.0.0.1:"));
         fleetAt(mServer->url());
         Logbook logbook(mServer->url(), SqlConnection::Create);
         QString lost;
