@@ -5,9 +5,10 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QStringList>
 
+#include <array>
 #include <chrono>
+#include <span>
 #include <thread>
-#include <vector>
 
 namespace TARN {
 
@@ -18,83 +19,81 @@ struct SchemaTexts
     Q_DECLARE_TR_FUNCTIONS(LogbookSchema)
 };
 
-/// The steps from one version to the next; a step that was released never changes. Every key
-/// begins with the aircraft, so that a cluster can distribute each table by it.
-const std::vector<QStringList>& migrations()
-{
-    static const std::vector<QStringList> Steps = {
-        {"CREATE TABLE aircraft (aircraft TEXT PRIMARY KEY, engine_type TEXT NOT NULL)",
+// The steps from one version to the next; a step that was released never changes. Every key begins
+// with the aircraft, so that a cluster can distribute each table by it.
+constexpr const char* First[] = {
+    "CREATE TABLE aircraft (aircraft TEXT PRIMARY KEY, engine_type TEXT NOT NULL)",
 
-         "CREATE TABLE flights (aircraft TEXT NOT NULL REFERENCES aircraft (aircraft), "
-         "flight TEXT NOT NULL, start_utc BIGINT, start_source TEXT NOT NULL, "
-         "header_date TEXT NOT NULL, start_time DOUBLE PRECISION NOT NULL, "
-         "stop_time DOUBLE PRECISION NOT NULL, time_offset DOUBLE PRECISION NOT NULL, "
-         "steady_start DOUBLE PRECISION, steady_stop DOUBLE PRECISION, samples BIGINT NOT NULL, "
-         "bus_type BIGINT NOT NULL, ecu_serial BIGINT NOT NULL, ecu_type TEXT NOT NULL, "
-         "software_a TEXT NOT NULL, software_b TEXT NOT NULL, emu_version TEXT NOT NULL, "
-         "profile TEXT NOT NULL, limits BIGINT NOT NULL, warnings BIGINT NOT NULL, "
-         "lamps BIGINT NOT NULL, faults BIGINT NOT NULL, remarks BIGINT NOT NULL, "
-         "worst INTEGER NOT NULL, PRIMARY KEY (aircraft, flight))",
-         "CREATE INDEX flights_by_start ON flights (aircraft, start_utc)",
+    "CREATE TABLE flights (aircraft TEXT NOT NULL REFERENCES aircraft (aircraft), "
+    "flight TEXT NOT NULL, start_utc BIGINT, start_source TEXT NOT NULL, "
+    "header_date TEXT NOT NULL, start_time DOUBLE PRECISION NOT NULL, "
+    "stop_time DOUBLE PRECISION NOT NULL, time_offset DOUBLE PRECISION NOT NULL, "
+    "steady_start DOUBLE PRECISION, steady_stop DOUBLE PRECISION, samples BIGINT NOT NULL, "
+    "bus_type BIGINT NOT NULL, ecu_serial BIGINT NOT NULL, ecu_type TEXT NOT NULL, "
+    "software_a TEXT NOT NULL, software_b TEXT NOT NULL, emu_version TEXT NOT NULL, "
+    "profile TEXT NOT NULL, limits BIGINT NOT NULL, warnings BIGINT NOT NULL, "
+    "lamps BIGINT NOT NULL, faults BIGINT NOT NULL, remarks BIGINT NOT NULL, "
+    "worst INTEGER NOT NULL, PRIMARY KEY (aircraft, flight))",
+    "CREATE INDEX flights_by_start ON flights (aircraft, start_utc)",
 
-         "CREATE TABLE recordings (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
-         "place INTEGER NOT NULL, path TEXT NOT NULL, samples BIGINT NOT NULL, "
-         "missing_header_bytes BIGINT NOT NULL, ignored_bytes BIGINT NOT NULL, "
-         "other_channels BIGINT NOT NULL, impossible_times BIGINT NOT NULL, gaps BIGINT NOT NULL, "
-         "longest_gap DOUBLE PRECISION NOT NULL, PRIMARY KEY (aircraft, flight, place), "
-         "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
+    "CREATE TABLE recordings (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
+    "place INTEGER NOT NULL, path TEXT NOT NULL, samples BIGINT NOT NULL, "
+    "missing_header_bytes BIGINT NOT NULL, ignored_bytes BIGINT NOT NULL, "
+    "other_channels BIGINT NOT NULL, impossible_times BIGINT NOT NULL, gaps BIGINT NOT NULL, "
+    "longest_gap DOUBLE PRECISION NOT NULL, PRIMARY KEY (aircraft, flight, place), "
+    "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
 
-         "CREATE TABLE remarks (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
-         "place INTEGER NOT NULL, remark TEXT NOT NULL, PRIMARY KEY (aircraft, flight, place), "
-         "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
+    "CREATE TABLE remarks (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
+    "place INTEGER NOT NULL, remark TEXT NOT NULL, PRIMARY KEY (aircraft, flight, place), "
+    "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
 
-         "CREATE TABLE statistics (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
-         "steady INTEGER NOT NULL, place INTEGER NOT NULL, device TEXT NOT NULL, "
-         "parameter TEXT NOT NULL, unit TEXT NOT NULL, channel BIGINT NOT NULL, "
-         "can_id BIGINT NOT NULL, samples BIGINT NOT NULL, invalid BIGINT NOT NULL, "
-         "first_value DOUBLE PRECISION, last_value DOUBLE PRECISION, "
-         "min_value DOUBLE PRECISION, min_time DOUBLE PRECISION, "
-         "max_value DOUBLE PRECISION, max_time DOUBLE PRECISION, mean DOUBLE PRECISION, "
-         "stddev DOUBLE PRECISION, time_mean DOUBLE PRECISION, integral DOUBLE PRECISION, "
-         "gaps BIGINT NOT NULL, gap_seconds DOUBLE PRECISION NOT NULL, "
-         "gap_limit DOUBLE PRECISION, warning_seconds DOUBLE PRECISION, "
-         "PRIMARY KEY (aircraft, flight, steady, place), "
-         "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
-         "CREATE INDEX statistics_by_parameter ON statistics "
-         "(aircraft, device, parameter, steady)",
+    "CREATE TABLE statistics (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
+    "steady INTEGER NOT NULL, place INTEGER NOT NULL, device TEXT NOT NULL, "
+    "parameter TEXT NOT NULL, unit TEXT NOT NULL, channel BIGINT NOT NULL, "
+    "can_id BIGINT NOT NULL, samples BIGINT NOT NULL, invalid BIGINT NOT NULL, "
+    "first_value DOUBLE PRECISION, last_value DOUBLE PRECISION, "
+    "min_value DOUBLE PRECISION, min_time DOUBLE PRECISION, "
+    "max_value DOUBLE PRECISION, max_time DOUBLE PRECISION, mean DOUBLE PRECISION, "
+    "stddev DOUBLE PRECISION, time_mean DOUBLE PRECISION, integral DOUBLE PRECISION, "
+    "gaps BIGINT NOT NULL, gap_seconds DOUBLE PRECISION NOT NULL, "
+    "gap_limit DOUBLE PRECISION, warning_seconds DOUBLE PRECISION, "
+    "PRIMARY KEY (aircraft, flight, steady, place), "
+    "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
+    "CREATE INDEX statistics_by_parameter ON statistics "
+    "(aircraft, device, parameter, steady)",
 
-         "CREATE TABLE thresholds (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
-         "steady INTEGER NOT NULL, place INTEGER NOT NULL, step INTEGER NOT NULL, "
-         "value DOUBLE PRECISION, color TEXT, state INTEGER NOT NULL, "
-         "seconds DOUBLE PRECISION NOT NULL, PRIMARY KEY (aircraft, flight, steady, place, step), "
-         "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
+    "CREATE TABLE thresholds (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
+    "steady INTEGER NOT NULL, place INTEGER NOT NULL, step INTEGER NOT NULL, "
+    "value DOUBLE PRECISION, color TEXT, state INTEGER NOT NULL, "
+    "seconds DOUBLE PRECISION NOT NULL, PRIMARY KEY (aircraft, flight, steady, place, step), "
+    "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
 
-         "CREATE TABLE episodes (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
-         "place INTEGER NOT NULL, device TEXT NOT NULL, parameter TEXT NOT NULL, "
-         "state INTEGER NOT NULL, start_time DOUBLE PRECISION NOT NULL, "
-         "end_time DOUBLE PRECISION NOT NULL, samples BIGINT NOT NULL, announced INTEGER NOT NULL, "
-         "peak DOUBLE PRECISION, peak_time DOUBLE PRECISION, threshold DOUBLE PRECISION, "
-         "color TEXT, PRIMARY KEY (aircraft, flight, place), "
-         "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
+    "CREATE TABLE episodes (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
+    "place INTEGER NOT NULL, device TEXT NOT NULL, parameter TEXT NOT NULL, "
+    "state INTEGER NOT NULL, start_time DOUBLE PRECISION NOT NULL, "
+    "end_time DOUBLE PRECISION NOT NULL, samples BIGINT NOT NULL, announced INTEGER NOT NULL, "
+    "peak DOUBLE PRECISION, peak_time DOUBLE PRECISION, threshold DOUBLE PRECISION, "
+    "color TEXT, PRIMARY KEY (aircraft, flight, place), "
+    "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
 
-         "CREATE TABLE lamps (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
-         "place INTEGER NOT NULL, name TEXT NOT NULL, state INTEGER NOT NULL, "
-         "start_time DOUBLE PRECISION NOT NULL, end_time DOUBLE PRECISION NOT NULL, "
-         "samples BIGINT NOT NULL, announced INTEGER NOT NULL, "
-         "PRIMARY KEY (aircraft, flight, place), "
-         "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
+    "CREATE TABLE lamps (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
+    "place INTEGER NOT NULL, name TEXT NOT NULL, state INTEGER NOT NULL, "
+    "start_time DOUBLE PRECISION NOT NULL, end_time DOUBLE PRECISION NOT NULL, "
+    "samples BIGINT NOT NULL, announced INTEGER NOT NULL, "
+    "PRIMARY KEY (aircraft, flight, place), "
+    "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
 
-         "CREATE TABLE faults (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
-         "place INTEGER NOT NULL, name TEXT NOT NULL, state INTEGER NOT NULL, "
-         "start_time DOUBLE PRECISION NOT NULL, end_time DOUBLE PRECISION NOT NULL, "
-         "PRIMARY KEY (aircraft, flight, place), "
-         "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
+    "CREATE TABLE faults (aircraft TEXT NOT NULL, flight TEXT NOT NULL, "
+    "place INTEGER NOT NULL, name TEXT NOT NULL, state INTEGER NOT NULL, "
+    "start_time DOUBLE PRECISION NOT NULL, end_time DOUBLE PRECISION NOT NULL, "
+    "PRIMARY KEY (aircraft, flight, place), "
+    "FOREIGN KEY (aircraft, flight) REFERENCES flights (aircraft, flight) ON DELETE CASCADE)",
 
-         "CREATE TABLE maintenance (aircraft TEXT NOT NULL REFERENCES aircraft (aircraft), "
-         "date_utc BIGINT NOT NULL, note TEXT NOT NULL, "
-         "PRIMARY KEY (aircraft, date_utc, note))"}};
-    return Steps;
-}
+    "CREATE TABLE maintenance (aircraft TEXT NOT NULL REFERENCES aircraft (aircraft), "
+    "date_utc BIGINT NOT NULL, note TEXT NOT NULL, "
+    "PRIMARY KEY (aircraft, date_utc, note))"};
+
+constexpr std::array<std::span<const char* const>, 1> Steps = {First};
 
 /// 0 where there are no tables yet.
 int versionOf(SqlConnection& connection)
@@ -131,7 +130,7 @@ void stepFrom(SqlConnection& connection, int version)
         connection.run("CREATE TABLE logbook_version (version INTEGER PRIMARY KEY)");
     }
     connection.run("INSERT INTO logbook_version (version) VALUES (?)", {version + 1});
-    for (const QString& statement : migrations()[static_cast<std::size_t>(version)]) {
+    for (const char* statement : Steps[static_cast<std::size_t>(version)]) {
         connection.run(statement);
     }
 }
@@ -165,7 +164,7 @@ void letReadersIn(SqlConnection& connection)
 
 int logbookVersion()
 {
-    return static_cast<int>(migrations().size());
+    return static_cast<int>(Steps.size());
 }
 
 void migrateLogbook(SqlConnection& connection, SqlConnection::Missing missing)
