@@ -5,11 +5,11 @@
     <name>CompanionDrawing</name>
     <message>
         <source>Δ flight minus reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ let minus reference</translation>
     </message>
     <message>
         <source>ref. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ref. %1</translation>
     </message>
 </context>
 <context>
@@ -552,18 +552,18 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     </message>
     <message>
         <source>%1 to %2 on the recording&apos;s clock; dashed: the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 až %2 na hodinách záznamu; čárkovaně: reference</translation>
     </message>
 </context>
 <context>
     <name>ReportComparison</name>
     <message>
         <source>Reference: %1, shifted by %2 s. Compared from %3 to %4, while both flights are steady.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference: %1, posunutá o %2 s. Porovnáno od %3 do %4, kdy jsou oba lety ustálené.</translation>
     </message>
     <message>
         <source>Reference: %1, shifted by %2 s. Compared from %3 to %4: there is no common steady part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference: %1, posunutá o %2 s. Porovnáno od %3 do %4: společný ustálený úsek neexistuje.</translation>
     </message>
     <message>
         <source>Parameter</source>
@@ -571,31 +571,39 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     </message>
     <message>
         <source>Time mean, flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Časový průměr, let</translation>
     </message>
     <message>
         <source>Time mean, reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Časový průměr, reference</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozdíl</translation>
     </message>
     <message>
         <source>Standard deviations</source>
-        <translation type="unfinished"></translation>
+        <translation>Směrodatné odchylky</translation>
     </message>
     <message>
         <source>What changed most, in standard deviations of the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se změnilo nejvíce, ve směrodatných odchylkách reference</translation>
     </message>
     <message>
         <source>Compared with the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovnání s referencí</translation>
     </message>
     <message>
-        <source>No parameter has changed.</source>
-        <translation type="unfinished"></translation>
+        <source>Reference: %1. It has no time in common with this range.</source>
+        <translation>Reference: %1. S tímto rozsahem nemá žádný společný čas.</translation>
+    </message>
+    <message>
+        <source>No parameter has values in both flights there.</source>
+        <translation>Žádný parametr tam nemá hodnoty v obou letech.</translation>
+    </message>
+    <message>
+        <source>None of %1 parameters has changed.</source>
+        <translation>Žádný z %1 parametrů se nezměnil.</translation>
     </message>
 </context>
 <context>
@@ -867,7 +875,7 @@ Zvolte složku, do které lze zapisovat, s dostatkem volného místa, a název k
     </message>
     <message>
         <source>Reference: </source>
-        <translation type="unfinished"></translation>
+        <translation>Reference: </translation>
     </message>
 </context>
 <context>
@@ -1165,11 +1173,11 @@ Sledované parametry: %5</translation>
     </message>
     <message>
         <source>Load as &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Načíst jako &amp;referenci</translation>
     </message>
     <message>
         <source>Compares the flight that is open with this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Porovná otevřený let s tímto</translation>
     </message>
 </context>
 <context>
@@ -1833,15 +1841,15 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     </message>
     <message>
         <source>Loading the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Načítání reference</translation>
     </message>
     <message>
         <source>Loading the reference was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Načítání reference bylo zrušeno.</translation>
     </message>
     <message>
         <source>No reference was loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference nebyla načtena: %1</translation>
     </message>
 </context>
 <context>
@@ -2092,7 +2100,7 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     </message>
     <message>
         <source>Stop loading the reference (Escape)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit načítání reference (Esc)</translation>
     </message>
 </context>
 <context>
@@ -2181,7 +2189,7 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     </message>
     <message>
         <source>Reference: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference: %1</translation>
     </message>
 </context>
 <context>
@@ -2416,83 +2424,83 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     </message>
     <message>
         <source>Δ time mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ časový průměr</translation>
     </message>
     <message>
         <source>Flight minus reference: mean from A to B, each difference weighed with the time that it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Let minus reference: průměr od A do B, každý rozdíl vážený dobou, po kterou platí</translation>
     </message>
     <message>
         <source>Δ A</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ A</translation>
     </message>
     <message>
         <source>Flight minus reference at A</source>
-        <translation type="unfinished"></translation>
+        <translation>Let minus reference v A</translation>
     </message>
     <message>
         <source>Δ B</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ B</translation>
     </message>
     <message>
         <source>Flight minus reference at B</source>
-        <translation type="unfinished"></translation>
+        <translation>Let minus reference v B</translation>
     </message>
     <message>
         <source>Δ min</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ min</translation>
     </message>
     <message>
         <source>Smallest difference of flight and reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejmenší rozdíl letu a reference od A do B</translation>
     </message>
     <message>
         <source>Δ max</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ max</translation>
     </message>
     <message>
         <source>Greatest difference of flight and reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Největší rozdíl letu a reference od A do B</translation>
     </message>
     <message>
         <source>Ref. time mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. časový průměr</translation>
     </message>
     <message>
         <source>Time mean of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Časový průměr reference od A do B</translation>
     </message>
     <message>
         <source>Ref. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. A</translation>
     </message>
     <message>
         <source>Value of the reference at A</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnota reference v A</translation>
     </message>
     <message>
         <source>Ref. B</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. B</translation>
     </message>
     <message>
         <source>Value of the reference at B</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnota reference v B</translation>
     </message>
     <message>
         <source>Ref. min</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. min</translation>
     </message>
     <message>
         <source>Smallest value of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejmenší hodnota reference od A do B</translation>
     </message>
     <message>
         <source>Ref. max</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. max</translation>
     </message>
     <message>
         <source>Greatest value of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Největší hodnota reference od A do B</translation>
     </message>
 </context>
 <context>
@@ -2618,145 +2626,153 @@ Původní soubor zůstal beze změny; uložte projekt do jiné složky.</transla
     <name>TARN::ReferenceBar</name>
     <message>
         <source>Curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Křivky</translation>
     </message>
     <message>
         <source>Show the reference&apos;s curves (B in the graph)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit křivky reference (B v grafu)</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozdíl</translation>
     </message>
     <message>
         <source>Show flight minus reference in strips of their own (D in the graph)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit let minus reference v samostatných pruzích (D v grafu)</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloupce</translation>
     </message>
     <message>
         <source>Show the reference&apos;s values in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit hodnoty reference v tabulce</translation>
     </message>
     <message>
         <source>Take the reference flight away</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat referenční let</translation>
     </message>
     <message>
         <source>Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodiny</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek</translation>
     </message>
     <message>
         <source>Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Okamžik</translation>
     </message>
     <message>
         <source>Passing</source>
-        <translation type="unfinished"></translation>
+        <translation>Průchod</translation>
     </message>
     <message>
         <source>What is laid on what: times of day, the first samples, a moment picked in both, or when a parameter first passes a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se položí na sebe: denní časy, první vzorky, okamžik vybraný v obou letech, nebo kdy parametr poprvé projde hodnotou</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Zarovnání</translation>
     </message>
     <message>
         <source>Parameter that passes the value</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametr, který projde hodnotou</translation>
     </message>
     <message>
         <source>Value that is passed</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnota, kterou parametr projde</translation>
     </message>
     <message>
         <source>Shift of the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Posunutí reference</translation>
     </message>
     <message>
         <source>Seconds by which the reference is shifted; Alt and a drag in the graph shift it too</source>
-        <translation type="unfinished"></translation>
+        <translation>O kolik sekund je reference posunuta; posune ji i tažení s klávesou Alt v grafu</translation>
     </message>
     <message>
         <source>A&amp;lign:</source>
-        <translation type="unfinished"></translation>
+        <translation>Za&amp;rovnat:</translation>
     </message>
     <message>
-        <source>S&amp;hift:</source>
-        <translation type="unfinished"></translation>
+        <source>Sh&amp;ift:</source>
+        <translation>Pos&amp;unout:</translation>
     </message>
     <message>
         <source>Flight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Let: %1</translation>
     </message>
     <message>
-        <source>Reference (dashed): %1</source>
-        <translation type="unfinished"></translation>
+        <source>Reference: %1</source>
+        <translation>Reference: %1</translation>
     </message>
     <message>
         <source>Align Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Zarovnat sem</translation>
     </message>
     <message>
         <source>Pick Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat okamžik</translation>
     </message>
     <message>
         <source>Lays the reference&apos;s value at the cursor on the moment picked</source>
-        <translation type="unfinished"></translation>
+        <translation>Položí hodnotu reference u kurzoru na vybraný okamžik</translation>
     </message>
     <message>
         <source>Takes the cursor&apos;s time as the moment of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Převezme čas kurzoru jako okamžik letu</translation>
     </message>
     <message>
         <source>The reference holds no sample of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference neobsahuje žádný vzorek parametrů: %1</translation>
     </message>
     <message>
         <source> and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation> a další (%1)</translation>
     </message>
     <message>
         <source>Moment of the flight: %1. Go to where the reference&apos;s curve shows the same moment, then press Align Here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Okamžik letu: %1. Přejděte tam, kde křivka reference ukazuje tentýž okamžik, a stiskněte „Zarovnat sem“.</translation>
     </message>
     <message>
         <source>One of the flights does not pass this value: the shift is the one before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden z letů touto hodnotou neprojde: zůstává předchozí posunutí.</translation>
     </message>
     <message>
         <source>The flights have no time in common: align them by their start, or shift the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety nemají žádný společný čas: zarovnejte je podle začátku, nebo posuňte referenci.</translation>
+    </message>
+    <message>
+        <source>The flights are being aligned.</source>
+        <translation>Lety se zarovnávají.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to compare everything; select fewer parameters.</source>
+        <translation>Na porovnání všeho není dost paměti; vyberte méně parametrů.</translation>
     </message>
 </context>
 <context>
     <name>TARN::ReferenceGraph</name>
     <message>
         <source>Show &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit &amp;referenci</translation>
     </message>
     <message>
         <source>Show &amp;Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit r&amp;ozdíl</translation>
     </message>
     <message>
         <source>There is not enough memory for the reference&apos;s curves; select fewer parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro křivky reference není dost paměti; vyberte méně parametrů.</translation>
     </message>
 </context>
 <context>
     <name>TARN::ReferenceLoader</name>
     <message>
         <source>There is not enough memory for a reference beside the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro referenci vedle letu není dost paměti.</translation>
     </message>
     <message>
         <source>Looking for events</source>
@@ -2800,11 +2816,11 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     </message>
     <message>
         <source>Reference: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reference: %1</translation>
     </message>
     <message>
         <source>ref. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ref. %1</translation>
     </message>
 </context>
 <context>

@@ -5,11 +5,11 @@
     <name>CompanionDrawing</name>
     <message>
         <source>Δ flight minus reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ Flug minus Referenz</translation>
     </message>
     <message>
         <source>ref. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. %1</translation>
     </message>
 </context>
 <context>
@@ -552,18 +552,18 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     </message>
     <message>
         <source>%1 to %2 on the recording&apos;s clock; dashed: the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2 auf der Uhr der Aufzeichnung; gestrichelt: die Referenz</translation>
     </message>
 </context>
 <context>
     <name>ReportComparison</name>
     <message>
         <source>Reference: %1, shifted by %2 s. Compared from %3 to %4, while both flights are steady.</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenz: %1, um %2 s verschoben. Verglichen von %3 bis %4, solange beide Flüge stationär sind.</translation>
     </message>
     <message>
         <source>Reference: %1, shifted by %2 s. Compared from %3 to %4: there is no common steady part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenz: %1, um %2 s verschoben. Verglichen von %3 bis %4: Es gibt keinen gemeinsamen stationären Abschnitt.</translation>
     </message>
     <message>
         <source>Parameter</source>
@@ -571,31 +571,39 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     </message>
     <message>
         <source>Time mean, flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitmittel, Flug</translation>
     </message>
     <message>
         <source>Time mean, reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitmittel, Referenz</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Differenz</translation>
     </message>
     <message>
         <source>Standard deviations</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardabweichungen</translation>
     </message>
     <message>
         <source>What changed most, in standard deviations of the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Was sich am meisten geändert hat, in Standardabweichungen der Referenz</translation>
     </message>
     <message>
         <source>Compared with the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleich mit der Referenz</translation>
     </message>
     <message>
-        <source>No parameter has changed.</source>
-        <translation type="unfinished"></translation>
+        <source>Reference: %1. It has no time in common with this range.</source>
+        <translation>Referenz: %1. Sie hat mit diesem Bereich keine Zeit gemeinsam.</translation>
+    </message>
+    <message>
+        <source>No parameter has values in both flights there.</source>
+        <translation>Kein Parameter hat dort in beiden Flügen Werte.</translation>
+    </message>
+    <message>
+        <source>None of %1 parameters has changed.</source>
+        <translation>Keiner von %1 Parametern hat sich geändert.</translation>
     </message>
 </context>
 <context>
@@ -867,7 +875,7 @@ Wählen Sie einen beschreibbaren Ordner mit genügend freiem Platz und einen Nam
     </message>
     <message>
         <source>Reference: </source>
-        <translation type="unfinished"></translation>
+        <translation>Referenz: </translation>
     </message>
 </context>
 <context>
@@ -1165,11 +1173,11 @@ Fehler und Warnungen: %4
     </message>
     <message>
         <source>Load as &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Als &amp;Referenz laden</translation>
     </message>
     <message>
         <source>Compares the flight that is open with this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Vergleicht den geöffneten Flug mit diesem</translation>
     </message>
 </context>
 <context>
@@ -1833,15 +1841,15 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     </message>
     <message>
         <source>Loading the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden der Referenz</translation>
     </message>
     <message>
         <source>Loading the reference was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Laden der Referenz wurde abgebrochen.</translation>
     </message>
     <message>
         <source>No reference was loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Referenz geladen: %1</translation>
     </message>
 </context>
 <context>
@@ -2092,7 +2100,7 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     </message>
     <message>
         <source>Stop loading the reference (Escape)</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden der Referenz abbrechen (Esc)</translation>
     </message>
 </context>
 <context>
@@ -2181,7 +2189,7 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     </message>
     <message>
         <source>Reference: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenz: %1</translation>
     </message>
 </context>
 <context>
@@ -2416,83 +2424,83 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     </message>
     <message>
         <source>Δ time mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ Zeitmittel</translation>
     </message>
     <message>
         <source>Flight minus reference: mean from A to B, each difference weighed with the time that it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug minus Referenz: Mittelwert von A bis B, jede Differenz gewichtet mit der Zeit, die sie gilt</translation>
     </message>
     <message>
         <source>Δ A</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ A</translation>
     </message>
     <message>
         <source>Flight minus reference at A</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug minus Referenz bei A</translation>
     </message>
     <message>
         <source>Δ B</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ B</translation>
     </message>
     <message>
         <source>Flight minus reference at B</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug minus Referenz bei B</translation>
     </message>
     <message>
         <source>Δ min</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ Min</translation>
     </message>
     <message>
         <source>Smallest difference of flight and reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinste Differenz von Flug und Referenz von A bis B</translation>
     </message>
     <message>
         <source>Δ max</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ Max</translation>
     </message>
     <message>
         <source>Greatest difference of flight and reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Differenz von Flug und Referenz von A bis B</translation>
     </message>
     <message>
         <source>Ref. time mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. Zeitmittel</translation>
     </message>
     <message>
         <source>Time mean of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitmittel der Referenz von A bis B</translation>
     </message>
     <message>
         <source>Ref. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. A</translation>
     </message>
     <message>
         <source>Value of the reference at A</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert der Referenz bei A</translation>
     </message>
     <message>
         <source>Ref. B</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. B</translation>
     </message>
     <message>
         <source>Value of the reference at B</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert der Referenz bei B</translation>
     </message>
     <message>
         <source>Ref. min</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. Min</translation>
     </message>
     <message>
         <source>Smallest value of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinster Wert der Referenz von A bis B</translation>
     </message>
     <message>
         <source>Ref. max</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. Max</translation>
     </message>
     <message>
         <source>Greatest value of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Größter Wert der Referenz von A bis B</translation>
     </message>
 </context>
 <context>
@@ -2618,145 +2626,153 @@ Die alte Datei ist unverändert; speichern Sie das Projekt in einem anderen Ordn
     <name>TARN::ReferenceBar</name>
     <message>
         <source>Curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurven</translation>
     </message>
     <message>
         <source>Show the reference&apos;s curves (B in the graph)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurven der Referenz zeigen (B im Diagramm)</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Differenz</translation>
     </message>
     <message>
         <source>Show flight minus reference in strips of their own (D in the graph)</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug minus Referenz in eigenen Streifen zeigen (D im Diagramm)</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten</translation>
     </message>
     <message>
         <source>Show the reference&apos;s values in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Werte der Referenz in der Tabelle zeigen</translation>
     </message>
     <message>
         <source>Take the reference flight away</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenzflug entfernen</translation>
     </message>
     <message>
         <source>Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhrzeit</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang</translation>
     </message>
     <message>
         <source>Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment</translation>
     </message>
     <message>
         <source>Passing</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchgang</translation>
     </message>
     <message>
         <source>What is laid on what: times of day, the first samples, a moment picked in both, or when a parameter first passes a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Was aufeinandergelegt wird: die Uhrzeiten, die ersten Messwerte, ein in beiden gewählter Moment oder das erste Mal, dass ein Parameter einen Wert durchläuft</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
         <source>Parameter that passes the value</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter, der den Wert durchläuft</translation>
     </message>
     <message>
         <source>Value that is passed</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert, der durchlaufen wird</translation>
     </message>
     <message>
         <source>Shift of the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschiebung der Referenz</translation>
     </message>
     <message>
         <source>Seconds by which the reference is shifted; Alt and a drag in the graph shift it too</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden, um die die Referenz verschoben ist; Ziehen mit Alt im Diagramm verschiebt sie auch</translation>
     </message>
     <message>
         <source>A&amp;lign:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus&amp;richten:</translation>
     </message>
     <message>
-        <source>S&amp;hift:</source>
-        <translation type="unfinished"></translation>
+        <source>Sh&amp;ift:</source>
+        <translation>&amp;Verschieben:</translation>
     </message>
     <message>
         <source>Flight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug: %1</translation>
     </message>
     <message>
-        <source>Reference (dashed): %1</source>
-        <translation type="unfinished"></translation>
+        <source>Reference: %1</source>
+        <translation>Referenz: %1</translation>
     </message>
     <message>
         <source>Align Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier ausrichten</translation>
     </message>
     <message>
         <source>Pick Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment wählen</translation>
     </message>
     <message>
         <source>Lays the reference&apos;s value at the cursor on the moment picked</source>
-        <translation type="unfinished"></translation>
+        <translation>Legt den Wert der Referenz am Cursor auf den gewählten Moment</translation>
     </message>
     <message>
         <source>Takes the cursor&apos;s time as the moment of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Nimmt die Zeit des Cursors als Moment des Flugs</translation>
     </message>
     <message>
         <source>The reference holds no sample of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Referenz enthält keinen Messwert von: %1</translation>
     </message>
     <message>
         <source> and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation> und %1 mehr</translation>
     </message>
     <message>
         <source>Moment of the flight: %1. Go to where the reference&apos;s curve shows the same moment, then press Align Here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Moment des Flugs: %1. Gehen Sie dorthin, wo die Kurve der Referenz denselben Moment zeigt, und klicken Sie dann auf „Hier ausrichten“.</translation>
     </message>
     <message>
         <source>One of the flights does not pass this value: the shift is the one before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einer der Flüge durchläuft diesen Wert nicht: Es bleibt bei der bisherigen Verschiebung.</translation>
     </message>
     <message>
         <source>The flights have no time in common: align them by their start, or shift the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Flüge haben keine gemeinsame Zeit: Richten Sie sie am Anfang aus oder verschieben Sie die Referenz.</translation>
+    </message>
+    <message>
+        <source>The flights are being aligned.</source>
+        <translation>Die Flüge werden ausgerichtet.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to compare everything; select fewer parameters.</source>
+        <translation>Der Speicher reicht nicht, um alles zu vergleichen; wählen Sie weniger Parameter aus.</translation>
     </message>
 </context>
 <context>
     <name>TARN::ReferenceGraph</name>
     <message>
         <source>Show &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Referenz anzeigen</translation>
     </message>
     <message>
         <source>Show &amp;Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Differenz anzeigen</translation>
     </message>
     <message>
         <source>There is not enough memory for the reference&apos;s curves; select fewer parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenig Speicher für die Kurven der Referenz; wählen Sie weniger Parameter aus.</translation>
     </message>
 </context>
 <context>
     <name>TARN::ReferenceLoader</name>
     <message>
         <source>There is not enough memory for a reference beside the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu wenig Speicher für eine Referenz neben dem Flug.</translation>
     </message>
     <message>
         <source>Looking for events</source>
@@ -2800,11 +2816,11 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
     </message>
     <message>
         <source>Reference: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Referenz: %1</translation>
     </message>
     <message>
         <source>ref. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. %1</translation>
     </message>
 </context>
 <context>

@@ -5,11 +5,11 @@
     <name>CompanionDrawing</name>
     <message>
         <source>Δ flight minus reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ vuelo menos referencia</translation>
     </message>
     <message>
         <source>ref. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ref. %1</translation>
     </message>
 </context>
 <context>
@@ -552,18 +552,18 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     </message>
     <message>
         <source>%1 to %2 on the recording&apos;s clock; dashed: the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a %2 en el reloj de la grabación; línea discontinua: la referencia</translation>
     </message>
 </context>
 <context>
     <name>ReportComparison</name>
     <message>
         <source>Reference: %1, shifted by %2 s. Compared from %3 to %4, while both flights are steady.</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia: %1, desplazada %2 s. Comparados de %3 a %4, mientras ambos vuelos están estabilizados.</translation>
     </message>
     <message>
         <source>Reference: %1, shifted by %2 s. Compared from %3 to %4: there is no common steady part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia: %1, desplazada %2 s. Comparados de %3 a %4: no hay ningún tramo estabilizado común.</translation>
     </message>
     <message>
         <source>Parameter</source>
@@ -571,31 +571,39 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     </message>
     <message>
         <source>Time mean, flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Media temporal, vuelo</translation>
     </message>
     <message>
         <source>Time mean, reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Media temporal, referencia</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia</translation>
     </message>
     <message>
         <source>Standard deviations</source>
-        <translation type="unfinished"></translation>
+        <translation>Desviaciones estándar</translation>
     </message>
     <message>
         <source>What changed most, in standard deviations of the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que más ha cambiado, en desviaciones estándar de la referencia</translation>
     </message>
     <message>
         <source>Compared with the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparación con la referencia</translation>
     </message>
     <message>
-        <source>No parameter has changed.</source>
-        <translation type="unfinished"></translation>
+        <source>Reference: %1. It has no time in common with this range.</source>
+        <translation>Referencia: %1. No tiene tiempo en común con este rango.</translation>
+    </message>
+    <message>
+        <source>No parameter has values in both flights there.</source>
+        <translation>Ningún parámetro tiene ahí valores en ambos vuelos.</translation>
+    </message>
+    <message>
+        <source>None of %1 parameters has changed.</source>
+        <translation>Ninguno de %1 parámetros ha cambiado.</translation>
     </message>
 </context>
 <context>
@@ -867,7 +875,7 @@ Elija una carpeta en la que se pueda escribir, con espacio libre suficiente, y u
     </message>
     <message>
         <source>Reference: </source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia: </translation>
     </message>
 </context>
 <context>
@@ -1165,11 +1173,11 @@ Parámetros vigilados: %5</translation>
     </message>
     <message>
         <source>Load as &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargar como &amp;referencia</translation>
     </message>
     <message>
         <source>Compares the flight that is open with this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Compara el vuelo abierto con este</translation>
     </message>
 </context>
 <context>
@@ -1833,15 +1841,15 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     </message>
     <message>
         <source>Loading the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando la referencia</translation>
     </message>
     <message>
         <source>Loading the reference was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carga de la referencia se ha cancelado.</translation>
     </message>
     <message>
         <source>No reference was loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se cargó ninguna referencia: %1</translation>
     </message>
 </context>
 <context>
@@ -2092,7 +2100,7 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     </message>
     <message>
         <source>Stop loading the reference (Escape)</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener la carga de la referencia (Esc)</translation>
     </message>
 </context>
 <context>
@@ -2181,7 +2189,7 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     </message>
     <message>
         <source>Reference: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia: %1</translation>
     </message>
 </context>
 <context>
@@ -2416,83 +2424,83 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     </message>
     <message>
         <source>Δ time mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ media temporal</translation>
     </message>
     <message>
         <source>Flight minus reference: mean from A to B, each difference weighed with the time that it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo menos referencia: media de A a B, cada diferencia ponderada con el tiempo que vale</translation>
     </message>
     <message>
         <source>Δ A</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ A</translation>
     </message>
     <message>
         <source>Flight minus reference at A</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo menos referencia en A</translation>
     </message>
     <message>
         <source>Δ B</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ B</translation>
     </message>
     <message>
         <source>Flight minus reference at B</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo menos referencia en B</translation>
     </message>
     <message>
         <source>Δ min</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ mín</translation>
     </message>
     <message>
         <source>Smallest difference of flight and reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia mínima entre vuelo y referencia de A a B</translation>
     </message>
     <message>
         <source>Δ max</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ máx</translation>
     </message>
     <message>
         <source>Greatest difference of flight and reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia máxima entre vuelo y referencia de A a B</translation>
     </message>
     <message>
         <source>Ref. time mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. media temporal</translation>
     </message>
     <message>
         <source>Time mean of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Media temporal de la referencia de A a B</translation>
     </message>
     <message>
         <source>Ref. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. A</translation>
     </message>
     <message>
         <source>Value of the reference at A</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor de la referencia en A</translation>
     </message>
     <message>
         <source>Ref. B</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. B</translation>
     </message>
     <message>
         <source>Value of the reference at B</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor de la referencia en B</translation>
     </message>
     <message>
         <source>Ref. min</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. mín</translation>
     </message>
     <message>
         <source>Smallest value of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor mínimo de la referencia de A a B</translation>
     </message>
     <message>
         <source>Ref. max</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. máx</translation>
     </message>
     <message>
         <source>Greatest value of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor máximo de la referencia de A a B</translation>
     </message>
 </context>
 <context>
@@ -2618,145 +2626,153 @@ El archivo anterior no ha cambiado; guárdelo en otra carpeta.</translation>
     <name>TARN::ReferenceBar</name>
     <message>
         <source>Curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Curvas</translation>
     </message>
     <message>
         <source>Show the reference&apos;s curves (B in the graph)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar las curvas de la referencia (B en la gráfica)</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia</translation>
     </message>
     <message>
         <source>Show flight minus reference in strips of their own (D in the graph)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar vuelo menos referencia en franjas propias (D en la gráfica)</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas</translation>
     </message>
     <message>
         <source>Show the reference&apos;s values in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los valores de la referencia en la tabla</translation>
     </message>
     <message>
         <source>Take the reference flight away</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar el vuelo de referencia</translation>
     </message>
     <message>
         <source>Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Instante</translation>
     </message>
     <message>
         <source>Passing</source>
-        <translation type="unfinished"></translation>
+        <translation>Cruce</translation>
     </message>
     <message>
         <source>What is laid on what: times of day, the first samples, a moment picked in both, or when a parameter first passes a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué se hace coincidir: las horas del día, las primeras muestras, un instante elegido en ambos o la primera vez que un parámetro cruza un valor</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Alineación</translation>
     </message>
     <message>
         <source>Parameter that passes the value</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetro que cruza el valor</translation>
     </message>
     <message>
         <source>Value that is passed</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor que se cruza</translation>
     </message>
     <message>
         <source>Shift of the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento de la referencia</translation>
     </message>
     <message>
         <source>Seconds by which the reference is shifted; Alt and a drag in the graph shift it too</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos que se desplaza la referencia; un arrastre con Alt en la gráfica también la desplaza</translation>
     </message>
     <message>
         <source>A&amp;lign:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;linear:</translation>
     </message>
     <message>
-        <source>S&amp;hift:</source>
-        <translation type="unfinished"></translation>
+        <source>Sh&amp;ift:</source>
+        <translation>&amp;Desplazar:</translation>
     </message>
     <message>
         <source>Flight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo: %1</translation>
     </message>
     <message>
-        <source>Reference (dashed): %1</source>
-        <translation type="unfinished"></translation>
+        <source>Reference: %1</source>
+        <translation>Referencia: %1</translation>
     </message>
     <message>
         <source>Align Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinear aquí</translation>
     </message>
     <message>
         <source>Pick Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir instante</translation>
     </message>
     <message>
         <source>Lays the reference&apos;s value at the cursor on the moment picked</source>
-        <translation type="unfinished"></translation>
+        <translation>Coloca el valor de la referencia en el cursor sobre el instante elegido</translation>
     </message>
     <message>
         <source>Takes the cursor&apos;s time as the moment of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Toma el tiempo del cursor como instante del vuelo</translation>
     </message>
     <message>
         <source>The reference holds no sample of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La referencia no contiene ninguna muestra de: %1</translation>
     </message>
     <message>
         <source> and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation> y %1 más</translation>
     </message>
     <message>
         <source>Moment of the flight: %1. Go to where the reference&apos;s curve shows the same moment, then press Align Here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instante del vuelo: %1. Vaya a donde la curva de la referencia muestra el mismo instante y pulse «Alinear aquí».</translation>
     </message>
     <message>
         <source>One of the flights does not pass this value: the shift is the one before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uno de los vuelos no cruza este valor: se mantiene el desplazamiento anterior.</translation>
     </message>
     <message>
         <source>The flights have no time in common: align them by their start, or shift the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los vuelos no tienen ningún tiempo en común: alinéelos por su inicio o desplace la referencia.</translation>
+    </message>
+    <message>
+        <source>The flights are being aligned.</source>
+        <translation>Los vuelos se están alineando.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to compare everything; select fewer parameters.</source>
+        <translation>No hay memoria suficiente para comparar todo; seleccione menos parámetros.</translation>
     </message>
 </context>
 <context>
     <name>TARN::ReferenceGraph</name>
     <message>
         <source>Show &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar re&amp;ferencia</translation>
     </message>
     <message>
         <source>Show &amp;Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar &amp;diferencia</translation>
     </message>
     <message>
         <source>There is not enough memory for the reference&apos;s curves; select fewer parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para las curvas de la referencia; seleccione menos parámetros.</translation>
     </message>
 </context>
 <context>
     <name>TARN::ReferenceLoader</name>
     <message>
         <source>There is not enough memory for a reference beside the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para una referencia junto al vuelo.</translation>
     </message>
     <message>
         <source>Looking for events</source>
@@ -2800,11 +2816,11 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
     </message>
     <message>
         <source>Reference: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia: %1</translation>
     </message>
     <message>
         <source>ref. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ref. %1</translation>
     </message>
 </context>
 <context>

@@ -5,11 +5,11 @@
     <name>CompanionDrawing</name>
     <message>
         <source>Δ flight minus reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ vol moins référence</translation>
     </message>
     <message>
         <source>ref. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>réf. %1</translation>
     </message>
 </context>
 <context>
@@ -552,18 +552,18 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
     <message>
         <source>%1 to %2 on the recording&apos;s clock; dashed: the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à %2 à l&apos;horloge de l&apos;enregistrement&#xa0;; en tirets&#xa0;: la référence</translation>
     </message>
 </context>
 <context>
     <name>ReportComparison</name>
     <message>
         <source>Reference: %1, shifted by %2 s. Compared from %3 to %4, while both flights are steady.</source>
-        <translation type="unfinished"></translation>
+        <translation>Référence&#xa0;: %1, décalée de %2 s. Comparaison de %3 à %4, pendant que les deux vols sont stabilisés.</translation>
     </message>
     <message>
         <source>Reference: %1, shifted by %2 s. Compared from %3 to %4: there is no common steady part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Référence&#xa0;: %1, décalée de %2 s. Comparaison de %3 à %4&#xa0;: il n&apos;y a pas de partie stabilisée commune.</translation>
     </message>
     <message>
         <source>Parameter</source>
@@ -571,31 +571,39 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
     <message>
         <source>Time mean, flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne temporelle, vol</translation>
     </message>
     <message>
         <source>Time mean, reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne temporelle, référence</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Différence</translation>
     </message>
     <message>
         <source>Standard deviations</source>
-        <translation type="unfinished"></translation>
+        <translation>Écarts types</translation>
     </message>
     <message>
         <source>What changed most, in standard deviations of the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a le plus changé, en écarts types de la référence</translation>
     </message>
     <message>
         <source>Compared with the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison avec la référence</translation>
     </message>
     <message>
-        <source>No parameter has changed.</source>
-        <translation type="unfinished"></translation>
+        <source>Reference: %1. It has no time in common with this range.</source>
+        <translation>Référence&#xa0;: %1. Elle n&apos;a pas de temps en commun avec cette plage.</translation>
+    </message>
+    <message>
+        <source>No parameter has values in both flights there.</source>
+        <translation>Aucun paramètre n&apos;y a de valeurs dans les deux vols.</translation>
+    </message>
+    <message>
+        <source>None of %1 parameters has changed.</source>
+        <translation>Aucun des %1 paramètres n&apos;a changé.</translation>
     </message>
 </context>
 <context>
@@ -867,7 +875,7 @@ Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, e
     </message>
     <message>
         <source>Reference: </source>
-        <translation type="unfinished"></translation>
+        <translation>Référence&#xa0;: </translation>
     </message>
 </context>
 <context>
@@ -1165,11 +1173,11 @@ Paramètres surveillés&#xa0;: %5</translation>
     </message>
     <message>
         <source>Load as &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Charger comme &amp;référence</translation>
     </message>
     <message>
         <source>Compares the flight that is open with this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Compare le vol ouvert à celui-ci</translation>
     </message>
 </context>
 <context>
@@ -1833,15 +1841,15 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
     <message>
         <source>Loading the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement de la référence</translation>
     </message>
     <message>
         <source>Loading the reference was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chargement de la référence a été annulé.</translation>
     </message>
     <message>
         <source>No reference was loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune référence chargée&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2092,7 +2100,7 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
     <message>
         <source>Stop loading the reference (Escape)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter le chargement de la référence (Échap)</translation>
     </message>
 </context>
 <context>
@@ -2181,7 +2189,7 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
     <message>
         <source>Reference: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Référence&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -2416,83 +2424,83 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
     <message>
         <source>Δ time mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ moy. temporelle</translation>
     </message>
     <message>
         <source>Flight minus reference: mean from A to B, each difference weighed with the time that it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol moins référence&#xa0;: moyenne de A à B, chaque différence pondérée par sa durée</translation>
     </message>
     <message>
         <source>Δ A</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ A</translation>
     </message>
     <message>
         <source>Flight minus reference at A</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol moins référence en A</translation>
     </message>
     <message>
         <source>Δ B</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ B</translation>
     </message>
     <message>
         <source>Flight minus reference at B</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol moins référence en B</translation>
     </message>
     <message>
         <source>Δ min</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ min</translation>
     </message>
     <message>
         <source>Smallest difference of flight and reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus petite différence entre vol et référence de A à B</translation>
     </message>
     <message>
         <source>Δ max</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ max</translation>
     </message>
     <message>
         <source>Greatest difference of flight and reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus grande différence entre vol et référence de A à B</translation>
     </message>
     <message>
         <source>Ref. time mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Réf. moy. temporelle</translation>
     </message>
     <message>
         <source>Time mean of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne temporelle de la référence de A à B</translation>
     </message>
     <message>
         <source>Ref. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Réf. A</translation>
     </message>
     <message>
         <source>Value of the reference at A</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur de la référence en A</translation>
     </message>
     <message>
         <source>Ref. B</source>
-        <translation type="unfinished"></translation>
+        <translation>Réf. B</translation>
     </message>
     <message>
         <source>Value of the reference at B</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur de la référence en B</translation>
     </message>
     <message>
         <source>Ref. min</source>
-        <translation type="unfinished"></translation>
+        <translation>Réf. min</translation>
     </message>
     <message>
         <source>Smallest value of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus petite valeur de la référence de A à B</translation>
     </message>
     <message>
         <source>Ref. max</source>
-        <translation type="unfinished"></translation>
+        <translation>Réf. max</translation>
     </message>
     <message>
         <source>Greatest value of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus grande valeur de la référence de A à B</translation>
     </message>
 </context>
 <context>
@@ -2618,145 +2626,153 @@ L&apos;ancien fichier est inchangé&#xa0;; enregistrez le projet dans un autre d
     <name>TARN::ReferenceBar</name>
     <message>
         <source>Curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Courbes</translation>
     </message>
     <message>
         <source>Show the reference&apos;s curves (B in the graph)</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les courbes de la référence (B dans le graphique)</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Différence</translation>
     </message>
     <message>
         <source>Show flight minus reference in strips of their own (D in the graph)</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher vol moins référence dans des bandes à part (D dans le graphique)</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes</translation>
     </message>
     <message>
         <source>Show the reference&apos;s values in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les valeurs de la référence dans le tableau</translation>
     </message>
     <message>
         <source>Take the reference flight away</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer le vol de référence</translation>
     </message>
     <message>
         <source>Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Instant</translation>
     </message>
     <message>
         <source>Passing</source>
-        <translation type="unfinished"></translation>
+        <translation>Passage</translation>
     </message>
     <message>
         <source>What is laid on what: times of day, the first samples, a moment picked in both, or when a parameter first passes a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que l&apos;on fait coïncider&#xa0;: les heures du jour, les premiers échantillons, un instant choisi dans les deux vols, ou le premier passage d&apos;un paramètre par une valeur</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Alignement</translation>
     </message>
     <message>
         <source>Parameter that passes the value</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètre qui passe par la valeur</translation>
     </message>
     <message>
         <source>Value that is passed</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur de passage</translation>
     </message>
     <message>
         <source>Shift of the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage de la référence</translation>
     </message>
     <message>
         <source>Seconds by which the reference is shifted; Alt and a drag in the graph shift it too</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes dont la référence est décalée&#xa0;; glisser avec Alt dans le graphique la décale aussi</translation>
     </message>
     <message>
         <source>A&amp;lign:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ligner&#xa0;:</translation>
     </message>
     <message>
-        <source>S&amp;hift:</source>
-        <translation type="unfinished"></translation>
+        <source>Sh&amp;ift:</source>
+        <translation>&amp;Décaler&#xa0;:</translation>
     </message>
     <message>
         <source>Flight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Reference (dashed): %1</source>
-        <translation type="unfinished"></translation>
+        <source>Reference: %1</source>
+        <translation>Référence&#xa0;: %1</translation>
     </message>
     <message>
         <source>Align Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Aligner ici</translation>
     </message>
     <message>
         <source>Pick Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir l&apos;instant</translation>
     </message>
     <message>
         <source>Lays the reference&apos;s value at the cursor on the moment picked</source>
-        <translation type="unfinished"></translation>
+        <translation>Place la valeur de la référence au curseur sur l&apos;instant choisi</translation>
     </message>
     <message>
         <source>Takes the cursor&apos;s time as the moment of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Prend l&apos;heure du curseur comme instant du vol</translation>
     </message>
     <message>
         <source>The reference holds no sample of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La référence ne contient aucun échantillon de&#xa0;: %1</translation>
     </message>
     <message>
         <source> and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation> et %1 de plus</translation>
     </message>
     <message>
         <source>Moment of the flight: %1. Go to where the reference&apos;s curve shows the same moment, then press Align Here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instant du vol&#xa0;: %1. Allez là où la courbe de la référence montre le même instant, puis appuyez sur «&#xa0;Aligner ici&#xa0;».</translation>
     </message>
     <message>
         <source>One of the flights does not pass this value: the shift is the one before.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;un des vols ne passe pas par cette valeur&#xa0;: le décalage précédent est conservé.</translation>
     </message>
     <message>
         <source>The flights have no time in common: align them by their start, or shift the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les vols n&apos;ont aucun temps en commun&#xa0;: alignez-les par leur début, ou décalez la référence.</translation>
+    </message>
+    <message>
+        <source>The flights are being aligned.</source>
+        <translation>Les vols sont en cours d&apos;alignement.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to compare everything; select fewer parameters.</source>
+        <translation>La mémoire ne suffit pas pour tout comparer ; sélectionnez moins de paramètres.</translation>
     </message>
 </context>
 <context>
     <name>TARN::ReferenceGraph</name>
     <message>
         <source>Show &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la &amp;référence</translation>
     </message>
     <message>
         <source>Show &amp;Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la di&amp;fférence</translation>
     </message>
     <message>
         <source>There is not enough memory for the reference&apos;s curves; select fewer parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire insuffisante pour les courbes de la référence&#xa0;; sélectionnez moins de paramètres.</translation>
     </message>
 </context>
 <context>
     <name>TARN::ReferenceLoader</name>
     <message>
         <source>There is not enough memory for a reference beside the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoire insuffisante pour une référence à côté du vol.</translation>
     </message>
     <message>
         <source>Looking for events</source>
@@ -2800,11 +2816,11 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     </message>
     <message>
         <source>Reference: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Référence&#xa0;: %1</translation>
     </message>
     <message>
         <source>ref. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>réf. %1</translation>
     </message>
 </context>
 <context>

@@ -5,11 +5,11 @@
     <name>CompanionDrawing</name>
     <message>
         <source>Δ flight minus reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ voo menos referência</translation>
     </message>
     <message>
         <source>ref. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ref. %1</translation>
     </message>
 </context>
 <context>
@@ -552,18 +552,18 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     </message>
     <message>
         <source>%1 to %2 on the recording&apos;s clock; dashed: the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a %2 no relógio da gravação; linha tracejada: a referência</translation>
     </message>
 </context>
 <context>
     <name>ReportComparison</name>
     <message>
         <source>Reference: %1, shifted by %2 s. Compared from %3 to %4, while both flights are steady.</source>
-        <translation type="unfinished"></translation>
+        <translation>Referência: %1, deslocada em %2 s. Comparação de %3 a %4, enquanto os dois voos estão estabilizados.</translation>
     </message>
     <message>
         <source>Reference: %1, shifted by %2 s. Compared from %3 to %4: there is no common steady part.</source>
-        <translation type="unfinished"></translation>
+        <translation>Referência: %1, deslocada em %2 s. Comparação de %3 a %4: não há nenhum trecho estabilizado em comum.</translation>
     </message>
     <message>
         <source>Parameter</source>
@@ -571,31 +571,39 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     </message>
     <message>
         <source>Time mean, flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Média temporal, voo</translation>
     </message>
     <message>
         <source>Time mean, reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Média temporal, referência</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferença</translation>
     </message>
     <message>
         <source>Standard deviations</source>
-        <translation type="unfinished"></translation>
+        <translation>Desvios padrão</translation>
     </message>
     <message>
         <source>What changed most, in standard deviations of the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>O que mais mudou, em desvios padrão da referência</translation>
     </message>
     <message>
         <source>Compared with the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparação com a referência</translation>
     </message>
     <message>
-        <source>No parameter has changed.</source>
-        <translation type="unfinished"></translation>
+        <source>Reference: %1. It has no time in common with this range.</source>
+        <translation>Referência: %1. Não tem tempo em comum com esta faixa.</translation>
+    </message>
+    <message>
+        <source>No parameter has values in both flights there.</source>
+        <translation>Nenhum parâmetro tem ali valores nos dois voos.</translation>
+    </message>
+    <message>
+        <source>None of %1 parameters has changed.</source>
+        <translation>Nenhum de %1 parâmetros mudou.</translation>
     </message>
 </context>
 <context>
@@ -867,7 +875,7 @@ Escolha uma pasta em que se possa escrever, com espaço livre suficiente, e um n
     </message>
     <message>
         <source>Reference: </source>
-        <translation type="unfinished"></translation>
+        <translation>Referência: </translation>
     </message>
 </context>
 <context>
@@ -1165,11 +1173,11 @@ Parâmetros vigiados: %5</translation>
     </message>
     <message>
         <source>Load as &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregar como &amp;referência</translation>
     </message>
     <message>
         <source>Compares the flight that is open with this one</source>
-        <translation type="unfinished"></translation>
+        <translation>Compara o voo aberto com este</translation>
     </message>
 </context>
 <context>
@@ -1833,15 +1841,15 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     </message>
     <message>
         <source>Loading the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Carregando a referência</translation>
     </message>
     <message>
         <source>Loading the reference was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>O carregamento da referência foi cancelado.</translation>
     </message>
     <message>
         <source>No reference was loaded: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhuma referência foi carregada: %1</translation>
     </message>
 </context>
 <context>
@@ -2092,7 +2100,7 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     </message>
     <message>
         <source>Stop loading the reference (Escape)</source>
-        <translation type="unfinished"></translation>
+        <translation>Interromper o carregamento da referência (Esc)</translation>
     </message>
 </context>
 <context>
@@ -2181,7 +2189,7 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     </message>
     <message>
         <source>Reference: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Referência: %1</translation>
     </message>
 </context>
 <context>
@@ -2416,83 +2424,83 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     </message>
     <message>
         <source>Δ time mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ média temporal</translation>
     </message>
     <message>
         <source>Flight minus reference: mean from A to B, each difference weighed with the time that it holds</source>
-        <translation type="unfinished"></translation>
+        <translation>Voo menos referência: média de A a B, cada diferença ponderada com o tempo que vale</translation>
     </message>
     <message>
         <source>Δ A</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ A</translation>
     </message>
     <message>
         <source>Flight minus reference at A</source>
-        <translation type="unfinished"></translation>
+        <translation>Voo menos referência em A</translation>
     </message>
     <message>
         <source>Δ B</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ B</translation>
     </message>
     <message>
         <source>Flight minus reference at B</source>
-        <translation type="unfinished"></translation>
+        <translation>Voo menos referência em B</translation>
     </message>
     <message>
         <source>Δ min</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ mín</translation>
     </message>
     <message>
         <source>Smallest difference of flight and reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor diferença entre voo e referência de A a B</translation>
     </message>
     <message>
         <source>Δ max</source>
-        <translation type="unfinished"></translation>
+        <translation>Δ máx</translation>
     </message>
     <message>
         <source>Greatest difference of flight and reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Maior diferença entre voo e referência de A a B</translation>
     </message>
     <message>
         <source>Ref. time mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. média temporal</translation>
     </message>
     <message>
         <source>Time mean of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Média temporal da referência de A a B</translation>
     </message>
     <message>
         <source>Ref. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. A</translation>
     </message>
     <message>
         <source>Value of the reference at A</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor da referência em A</translation>
     </message>
     <message>
         <source>Ref. B</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. B</translation>
     </message>
     <message>
         <source>Value of the reference at B</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor da referência em B</translation>
     </message>
     <message>
         <source>Ref. min</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. mín</translation>
     </message>
     <message>
         <source>Smallest value of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor valor da referência de A a B</translation>
     </message>
     <message>
         <source>Ref. max</source>
-        <translation type="unfinished"></translation>
+        <translation>Ref. máx</translation>
     </message>
     <message>
         <source>Greatest value of the reference from A to B</source>
-        <translation type="unfinished"></translation>
+        <translation>Maior valor da referência de A a B</translation>
     </message>
 </context>
 <context>
@@ -2618,145 +2626,153 @@ O arquivo antigo permanece inalterado; salve o projeto em outra pasta.</translat
     <name>TARN::ReferenceBar</name>
     <message>
         <source>Curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Curvas</translation>
     </message>
     <message>
         <source>Show the reference&apos;s curves (B in the graph)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar as curvas da referência (B no gráfico)</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferença</translation>
     </message>
     <message>
         <source>Show flight minus reference in strips of their own (D in the graph)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar voo menos referência em faixas próprias (D no gráfico)</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colunas</translation>
     </message>
     <message>
         <source>Show the reference&apos;s values in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar os valores da referência na tabela</translation>
     </message>
     <message>
         <source>Take the reference flight away</source>
-        <translation type="unfinished"></translation>
+        <translation>Remover o voo de referência</translation>
     </message>
     <message>
         <source>Clock</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Início</translation>
     </message>
     <message>
         <source>Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Momento</translation>
     </message>
     <message>
         <source>Passing</source>
-        <translation type="unfinished"></translation>
+        <translation>Passagem</translation>
     </message>
     <message>
         <source>What is laid on what: times of day, the first samples, a moment picked in both, or when a parameter first passes a value</source>
-        <translation type="unfinished"></translation>
+        <translation>O que se faz coincidir: as horas do dia, as primeiras amostras, um momento escolhido em ambos ou a primeira vez que um parâmetro passa por um valor</translation>
     </message>
     <message>
         <source>Alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinhamento</translation>
     </message>
     <message>
         <source>Parameter that passes the value</source>
-        <translation type="unfinished"></translation>
+        <translation>Parâmetro que passa pelo valor</translation>
     </message>
     <message>
         <source>Value that is passed</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor da passagem</translation>
     </message>
     <message>
         <source>Shift of the reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocamento da referência</translation>
     </message>
     <message>
         <source>Seconds by which the reference is shifted; Alt and a drag in the graph shift it too</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos de deslocamento da referência; arrastar com Alt no gráfico também a desloca</translation>
     </message>
     <message>
         <source>A&amp;lign:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;linhar:</translation>
     </message>
     <message>
-        <source>S&amp;hift:</source>
-        <translation type="unfinished"></translation>
+        <source>Sh&amp;ift:</source>
+        <translation>&amp;Deslocar:</translation>
     </message>
     <message>
         <source>Flight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Voo: %1</translation>
     </message>
     <message>
-        <source>Reference (dashed): %1</source>
-        <translation type="unfinished"></translation>
+        <source>Reference: %1</source>
+        <translation>Referência: %1</translation>
     </message>
     <message>
         <source>Align Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Alinhar aqui</translation>
     </message>
     <message>
         <source>Pick Moment</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolher momento</translation>
     </message>
     <message>
         <source>Lays the reference&apos;s value at the cursor on the moment picked</source>
-        <translation type="unfinished"></translation>
+        <translation>Coloca o valor da referência no cursor sobre o momento escolhido</translation>
     </message>
     <message>
         <source>Takes the cursor&apos;s time as the moment of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa o tempo do cursor como momento do voo</translation>
     </message>
     <message>
         <source>The reference holds no sample of: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A referência não contém nenhuma amostra de: %1</translation>
     </message>
     <message>
         <source> and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation> e mais %1</translation>
     </message>
     <message>
         <source>Moment of the flight: %1. Go to where the reference&apos;s curve shows the same moment, then press Align Here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Momento do voo: %1. Vá até onde a curva da referência mostra o mesmo momento e clique em &quot;Alinhar aqui&quot;.</translation>
     </message>
     <message>
         <source>One of the flights does not pass this value: the shift is the one before.</source>
-        <translation type="unfinished"></translation>
+        <translation>Um dos voos não passa por este valor: o deslocamento anterior é mantido.</translation>
     </message>
     <message>
         <source>The flights have no time in common: align them by their start, or shift the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os voos não têm nenhum tempo em comum: alinhe-os pelo início ou desloque a referência.</translation>
+    </message>
+    <message>
+        <source>The flights are being aligned.</source>
+        <translation>Os voos estão sendo alinhados.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to compare everything; select fewer parameters.</source>
+        <translation>Não há memória suficiente para comparar tudo; selecione menos parâmetros.</translation>
     </message>
 </context>
 <context>
     <name>TARN::ReferenceGraph</name>
     <message>
         <source>Show &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar &amp;referência</translation>
     </message>
     <message>
         <source>Show &amp;Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar di&amp;ferença</translation>
     </message>
     <message>
         <source>There is not enough memory for the reference&apos;s curves; select fewer parameters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Memória insuficiente para as curvas da referência; selecione menos parâmetros.</translation>
     </message>
 </context>
 <context>
     <name>TARN::ReferenceLoader</name>
     <message>
         <source>There is not enough memory for a reference beside the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Memória insuficiente para uma referência ao lado do voo.</translation>
     </message>
     <message>
         <source>Looking for events</source>
@@ -2800,11 +2816,11 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     </message>
     <message>
         <source>Reference: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Referência: %1</translation>
     </message>
     <message>
         <source>ref. %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ref. %1</translation>
     </message>
 </context>
 <context>

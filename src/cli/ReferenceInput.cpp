@@ -36,7 +36,8 @@ double shiftOf(const std::string& align, const FlightClock& flight, const Flight
         return moments->first - moments->second;
     }
     Progress none;
-    const Alignment alignment{align == "start" ? Alignment::Start : Alignment::Clock};
+    Alignment alignment;
+    alignment.by = align == "start" ? Alignment::Start : Alignment::Clock;
     return TARN::shiftOf(alignment, flight, reference, none).value_or(0.0);
 }
 

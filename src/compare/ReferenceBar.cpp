@@ -5,6 +5,7 @@
 #include "widgets/ElidedLabel.h"
 
 #include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QHBoxLayout>
@@ -17,7 +18,7 @@ namespace TARN {
 
 namespace {
 
-/// "LOG_0001.CAN (+2)   21.06.2025 09:00:00".
+/// "21.6.2025 9:00:00 LOG_0001.CAN (+2)": cards name their files alike.
 QString nameOf(const Flight& flight)
 {
     const auto& files = flight.record()->integrity().files;
@@ -26,7 +27,7 @@ QString nameOf(const Flight& flight)
         name += QString(" (+%1)").arg(files.size() - 1);
     }
     const RecordInfo& first = files.empty() ? flight.info() : files.front().info;
-    return name + "   " + first.dateTimeText();
+    return (first.dateTimeText() + " " + name).trimmed();
 }
 
 } // namespace
@@ -58,8 +59,8 @@ QWidget* ReferenceBar::createNames()
     layout->setContentsMargins(0, 0, 0, 0);
     mFlight->setObjectName("flightName");
     mReference->setObjectName("referenceName");
-    layout->addWidget(mFlight, 1);
-    layout->addWidget(mReference, 1);
+    layout->addWidget(mFlight, 3);
+    layout->addWidget(mReference, 4); // has more to say
     Reference& reference = mSession.reference();
     layout->addWidget(createSwitch(tr("Curves"), tr("Show the reference's curves (B in the graph)"),
                                    reference.shown()));
@@ -97,16 +98,14 @@ QComboBox* ReferenceBar::createModes()
     return modes;
 }
 
-QToolButton* ReferenceBar::createSwitch(const QString& text, const QString& toolTip, Switch& on)
+QCheckBox* ReferenceBar::createSwitch(const QString& text, const QString& toolTip, Switch& on)
 {
-    auto* button = new QToolButton;
-    button->setText(text);
-    button->setToolTip(toolTip);
-    button->setCheckable(true);
-    button->setChecked(on.isOn());
-    connect(button, &QToolButton::toggled, &on, &Switch::turn);
-    connect(&on, &Switch::turned, button, &QToolButton::setChecked);
-    return button;
+    auto* box = new QCheckBox(text);
+    box->setToolTip(toolTip);
+    box->setChecked(on.isOn());
+    connect(box, &QCheckBox::toggled, &on, &Switch::turn);
+    connect(&on, &Switch::turned, box, &QCheckBox::setChecked);
+    return box;
 }
 
 void ReferenceBar::preparePassing()
@@ -140,7 +139,7 @@ void ReferenceBar::prepareShift()
 
 QWidget* ReferenceBar::createControls()
 {
-    constexpr double Longest = 1e7; // seconds, more than a season
+    constexpr double Longest = 1e12; // seconds, of a broken clock too
     constexpr int Decimals = 3;
     auto* controls = new QWidget;
     auto* layout = new QHBoxLayout(controls);
@@ -155,7 +154,7 @@ QWidget* ReferenceBar::createControls()
     prepareShift();
     auto* label = new QLabel(tr("A&lign:"));
     label->setBuddy(mModes);
-    auto* shiftLabel = new QLabel(tr("S&hift:"));
+    auto* shiftLabel = new QLabel(tr("Sh&ift:"));
     shiftLabel->setBuddy(mShift);
     for (QWidget* widget : std::initializer_list<QWidget*>{label, mModes, mParameter, mValue,
                                                            shiftLabel, mShift, mPick}) {
@@ -175,7 +174,8 @@ void ReferenceBar::followSession()
     connect(&reference, &Reference::flightChanged, this, &ReferenceBar::showFlights);
     connect(&reference, &Reference::alignmentChanged, this, &ReferenceBar::showAlignment);
     connect(&reference, &Reference::shiftChanged, this, &ReferenceBar::showAlignment);
-    connect(&mAligner, &Aligner::done, this, &ReferenceBar::updateNote);
+    connect(&reference.memoryShort(), &Switch::turned, this, &ReferenceBar::updateNote);
+    connect(&mAligner, &Aligner::changed, this, &ReferenceBar::updateNote);
 }
 
 void ReferenceBar::showFlights()
@@ -188,27 +188,27 @@ void ReferenceBar::showFlights()
         return;
     }
     mFlight->setFullText(tr("Flight: %1").arg(flight != nullptr ? nameOf(*flight) : "---"));
-    mReference->setFullText(tr("Reference (dashed): %1").arg(nameOf(*reference)));
+    mReference->setFullText(tr("Reference: %1").arg(nameOf(*reference)));
     showParameters();
     showAlignment();
 }
 
+/// Proposes the take-off, where the profile has a speed.
 void ReferenceBar::showParameters()
 {
     constexpr double Flying = 40.0; // kt
-    const QString before = mParameter->currentText();
-    int speed = 0;
+    const Alignment& alignment = mSession.reference().alignment();
+    int speed = -1;
     mParameter->clear();
     for (const auto& [device, parameter] : mSession.profile()->parameters()) {
-        speed = speed == 0 && parameter->unit == "kt" ? mParameter->count() : speed;
-        mParameter->addItem(parameter->title());
+        speed = speed < 0 && parameter->unit == "kt" ? mParameter->count() : speed;
+        mParameter->addItem(parameter->title(), parameter->fullName);
     }
-    const int known = before.isEmpty() ? -1 : mParameter->findText(before);
-    if (known < 0) {
-        const QSignalBlocker quiet(mValue);
-        mValue->setValue(speed > 0 ? Flying : 0.0);
-    }
-    mParameter->setCurrentIndex(known < 0 ? speed : known);
+    const QSignalBlocker quiet(mValue);
+    mValue->setValue(!alignment.parameter.isEmpty() ? alignment.value : speed < 0 ? 0.0 : Flying);
+    mParameter->setCurrentIndex(alignment.parameter.isEmpty()
+                                    ? std::max(speed, 0)
+                                    : mParameter->findData(alignment.parameter));
 }
 
 void ReferenceBar::showAlignment()
@@ -242,9 +242,8 @@ void ReferenceBar::chooseMode(int mode)
 
 void ReferenceBar::choosePassing()
 {
-    mSession.reference().align({Alignment::Passing,
-                                static_cast<std::size_t>(std::max(0, mParameter->currentIndex())),
-                                mValue->value()});
+    mSession.reference().align(
+        {Alignment::Passing, mParameter->currentData().toString(), mValue->value()});
 }
 
 /// First the moment of the flight, then that of the reference.
@@ -281,7 +280,7 @@ QString ReferenceBar::missing() const
 bool ReferenceBar::haveCommonTime() const
 {
     const Reference& reference = mSession.reference();
-    if (mSession.flight() == nullptr || mAligner.isRunning()) {
+    if (mSession.flight() == nullptr) {
         return true; // nobody knows
     }
     const TimeRange common =
@@ -297,12 +296,19 @@ QString ReferenceBar::note() const
                   "moment, then press Align Here.")
             .arg(clockTextWithMilliseconds(*mPicked));
     }
+    if (mAligner.isRunning()) {
+        return tr("The flights are being aligned.");
+    }
     if (!mAligner.isPossible()) {
         return tr("One of the flights does not pass this value: the shift is the one before.");
     }
     const QString apart = tr("The flights have no time in common: align them by their start, or "
                              "shift the reference.");
-    return ((haveCommonTime() ? QString() : apart + " ") + missing()).trimmed();
+    const QString tooLarge = tr("There is not enough memory to compare everything; select fewer "
+                                "parameters.");
+    return ((mSession.reference().memoryShort().isOn() ? tooLarge + " " : QString()) +
+            (haveCommonTime() ? QString() : apart + " ") + missing())
+        .trimmed();
 }
 
 void ReferenceBar::updateNote()

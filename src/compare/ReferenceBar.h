@@ -6,6 +6,7 @@
 
 #include <optional>
 
+class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
 class QLabel;
@@ -31,7 +32,7 @@ private:
     void preparePassing();
     void prepareShift();
     QComboBox* createModes();
-    QToolButton* createSwitch(const QString& text, const QString& toolTip, Switch& on);
+    QCheckBox* createSwitch(const QString& text, const QString& toolTip, Switch& on);
     void followSession();
     void showFlights();
     void showParameters();

@@ -13,6 +13,20 @@
 
 namespace TARN {
 
+namespace {
+
+/// What the offset is to the flight's own times of the same parameter or error.
+double offsetOf(const Episode& episode, const Flight& flight, double offset)
+{
+    if (episode.parameter != nullptr) {
+        return flight.series(*episode.parameter, offset).shift();
+    }
+    return episode.matrix < flight.faults().size() ? flight.faults()[episode.matrix].shift(offset)
+                                                   : 0.0;
+}
+
+} // namespace
+
 DialogEventList::DialogEventList(Session& session, EpisodeWatch& episodes, EventKind kind,
                                  const QString& title, QWidget* parent)
     : QWidget(parent), mSession(session), mEpisodes(episodes),
@@ -69,6 +83,7 @@ void DialogEventList::showFlight()
                       flight != nullptr ? eventsOf(mModel->kind(), flight->events()) : nullptr);
     mTable->fitColumns();
     showEpisodes();
+    showReference();
 }
 
 void DialogEventList::showEpisodes()
@@ -81,13 +96,19 @@ void DialogEventList::showEpisodes()
     showCurrentTime();
 }
 
+/// Its times are shown as those of the flight are: where events carry no offset, they do not.
 void DialogEventList::showReference()
 {
     const auto& troubles = mEpisodes.ofReference();
-    mModel->setReference(troubles != nullptr ? std::shared_ptr<const std::vector<Episode>>(
-                                                   troubles, &episodesOf(mModel->kind(), *troubles))
-                                             : nullptr,
-                         mSession.reference().shift());
+    const auto flight = mSession.flight();
+    std::vector<EventRows::Other> others;
+    if (troubles != nullptr && flight != nullptr) {
+        for (const Episode& episode : episodesOf(mModel->kind(), *troubles)) {
+            others.push_back({&episode, mSession.reference().shift(),
+                              offsetOf(episode, *flight, mSession.offset())});
+        }
+    }
+    mModel->setReference(troubles, std::move(others));
     updateEmptyText();
     showCurrentTime();
 }

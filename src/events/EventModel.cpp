@@ -28,10 +28,11 @@ void EventModel::setEpisodes(std::shared_ptr<const std::vector<Episode>> episode
     endResetModel();
 }
 
-void EventModel::setReference(std::shared_ptr<const std::vector<Episode>> episodes, double shift)
+void EventModel::setReference(std::shared_ptr<const void> keeper,
+                              std::vector<EventRows::Other> others)
 {
     beginResetModel();
-    mRows.setReference(std::move(episodes), shift);
+    mRows.setReference(std::move(keeper), std::move(others));
     endResetModel();
 }
 
@@ -51,11 +52,11 @@ std::optional<EventModel::Place> EventModel::placeOf(int row, const Flight& flig
         return std::nullopt;
     }
     const ProfileParameter* parameter = event != nullptr ? event->parameter : episode->parameter;
-    const double moved = mRows.isOfReference(row) ? mRows.shift(row) : 0.0;
+    const double moved = mRows.clockShift(row);
     const double start = event != nullptr ? event->time + flight.series(*parameter, offset).shift()
-                                          : episode->start - moved;
+                                          : episode->start + moved;
     return Place{parameter, start,
-                 episode != nullptr && episode->peak ? std::optional(episode->peak->time - moved)
+                 episode != nullptr && episode->peak ? std::optional(episode->peak->time + moved)
                                                      : std::nullopt};
 }
 

@@ -49,8 +49,8 @@ public:
     /// Shows these too; times of those without an event carry the time offset. Null shows none.
     void setEpisodes(std::shared_ptr<const std::vector<Episode>> episodes);
 
-    /// Shows the reference flight's between them, moved by \p shift seconds. Null shows none.
-    void setReference(std::shared_ptr<const std::vector<Episode>> episodes, double shift);
+    /// Shows the reference flight's between them; see EventRows.
+    void setReference(std::shared_ptr<const void> keeper, std::vector<EventRows::Other> others);
 
     /// Values of events with all their digits instead of the shortest text.
     void setAllDigits(bool on);

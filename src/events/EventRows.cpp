@@ -19,12 +19,18 @@ void EventRows::setEpisodes(Episodes episodes)
     mUnannounced.clear();
     std::map<std::pair<const ProfileParameter*, std::size_t>, const Episode*> announced;
     if (mEpisodes != nullptr) {
-        mUnannounced = sorted(*mEpisodes, false);
         for (const Episode& episode : *mEpisodes) {
+            if (!episode.isAnnounced()) {
+                mUnannounced.push_back(&episode);
+            }
             for (const std::size_t place : episode.announcedBy) {
                 announced[{episode.parameter, place}] = &episode;
             }
         }
+    }
+    if (mKind == EventKind::Faults) { // by the times that are shown
+        std::ranges::stable_sort(mUnannounced, {},
+                                 [this](const Episode* episode) { return shownStart(*episode); });
     }
     mOfEvents.assign(mEpisodes != nullptr ? eventCount() : 0, nullptr);
     for (std::size_t i = 0; i < mOfEvents.size(); ++i) {
@@ -34,28 +40,12 @@ void EventRows::setEpisodes(Episodes episodes)
     merge();
 }
 
-void EventRows::setReference(Episodes episodes, double shift)
+void EventRows::setReference(std::shared_ptr<const void> keeper, std::vector<Other> others)
 {
-    mOthers = std::move(episodes);
-    mShift = shift;
-    mReference = mOthers != nullptr ? sorted(*mOthers, true) : std::vector<const Episode*>();
+    mKeeper = std::move(keeper);
+    mReference = std::move(others);
+    std::ranges::stable_sort(mReference, {}, [](const Other& other) { return shownStart(other); });
     merge();
-}
-
-/// By the times that are shown; those without an event, or all.
-std::vector<const Episode*> EventRows::sorted(const std::vector<Episode>& episodes, bool all) const
-{
-    std::vector<const Episode*> some;
-    for (const Episode& episode : episodes) {
-        if (all || !episode.isAnnounced()) {
-            some.push_back(&episode);
-        }
-    }
-    if (mKind == EventKind::Faults) {
-        std::ranges::stable_sort(some, {},
-                                 [this](const Episode* episode) { return shownStart(*episode); });
-    }
-    return some;
 }
 
 /// The matrices carry no time offset.
@@ -86,7 +76,7 @@ void EventRows::merge()
     std::size_t next = 0;
     for (std::size_t own = 0; own <= ownCount(); ++own) {
         const double time = own < mixed ? timeOf(own) : std::numeric_limits<double>::infinity();
-        while (next < mReference.size() && shownStart(*mReference[next]) + mShift < time) {
+        while (next < mReference.size() && shownStart(mReference[next]) < time) {
             mOwn.push_back(-1 - static_cast<int>(next++));
         }
         if (own < ownCount()) {
@@ -118,7 +108,7 @@ const RecordEvent* EventRows::event(int row) const
 const Episode* EventRows::episode(int row) const
 {
     if (own(row) < 0) {
-        return mReference[static_cast<std::size_t>(-1 - own(row))];
+        return other(row).episode;
     }
     const auto place = static_cast<std::size_t>(own(row));
     if (place < eventCount()) {
@@ -129,12 +119,12 @@ const Episode* EventRows::episode(int row) const
 
 double EventRows::shift(int row) const
 {
-    const Episode* told = episode(row);
-    if (told == nullptr) {
-        return 0.0;
+    if (isOfReference(row)) {
+        return other(row).hidden - other(row).shift;
     }
+    const Episode* told = episode(row);
     const bool isWithout = mKind == EventKind::Faults || event(row) != nullptr;
-    return (isWithout ? told->shift : 0.0) - (isOfReference(row) ? mShift : 0.0);
+    return told != nullptr && isWithout ? told->shift : 0.0;
 }
 
 int EventRows::rowAt(double time) const

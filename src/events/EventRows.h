@@ -23,8 +23,16 @@ public:
     void setEvents(const std::vector<RecordEvent>* events);
     /// Null for none.
     void setEpisodes(Episodes episodes);
-    /// Null for none; \p shift in seconds brings their times to the clock of the others.
-    void setReference(Episodes episodes, double shift);
+    /// What a reference flight had.
+    struct Other
+    {
+        const Episode* episode;
+        double shift;  ///< seconds that bring its times to the clock of the flight
+        double hidden; ///< of these, that times in the list are shown without
+    };
+
+    /// \p keeper keeps the episodes alive.
+    void setReference(std::shared_ptr<const void> keeper, std::vector<Other> others);
 
     int count() const;
     bool isHeading(int row) const;
@@ -36,6 +44,8 @@ public:
     const Episode* episode(int row) const;
     /// Seconds that times of the row's episode are shown without: events carry no time offset.
     double shift(int row) const;
+    /// Seconds that bring times of the row's episode to the flight's clock with the offset.
+    double clockShift(int row) const { return isOfReference(row) ? other(row).shift : 0.0; }
 
     /// Row of the latest event, in a list without events of the latest episode, at or before \p
     /// time (seconds, compared in tenths); of several in one tenth the last. 0 when there is none.
@@ -50,8 +60,12 @@ private:
     }
     std::size_t ownCount() const;
     /// Place of a row's line when the reference has none; negative of the reference's.
+    const Other& other(int row) const { return mReference[std::size_t(-1 - own(row))]; }
     int own(int row) const { return mOwn.empty() ? row : mOwn[std::size_t(row)]; }
-    std::vector<const Episode*> sorted(const std::vector<Episode>& episodes, bool all) const;
+    static double shownStart(const Other& other)
+    {
+        return other.episode->start + other.shift - other.hidden;
+    }
     double timeOf(std::size_t own) const;
     double shownStart(const Episode& episode) const;
     void merge();
@@ -59,13 +73,12 @@ private:
     EventKind mKind;
     const std::vector<RecordEvent>* mEvents = nullptr;
     Episodes mEpisodes;
-    Episodes mOthers;
-    double mShift = 0.0;
+    std::shared_ptr<const void> mKeeper;
     std::vector<const Episode*> mUnannounced;
     std::vector<const Episode*> mOfEvents; ///< the episode of each event, null where there is none
-    std::vector<const Episode*> mReference;
-    std::vector<int> mOwn;  ///< see own(); empty where the reference has no line
-    std::vector<int> mRows; ///< of the own lines; empty with mOwn
+    std::vector<Other> mReference;         ///< by the times that are shown
+    std::vector<int> mOwn;                 ///< see own(); empty where the reference has no line
+    std::vector<int> mRows;                ///< of the own lines; empty with mOwn
 };
 
 } // namespace TARN

@@ -41,6 +41,7 @@ struct Episode
     double shift = 0.0; ///< seconds of the time offset in these times
     std::size_t samples = 0;
     std::optional<Peak> peak; ///< nothing where every value is NaN
+    std::size_t matrix = 0;   ///< of an error: place of its matrix in the profile
     QColor color;             ///< of its row in a list; may be invalid
     /// Places in the parameter's list of its samples that make limit events; empty where none did.
     std::vector<std::size_t> announcedBy;

@@ -42,7 +42,11 @@ std::vector<Episode> faultEpisodes(const std::vector<FaultHistory>& histories, d
     std::vector<Episode> episodes;
     for (const FaultHistory& history : histories) {
         for (const auto& [bit, error] : history.matrix().parameters) {
+            const std::size_t before = episodes.size();
             findIn(history, bit, error, offset, episodes);
+            for (std::size_t k = before; k < episodes.size(); ++k) {
+                episodes[k].matrix = static_cast<std::size_t>(&history - histories.data());
+            }
         }
     }
     std::ranges::stable_sort(episodes, {}, &Episode::start);

@@ -1,14 +1,39 @@
 #include "flight/Aligner.h"
 
+#include <utility>
+
 namespace TARN {
 
 Aligner::Aligner(Session& session, QObject* parent) : QObject(parent), mSession(session)
 {
     connect(&mSession, &Session::profileChanged, this, &Aligner::align);
-    connect(&mSession, &Session::flightChanged, this, &Aligner::align);
-    connect(&mSession, &Session::offsetChanged, this, &Aligner::align);
+    connect(&mSession, &Session::flightChanged, this, &Aligner::takeFlight);
+    connect(&mSession, &Session::offsetChanged, this, &Aligner::takeOffset);
     connect(&mSession.reference(), &Reference::flightChanged, this, &Aligner::align);
     connect(&mSession.reference(), &Reference::alignmentChanged, this, &Aligner::align);
+}
+
+/// A moment that was picked is one of the flight before.
+void Aligner::takeFlight()
+{
+    const auto record = mSession.flight() != nullptr ? mSession.flight()->record() : nullptr;
+    const bool isOther = std::exchange(mRecord, record) != record;
+    mOffset = mSession.offset();
+    if (isOther && mSession.reference().alignment().by == Alignment::Moment) {
+        mSession.reference().align({});
+    } else {
+        align();
+    }
+}
+
+/// What lies on each other by hand stays so.
+void Aligner::takeOffset()
+{
+    const double step = mSession.offset() - std::exchange(mOffset, mSession.offset());
+    if (mSession.reference().alignment().by == Alignment::Moment) {
+        mSession.reference().takeShift(mSession.reference().shift() + step);
+    }
+    align();
 }
 
 void Aligner::align()
@@ -19,7 +44,7 @@ void Aligner::align()
     mJob.cancel();
     mIsPossible = true;
     if (flight == nullptr || other == nullptr || reference.alignment().by == Alignment::Moment) {
-        Q_EMIT done();
+        Q_EMIT changed();
         return;
     }
     mJob.start(
@@ -32,8 +57,9 @@ void Aligner::align()
             if (shift) {
                 mSession.reference().takeShift(*shift);
             }
-            Q_EMIT done();
+            Q_EMIT changed();
         });
+    Q_EMIT changed();
 }
 
 } // namespace TARN

@@ -19,13 +19,17 @@ public:
     bool isRunning() const { return mJob.isRunning(); }
 
 Q_SIGNALS:
-    /// It was found, or found not to exist.
-    void done();
+    /// It is looked for, was found, or found not to exist.
+    void changed();
 
 private:
+    void takeFlight();
+    void takeOffset();
     void align();
 
     Session& mSession;
+    std::shared_ptr<const Record> mRecord; ///< of the flight that was aligned
+    double mOffset = 0.0;
     Job<std::optional<double>> mJob;
     bool mIsPossible = true;
 };

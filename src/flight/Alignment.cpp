@@ -1,5 +1,6 @@
 #include "flight/Alignment.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace TARN {
@@ -29,12 +30,14 @@ std::optional<double> passingShift(const Alignment& alignment, const FlightClock
                                    const FlightClock& reference, Progress& progress)
 {
     const auto& parameters = flight.flight.profile()->parameters();
-    if (alignment.parameter >= parameters.size()) {
+    const auto found = std::ranges::find_if(parameters, [&](const Profile::Entry& entry) {
+        return entry.parameter->fullName == alignment.parameter;
+    });
+    if (found == parameters.end()) {
         return std::nullopt;
     }
-    const ProfileParameter& parameter = *parameters[alignment.parameter].parameter;
-    const auto own = firstPassing(flight, parameter, alignment.value, progress);
-    const auto other = firstPassing(reference, parameter, alignment.value, progress);
+    const auto own = firstPassing(flight, *found->parameter, alignment.value, progress);
+    const auto other = firstPassing(reference, *found->parameter, alignment.value, progress);
     return own && other ? std::optional(*own - *other) : std::nullopt;
 }
 

@@ -16,8 +16,8 @@ struct Alignment
     };
 
     By by = Start;
-    std::size_t parameter = 0; ///< of Passing: place in Profile::parameters()
-    double value = 0.0;        ///< of Passing: scaled
+    QString parameter;  ///< of Passing: its full name, which another profile may know too
+    double value = 0.0; ///< of Passing: scaled
 
     friend bool operator==(const Alignment&, const Alignment&) = default;
 };

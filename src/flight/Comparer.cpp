@@ -20,6 +20,7 @@ StatisticsIndexes indexesLike(const StatisticsIndexes& indexes,
 
 Comparer::Comparer(Session& session, QObject* parent) : QObject(parent), mSession(session)
 {
+    mJob.setOutOfMemory([this] { mSession.reference().memoryShort().turn(true); });
     connect(&session.reference(), &Reference::flightChanged, this, &Comparer::forget);
     connect(&session.reference(), &Reference::shiftChanged, this, &Comparer::start);
 }

@@ -78,8 +78,16 @@ std::optional<double> ComparisonIndex::differenceAt(double time) const
 
 TimeRange commonRange(const TimeRange& flight, const TimeRange& reference, double shift)
 {
-    return {std::max(flight.start, reference.start + shift),
-            std::min(flight.stop, reference.stop + shift)};
+    TimeRange common = {std::max(flight.start, reference.start + shift),
+                        std::min(flight.stop, reference.stop + shift)};
+    // Ends that are the same moment are both inside.
+    if (std::fabs(flight.start - (reference.start + shift)) <= HalfTick) {
+        common.start = std::min(flight.start, reference.start + shift);
+    }
+    if (std::fabs(flight.stop - (reference.stop + shift)) <= HalfTick) {
+        common.stop = std::max(flight.stop, reference.stop + shift);
+    }
+    return common;
 }
 
 } // namespace TARN

@@ -27,6 +27,7 @@ EpisodeWatch::EpisodeWatch(Session& session, QObject* parent) : QObject(parent),
     connect(&session, &Session::flightChanged, this, &EpisodeWatch::look);
     connect(&session, &Session::offsetChanged, this, &EpisodeWatch::look);
     connect(&session.reference(), &Reference::flightChanged, this, &EpisodeWatch::lookAtReference);
+    mReferenceJob.setOutOfMemory([this] { mSession.reference().memoryShort().turn(true); });
     mJob.setOutOfMemory([this] {
         mIsShort = true;
         Q_EMIT changed();

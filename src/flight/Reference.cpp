@@ -6,7 +6,7 @@ namespace TARN {
 
 Reference::Reference(QObject* parent)
     : QObject(parent), mShown(new Switch(this)), mDifferenceShown(new Switch(this)),
-      mColumnsShown(new Switch(this))
+      mColumnsShown(new Switch(this)), mMemoryShort(new Switch(this))
 {
     mShown->turn(true);
 }
@@ -19,6 +19,7 @@ void Reference::setFlight(std::shared_ptr<const Flight> flight)
     if (mAlignment.by == Alignment::Moment && !isSameRecord) {
         mAlignment = {}; // the moment was one of another flight
     }
+    mMemoryShort->turn(false);
     Q_EMIT flightChanged();
 }
 

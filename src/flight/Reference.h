@@ -36,6 +36,9 @@ public:
     Switch& differenceShown() const { return *mDifferenceShown; } ///< flight minus reference
     Switch& columnsShown() const { return *mColumnsShown; }       ///< its values in the table
 
+    /// Memory did not suffice for all that is compared; off again with another flight.
+    Switch& memoryShort() const { return *mMemoryShort; }
+
 Q_SIGNALS:
     /// The flight, and with it the offset.
     void flightChanged();
@@ -49,6 +52,7 @@ private:
     Switch* mShown;
     Switch* mDifferenceShown;
     Switch* mColumnsShown;
+    Switch* mMemoryShort;
 };
 
 } // namespace TARN

@@ -119,10 +119,12 @@ Statistics StatisticsIndex::range(const TimeRange& range, double shift) const
         return static_cast<std::size_t>(std::ranges::partition_point(numbers, isBefore) -
                                         numbers.begin());
     };
+    const double slack = shift != 0.0 ? HalfTick : 0.0; // the sums are rounded
     const std::size_t begin =
-        placeOf([&](std::size_t k) { return mSeries.time(k) + shift < range.start; });
-    const std::size_t end = std::max(
-        begin, placeOf([&](std::size_t k) { return mSeries.time(k) + shift <= range.stop; }));
+        placeOf([&](std::size_t k) { return mSeries.time(k) + shift < range.start - slack; });
+    const std::size_t end = std::max(begin, placeOf([&](std::size_t k) {
+                                         return mSeries.time(k) + shift <= range.stop + slack;
+                                     }));
     Statistics found = statistics(mTree.of(
         begin, end, mRule, [this](std::size_t from, std::size_t to) { return scan(from, to); }));
     for (auto* extreme : {&found.min, &found.max}) {

@@ -13,6 +13,12 @@ QString numberWords(double number, int digits)
     return QString::fromStdString(text);
 }
 
+int decimalsOf(const QString& number)
+{
+    const qsizetype point = number.indexOf('.');
+    return point < 0 || number.contains('e') ? 0 : static_cast<int>(number.size() - point - 1);
+}
+
 QString aboveWords(const Statistics::Above& above)
 {
     return QString("\u2265 %1: %2 s")

@@ -11,6 +11,9 @@ namespace TARN {
 /// In general notation.
 QString numberWords(double number, int digits = 6);
 
+/// Decimals of a number as it is written; 0 with an exponent.
+int decimalsOf(const QString& number);
+
 /// How long values were not below a threshold: "\u2265 238: 61.5 s".
 QString aboveWords(const Statistics::Above& above);
 

@@ -10,7 +10,6 @@ namespace TARN {
 namespace {
 
 constexpr double Never = std::numeric_limits<double>::infinity();
-constexpr double HalfTick = 31.25e-9 / 2.0; // seconds: times are computed from ticks
 
 double durationOf(const TimeRange& range)
 {

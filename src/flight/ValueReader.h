@@ -1,7 +1,9 @@
 #pragma once
 
 #include "profile/Series.h"
+#include "record/TimeRange.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <limits>
@@ -36,9 +38,22 @@ struct SeriesSamples
     bool isGapBefore(std::size_t k) const { return gaps.isGap(series.time(k - 1), series.time(k)); }
 };
 
+/// First of the samples at the same time as sample \p k, which follow each other.
+template <typename Samples>
+std::size_t firstAtTimeOf(const Samples& samples, std::size_t k)
+{
+    std::size_t begin = 0;
+    for (std::size_t end = k; begin < end;) {
+        const std::size_t middle = begin + (end - begin) / 2;
+        samples.time(middle) < samples.time(k) ? begin = middle + 1 : end = middle;
+    }
+    return begin;
+}
+
 /// The values of samples at any time, fastest at times that ascend. Samples are in the order of
-/// time and offer size(), time(k), value(k) and isGapBefore(k). No value is NaN: outside of them
-/// all, inside a gap, and where a sample that it would be made of has none.
+/// time and offer size(), time(k), value(k) and isGapBefore(k). Times nearer than HalfTick are the
+/// same. No value is NaN: outside of them all, inside a gap, and where a sample that it would be
+/// made of has none.
 template <typename Samples>
 class ValueReader
 {
@@ -52,13 +67,8 @@ public:
     {
         moveTo(time);
         const std::size_t size = mSamples.size();
-        if (mNext < size && mSamples.time(mNext) == time) {
-            std::size_t k = mNext;
-            while (which > 0 && k + 1 < size && mSamples.time(k + 1) == time) {
-                ++k;
-                --which;
-            }
-            return mSamples.value(k);
+        if (isAt(time)) {
+            return mSamples.value(std::min(mNext + which, lastOfRun()));
         }
         if (mNext == 0 || mNext == size || mSamples.isGapBefore(mNext)) {
             return std::numeric_limits<double>::quiet_NaN();
@@ -66,18 +76,18 @@ public:
         return between(time);
     }
 
-    /// Whether there are times from one to another, which is not before it, at which nothing is
-    /// known.
+    /// Whether there are times from one to another, which is after it, at which nothing is known.
     bool isCutWithin(double from, double to)
     {
         moveTo(from);
         const std::size_t size = mSamples.size();
-        if (size == 0 || mSamples.time(0) > from || mSamples.time(size - 1) < to) {
+        if (size == 0 || mSamples.time(0) > from + HalfTick ||
+            mSamples.time(size - 1) < to - HalfTick) {
             return true;
         }
-        std::size_t k = mNext + (mNext < size && mSamples.time(mNext) == from ? 1 : 0);
-        for (; k < size && k > 0 && mSamples.time(k - 1) < to; ++k) {
-            if (mSamples.isGapBefore(k) && mSamples.time(k) > from) {
+        std::size_t k = isAt(from) ? lastOfRun() + 1 : mNext;
+        for (; k < size && mSamples.time(k - 1) < to - HalfTick; ++k) {
+            if (mSamples.isGapBefore(k)) {
                 return true;
             }
         }
@@ -85,34 +95,52 @@ public:
     }
 
 private:
+    static constexpr std::size_t Near = 8; ///< samples that are stepped over one by one
+
+    /// Whether the next sample is at a time.
+    bool isAt(double time) const
+    {
+        return mNext < mSamples.size() && mSamples.time(mNext) <= time + HalfTick;
+    }
+
     /// mNext becomes the first sample that is not before a time.
     void moveTo(double time)
     {
-        constexpr std::size_t Near = 8; // samples that are stepped over one by one
-        const std::size_t size = mSamples.size();
-        if (mNext > 0 && !(mSamples.time(mNext - 1) < time)) {
+        const auto isBefore = [this, first = time - HalfTick](std::size_t k) {
+            return mSamples.time(k) < first;
+        };
+        if (mNext > 0 && !isBefore(mNext - 1)) {
             mNext = 0;
         }
-        for (std::size_t step = 0; mNext < size && mSamples.time(mNext) < time; ++step) {
-            if (step == Near) {
-                search(time);
-                return;
-            }
-            ++mNext;
-        }
+        mNext = firstNot(isBefore, mNext);
     }
 
-    void search(double time)
+    /// Of the samples at the time of the next one.
+    std::size_t lastOfRun()
+    {
+        if (mRun != mNext || mRunEnd == 0) {
+            const double time = mSamples.time(mNext);
+            mRun = mNext;
+            mRunEnd = firstNot([&](std::size_t k) { return mSamples.time(k) <= time; }, mNext);
+        }
+        return mRunEnd - 1;
+    }
+
+    /// First sample from \p k on for which a condition does not hold.
+    template <typename Condition>
+    std::size_t firstNot(Condition holds, std::size_t k) const
     {
         std::size_t end = mSamples.size();
-        while (mNext < end) {
-            const std::size_t middle = mNext + (end - mNext) / 2;
-            if (mSamples.time(middle) < time) {
-                mNext = middle + 1;
-            } else {
-                end = middle;
+        for (std::size_t step = 0; step < Near && k < end; ++step, ++k) {
+            if (!holds(k)) {
+                return k;
             }
         }
+        while (k < end) {
+            const std::size_t middle = k + (end - k) / 2;
+            holds(middle) ? k = middle + 1 : end = middle;
+        }
+        return k;
     }
 
     double between(double time) const
@@ -129,18 +157,9 @@ private:
     Samples mSamples;
     Between mBetween;
     std::size_t mNext = 0;
+    std::size_t mRun = 0; ///< first of a run of samples at one time
+    std::size_t mRunEnd = 0;
 };
-
-/// How many samples ahead of one have the same time.
-template <typename Samples>
-std::size_t placeAmongEquals(const Samples& samples, std::size_t k)
-{
-    std::size_t place = 0;
-    while (place < k && samples.time(k - place - 1) == samples.time(k)) {
-        ++place;
-    }
-    return place;
-}
 
 /// Appends samples \p begin to before \p end of a flight minus what another one has at their
 /// times. A time at which one of the two has no value has NaN; where something is cut between a
@@ -150,7 +169,7 @@ template <typename Samples, typename Others>
 void readDifference(const Samples& samples, ValueReader<Others>& others, std::size_t begin,
                     std::size_t end, std::vector<double>& times, std::vector<double>& values)
 {
-    std::size_t which = begin < end ? placeAmongEquals(samples, begin) : 0;
+    std::size_t which = begin < end ? begin - firstAtTimeOf(samples, begin) : 0;
     for (std::size_t k = begin; k < end; ++k) {
         const double time = samples.time(k);
         times.push_back(time);

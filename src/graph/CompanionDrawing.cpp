@@ -5,8 +5,6 @@
 
 #include <QtCore/QCoreApplication>
 
-#include <cmath>
-
 namespace TARN {
 
 namespace {
@@ -115,16 +113,8 @@ QString CompanionDrawing::differenceText(const ParStruct& curve) const
     if (!mStyle.valuesOn) {
         return text;
     }
-    double value = 0.0;
-    const CurveSamples& samples = *curve.difference.samples;
-    if (samples.empty() || !samples.valueAt(mModel.cursor(), value) || std::isnan(value)) {
-        return text + "   ---";
-    }
-    // As many decimals as the curve itself has there.
-    const QString own = curveText(curve, mModel.cursor());
-    const auto decimals = static_cast<int>(own.contains('e') ? 0 : own.section('.', 1).size());
-    const QString number = QString::number(value, 'f', decimals);
-    return text + "   " + ((value > 0.0 ? "+" : "") + number + " " + curve.unit).trimmed();
+    const QString value = differenceTextOf(curve, mModel.cursor());
+    return text + "   " + (value.isEmpty() ? "---" : (value + " " + curve.unit).trimmed());
 }
 
 QString CompanionDrawing::referenceText(const ParStruct& curve) const
@@ -132,12 +122,8 @@ QString CompanionDrawing::referenceText(const ParStruct& curve) const
     if (curve.reference.samples == nullptr || !mModel.layout().isReferenceShown()) {
         return {};
     }
-    ParStruct other;
-    other.series = curve.reference.samples;
-    other.facts = curve.reference.facts;
-    other.isSingle = curve.isSingle;
     const QString value =
-        shownText(other, mModel.cursor() - mModel.layout().referenceShift(), mStyle, "%f");
+        referenceTextOf(curve, mModel.cursor() - mModel.layout().referenceShift(), mStyle);
     return CompanionTexts::tr("ref. %1").arg(value.isEmpty() ? "---" : value);
 }
 

@@ -48,6 +48,12 @@ struct ParStruct
     GraphStrip differenceStrip; ///< where that is drawn, without height where it is not
 
     bool isShown() const { return active && !hidden; }
+    /// Whether a pixel row lies in the strip of its difference.
+    bool isDifferenceAt(double y) const { return differenceStrip.height > 0.0 && y < strip.y0; }
+    const GraphStrip& stripOf(bool isDifference) const
+    {
+        return isDifference && differenceStrip.height > 0.0 ? differenceStrip : strip;
+    }
     const CurveSamples& samples() const { return series != nullptr ? *series : live; }
 };
 

@@ -2,6 +2,7 @@
 
 #include "base/ClockTime.h"
 #include "base/Numbers.h"
+#include "flight/StatisticsWords.h"
 #include "graph/NotePlaces.h"
 
 #include <algorithm>
@@ -21,12 +22,6 @@ QString recorded(const ParStruct& curve, double value)
         appendGeneral(value, Digits, text);
     }
     return QString::fromStdString(text);
-}
-
-int decimalsOf(const QString& text)
-{
-    const qsizetype point = text.indexOf('.');
-    return point < 0 || text.contains('e') ? 0 : static_cast<int>(text.size() - point - 1);
 }
 
 } // namespace
@@ -58,15 +53,58 @@ QString shownText(const ParStruct& curve, double time, const GraphStyle& style, 
     return curveText(curve, time, style.allDigits ? digits : nullptr);
 }
 
+QString referenceTextOf(const ParStruct& curve, double time, const GraphStyle& style)
+{
+    if (curve.reference.samples == nullptr) {
+        return {};
+    }
+    ParStruct other;
+    other.series = curve.reference.samples;
+    other.facts = curve.reference.facts;
+    other.isSingle = curve.isSingle;
+    return shownText(other, time, style, "%f");
+}
+
+QString differenceTextOf(const ParStruct& curve, double time)
+{
+    double value = 0.0;
+    const auto& samples = curve.difference.samples;
+    if (samples == nullptr || samples->empty() || !samples->valueAt(time, value) ||
+        std::isnan(value)) {
+        return {};
+    }
+    const int decimals = decimalsOf(curveText(curve, time));
+    return (value > 0.0 ? "+" : "") + QString::number(value, 'f', decimals);
+}
+
+namespace {
+
+/// Of a curve, of its reference and of the difference of both, as far as they are seen.
+QString spokenValues(const ParStruct& curve, const GraphModel& model, const GraphStyle& style)
+{
+    const auto withUnit = [&](const QString& value) {
+        return (value.isEmpty() ? "---" : value + " " + curve.unit).trimmed();
+    };
+    QString words = curve.name + " " + withUnit(shownText(curve, model.cursor(), style, "%f"));
+    if (curve.reference.samples != nullptr && model.layout().isReferenceShown()) {
+        const double time = model.cursor() - model.layout().referenceShift();
+        words += ", ref. " + withUnit(referenceTextOf(curve, time, style));
+    }
+    if (curve.difference.samples != nullptr) {
+        words += ", \u0394 " + withUnit(differenceTextOf(curve, model.cursor()));
+    }
+    return words;
+}
+
+} // namespace
+
 QString spokenText(const GraphModel& model, const GraphStyle& style)
 {
     QStringList words = {clockTextWithMilliseconds(model.cursor())};
     std::vector<unsigned> places = model.curves().shown();
     std::ranges::stable_partition(places, [&](unsigned k) { return k == model.hints().pointed; });
     for (const unsigned k : places) {
-        const ParStruct& curve = *model.curves().curve(k);
-        const QString value = shownText(curve, model.cursor(), style, "%f");
-        words += curve.name + " " + (value.isEmpty() ? "---" : value + " " + curve.unit).trimmed();
+        words += spokenValues(*model.curves().curve(k), model, style);
     }
     const auto notes = NotePlaces(model, style).eventsAt(model.cursor());
     return (words.join(", ") + "\n" + textOf(notes)).trimmed();

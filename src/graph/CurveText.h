@@ -17,6 +17,13 @@ QString curveText(const ParStruct& curve, double time, const char* format = null
 /// wanted.
 QString shownText(const ParStruct& curve, double time, const GraphStyle& style, const char* digits);
 
+/// What a curve's reference has at a time on its own clock, as shownText; empty where nothing.
+QString referenceTextOf(const ParStruct& curve, double time, const GraphStyle& style);
+
+/// What its difference is at a time, with its sign and as many decimals as the curve has there;
+/// empty where there is none.
+QString differenceTextOf(const ParStruct& curve, double time);
+
 /// Cursor and values in words, for those who can't see the graph: the curve pointed at first.
 QString spokenText(const GraphModel& model, const GraphStyle& style);
 

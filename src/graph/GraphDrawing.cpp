@@ -274,8 +274,9 @@ double GraphDrawing::keyCursorY() const
     const ParStruct* curve = mModel.curves().curve(mKeyCursor.curve);
     const bool isOfStrip =
         mModel.layout().displayMode() == DisplaySplit && curve != nullptr && curve->active;
-    return isOfStrip ? mView.yToViewport(curve->strip, mKeyCursor.value)
-                     : mView.yToViewport(mKeyCursor.value);
+    return isOfStrip
+               ? mView.yToViewport(curve->stripOf(mKeyCursor.isOfDifference), mKeyCursor.value)
+               : mView.yToViewport(mKeyCursor.value);
 }
 
 void GraphDrawing::drawCursor()

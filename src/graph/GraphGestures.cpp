@@ -24,7 +24,7 @@ double rowOf(const KeyCursor& cursor, const GraphModel& model)
     const bool isOfStrip =
         model.layout().displayMode() == DisplaySplit && curve != nullptr && curve->active;
     const GraphView& view = model.layout().view();
-    return isOfStrip ? view.yToViewport(curve->strip, cursor.value)
+    return isOfStrip ? view.yToViewport(curve->stripOf(cursor.isOfDifference), cursor.value)
                      : view.yToViewport(cursor.value);
 }
 
@@ -158,7 +158,8 @@ void GraphGestures::takeValueAt(double y)
         mModel.layout().displayMode() == DisplaySplit ? mModel.curves().at(y) : nullptr;
     if (curve != nullptr) {
         mKeyCursor.curve = mModel.curves().indexOf(*curve);
-        mKeyCursor.value = view.viewportToY(curve->strip, y);
+        mKeyCursor.isOfDifference = curve->isDifferenceAt(y);
+        mKeyCursor.value = view.viewportToY(curve->stripOf(mKeyCursor.isOfDifference), y);
     } else {
         mKeyCursor.value = view.viewportToY(y);
     }

@@ -121,8 +121,8 @@ void GraphLayout::zoomY(double y, double factor)
 {
     const bool isSplit = mDisplayMode == DisplaySplit;
     ParStruct* curve = isSplit ? mCurves.at(y) : nullptr;
-    if (isSplit && curve == nullptr) {
-        return;
+    if (isSplit && (curve == nullptr || curve->isDifferenceAt(y))) {
+        return; // a difference shows what is in sight
     }
     const GraphStrip strip = curve != nullptr ? curve->strip : mView.whole();
     const double centre = strip.toValue(std::clamp(y, strip.y0, strip.y0 + strip.height));

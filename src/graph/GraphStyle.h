@@ -37,8 +37,9 @@ struct KeyCursor
 {
     double value = 0.0;
     bool isShown = false;
-    unsigned curve = 0;        ///< whose strip the value belongs to, in split mode
-    double reportedTime = 0.0; ///< as other views were told it, seconds
+    unsigned curve = 0;          ///< whose strip the value belongs to, in split mode
+    double reportedTime = 0.0;   ///< as other views were told it, seconds
+    bool isOfDifference = false; ///< the value, to the strip of the curve's difference
 };
 
 } // namespace TARN

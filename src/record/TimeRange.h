@@ -2,6 +2,9 @@
 
 namespace TARN {
 
+/// Seconds; times are made of ticks of 31.25 ns, so nearer ones are the same, however computed.
+constexpr double HalfTick = 31.25e-9 / 2.0;
+
 /// From one time to another, both included; seconds on the recording's clock.
 struct TimeRange
 {

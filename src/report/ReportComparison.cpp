@@ -80,14 +80,14 @@ void writeWhat(const ReportMatter& matter, const ComparedPart& part, ReportPages
                         clockText(part.range.start), clockText(part.range.stop)));
 }
 
-/// Nothing where it did not change.
-std::optional<Change> changeOf(const ProfileParameter& parameter, const Comparison& found)
+/// Of a parameter whose difference has a time mean.
+Change changeOf(const ProfileParameter& parameter, const Comparison& found)
 {
     constexpr double Infinity = std::numeric_limits<double>::infinity();
     const Statistics& reference = found.reference;
-    const double difference = found.difference.timeMean.value_or(0.0);
-    if (difference == 0.0 || !reference.stddev) {
-        return std::nullopt;
+    const double difference = *found.difference.timeMean;
+    if (difference == 0.0) {
+        return Change{&parameter, found.flight.timeMean, reference.timeMean, 0.0, 0.0};
     }
     // Sums of equal values may leave a trace of a deviation.
     const bool isConstant = reference.min->value == reference.max->value;
@@ -118,11 +118,10 @@ std::vector<const ProfileParameter*> comparable(const ReportMatter& matter)
     return parameters;
 }
 
-/// The greatest first.
+/// Of all that was compared, the greatest first.
 std::vector<Change> changesOf(const ReportMatter& matter, const TimeRange& range,
                               Progress& progress)
 {
-    constexpr std::size_t Most = 20;
     const ExportReference& other = *matter.shown.reference;
     const auto parameters = comparable(matter);
     const auto own = makeIndexes(matter.shown.flight, parameters, matter.shown.offset, progress);
@@ -130,13 +129,13 @@ std::vector<Change> changesOf(const ReportMatter& matter, const TimeRange& range
     std::vector<Change> changes;
     for (std::size_t k = 0; k < parameters.size() && !progress.stopRequested(); ++k) {
         const ComparisonIndex index(own[k], others[k], other.shift, progress);
-        if (const auto change = changeOf(*parameters[k], index.range(range))) {
-            changes.push_back(*change);
+        const Comparison found = index.range(range);
+        if (found.difference.timeMean && found.reference.stddev) {
+            changes.push_back(changeOf(*parameters[k], found));
         }
     }
     std::ranges::stable_sort(changes, std::ranges::greater(),
                              [](const Change& change) { return std::fabs(change.deviations); });
-    changes.erase(changes.begin() + std::ptrdiff_t(std::min(Most, changes.size())), changes.end());
     return changes;
 }
 
@@ -151,6 +150,14 @@ ReportText deviationsCell(double deviations)
     const QString sign = deviations < 0.0 ? "-" : "";
     return {
         std::isinf(deviations) ? sign + "\u221E" : numberWords(deviations, Digits), {}, deviations};
+}
+
+/// Those that changed, not too many of them.
+void keepGreatest(std::vector<Change>& changes)
+{
+    constexpr std::size_t Most = 20;
+    std::erase_if(changes, [](const Change& change) { return change.difference == 0.0; });
+    changes.erase(changes.begin() + std::ptrdiff_t(std::min(Most, changes.size())), changes.end());
 }
 
 void writeChanges(const std::vector<Change>& changes, ReportPages& pages)
@@ -191,17 +198,23 @@ void writeComparison(const ReportMatter& matter, ReportCharts& charts, ReportPag
         return;
     }
     const ComparedPart part = partOf(matter, progress);
+    pages.heading(ComparisonTexts::tr("Compared with the reference"));
     if (part.range.stop < part.range.start) {
+        pages.say(ComparisonTexts::tr("Reference: %1. It has no time in common with this range.")
+                      .arg(referenceName(*matter.shown.reference->flight)));
         return;
     }
-    pages.heading(ComparisonTexts::tr("Compared with the reference"));
     writeWhat(matter, part, pages);
-    const std::vector<Change> changes = changesOf(matter, part.range, progress);
+    std::vector<Change> changes = changesOf(matter, part.range, progress);
+    const std::size_t compared = changes.size();
+    keepGreatest(changes);
     if (progress.stopRequested()) {
         return;
     }
     if (changes.empty()) {
-        pages.say(ComparisonTexts::tr("No parameter has changed."));
+        pages.say(compared == 0
+                      ? ComparisonTexts::tr("No parameter has values in both flights there.")
+                      : ComparisonTexts::tr("None of %1 parameters has changed.").arg(compared));
         return;
     }
     writeChanges(changes, pages);

@@ -24,6 +24,7 @@ DialogDataTable::DialogDataTable(Session& session, QWidget* parent)
         mIsShort = true;
         updateEmptyText();
     });
+    mReferenceJob.setOutOfMemory([this] { mSession.reference().memoryShort().turn(true); });
     followSession();
     showColumns();
 }

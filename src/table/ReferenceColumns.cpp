@@ -3,6 +3,9 @@
 #include "flight/StatisticsWords.h"
 #include "flight/ValueReader.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace TARN {
 
 ReferenceColumns::ReferenceColumns(std::shared_ptr<const Flight> flight, const Selection& selection,
@@ -20,26 +23,44 @@ ReferenceColumns::ReferenceColumns(std::shared_ptr<const Flight> flight, const S
     }
 }
 
-QString ReferenceColumns::textAt(std::size_t column, double time) const
+QString ReferenceColumns::textOf(const Series& series, std::size_t k, bool allDigits)
+{
+    std::string text;
+    allDigits ? series.decoder().appendText(series.entry(k), text)
+              : series.decoder().appendShort(series.entry(k), text);
+    return QString::fromStdString(text);
+}
+
+QString ReferenceColumns::textAt(std::size_t column, double time, bool allDigits) const
 {
     if (column >= mColumns.size()) {
         return {};
     }
     const auto& [series, gaps] = mColumns[column];
-    if (series.decoder().isNumeric()) {
-        ValueReader<SeriesSamples> reader({series, gaps}, betweenOf(series));
-        const double value = reader.at(time);
-        return std::isnan(value) ? QString() : numberWords(value);
+    const std::size_t k = series.firstNotBefore(time - HalfTick);
+    if (k < series.size() && series.time(k) <= time + HalfTick) {
+        return textOf(series, k, allDigits);
     }
-    const std::size_t after = series.firstAfter(time);
-    const bool isKnown = after > 0 && (after < series.size()
-                                           ? !gaps.isGap(series.time(after - 1), series.time(after))
-                                           : series.time(after - 1) == time);
-    std::string text;
-    if (isKnown) {
-        series.decoder().appendShort(series.entry(after - 1), text);
+    return k == 0 || k == series.size() || gaps.isGap(series.time(k - 1), series.time(k))
+               ? QString()
+               : betweenText(mColumns[column], k, time, allDigits);
+}
+
+QString ReferenceColumns::betweenText(const Column& column, std::size_t after, double time,
+                                      bool allDigits)
+{
+    constexpr int AllDigits = 12;
+    const QString before = textOf(column.series, after - 1, false);
+    if (betweenOf(column.series) == Between::Held) {
+        return before;
     }
-    return QString::fromStdString(text);
+    ValueReader<SeriesSamples> reader({column.series, column.gaps}, Between::Line);
+    const double value = reader.at(time);
+    const int decimals =
+        std::max(decimalsOf(before), decimalsOf(textOf(column.series, after, false)));
+    return std::isnan(value)                         ? QString()
+           : allDigits || !(std::fabs(value) < 1e12) ? numberWords(value, AllDigits)
+                                                     : QString::number(value, 'f', decimals);
 }
 
 } // namespace TARN

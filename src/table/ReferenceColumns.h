@@ -16,10 +16,11 @@ public:
 
     std::size_t columnCount() const { return mColumns.size(); }
 
-    /// What the parameter has at a time on the reference's own clock with its offset: a number
-    /// interpolated between two samples, the words of the sample that holds. Empty where it has
-    /// no value.
-    QString textAt(std::size_t column, double time) const;
+    /// What the parameter has at a time on the reference's own clock with its offset, as the table
+    /// shows it, with all digits or the fewest: at a sample what was recorded, between two an
+    /// interpolated number with as many decimals, or the words that hold. Empty where it has no
+    /// value.
+    QString textAt(std::size_t column, double time, bool allDigits) const;
 
 private:
     struct Column
@@ -27,6 +28,10 @@ private:
         Series series; ///< whose order of time is known
         GapRule gaps;
     };
+
+    static QString textOf(const Series& series, std::size_t k, bool allDigits);
+    static QString betweenText(const Column& column, std::size_t after, double time,
+                               bool allDigits);
 
     std::shared_ptr<const Flight> mFlight;
     std::vector<Column> mColumns;

@@ -87,10 +87,15 @@ QVariant TableModel::timeData(int row, int role) const
     }
 }
 
+/// At the moment of the sample that stands in the row, where none does at the row's tenth.
 QString TableModel::referenceText(int row, std::size_t place) const
 {
     constexpr double Tenth = 0.1; // s
-    return mReference->textAt(place, mRows->key(static_cast<std::size_t>(row)) * Tenth - mShift);
+    const auto number = static_cast<std::size_t>(row);
+    const RecordEntry* entry = mRows->sample(number, place);
+    const double time =
+        entry != nullptr ? mRows->timeOf(*entry, place) : mRows->key(number) * Tenth;
+    return mReference->textAt(place, time - mShift, mAllDigits);
 }
 
 QVariant TableModel::referenceData(int row, std::size_t place, int role) const

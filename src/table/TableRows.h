@@ -30,6 +30,12 @@ public:
     /// Of a table with rows.
     const Decoder& decoder(std::size_t column) const { return mSeries[column].decoder(); }
 
+    /// Seconds with the offset.
+    double timeOf(const RecordEntry& sample, std::size_t column) const
+    {
+        return mSeries[column].timeOf(sample);
+    }
+
     /// Time of a row in tenths of a second.
     std::uint32_t key(std::size_t row) const { return mKeys[row]; }
 

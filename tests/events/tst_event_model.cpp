@@ -186,6 +186,23 @@ private Q_SLOTS:
                          "04.000|w|Warning|04.000|0.0 s"));
         QVERIFY(faults.rows().rowAt(3.0) == 2 && faults.rows().rowAt(99.0) == 3);
         QVERIFY(other.limits.times == 0 && other.watched.parameters == 0);
+
+        // Those of a reference stand between them, on their clock; 3.5 s have the offset.
+        const Episode& error = troubles->faults[1];
+        faults.setReference(troubles, {{&error, 2.5, 0.5}, {&error, 99.0, 0.0}});
+        QCOMPARE(rowsOf(faults).count("|Information|"), 1);
+        QCOMPARE(faults.rowCount(), 6);
+        QCOMPARE(faults.index(4, 0).data().toString(), QString("00:00:04.000"));
+        QCOMPARE(faults.index(4, 3).data().toString(), QString("00:00:05.000"));
+        QVERIFY(faults.rows().isOfReference(4) != faults.rows().isOfReference(3));
+        QVERIFY(faults.rows().isOfReference(5) && faults.rows().rowAt(99.0) < 5);
+        const int row = faults.rows().isOfReference(4) ? 4 : 3;
+        QCOMPARE(faults.placeOf(row, *faulty, 0.0)->start, 4.5);
+        QCOMPARE(faults.index(row, 1).data(Qt::ForegroundRole).value<QColor>(), QColor(Qt::gray));
+        EventOrder order(faults);
+        QCOMPARE(order.rowAt(99.0), faults.rows().rowAt(99.0));
+        faults.setReference(nullptr, {});
+        QCOMPARE(faults.rowCount(), 4);
     }
 
     void rowOfATime()

@@ -63,8 +63,8 @@ private:
         std::optional<std::size_t> before;
         for (std::size_t k = 0; k < series.size(); ++k) {
             const double now = series.time(k) + shift;
-            if (now == time) {
-                for (; which > 0 && k + 1 < series.size() && series.time(k + 1) + shift == time;
+            if (std::fabs(now - time) <= HalfTick) {
+                for (; which > 0 && k + 1 < series.size() && series.time(k + 1) == series.time(k);
                      --which) {
                     ++k;
                 }
@@ -87,11 +87,12 @@ private:
     static bool plainKnows(const StatisticsIndex& index, double shift, double from, double to)
     {
         const Series& series = index.series();
-        bool isKnown = !series.empty() && series.time(0) + shift <= from &&
-                       series.time(series.size() - 1) + shift >= to;
+        bool isKnown = !series.empty() && series.time(0) + shift <= from + HalfTick &&
+                       series.time(series.size() - 1) + shift >= to - HalfTick;
         for (std::size_t k = 1; k < series.size(); ++k) {
             const bool isGap = index.gaps().isGap(series.time(k - 1), series.time(k));
-            const bool isBetween = series.time(k - 1) + shift < to && series.time(k) + shift > from;
+            const bool isBetween = series.time(k - 1) + shift < to - HalfTick &&
+                                   series.time(k) + shift > from + HalfTick;
             isKnown = isKnown && !(isGap && isBetween);
         }
         return isKnown;
@@ -195,6 +196,31 @@ private Q_SLOTS:
         }
     }
 
+    /// The same flight on another clock, and one whose clock stands still.
+    void otherClocks()
+    {
+        QString now;
+        QString before;
+        QString frozen;
+        for (int k = 0; k < 5000; ++k) {
+            const int state = k / 3 % 2;
+            now += QString(" 501@%1=5:0000000%2").arg(33000.1 + k * 0.1).arg(state);
+            before += QString(" 501@%1=5:0000000%2").arg(60.1 + k * 0.1).arg(state);
+            frozen += QString(" 500@100=%1").arg(k);
+        }
+        const Pair pair = pairOf(now, before);
+        const double shift =
+            pair.flight->series(*pair.flight->profile()->parameters()[1].parameter, 0.0).time(0) -
+            60.1;
+        const Statistics same = comparison(pair, shift, 1).difference({0.0, 1e6});
+        QVERIFY(same.samples == 5000U && same.min->value == 0.0 && same.max->value == 0.0);
+        const TimeRange common = commonRange({33000.1, 33600.0}, {60.1, 660.0}, 33000.1 - 60.1);
+        QVERIFY(common.contains(33000.1) && common.contains(60.1 + (33000.1 - 60.1)));
+        const Pair still = pairOf(frozen, frozen);
+        const Statistics none = comparison(still, 0.0).difference({0.0, 1e6});
+        QVERIFY(none.samples == 5000U && none.min->value == 0.0 && none.max->value == 0.0);
+    }
+
     void alignments()
     {
         const Pair pair = pairOf("500@10=nan 500@11=0 500@12=39 500@13=41 500@14=30",
@@ -204,12 +230,12 @@ private Q_SLOTS:
         Progress none;
         using A = Alignment;
         const std::pair<Alignment, std::optional<double>> rows[] = {
-            {{A::Clock}, 0.0},
-            {{A::Start}, 0.0},
-            {{A::Moment}, std::nullopt},
-            {{A::Passing, 0, 40.0}, 13.0 - 16.0}, // 40 is not below
-            {{A::Passing, 0, 55.0}, std::nullopt},
-            {{A::Passing, 7, 1.0}, std::nullopt}};
+            {{A::Clock, {}, 0.0}, 0.0},
+            {{A::Start, {}, 0.0}, 0.0},
+            {{A::Moment, {}, 0.0}, std::nullopt},
+            {{A::Passing, "D/Number", 40.0}, 13.0 - 16.0}, // 40 is not below
+            {{A::Passing, "D/Number", 55.0}, std::nullopt},
+            {{A::Passing, "D/Gone", 1.0}, std::nullopt}};
         for (const auto& [alignment, expected] : rows) {
             QCOMPARE(shiftOf(alignment, own, other, none), expected);
         }
@@ -227,20 +253,20 @@ private Q_SLOTS:
         Reference& reference = session.reference();
         QTRY_VERIFY(!aligner.isRunning());
         QCOMPARE(reference.shift(), 0.0);
-        reference.align({Alignment::Passing, 0, 40.0});
+        reference.align({Alignment::Passing, "D/Number", 40.0});
         QTRY_COMPARE(reference.shift(), -3.0);
         comparer.compare({indexOf(pair.flight, 0)});
         QTRY_COMPARE(comparer.indexes().size(), 1U);
         QCOMPARE(comparer.indexes()[0]->difference({0.0, 99.0}).max->value, -9.0);
-        reference.align({Alignment::Passing, 0, 45.0});
+        reference.align({Alignment::Passing, "D/Number", 45.0});
         QTRY_VERIFY(!aligner.isPossible());
         QCOMPARE(reference.shift(), -3.0);
         reference.setShift(0.5);
         QTRY_COMPARE(comparer.indexes().size(), 1U);
         QVERIFY(aligner.isPossible() && reference.alignment().by == Alignment::Moment);
-        session.setFlight(pair.reference); // compared with itself now, by the same moment
-        QCOMPARE(reference.shift(), 0.5);
-        reference.setFlight(pair.flight);
+        session.setOffset(2.0); // what lies on each other stays so
+        QCOMPARE(reference.shift(), 2.5);
+        session.setFlight(pair.reference); // the moment was one of the flight before
         QTRY_COMPARE(reference.shift(), 0.0);
         QCOMPARE(reference.alignment().by, Alignment::Start);
         reference.setFlight(nullptr);

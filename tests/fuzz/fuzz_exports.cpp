@@ -158,7 +158,7 @@ void checkTable(const ExportInput& input)
         }
         require(!isEmpty);
         const double time = model.index(row, 0).data(Qt::UserRole).toDouble() * 0.001;
-        require(model.rows().rowAt(time) == row);
+        require(model.rowAt(time) == row);
     }
 }
 

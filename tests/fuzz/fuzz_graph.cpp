@@ -2,6 +2,7 @@
 /// samples gives, and whatever it draws lies on the screen.
 
 #include "fuzz/Fuzz.h"
+#include "graph/CurveDifference.h"
 #include "graph/LiveFeed.h"
 #include "support/GraphPaint.h"
 #include "support/PlainCurve.h"
@@ -73,6 +74,24 @@ void paint(GraphModel& model)
     }
 }
 
+/// With itself a curve has no difference but 0; with itself shifted all is drawn on the screen.
+void compare(GraphModel& model, const std::shared_ptr<const CurveSamples>& series, double shift)
+{
+    Progress none;
+    const auto same = differenceOf(*series, *series, Between::Line, 0.0, none);
+    for (std::size_t k = 0; k < same->size(); ++k) {
+        require(same->value(k) == 0.0 || std::isnan(same->value(k)));
+    }
+    ParStruct& curve = *model.curves().curve(Curve);
+    curve.reference.samples = series;
+    curve.difference.samples = differenceOf(*series, *series, Between::Line, shift, none);
+    model.layout().setReference(shift, true);
+    paint(model);
+    model.setDisplayMode(model.layout().displayMode() == DisplaySplit ? DisplaySingle
+                                                                      : DisplaySplit);
+    paint(model);
+}
+
 /// Fonts without a display.
 void startFonts()
 {
@@ -134,5 +153,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     model.zoomToMarker();
     paint(model);
     checkFrames(model, plain, gaps);
+    compare(model, series, from);
     return 0;
 }

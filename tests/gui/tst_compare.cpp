@@ -174,7 +174,7 @@ private Q_SLOTS:
             QFile large(file); // of noughts, which need no room on the disk
             QVERIFY(large.open(QIODevice::ReadWrite) && large.resize(qint64(1) << 42));
         }
-        session().reference().align({Alignment::Clock});
+        session().reference().align({Alignment::Clock, {}, 0.0});
         QVERIFY(drop({file}, Qt::ControlModifier));
         QTest::qWait(50);
         settle();

@@ -193,8 +193,8 @@ private:
             }
             break;
         case 3:
-            reference.align(
-                {static_cast<Alignment::By>(any(4)), std::size_t(any(90)), any(100) * 1.0});
+            reference.align({static_cast<Alignment::By>(any(4)),
+                             any(2) == 0 ? "Engine/RPM" : "AirData/IAS", any(100) * 1.0});
             break;
         default:
             isHeads() ? reference.setShift(any(1000) - 500.0) : reference.setFlight(nullptr);

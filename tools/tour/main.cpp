@@ -148,7 +148,7 @@ public:
               TARN::MeasureModel::MeanDifferenceColumn});
         TARN::Reference& reference = mWindow.session().reference();
         reference.setFlight(flightOf(mArguments.reference));
-        reference.align({TARN::Alignment::Passing, placeOf("IAS"), 40.0});
+        reference.align({TARN::Alignment::Passing, nameOf("IAS"), 40.0});
         reference.differenceShown().turn(true);
         settle();
         auto* data = mWindow.findChild<TARN::DialogData*>();
@@ -157,12 +157,12 @@ public:
         shoot("example5", data, QRect(0, 0, data->width(), bottom));
     }
 
-    std::size_t placeOf(const QString& name)
+    QString nameOf(const QString& name)
     {
-        const auto all = mWindow.session().profile()->parameters();
+        const auto& all = mWindow.session().profile()->parameters();
         const auto found = std::ranges::find_if(
             all, [&](const auto& item) { return item.parameter->name == name; });
-        return static_cast<std::size_t>(found - all.begin());
+        return found != all.end() ? found->parameter->fullName : QString();
     }
 
     std::shared_ptr<const TARN::Flight> flightOf(const QString& folder)
