@@ -48,7 +48,9 @@ public:
         startAs(mServer, "postgres",
                 {"-D", data(), "-h", "127.0.0.1", "-p", QString::number(mPort), "-k",
                  mFolder.path(), "-F"});
-        mServer.waitForStarted();
+        for (int left = 600; left > 0 && !isReady(); --left) {
+            QTest::qWait(100);
+        }
     }
 
     /// Ends its connections, too.
@@ -94,10 +96,22 @@ private:
                 }
             });
         }
+        process.start(binary(program), arguments);
+    }
+
+    bool isReady() const
+    {
+        QProcess asked;
+        asked.start(binary("pg_isready"), {"-h", "127.0.0.1", "-p", QString::number(mPort)});
+        return asked.waitForFinished() && asked.exitCode() == 0;
+    }
+
+    static QString binary(const QString& program)
+    {
         const QDir versions("/usr/lib/postgresql");
         const QString version =
             versions.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name).value(0);
-        process.start(versions.filePath(version + "/bin/" + program), arguments);
+        return versions.filePath(version + "/bin/" + program);
     }
 
     QString data() const { return mFolder.filePath("data"); }
