@@ -10,6 +10,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <mutex>
 #include <thread>
 
 namespace TARN {
@@ -60,6 +61,14 @@ QString sentenceOf(const QSqlError& error)
     return told.simplified();
 }
 
+/// One at a time: the toolkit's list of drivers is made without a lock.
+QSqlDatabase newDatabase(const QString& driver, const QString& name)
+{
+    static std::mutex guard;
+    const std::lock_guard lock(guard);
+    return QSqlDatabase::addDatabase(driver, name);
+}
+
 void createFolderOf(const QString& file)
 {
     QDir().mkpath(QFileInfo(file).path());
@@ -98,7 +107,7 @@ void SqlConnection::open()
             SqlTexts::tr("the database driver %1 is not installed (package %2)")
                 .arg(driver, mPlace.isFile() ? "libqt6sql6-sqlite" : "libqt6sql6-psql"));
     }
-    QSqlDatabase database = QSqlDatabase::addDatabase(driver, mName);
+    QSqlDatabase database = newDatabase(driver, mName);
     database.setDatabaseName(mPlace.isFile() ? mPlace.file : mPlace.database);
     database.setHostName(mPlace.host);
     database.setPort(mPlace.port);
