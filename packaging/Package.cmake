@@ -28,8 +28,10 @@ set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+# Loaded by name at run time, so no library dependency asks for them.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6sql6-sqlite)
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS libqt6sql6-psql)
 if(ORNA_GUI)
-    # Loaded by name at run time, so no library dependency asks for it.
-    set(CPACK_DEBIAN_PACKAGE_DEPENDS libqt6svg6)
+    string(APPEND CPACK_DEBIAN_PACKAGE_DEPENDS ", libqt6svg6")
 endif()
 include(CPack)

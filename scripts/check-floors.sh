@@ -12,7 +12,7 @@ declare -A floor=(
     [faults]=3
     [flight]=4
     [card]=5 [selection]=5 [table]=5 [events]=5 [graph]=5 [compare]=5
-    [export]=6
+    [export]=6 [logbook]=6
     [report]=7
     [app]=8 [cli]=8
 )

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Installs what building, testing and running needs. The one list of packages; safe to repeat.
+# Usage: setup.sh [--servers]; with it a database server for the tests, which is not started.
 set -euo pipefail
 
 packages=(
@@ -7,7 +8,9 @@ packages=(
     g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libqt6opengl6-dev
     qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
-    libgl-dev libopengl-dev libcli11-dev nlohmann-json3-dev
+    libgl-dev libopengl-dev libcli11-dev nlohmann-json3-dev libssl-dev
+    # the logbook's databases, loaded by name at run time
+    libqt6sql6-sqlite libqt6sql6-psql
     # test and benchmark
     clang-format-14 gdal-bin locales
     # packaging and its checks
@@ -22,6 +25,8 @@ if [ "$(uname)" = Darwin ]; then
     exit
 fi
 
+[ "${1:-}" = --servers ] && packages+=(postgresql)
+
 missing=()
 for package in "${packages[@]}"; do
     status=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
@@ -33,5 +38,11 @@ echo "installing: ${missing[*]}"
 as_root=()
 [ "$(id -u)" -eq 0 ] || as_root=(sudo)
 export DEBIAN_FRONTEND=noninteractive
+if [ "${1:-}" = --servers ] && [ ! -e /etc/postgresql-common ]; then
+    # Installed alone it would make a database for everybody, and start with the machine.
+    "${as_root[@]}" mkdir -p /etc/postgresql-common/createcluster.d
+    echo "create_main_cluster = false" |
+        "${as_root[@]}" tee /etc/postgresql-common/createcluster.d/orna.conf >/dev/null
+fi
 "${as_root[@]}" apt-get update -qq
 "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

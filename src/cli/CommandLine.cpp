@@ -8,6 +8,7 @@
 #include "cli/FaultsCommand.h"
 #include "cli/GraphCommand.h"
 #include "cli/InfoCommand.h"
+#include "cli/LogbookOptions.h"
 #include "cli/ReportCommand.h"
 #include "cli/SharedOptions.h"
 #include "cli/StatsCommand.h"
@@ -37,9 +38,14 @@ void addInfo(CLI::App& app, InfoArguments& arguments, std::ostream& out)
 void addDecode(CLI::App& app, DecodeArguments& arguments, std::ostream& out)
 {
     CLI::App* command =
-        app.add_subcommand("decode", "Every sample of every selected parameter, as JSON lines");
+        app.add_subcommand("decode", "Every sample of every selected parameter, one a line");
     addProfile(*command, arguments.profile);
     addSelection(*command, arguments.selection);
+    const std::map<std::string, LineFormat> formats = {
+        {"jsonl", LineFormat::JsonLines}, {"csv", LineFormat::Csv}, {"tsv", LineFormat::Tsv}};
+    command->add_option("--format", arguments.format, "of the lines: jsonl, csv or tsv")
+        ->transform(CLI::Transformer(formats))
+        ->option_text("FORMAT");
     addFiles(*command, arguments.files);
     command->final_callback([&] { runDecode(arguments, out); });
 }
@@ -212,6 +218,7 @@ struct Arguments
     CsvArguments csv;
     KmlArguments kml;
     CanArguments can;
+    LogbookArguments logbook;
 };
 
 } // namespace
@@ -233,6 +240,7 @@ int runCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
     addCsv(app, arguments.csv);
     addKml(app, arguments.kml);
     addCan(app, arguments.can);
+    addLogbook(app, arguments.logbook, out, error);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& e) {

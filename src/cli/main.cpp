@@ -6,6 +6,7 @@
 #include <QtGui/QGuiApplication>
 
 #include <clocale>
+#include <cstdio>
 #include <iostream>
 #include <optional>
 #include <string_view>
@@ -14,8 +15,9 @@ int main(int argc, char** argv)
 {
     std::ios::sync_with_stdio(false);
     TARN::setDiagnosticStream(stderr);
-    // Pictures and pages need fonts; no other command shall wait for them.
+    // Pictures and pages need fonts, databases their drivers; no other command shall wait for them.
     std::optional<QGuiApplication> application;
+    std::optional<QCoreApplication> bare;
     const std::string_view command = argc > 1 ? argv[1] : "";
     if (command == "graph" || command == "report") {
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -25,6 +27,11 @@ int main(int argc, char** argv)
             QFontDatabase::addApplicationFont(QString(":/cli/%1.ttf").arg(font));
         }
         TARN::setGraphFontFamily("DejaVu Sans Mono");
+    } else if (command == "logbook") {
+        // What is diagnosed of each of a thousand flights would hide how far it is.
+        TARN::setDiagnosticStream(std::fopen("/dev/null", "w"));
+        bare.emplace(argc, argv);
+        std::setlocale(LC_NUMERIC, "C");
     }
     return TARN::runCommandLine(argc, argv, std::cout, std::cerr);
 }

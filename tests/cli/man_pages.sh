@@ -30,10 +30,16 @@ check() { # page, command, what the help says
 # Options and commands stand in the left column; the descriptions beside it name others.
 named() { sed -n 's/^ \{2,8\}\(-[a-z], *\)\{0,1\}\(--[a-z-]*\).*/\2/p'; }
 
-commands=$("$cli" --help | sed -n '/^subcommands:/I,$s/^  \([a-z]*\) .*/\1/p')
+commands_of() { sed -n '/^subcommands:/I,$s/^  \([a-z]*\) .*/\1/p'; }
+
+commands=$("$cli" --help | commands_of)
 [ -n "$commands" ]
 for command in $commands; do
-    check orna-cli "orna-cli $command" "$("$cli" "$command" --help | named)"
+    parts=$("$cli" "$command" --help | commands_of)
+    for part in $parts; do
+        check orna-cli "orna-cli $command $part" "$("$cli" "$command" "$part" --help | named)"
+    done
+    [ -n "$parts" ] || check orna-cli "orna-cli $command" "$("$cli" "$command" --help | named)"
 done
 check orna-cli orna-cli "$("$cli" --help | named)"
 check orna-demo orna-demo "$("$demo" --help | named)"

@@ -111,6 +111,13 @@ private Q_SLOTS:
             "'double':1.0,'raw':1.0,'state':0,'text':'1: on','color':'#ffffff'}\n"
             "{'device':'NAV','parameter':'Oil','channel':0,'id':502,'time':2.5,'int':0,"
             "'double':null,'raw':null,'state':2,'text':'nan','color':null}\n");
+        row("decode --profile P --format csv --parameter ECU/Oil R",
+            "device,parameter,channel,id,time,int,double,raw,state,text,color\n"
+            "ECU,Oil,0,500,1.0,0,2.5,5.0,0,2.5,#ffffff\nECU,Oil,0,500,2.25,0,7.0,14.0,1,7,#ffff00\n"
+            "ECU,Oil,0,500,3.0,0,12.0,24.0,2,12,\n");
+        row("decode --profile P --format tsv --parameter NAV/Oil R",
+            "device\tparameter\tchannel\tid\ttime\tint\tdouble\traw\tstate\ttext\tcolor\n"
+            "NAV\tOil\t0\t502\t2.5\t0\t\\N\t\\N\t2\tnan\t\\N\n");
         const QByteArray events =
             "{'kind':'limit','time':2.25,'name':'ECU Oil','value':'7 bar',"
             "'text':'ECU Oil 7 bar','color':'#ffff00','tenths':23}\n"
@@ -145,6 +152,32 @@ private Q_SLOTS:
         QCOMPARE(done.error, "");
         QCOMPARE(done.status, 0);
         QCOMPARE(QByteArray::fromStdString(done.out), quoted(expected));
+    }
+
+    /// Names with all that separates or ends something, and numbers at the ends of their layouts.
+    void decodeFormats()
+    {
+        const QString profile =
+            write("profile.xml",
+                  "<CanAerospaceProfile><Device name=' A,&quot;&#9;\\'><Parameter name='&#176;' "
+                  "id='500' dataType='FLOAT' startByte='4'/></Device></CanAerospaceProfile>");
+        const QString recording = writeRecording("500@1=-0.0 500@2=2e15 500@3=1e14 500@4=0.00001");
+        const auto decoded = [&](const QString& format) {
+            return QString::fromStdString(
+                       runCommand({"decode", "--format", format, "--profile", profile, recording})
+                           .out)
+                .split('\n');
+        };
+        const auto lines = decoded("jsonl");
+        const QStringList numbers = {"-0.0", "1.999999973982208e+15", "100000000376832.0",
+                                     "9.999999747378752e-06"};
+        for (qsizetype k = 0; k < numbers.size(); ++k) {
+            QVERIFY2(lines[k].startsWith("{\"device\":\" A,\\\"\\t\\\\\",\"parameter\":\"°\","),
+                     qPrintable(lines[k]));
+            QVERIFY2(lines[k].contains("\"raw\":" + numbers[k] + ","), qPrintable(lines[k]));
+        }
+        QVERIFY(decoded("csv")[1].startsWith("\" A,\"\"\t\\\",°,0,500,1.0,0,0.0,-0.0,"));
+        QVERIFY(decoded("tsv")[1].startsWith(" A,\"\\t\\\\\t°\t0\t500\t"));
     }
 
     void info()
