@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="cs" sourcelanguage="en">
 <context>
+    <name>AdderTexts</name>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>nelze ji přečíst</translation>
+    </message>
+    <message>
+        <source>it changed while it was read</source>
+        <translation>změnila se během čtení</translation>
+    </message>
+</context>
+<context>
     <name>CompanionDrawing</name>
     <message>
         <source>Δ flight minus reference</source>
@@ -303,6 +314,25 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     </message>
 </context>
 <context>
+    <name>FlightAdder</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be read to its end</source>
+        <translation>„%1“ nelze přečíst do konce</translation>
+    </message>
+    <message>
+        <source>there is no sample in it</source>
+        <translation>neobsahuje žádný vzorek</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>není na to dost paměti</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no folder</source>
+        <translation>„%1“ není složka</translation>
+    </message>
+</context>
+<context>
     <name>FlightSummary</name>
     <message>
         <source>Duration %1</source>
@@ -342,6 +372,13 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     </message>
 </context>
 <context>
+    <name>FlightTables</name>
+    <message>
+        <source>the logbook has no flight &quot;%1&quot;</source>
+        <translation>deník nemá let „%1“</translation>
+    </message>
+</context>
+<context>
     <name>GraphCaption</name>
     <message>
         <source>%1 to %2 (%3 recordings)</source>
@@ -350,6 +387,51 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     <message>
         <source>%1 to %2 on the recording&apos;s clock</source>
         <translation>%1 až %2 na hodinách záznamu</translation>
+    </message>
+</context>
+<context>
+    <name>Logbook</name>
+    <message>
+        <source>the logbook has no flight &quot;%1&quot;</source>
+        <translation>deník nemá let „%1“</translation>
+    </message>
+    <message>
+        <source>the keys of several flights begin with &quot;%1&quot;</source>
+        <translation>klíče několika letů začínají na „%1“</translation>
+    </message>
+    <message>
+        <source>the logbook has no flight of the engine &quot;%1&quot;</source>
+        <translation>deník nemá žádný let motoru „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>LogbookPlace</name>
+    <message>
+        <source>the logbook&apos;s URL is neither sqlite:PATH nor postgresql://user@host:port/database</source>
+        <translation>URL deníku není ani sqlite:CESTA, ani postgresql://uživatel@počítač:port/databáze</translation>
+    </message>
+    <message>
+        <source>the logbook&apos;s URL has an option that is not understood; known are %1</source>
+        <translation>URL deníku má neznámou volbu; známé jsou %1</translation>
+    </message>
+    <message>
+        <source>there is no home directory for a logbook; name one by its URL</source>
+        <translation>pro deník není domovský adresář; uveďte jej jeho URL</translation>
+    </message>
+</context>
+<context>
+    <name>LogbookSchema</name>
+    <message>
+        <source>&quot;%1&quot; is no logbook: another program&apos;s tables are in it</source>
+        <translation>„%1“ není deník: obsahuje tabulky jiného programu</translation>
+    </message>
+    <message>
+        <source>the logbook %1 is of version %2, this program knows versions up to %3; a newer program is needed</source>
+        <translation>deník %1 má verzi %2, tento program zná verze do %3; je třeba novější program</translation>
+    </message>
+    <message>
+        <source>there is no logbook in %1</source>
+        <translation>v %1 není deník</translation>
     </message>
 </context>
 <context>
@@ -853,6 +935,29 @@ Choose a folder that can be written, with enough free space, and a name that end
         <translation>Snímek nebylo možné uložit jako
 %1
 Zvolte složku, do které lze zapisovat, s dostatkem volného místa, a název končící na .bmp, .png, .svg nebo .jpg.</translation>
+    </message>
+</context>
+<context>
+    <name>SqlConnection</name>
+    <message>
+        <source>there is no logbook &quot;%1&quot;</source>
+        <translation>deník „%1“ neexistuje</translation>
+    </message>
+    <message>
+        <source>the database driver %1 is not installed (package %2)</source>
+        <translation>databázový ovladač %1 není nainstalován (balík %2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no logbook: it is no database</source>
+        <translation>„%1“ není deník: není to databáze</translation>
+    </message>
+    <message>
+        <source>the logbook &quot;%1&quot; is damaged</source>
+        <translation>deník „%1“ je poškozen</translation>
+    </message>
+    <message>
+        <source>logbook %1: %2</source>
+        <translation>deník %1: %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AdderTexts</name>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>sie ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>it changed while it was read</source>
+        <translation>sie hat sich beim Lesen geändert</translation>
+    </message>
+</context>
+<context>
     <name>CompanionDrawing</name>
     <message>
         <source>Δ flight minus reference</source>
@@ -303,6 +314,25 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     </message>
 </context>
 <context>
+    <name>FlightAdder</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be read to its end</source>
+        <translation>„%1“ ist nicht bis zum Ende lesbar</translation>
+    </message>
+    <message>
+        <source>there is no sample in it</source>
+        <translation>sie enthält keinen Messwert</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>der Speicher reicht nicht dafür</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no folder</source>
+        <translation>„%1“ ist kein Ordner</translation>
+    </message>
+</context>
+<context>
     <name>FlightSummary</name>
     <message>
         <source>Duration %1</source>
@@ -342,6 +372,13 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     </message>
 </context>
 <context>
+    <name>FlightTables</name>
+    <message>
+        <source>the logbook has no flight &quot;%1&quot;</source>
+        <translation>das Bordbuch hat keinen Flug „%1“</translation>
+    </message>
+</context>
+<context>
     <name>GraphCaption</name>
     <message>
         <source>%1 to %2 (%3 recordings)</source>
@@ -350,6 +387,51 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     <message>
         <source>%1 to %2 on the recording&apos;s clock</source>
         <translation>%1 bis %2 auf der Uhr der Aufzeichnung</translation>
+    </message>
+</context>
+<context>
+    <name>Logbook</name>
+    <message>
+        <source>the logbook has no flight &quot;%1&quot;</source>
+        <translation>das Bordbuch hat keinen Flug „%1“</translation>
+    </message>
+    <message>
+        <source>the keys of several flights begin with &quot;%1&quot;</source>
+        <translation>die Schlüssel mehrerer Flüge beginnen mit „%1“</translation>
+    </message>
+    <message>
+        <source>the logbook has no flight of the engine &quot;%1&quot;</source>
+        <translation>das Bordbuch hat keinen Flug des Motors „%1“</translation>
+    </message>
+</context>
+<context>
+    <name>LogbookPlace</name>
+    <message>
+        <source>the logbook&apos;s URL is neither sqlite:PATH nor postgresql://user@host:port/database</source>
+        <translation>die URL des Bordbuchs ist weder sqlite:PFAD noch postgresql://benutzer@rechner:port/datenbank</translation>
+    </message>
+    <message>
+        <source>the logbook&apos;s URL has an option that is not understood; known are %1</source>
+        <translation>die URL des Bordbuchs hat eine unbekannte Option; bekannt sind %1</translation>
+    </message>
+    <message>
+        <source>there is no home directory for a logbook; name one by its URL</source>
+        <translation>es gibt kein Heimverzeichnis für ein Bordbuch; nennen Sie eines mit seiner URL</translation>
+    </message>
+</context>
+<context>
+    <name>LogbookSchema</name>
+    <message>
+        <source>&quot;%1&quot; is no logbook: another program&apos;s tables are in it</source>
+        <translation>„%1“ ist kein Bordbuch: Es enthält Tabellen eines anderen Programms</translation>
+    </message>
+    <message>
+        <source>the logbook %1 is of version %2, this program knows versions up to %3; a newer program is needed</source>
+        <translation>das Bordbuch %1 ist von Version %2, dieses Programm kennt Versionen bis %3; ein neueres Programm ist nötig</translation>
+    </message>
+    <message>
+        <source>there is no logbook in %1</source>
+        <translation>in %1 ist kein Bordbuch</translation>
     </message>
 </context>
 <context>
@@ -853,6 +935,29 @@ Choose a folder that can be written, with enough free space, and a name that end
         <translation>Das Bild konnte nicht gespeichert werden als
 %1
 Wählen Sie einen beschreibbaren Ordner mit genügend freiem Platz und einen Namen, der auf .bmp, .png, .svg oder .jpg endet.</translation>
+    </message>
+</context>
+<context>
+    <name>SqlConnection</name>
+    <message>
+        <source>there is no logbook &quot;%1&quot;</source>
+        <translation>es gibt kein Bordbuch „%1“</translation>
+    </message>
+    <message>
+        <source>the database driver %1 is not installed (package %2)</source>
+        <translation>der Datenbanktreiber %1 ist nicht installiert (Paket %2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no logbook: it is no database</source>
+        <translation>„%1“ ist kein Bordbuch: Es ist keine Datenbank</translation>
+    </message>
+    <message>
+        <source>the logbook &quot;%1&quot; is damaged</source>
+        <translation>das Bordbuch „%1“ ist beschädigt</translation>
+    </message>
+    <message>
+        <source>logbook %1: %2</source>
+        <translation>Bordbuch %1: %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>AdderTexts</name>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>no se puede leer</translation>
+    </message>
+    <message>
+        <source>it changed while it was read</source>
+        <translation>cambió mientras se leía</translation>
+    </message>
+</context>
+<context>
     <name>CompanionDrawing</name>
     <message>
         <source>Δ flight minus reference</source>
@@ -303,6 +314,25 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     </message>
 </context>
 <context>
+    <name>FlightAdder</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be read to its end</source>
+        <translation>«%1» no se puede leer hasta el final</translation>
+    </message>
+    <message>
+        <source>there is no sample in it</source>
+        <translation>no contiene ninguna muestra</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>no hay memoria suficiente</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no folder</source>
+        <translation>«%1» no es una carpeta</translation>
+    </message>
+</context>
+<context>
     <name>FlightSummary</name>
     <message>
         <source>Duration %1</source>
@@ -342,6 +372,13 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     </message>
 </context>
 <context>
+    <name>FlightTables</name>
+    <message>
+        <source>the logbook has no flight &quot;%1&quot;</source>
+        <translation>el libro de vuelos no tiene ningún vuelo «%1»</translation>
+    </message>
+</context>
+<context>
     <name>GraphCaption</name>
     <message>
         <source>%1 to %2 (%3 recordings)</source>
@@ -350,6 +387,51 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     <message>
         <source>%1 to %2 on the recording&apos;s clock</source>
         <translation>%1 a %2 en el reloj de la grabación</translation>
+    </message>
+</context>
+<context>
+    <name>Logbook</name>
+    <message>
+        <source>the logbook has no flight &quot;%1&quot;</source>
+        <translation>el libro de vuelos no tiene ningún vuelo «%1»</translation>
+    </message>
+    <message>
+        <source>the keys of several flights begin with &quot;%1&quot;</source>
+        <translation>las claves de varios vuelos empiezan por «%1»</translation>
+    </message>
+    <message>
+        <source>the logbook has no flight of the engine &quot;%1&quot;</source>
+        <translation>el libro de vuelos no tiene ningún vuelo del motor «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>LogbookPlace</name>
+    <message>
+        <source>the logbook&apos;s URL is neither sqlite:PATH nor postgresql://user@host:port/database</source>
+        <translation>la URL del libro de vuelos no es ni sqlite:RUTA ni postgresql://usuario@equipo:puerto/base</translation>
+    </message>
+    <message>
+        <source>the logbook&apos;s URL has an option that is not understood; known are %1</source>
+        <translation>la URL del libro de vuelos tiene una opción desconocida; se conocen %1</translation>
+    </message>
+    <message>
+        <source>there is no home directory for a logbook; name one by its URL</source>
+        <translation>no hay directorio personal para un libro de vuelos; indique uno por su URL</translation>
+    </message>
+</context>
+<context>
+    <name>LogbookSchema</name>
+    <message>
+        <source>&quot;%1&quot; is no logbook: another program&apos;s tables are in it</source>
+        <translation>«%1» no es un libro de vuelos: contiene tablas de otro programa</translation>
+    </message>
+    <message>
+        <source>the logbook %1 is of version %2, this program knows versions up to %3; a newer program is needed</source>
+        <translation>el libro de vuelos %1 es de la versión %2, este programa conoce hasta la %3; hace falta un programa más nuevo</translation>
+    </message>
+    <message>
+        <source>there is no logbook in %1</source>
+        <translation>no hay ningún libro de vuelos en %1</translation>
     </message>
 </context>
 <context>
@@ -853,6 +935,29 @@ Choose a folder that can be written, with enough free space, and a name that end
         <translation>La imagen no se pudo guardar como
 %1
 Elija una carpeta en la que se pueda escribir, con espacio libre suficiente, y un nombre que termine en .bmp, .png, .svg o .jpg.</translation>
+    </message>
+</context>
+<context>
+    <name>SqlConnection</name>
+    <message>
+        <source>there is no logbook &quot;%1&quot;</source>
+        <translation>no existe el libro de vuelos «%1»</translation>
+    </message>
+    <message>
+        <source>the database driver %1 is not installed (package %2)</source>
+        <translation>el controlador de base de datos %1 no está instalado (paquete %2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no logbook: it is no database</source>
+        <translation>«%1» no es un libro de vuelos: no es una base de datos</translation>
+    </message>
+    <message>
+        <source>the logbook &quot;%1&quot; is damaged</source>
+        <translation>el libro de vuelos «%1» está dañado</translation>
+    </message>
+    <message>
+        <source>logbook %1: %2</source>
+        <translation>libro de vuelos %1: %2</translation>
     </message>
 </context>
 <context>

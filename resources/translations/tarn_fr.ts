@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AdderTexts</name>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>elle ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>it changed while it was read</source>
+        <translation>elle a changé pendant la lecture</translation>
+    </message>
+</context>
+<context>
     <name>CompanionDrawing</name>
     <message>
         <source>Δ flight minus reference</source>
@@ -303,6 +314,25 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
 </context>
 <context>
+    <name>FlightAdder</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be read to its end</source>
+        <translation>« %1 » ne peut pas être lu jusqu&apos;au bout</translation>
+    </message>
+    <message>
+        <source>there is no sample in it</source>
+        <translation>elle ne contient aucun échantillon</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>la mémoire ne suffit pas</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no folder</source>
+        <translation>« %1 » n&apos;est pas un dossier</translation>
+    </message>
+</context>
+<context>
     <name>FlightSummary</name>
     <message>
         <source>Duration %1</source>
@@ -342,6 +372,13 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
 </context>
 <context>
+    <name>FlightTables</name>
+    <message>
+        <source>the logbook has no flight &quot;%1&quot;</source>
+        <translation>le carnet n&apos;a pas de vol « %1 »</translation>
+    </message>
+</context>
+<context>
     <name>GraphCaption</name>
     <message>
         <source>%1 to %2 (%3 recordings)</source>
@@ -350,6 +387,51 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <message>
         <source>%1 to %2 on the recording&apos;s clock</source>
         <translation>%1 à %2 à l&apos;horloge de l&apos;enregistrement</translation>
+    </message>
+</context>
+<context>
+    <name>Logbook</name>
+    <message>
+        <source>the logbook has no flight &quot;%1&quot;</source>
+        <translation>le carnet n&apos;a pas de vol « %1 »</translation>
+    </message>
+    <message>
+        <source>the keys of several flights begin with &quot;%1&quot;</source>
+        <translation>les clés de plusieurs vols commencent par « %1 »</translation>
+    </message>
+    <message>
+        <source>the logbook has no flight of the engine &quot;%1&quot;</source>
+        <translation>le carnet n&apos;a pas de vol du moteur « %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>LogbookPlace</name>
+    <message>
+        <source>the logbook&apos;s URL is neither sqlite:PATH nor postgresql://user@host:port/database</source>
+        <translation>l&apos;URL du carnet n&apos;est ni sqlite:CHEMIN ni postgresql://utilisateur@hôte:port/base</translation>
+    </message>
+    <message>
+        <source>the logbook&apos;s URL has an option that is not understood; known are %1</source>
+        <translation>l&apos;URL du carnet a une option inconnue ; sont connues %1</translation>
+    </message>
+    <message>
+        <source>there is no home directory for a logbook; name one by its URL</source>
+        <translation>il n&apos;y a pas de dossier personnel pour un carnet ; indiquez-en un par son URL</translation>
+    </message>
+</context>
+<context>
+    <name>LogbookSchema</name>
+    <message>
+        <source>&quot;%1&quot; is no logbook: another program&apos;s tables are in it</source>
+        <translation>« %1 » n&apos;est pas un carnet&#xa0;: il contient les tables d&apos;un autre programme</translation>
+    </message>
+    <message>
+        <source>the logbook %1 is of version %2, this program knows versions up to %3; a newer program is needed</source>
+        <translation>le carnet %1 est de la version %2, ce programme connaît les versions jusqu&apos;à %3 ; il faut un programme plus récent</translation>
+    </message>
+    <message>
+        <source>there is no logbook in %1</source>
+        <translation>il n&apos;y a pas de carnet dans %1</translation>
     </message>
 </context>
 <context>
@@ -853,6 +935,29 @@ Choose a folder that can be written, with enough free space, and a name that end
         <translation>L&apos;image n&apos;a pas pu être enregistrée sous
 %1
 Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, et un nom qui se termine par .bmp, .png, .svg ou .jpg.</translation>
+    </message>
+</context>
+<context>
+    <name>SqlConnection</name>
+    <message>
+        <source>there is no logbook &quot;%1&quot;</source>
+        <translation>il n&apos;y a pas de carnet « %1 »</translation>
+    </message>
+    <message>
+        <source>the database driver %1 is not installed (package %2)</source>
+        <translation>le pilote de base de données %1 n&apos;est pas installé (paquet %2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no logbook: it is no database</source>
+        <translation>« %1 » n&apos;est pas un carnet&#xa0;: ce n&apos;est pas une base de données</translation>
+    </message>
+    <message>
+        <source>the logbook &quot;%1&quot; is damaged</source>
+        <translation>le carnet « %1 » est endommagé</translation>
+    </message>
+    <message>
+        <source>logbook %1: %2</source>
+        <translation>carnet %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,17 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt" sourcelanguage="en">
 <context>
+    <name>AdderTexts</name>
+    <message>
+        <source>it can&apos;t be read</source>
+        <translation>não pode ser lida</translation>
+    </message>
+    <message>
+        <source>it changed while it was read</source>
+        <translation>mudou durante a leitura</translation>
+    </message>
+</context>
+<context>
     <name>CompanionDrawing</name>
     <message>
         <source>Δ flight minus reference</source>
@@ -303,6 +314,25 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     </message>
 </context>
 <context>
+    <name>FlightAdder</name>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be read to its end</source>
+        <translation>“%1” não pode ser lido até o fim</translation>
+    </message>
+    <message>
+        <source>there is no sample in it</source>
+        <translation>não contém nenhuma amostra</translation>
+    </message>
+    <message>
+        <source>there is not enough memory for it</source>
+        <translation>não há memória suficiente</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no folder</source>
+        <translation>“%1” não é uma pasta</translation>
+    </message>
+</context>
+<context>
     <name>FlightSummary</name>
     <message>
         <source>Duration %1</source>
@@ -342,6 +372,13 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     </message>
 </context>
 <context>
+    <name>FlightTables</name>
+    <message>
+        <source>the logbook has no flight &quot;%1&quot;</source>
+        <translation>o diário não tem nenhum voo “%1”</translation>
+    </message>
+</context>
+<context>
     <name>GraphCaption</name>
     <message>
         <source>%1 to %2 (%3 recordings)</source>
@@ -350,6 +387,51 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     <message>
         <source>%1 to %2 on the recording&apos;s clock</source>
         <translation>%1 a %2 no relógio da gravação</translation>
+    </message>
+</context>
+<context>
+    <name>Logbook</name>
+    <message>
+        <source>the logbook has no flight &quot;%1&quot;</source>
+        <translation>o diário não tem nenhum voo “%1”</translation>
+    </message>
+    <message>
+        <source>the keys of several flights begin with &quot;%1&quot;</source>
+        <translation>as chaves de vários voos começam com “%1”</translation>
+    </message>
+    <message>
+        <source>the logbook has no flight of the engine &quot;%1&quot;</source>
+        <translation>o diário não tem nenhum voo do motor “%1”</translation>
+    </message>
+</context>
+<context>
+    <name>LogbookPlace</name>
+    <message>
+        <source>the logbook&apos;s URL is neither sqlite:PATH nor postgresql://user@host:port/database</source>
+        <translation>a URL do diário não é nem sqlite:CAMINHO nem postgresql://usuário@máquina:porta/banco</translation>
+    </message>
+    <message>
+        <source>the logbook&apos;s URL has an option that is not understood; known are %1</source>
+        <translation>a URL do diário tem uma opção desconhecida; são conhecidas %1</translation>
+    </message>
+    <message>
+        <source>there is no home directory for a logbook; name one by its URL</source>
+        <translation>não há pasta pessoal para um diário; indique um pela URL</translation>
+    </message>
+</context>
+<context>
+    <name>LogbookSchema</name>
+    <message>
+        <source>&quot;%1&quot; is no logbook: another program&apos;s tables are in it</source>
+        <translation>“%1” não é um diário: contém tabelas de outro programa</translation>
+    </message>
+    <message>
+        <source>the logbook %1 is of version %2, this program knows versions up to %3; a newer program is needed</source>
+        <translation>o diário %1 é da versão %2, este programa conhece até a %3; é preciso um programa mais novo</translation>
+    </message>
+    <message>
+        <source>there is no logbook in %1</source>
+        <translation>não há diário em %1</translation>
     </message>
 </context>
 <context>
@@ -853,6 +935,29 @@ Choose a folder that can be written, with enough free space, and a name that end
         <translation>Não foi possível salvar a imagem como
 %1
 Escolha uma pasta em que se possa escrever, com espaço livre suficiente, e um nome que termine em .bmp, .png, .svg ou .jpg.</translation>
+    </message>
+</context>
+<context>
+    <name>SqlConnection</name>
+    <message>
+        <source>there is no logbook &quot;%1&quot;</source>
+        <translation>não existe o diário “%1”</translation>
+    </message>
+    <message>
+        <source>the database driver %1 is not installed (package %2)</source>
+        <translation>o driver de banco de dados %1 não está instalado (pacote %2)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no logbook: it is no database</source>
+        <translation>“%1” não é um diário: não é um banco de dados</translation>
+    </message>
+    <message>
+        <source>the logbook &quot;%1&quot; is damaged</source>
+        <translation>o diário “%1” está danificado</translation>
+    </message>
+    <message>
+        <source>logbook %1: %2</source>
+        <translation>diário %1: %2</translation>
     </message>
 </context>
 <context>
