@@ -72,6 +72,7 @@ void loadFigures(Suite& suite);
 void decodeFigures(Suite& suite);
 void statisticsFigures(Suite& suite);
 void reportFigures(Suite& suite);
+void logbookFigures(Suite& suite);
 void tableFigures(Suite& suite);
 void graphFigures(Suite& suite);
 void exportFigures(Suite& suite);

@@ -13,5 +13,5 @@ int main(int argc, char** argv)
     return Bench::measure(options,
                           {Bench::loadFigures, Bench::decodeFigures, Bench::tableFigures,
                            Bench::graphFigures, Bench::statisticsFigures, Bench::reportFigures,
-                           Bench::exportFigures, Bench::peerFigures});
+                           Bench::exportFigures, Bench::logbookFigures, Bench::peerFigures});
 }

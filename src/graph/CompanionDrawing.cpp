@@ -38,7 +38,7 @@ void CompanionDrawing::drawReference(const ParStruct& curve, const GraphColor& c
     const GraphColor faint = mixed(color, mStyle.back);
     mCanvas.clip(mView.x0, curve.strip.y0, mView.width, curve.strip.height);
     mLine.buildLine(curve.reference.frames.frames(), curve.strip,
-                    mModel.layout().reference().viewOf(mView));
+                    mModel.layout().reference().viewOf(mView), false);
     for (const GraphLine::Strip& strip : mLine.strips()) {
         const float* points = mLine.points().data() + std::ptrdiff_t(strip.first) * 2;
         if (strip.count > 1) {

@@ -4,9 +4,20 @@
 #include <QtGui/QOpenGLFunctions>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace TARN {
+
+namespace {
+
+std::array<GLubyte, 4> bytesOf(const GraphColor& color)
+{
+    const auto part = [](float value) { return static_cast<GLubyte>(std::lround(value * 255.0F)); };
+    return {part(color.red), part(color.green), part(color.blue), 255};
+}
+
+} // namespace
 
 void GlCanvas::begin(QSize size, double ratio, const GraphColor& background)
 {
@@ -84,25 +95,25 @@ void GlCanvas::dashed(const float* points, int count, const GraphColor& color,
     mColors.clear();
     for (int k = 0; k < count; ++k) {
         addDashes(points + std::ptrdiff_t(2) * std::max(k - 1, 0), points + std::ptrdiff_t(2) * k,
-                  color, between);
+                  bytesOf(color), bytesOf(between));
     }
     glShadeModel(GL_FLAT);
     glEnableClientState(GL_COLOR_ARRAY);
-    glColorPointer(3, GL_FLOAT, 0, mColors.data());
+    glColorPointer(4, GL_UNSIGNED_BYTE, 0, mColors.data());
     glVertexPointer(2, GL_FLOAT, 0, mPoints.data());
     glDrawArrays(GL_LINE_STRIP, 0, static_cast<GLsizei>(mPoints.size() / 2));
     glDisableClientState(GL_COLOR_ARRAY);
 }
 
 /// The way from one point to the next, cut where dashes end.
-void GlCanvas::addDashes(const float* start, const float* stop, const GraphColor& color,
-                         const GraphColor& between)
+void GlCanvas::addDashes(const float* start, const float* stop, ColorBytes color,
+                         ColorBytes between)
 {
     constexpr float Dash = 4.0F; // pixels
     const auto add = [&](float x, float y, float left) {
-        const GraphColor& now = (static_cast<int>(left / Dash) & 1) == 0 ? color : between;
-        mPoints.insert(mPoints.end(), {x, y});
-        mColors.insert(mColors.end(), {now.red, now.green, now.blue});
+        mPoints.push_back(x);
+        mPoints.push_back(y);
+        mColors.push_back((static_cast<int>(left / Dash) & 1) == 0 ? color : between);
     };
     float from = start[0];
     const float slope = stop[0] > from ? (stop[1] - start[1]) / (stop[0] - from) : 0.0F;

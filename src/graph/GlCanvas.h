@@ -2,6 +2,8 @@
 
 #include "graph/GraphCanvas.h"
 
+#include <array>
+
 namespace TARN {
 
 /// Draws with fixed-function OpenGL that every driver has. Only between begin and end, with a
@@ -30,13 +32,14 @@ private:
     void draw(unsigned mode, const float* points, int count, const GraphColor& color,
               float alpha = 1.0F) const;
 
-    void addDashes(const float* start, const float* stop, const GraphColor& color,
-                   const GraphColor& between);
+    using ColorBytes = std::array<unsigned char, 4>; ///< red, green, blue, opacity
+
+    void addDashes(const float* start, const float* stop, ColorBytes color, ColorBytes between);
 
     double mRatio = 1.0;
     float mWidth = 0.0F;        ///< pixels
     std::vector<float> mPoints; ///< of what is dashed; kept to spare allocations
-    std::vector<float> mColors;
+    std::vector<ColorBytes> mColors;
 };
 
 } // namespace TARN

@@ -65,7 +65,7 @@ private:
 };
 
 void GraphLine::buildLine(std::span<const FrameType> frames, const GraphStrip& strip,
-                          const GraphView& view)
+                          const GraphView& view, bool withFillings)
 {
     mPoints.clear();
     mStrips.clear();
@@ -78,7 +78,7 @@ void GraphLine::buildLine(std::span<const FrameType> frames, const GraphStrip& s
             endStrip();
         }
         addFrame(frames[k], scale);
-        if (k + 1 < frames.size() && !frames[k + 1].afterGap &&
+        if (withFillings && k + 1 < frames.size() && !frames[k + 1].afterGap &&
             scale.touch(frames[k], frames[k + 1])) {
             addFilling(frames[k], frames[k + 1], scale);
         }

@@ -27,7 +27,7 @@ public:
         buildLine(curve.frames.frames(), curve.strip, view);
     }
     void buildLine(std::span<const FrameType> frames, const GraphStrip& strip,
-                   const GraphView& view);
+                   const GraphView& view, bool withFillings = true);
 
     /// A point for each value that the frames hold.
     void buildSamples(const ParStruct& curve, const GraphView& view);

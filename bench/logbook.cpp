@@ -1,0 +1,112 @@
+#include "logbook/Logbook.h"
+
+#include "Suite.h"
+#include "demo/Card.h"
+#include "logbook/FlightAdder.h"
+
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <unistd.h>
+
+namespace TARN::Bench {
+
+namespace {
+
+/// Folders with a recording each, all of the same samples on days of their own, and a logbook.
+class LogbookBench
+{
+public:
+    LogbookBench(Suite& suite, std::size_t flights, int minutes)
+        : mFolder(suite.folder() / "logbook"), mProfile(Profile::load(ORNA_BENCH_PROFILE))
+    {
+        Demo::CardOptions demo;
+        demo.folder = (suite.folder() / "one").string();
+        demo.minutes = minutes;
+        demo.files = 1;
+        require(Demo::writeCard(demo).empty(), "the demo flight was not written");
+        const auto one = std::filesystem::path(demo.folder) / "LOG_0001.CAN";
+        for (std::size_t k = 0; k < flights; ++k) {
+            const auto folder = mFolder / std::to_string(k);
+            std::filesystem::create_directories(folder);
+            mFiles.push_back(folder / "LOG_0001.CAN");
+            std::filesystem::copy_file(one, mFiles.back());
+            setDay(mFiles.back(), k);
+        }
+    }
+
+    double ratio()
+    {
+        return ratioOf([this] { return addSeconds(); }, [this] { return readSeconds(); }, 3);
+    }
+
+private:
+    /// Days of months that all years have.
+    static void setDay(const std::filesystem::path& file, std::size_t k)
+    {
+        constexpr std::streamoff Month = 14; // in the header; the day is behind it
+        constexpr std::size_t Days = 28;
+        std::fstream header(file, std::ios::in | std::ios::out | std::ios::binary);
+        header.seekp(Month);
+        header.put(static_cast<char>(1 + k / Days % 12)).put(static_cast<char>(1 + k % Days));
+        require(header.good(), "a recording was not written");
+    }
+
+    double addSeconds()
+    {
+        const std::string path = (mFolder / "Logbook.sqlite").string();
+        for (const char* suffix : {"", "-wal", "-shm"}) {
+            std::filesystem::remove(path + suffix);
+        }
+        Progress none;
+        const QString url = "sqlite:" + QString::fromStdString(path);
+        AddTotals totals;
+        const double seconds = secondsOf([&] {
+            totals = addFlights({QString::fromStdString(mFolder.string())}, url, mProfile, 0,
+                                {[](const AddOutcome&, const AddTotals&) {}, {}}, none);
+        });
+        require(totals.added == mFiles.size(), "not every flight was added");
+        return seconds;
+    }
+
+    double readSeconds() const
+    {
+        return secondsOf([this] {
+            for (const std::filesystem::path& path : mFiles) {
+                readWhole(path);
+            }
+        });
+    }
+
+    static void readWhole(const std::filesystem::path& path)
+    {
+        const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+        const auto size = std::filesystem::file_size(path);
+        const std::unique_ptr<char, decltype(&std::free)> bytes(
+            static_cast<char*>(std::malloc(size)), std::free);
+        std::size_t done = 0;
+        for (ssize_t got = 1; got > 0 && done < size; done += static_cast<std::size_t>(got)) {
+            got = read(file, bytes.get() + done, size - done);
+        }
+        close(file);
+        require(done == size, "short read");
+    }
+
+    std::filesystem::path mFolder;
+    std::vector<std::filesystem::path> mFiles;
+    std::shared_ptr<const Profile> mProfile;
+};
+
+} // namespace
+
+void logbookFigures(Suite& suite)
+{
+    if (suite.isWanted("logbook.add")) {
+        const bool isQuick = suite.options().quick;
+        LogbookBench bench(suite, isQuick ? 10 : 50, isQuick ? 8 : 32); // 20 MB
+        suite.figure("logbook.add", 4.0, [&] { return bench.ratio(); });
+    }
+}
+
+} // namespace TARN::Bench
