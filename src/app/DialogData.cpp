@@ -42,9 +42,16 @@ DialogData::DialogData(Session& session, QWidget* parent)
             [](const ProfileInfo& profile) { return !profile.faultMatrices.empty(); });
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(mBar);
-    layout->addWidget(new ReferenceBar(session));
     layout->addWidget(mTabs, 1);
     layout->addWidget(mControls);
+    // Made when it is first of use: the start does not wait for it.
+    connect(&mSession.reference(), &Reference::flightChanged, this,
+            [this, layout, isMade = false]() mutable {
+                if (!isMade && mSession.reference().flight() != nullptr) {
+                    layout->insertWidget(1, new ReferenceBar(mSession));
+                    isMade = true;
+                }
+            });
     connect(mControls, &TimeControls::signalMessage, this, &DialogData::signalMessage);
     connect(&mSession, &Session::profileChanged, this, &DialogData::showProfile);
     connect(mBar, &FlightBar::counted, this, &DialogData::showCounts);

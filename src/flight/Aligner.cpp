@@ -11,6 +11,7 @@ Aligner::Aligner(Session& session, QObject* parent) : QObject(parent), mSession(
     connect(&mSession, &Session::offsetChanged, this, &Aligner::takeOffset);
     connect(&mSession.reference(), &Reference::flightChanged, this, &Aligner::align);
     connect(&mSession.reference(), &Reference::alignmentChanged, this, &Aligner::align);
+    takeFlight();
 }
 
 /// A moment that was picked is one of the flight before.

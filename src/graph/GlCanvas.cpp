@@ -4,20 +4,10 @@
 #include <QtGui/QOpenGLFunctions>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <utility>
 
 namespace TARN {
-
-namespace {
-
-std::array<GLubyte, 4> bytesOf(const GraphColor& color)
-{
-    const auto part = [](float value) { return static_cast<GLubyte>(std::lround(value * 255.0F)); };
-    return {part(color.red), part(color.green), part(color.blue), 255};
-}
-
-} // namespace
 
 void GlCanvas::begin(QSize size, double ratio, const GraphColor& background)
 {
@@ -87,33 +77,36 @@ void GlCanvas::strip(const float* points, int count, const GraphColor& color)
     draw(GL_LINE_STRIP, points, count, color);
 }
 
-/// One pass for both colours: a segment has that of its end, and none is longer than a dash.
+/// Each segment in one of two colours; none is longer than a dash.
 void GlCanvas::dashed(const float* points, int count, const GraphColor& color,
                       const GraphColor& between)
 {
     mPoints.clear();
-    mColors.clear();
+    mDashes.clear();
+    mGaps.clear();
     for (int k = 0; k < count; ++k) {
-        addDashes(points + std::ptrdiff_t(2) * std::max(k - 1, 0), points + std::ptrdiff_t(2) * k,
-                  bytesOf(color), bytesOf(between));
+        addDashes(points + std::ptrdiff_t(2) * std::max(k - 1, 0), points + std::ptrdiff_t(2) * k);
     }
-    glShadeModel(GL_FLAT);
-    glEnableClientState(GL_COLOR_ARRAY);
-    glColorPointer(4, GL_UNSIGNED_BYTE, 0, mColors.data());
     glVertexPointer(2, GL_FLOAT, 0, mPoints.data());
-    glDrawArrays(GL_LINE_STRIP, 0, static_cast<GLsizei>(mPoints.size() / 2));
-    glDisableClientState(GL_COLOR_ARRAY);
+    for (const auto& [ends, ink] : {std::pair(&mGaps, between), std::pair(&mDashes, color)}) {
+        glColor4f(ink.red, ink.green, ink.blue, 1.0F);
+        glDrawElements(GL_LINES, static_cast<GLsizei>(ends->size()), GL_UNSIGNED_INT, ends->data());
+    }
 }
 
 /// The way from one point to the next, cut where dashes end.
-void GlCanvas::addDashes(const float* start, const float* stop, ColorBytes color,
-                         ColorBytes between)
+void GlCanvas::addDashes(const float* start, const float* stop)
 {
     constexpr float Dash = 4.0F; // pixels
     const auto add = [&](float x, float y, float left) {
+        const auto number = static_cast<unsigned>(mPoints.size() / 2);
         mPoints.push_back(x);
         mPoints.push_back(y);
-        mColors.push_back((static_cast<int>(left / Dash) & 1) == 0 ? color : between);
+        if (number > 0) {
+            auto& ends = (static_cast<int>(left / Dash) & 1) == 0 ? mDashes : mGaps;
+            ends.push_back(number - 1);
+            ends.push_back(number);
+        }
     };
     float from = start[0];
     const float slope = stop[0] > from ? (stop[1] - start[1]) / (stop[0] - from) : 0.0F;

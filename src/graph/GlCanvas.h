@@ -2,7 +2,7 @@
 
 #include "graph/GraphCanvas.h"
 
-#include <array>
+#include <vector>
 
 namespace TARN {
 
@@ -32,14 +32,13 @@ private:
     void draw(unsigned mode, const float* points, int count, const GraphColor& color,
               float alpha = 1.0F) const;
 
-    using ColorBytes = std::array<unsigned char, 4>; ///< red, green, blue, opacity
-
-    void addDashes(const float* start, const float* stop, ColorBytes color, ColorBytes between);
+    void addDashes(const float* start, const float* stop);
 
     double mRatio = 1.0;
-    float mWidth = 0.0F;        ///< pixels
-    std::vector<float> mPoints; ///< of what is dashed; kept to spare allocations
-    std::vector<ColorBytes> mColors;
+    float mWidth = 0.0F;           ///< pixels
+    std::vector<float> mPoints;    ///< of what is dashed; kept to spare allocations
+    std::vector<unsigned> mDashes; ///< numbers of the points at both ends of segments
+    std::vector<unsigned> mGaps;
 };
 
 } // namespace TARN
