@@ -4,6 +4,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace TARN::Bench {
 
@@ -21,6 +22,10 @@ double secondsOf(Work work)
     work();
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
+
+/// The least that a program can do which wants the bytes of files in its memory, one after the
+/// other, each of them fresh.
+double secondsOfReading(const std::vector<std::string>& paths);
 
 /// Keeps the compiler from dropping the computation of \p value.
 template <typename Value>

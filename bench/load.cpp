@@ -27,24 +27,9 @@ Measurement loadOf(const std::string& path, unsigned threads = 0)
     };
 }
 
-/// The least that a program can do which wants the file's bytes in its memory.
 Measurement plainReadOf(const std::string& path)
 {
-    return [path] {
-        std::unique_ptr<char, decltype(&std::free)> bytes(nullptr, std::free);
-        return secondsOf([&] {
-            const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-            const auto size = static_cast<std::size_t>(lseek(file, 0, SEEK_END));
-            bytes.reset(static_cast<char*>(std::malloc(size)));
-            lseek(file, 0, SEEK_SET);
-            std::size_t done = 0;
-            for (ssize_t got = 1; got > 0 && done < size; done += static_cast<std::size_t>(got)) {
-                got = read(file, bytes.get() + done, size - done);
-            }
-            close(file);
-            require(done == size, "short read");
-        });
-    };
+    return [path] { return secondsOfReading({path}); };
 }
 
 double bytesFromSystem()

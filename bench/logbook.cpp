@@ -4,11 +4,8 @@
 #include "demo/Card.h"
 #include "logbook/FlightAdder.h"
 
-#include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
-#include <unistd.h>
 
 namespace TARN::Bench {
 
@@ -30,7 +27,7 @@ public:
         for (std::size_t k = 0; k < flights; ++k) {
             const auto folder = mFolder / std::to_string(k);
             std::filesystem::create_directories(folder);
-            mFiles.push_back(folder / "LOG_0001.CAN");
+            mFiles.push_back((folder / "LOG_0001.CAN").string());
             std::filesystem::copy_file(one, mFiles.back());
             setDay(mFiles.back(), k);
         }
@@ -38,12 +35,13 @@ public:
 
     double ratio()
     {
-        return ratioOf([this] { return addSeconds(); }, [this] { return readSeconds(); }, 3);
+        return ratioOf([this] { return addSeconds(); }, [this] { return secondsOfReading(mFiles); },
+                       3);
     }
 
 private:
     /// Days of months that all years have.
-    static void setDay(const std::filesystem::path& file, std::size_t k)
+    static void setDay(const std::string& file, std::size_t k)
     {
         constexpr std::streamoff Month = 14; // in the header; the day is behind it
         constexpr std::size_t Days = 28;
@@ -70,31 +68,8 @@ private:
         return seconds;
     }
 
-    double readSeconds() const
-    {
-        return secondsOf([this] {
-            for (const std::filesystem::path& path : mFiles) {
-                readWhole(path);
-            }
-        });
-    }
-
-    static void readWhole(const std::filesystem::path& path)
-    {
-        const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-        const auto size = std::filesystem::file_size(path);
-        const std::unique_ptr<char, decltype(&std::free)> bytes(
-            static_cast<char*>(std::malloc(size)), std::free);
-        std::size_t done = 0;
-        for (ssize_t got = 1; got > 0 && done < size; done += static_cast<std::size_t>(got)) {
-            got = read(file, bytes.get() + done, size - done);
-        }
-        close(file);
-        require(done == size, "short read");
-    }
-
     std::filesystem::path mFolder;
-    std::vector<std::filesystem::path> mFiles;
+    std::vector<std::string> mFiles;
     std::shared_ptr<const Profile> mProfile;
 };
 

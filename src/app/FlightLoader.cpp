@@ -47,12 +47,9 @@ void FlightLoader::take(const ReadFlight& read)
     if (read.flight == nullptr) {
         end(read.error);
     } else if (read.flight->profile() != mSession.profile()) {
-        // Another profile has come meanwhile.
-        mReading.start(
-            [record = read.record, profile = mSession.profile()](Progress& progress) {
-                return ReadFlight{record, Flight::make(record, profile, progress), {}};
-            },
-            [this](const ReadFlight& again) { take(again); });
+        mReading.start([read, profile = mSession.profile()](
+                           Progress& progress) { return understoodBy(profile, read, progress); },
+                       [this](const ReadFlight& again) { take(again); });
     } else {
         mSession.switches().loading.turn(false);
         mSession.setFlight(read.flight);

@@ -21,6 +21,12 @@ ReadFlight readFlight(const std::list<QString>& files, double offset,
     return {record, Flight::make(record, std::move(profile), progress), {}};
 }
 
+ReadFlight understoodBy(std::shared_ptr<const Profile> profile, const ReadFlight& read,
+                        Progress& progress)
+{
+    return {read.record, Flight::make(read.record, std::move(profile), progress), {}};
+}
+
 std::list<QString> filesOf(const Flight* flight)
 {
     std::list<QString> paths;

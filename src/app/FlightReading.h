@@ -20,6 +20,10 @@ ReadFlight readFlight(const std::list<QString>& files, double offset,
                       std::shared_ptr<const Profile> profile, const QString& task,
                       Progress& progress);
 
+/// The same recordings as another profile understands them, which came meanwhile.
+ReadFlight understoodBy(std::shared_ptr<const Profile> profile, const ReadFlight& read,
+                        Progress& progress);
+
 /// The files that a flight was read from; none of no flight.
 std::list<QString> filesOf(const Flight* flight);
 

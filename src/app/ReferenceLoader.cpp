@@ -44,12 +44,9 @@ void ReferenceLoader::take(const ReadFlight& read)
     if (read.flight == nullptr) {
         Q_EMIT failed(read.error);
     } else if (read.flight->profile() != mSession.profile()) {
-        // Another profile has come meanwhile.
-        mReading.start(
-            [record = read.record, profile = mSession.profile()](Progress& progress) {
-                return ReadFlight{record, Flight::make(record, profile, progress), {}};
-            },
-            [this](const ReadFlight& again) { take(again); });
+        mReading.start([read, profile = mSession.profile()](
+                           Progress& progress) { return understoodBy(profile, read, progress); },
+                       [this](const ReadFlight& again) { take(again); });
     } else {
         mSession.reference().setFlight(read.flight);
         Q_EMIT finished();

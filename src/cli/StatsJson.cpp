@@ -26,47 +26,47 @@ Json listOf(const std::vector<Statistics::Above>& all)
     return list;
 }
 
+/// What is told of values and of differences alike.
+void addMeasures(const Statistics& found, Json& line)
+{
+    using Moment = Statistics::Moment;
+    line["min"] = fieldOf(found.min, &Moment::value);
+    line["minTime"] = fieldOf(found.min, &Moment::time);
+    line["max"] = fieldOf(found.max, &Moment::value);
+    line["maxTime"] = fieldOf(found.max, &Moment::time);
+    line["mean"] = numberOf(found.mean);
+    line["stddev"] = numberOf(found.stddev);
+    line["timeMean"] = numberOf(found.timeMean);
+    line["integral"] = numberOf(found.integral);
+}
+
 } // namespace
 
 Json statisticsLine(const ProfileDevice& device, const ProfileParameter& parameter,
                     const Statistics& found)
 {
-    using Moment = Statistics::Moment;
-    return {{"device", device.name.toStdString()},
-            {"parameter", parameter.name.toStdString()},
-            {"channel", static_cast<unsigned>(parameter.channel)},
-            {"id", static_cast<unsigned>(parameter.id)},
-            {"unit", parameter.unit.toStdString()},
-            {"samples", found.samples},
-            {"invalid", found.invalid},
-            {"first", numberOf(found.first)},
-            {"last", numberOf(found.last)},
-            {"min", fieldOf(found.min, &Moment::value)},
-            {"minTime", fieldOf(found.min, &Moment::time)},
-            {"max", fieldOf(found.max, &Moment::value)},
-            {"maxTime", fieldOf(found.max, &Moment::time)},
-            {"mean", numberOf(found.mean)},
-            {"stddev", numberOf(found.stddev)},
-            {"timeMean", numberOf(found.timeMean)},
-            {"integral", numberOf(found.integral)},
-            {"gaps", found.gaps},
-            {"gapSeconds", found.gapSeconds},
-            {"gapLimit", numberOf(found.gapLimit)},
-            {"above", listOf(found.above)}};
+    Json line = {{"device", device.name.toStdString()},
+                 {"parameter", parameter.name.toStdString()},
+                 {"channel", static_cast<unsigned>(parameter.channel)},
+                 {"id", static_cast<unsigned>(parameter.id)},
+                 {"unit", parameter.unit.toStdString()},
+                 {"samples", found.samples},
+                 {"invalid", found.invalid},
+                 {"first", numberOf(found.first)},
+                 {"last", numberOf(found.last)}};
+    addMeasures(found, line);
+    line["gaps"] = found.gaps;
+    line["gapSeconds"] = found.gapSeconds;
+    line["gapLimit"] = numberOf(found.gapLimit);
+    line["above"] = listOf(found.above);
+    return line;
 }
 
 Json differenceOf(const Statistics& found)
 {
-    using Moment = Statistics::Moment;
-    return {{"samples", found.samples},
-            {"min", fieldOf(found.min, &Moment::value)},
-            {"minTime", fieldOf(found.min, &Moment::time)},
-            {"max", fieldOf(found.max, &Moment::value)},
-            {"maxTime", fieldOf(found.max, &Moment::time)},
-            {"mean", numberOf(found.mean)},
-            {"stddev", numberOf(found.stddev)},
-            {"timeMean", numberOf(found.timeMean)},
-            {"integral", numberOf(found.integral)}};
+    Json line = {{"samples", found.samples}};
+    addMeasures(found, line);
+    return line;
 }
 
 } // namespace TARN

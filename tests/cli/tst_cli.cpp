@@ -10,21 +10,6 @@
 using namespace TARN;
 using nlohmann::json;
 
-namespace {
-
-/// JSON objects, one a line.
-std::vector<json> linesOf(const std::string& text)
-{
-    std::vector<json> parsed;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);) {
-        parsed.push_back(json::parse(line));
-    }
-    return parsed;
-}
-
-} // namespace
-
 /// What the command line takes, prints and answers; what it shows is decided by the core.
 class TestCli : public FlightTest
 {

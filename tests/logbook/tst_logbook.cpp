@@ -21,16 +21,6 @@ using nlohmann::json;
 
 namespace {
 
-std::vector<json> linesOf(const std::string& text)
-{
-    std::vector<json> parsed;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);) {
-        parsed.push_back(json::parse(line));
-    }
-    return parsed;
-}
-
 /// What a piece of work threw.
 QString failureOf(const std::function<void()>& work)
 {

@@ -5,6 +5,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QStringList>
 
+#include <nlohmann/json.hpp>
 #include <sstream>
 #include <vector>
 
@@ -30,6 +31,17 @@ inline CommandRun runCommand(const QStringList& arguments)
     std::ostringstream error;
     const int status = TARN::runCommandLine(static_cast<int>(argv.size()), argv.data(), out, error);
     return {status, out.str(), error.str()};
+}
+
+/// JSON objects, one a line.
+inline std::vector<nlohmann::json> linesOf(const std::string& text)
+{
+    std::vector<nlohmann::json> parsed;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        parsed.push_back(nlohmann::json::parse(line));
+    }
+    return parsed;
 }
 
 /// JSON written with single quotation marks in a test, for the eye's sake.
