@@ -435,6 +435,60 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
 </context>
 <context>
+    <name>LogbookSettings</name>
+    <message>
+        <source>Added: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>known already: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not looked at: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not added: %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MaintenanceDialog</name>
+    <message>
+        <source>Maintenance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was done to engine %1? Trends compare flights only with those since the last note.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flights from this moment on are behind the maintenance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cylinder 6 replaced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Date (UTC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note It</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>NotePlaces</name>
     <message>
         <source>%1 to %2, %3 s</source>
@@ -600,6 +654,17 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <message>
         <source>Header dates from %1 to %2, but the samples last %3 s: the files are not of one flight</source>
         <translation>Dates d&apos;en-tête de %1 à %2, mais les échantillons couvrent %3 s&#xa0;: les fichiers ne sont pas d&apos;un même vol</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingFinder</name>
+    <message>
+        <source>Files named %1 were found, but they hold another flight.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files %1 were not found.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1142,6 +1207,18 @@ Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, e
     <message>
         <source>Flight Report</source>
         <translation>Rapport de vol</translation>
+    </message>
+    <message>
+        <source>&amp;Logbook...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the Flights That Were Kept, and What Changes from One to the Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logbook</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1873,6 +1950,110 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     </message>
 </context>
 <context>
+    <name>TARN::DialogLogbook</name>
+    <message>
+        <source>Stop adding; what was added stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logbook</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the logbook...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add every flight that you open to this logbook? Only statistics and events are kept. You can change that under Extras, Preferences.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Yes, Add Them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add Folder...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the flights of a folder and of all folders in it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Maintenance...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Note that something was done to the engine: trends begin anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every flight that you open is added from now on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The logbook is empty.
+&lt;a href=&quot;add&quot;&gt;Add a folder&lt;/a&gt; of recordings; the folders in it are looked through too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no profile by which recordings could be understood. Choose one under Extras, Preferences.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a Folder to the Logbook</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a flight of the engine first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the flight of %1 from the logbook?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its recordings stay where they are and can be added again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Looking for its recordings...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opened: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where are the recordings of the flight of %1? The folders in the one that you choose are looked through too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose Folder...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find Recordings</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogMain</name>
     <message>
         <source>[edited]</source>
@@ -2042,6 +2223,30 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     <message>
         <source>Numbers on the screen with all the digits that were recorded, instead of the fewest that read back as the same number; exports have them always</source>
         <translation>Nombres à l&apos;écran avec tous les chiffres enregistrés, au lieu du minimum qui redonne le même nombre&#xa0;; les exports les contiennent toujours</translation>
+    </message>
+    <message>
+        <source>Add every flight that I open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logbook :</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file of the program&apos;s own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where flights are kept: empty for this machine alone, &quot;postgresql://user@host/database&quot; for a team. A password is taken from PGPASSWORD or ~/.pgpass and never kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logbook</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps statistics and events of every flight in the logbook, not its samples</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2324,6 +2529,150 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
 </context>
 <context>
+    <name>TARN::FlightList</name>
+    <message>
+        <source>Show the flights of this engine only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Engine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter (Ctrl+F)</source>
+        <translation>Filtre (Ctrl+F)</translation>
+    </message>
+    <message>
+        <source>Show only flights that hold this text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter text</source>
+        <translation>Texte du filtre</translation>
+    </message>
+    <message>
+        <source>Flights</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open as &amp;Reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove from the Logbook...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All engines (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No flight of %1 holds &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::FlightListModel</name>
+    <message>
+        <source>without number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by the UTC in its data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>by its header, in whatever zone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing tells when it was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flight %1, %2.
+Engine %3 %4, profile %5.
+Double-click: open it; with Shift: open it as the reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start (UTC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When the flight began; slanted: by the header&apos;s clock, whose zone is not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>From the first sample to the last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Engine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Serial number of the engine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Le pire</translation>
+    </message>
+    <message>
+        <source>The worst that happened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times out of range that reached a limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warnings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times out of range that did not reach a limit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lamps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times that a warning lamp was on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warnings and faults that the matrices told of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Remarques</translation>
+    </message>
+    <message>
+        <source>What is to be said about the recordings themselves</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TARN::FlightLoader</name>
     <message>
         <source>There is not enough memory for the recording; load fewer at once.</source>
@@ -2395,6 +2744,28 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     <message>
         <source>Measuring Panel</source>
         <translation>Panneau de mesure</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::LogbookAccess</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of %2 flights</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::LogbookKeeper</name>
+    <message>
+        <source>Added to the logbook.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not added to the logbook: %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2984,6 +3355,116 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     </message>
 </context>
 <context>
+    <name>TARN::TrendListModel</name>
+    <message>
+        <source>Parameter</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Device, parameter and unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How far the latest flight lies from the median, in robust standard deviations; red where it is marked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Marked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of flights that leave the band</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the latest flight that has a value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of the other flights since the last maintenance</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TARN::TrendPanel</name>
+    <message>
+        <source>Time mean when steady</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds above WARNING</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times out of range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is compared from flight to flight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Figure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show only parameters that hold this text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter of the parameters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No parameter holds this text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No flight of this engine has a steady stretch of three minutes. What is steady is told by parameters that the profile marks with &quot;steady&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No flight of this engine has this figure.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Engine %1: a band needs five other flights since the last maintenance.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Engine %1: %2 of %3 parameters leave their band in their latest flight.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1%2, %3: %4 of %5 flights leave the band</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TARN::WidgetErrorTime</name>
     <message>
         <source>When errors were active: from the top info, warning, fault. Click to go there.</source>
@@ -3039,6 +3520,29 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     <message>
         <source>Start/Stop Time (recording clock)</source>
         <translation>Heure de début/fin (horloge de l&apos;enregistrement)</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::WidgetTrend</name>
+    <message>
+        <source>Trend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Median of the others %1, sigma %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It leaves the band.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click: open the flight; with Shift: as the reference.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,5 @@
 #include "app/DialogMain.h"
 
-#include "app/ActivityBar.h"
 #include "app/Bundle.h"
 #include "app/CardOpener.h"
 #include "app/CardOverview.h"
@@ -9,6 +8,7 @@
 #include "app/DialogStatusBar.h"
 #include "app/DropHandler.h"
 #include "app/ExportRunner.h"
+#include "app/LogbookKeeper.h"
 #include "app/ProjectKeeper.h"
 #include "app/ReferenceLoader.h"
 #include "app/SmallWindows.h"
@@ -21,6 +21,7 @@
 #include "flight/OffsetKeeper.h"
 #include "record/RecordText.h"
 #include "selection/DialogProfile.h"
+#include "widgets/ActivityBar.h"
 #include "widgets/Kernel.h"
 
 #include <QtGui/QCloseEvent>
@@ -64,7 +65,7 @@ DialogMain::DialogMain(QWidget* parent)
       mOpener(new CardOpener(this)), mLoader(new FlightLoader(mSession, this)),
       mReference(new ReferenceLoader(mSession, this)), mOffset(new OffsetKeeper(mSession, this)),
       mProject(new ProjectKeeper(mSession, *this)), mExports(new ExportRunner(mSession, *this)),
-      mSmallWindows(new SmallWindows(*this))
+      mSmallWindows(new SmallWindows(mSession, *this))
 {
     setStatusBar(mStatusBar);
     createPanes();
@@ -76,6 +77,10 @@ DialogMain::DialogMain(QWidget* parent)
     connectDrops();
     connect(mSmallWindows, &SmallWindows::profileFileChanged, this,
             [this] { chooseProfile(setting("Profile", DefaultProfile)); });
+    connect(mSmallWindows, &SmallWindows::flightWanted, this, &DialogMain::openRecordings);
+    connect(mSmallWindows, &SmallWindows::referenceWanted, mReference, &ReferenceLoader::load);
+    connect(new LogbookKeeper(mSession, this), &LogbookKeeper::signalMessage, mStatusBar,
+            &DialogStatusBar::sayAlso);
     connect(mSmallWindows, &SmallWindows::allDigitsChanged, &mSession.switches().allDigits,
             &Switch::turn);
     setWindowIcon(QIcon(":/icons/orna.svg"));
@@ -213,10 +218,7 @@ void DialogMain::connectDrops()
     auto* drops = new DropHandler(*this);
     connect(drops, &DropHandler::cardDropped, this,
             [this](const QString& folder) { openCard(folder, true); });
-    connect(drops, &DropHandler::recordingsDropped, this, [this](const std::list<QString>& files) {
-        mToPick = files;
-        openCard(files.front().section('/', 0, -2), true);
-    });
+    connect(drops, &DropHandler::recordingsDropped, this, &DialogMain::openRecordings);
     connect(drops, &DropHandler::referenceDropped, mReference, &ReferenceLoader::load);
     connect(drops, &DropHandler::profileDropped, this, [this](const QString& file) {
         storeSetting("Profile", file);
@@ -256,21 +258,13 @@ void DialogMain::run(ActionType type)
     case ActionType::Quit:
         close();
         break;
-    case ActionType::About:
-        mSmallWindows->showAbout();
-        break;
-    case ActionType::Help:
-        mSmallWindows->showHelp();
-        break;
-    case ActionType::Preferences:
-        mSmallWindows->showPreferences();
-        break;
     case ActionType::RecordDetails:
         if (!mDetails->showAll(mSession.flight().get(), mOpener->card())) {
             mStatusBar->say(tr("No recording is listed. Open a card first."));
         }
         break;
     default:
+        mSmallWindows->show(type);
         mExports->start(type);
         break;
     }
@@ -289,6 +283,12 @@ void DialogMain::openCard(const QString& folder, bool remember)
             },
             Qt::SingleShotConnection);
     }
+}
+
+void DialogMain::openRecordings(const std::list<QString>& files)
+{
+    mToPick = files;
+    openCard(files.front().section('/', 0, -2), true);
 }
 
 void DialogMain::chooseProfile(const QString& file)

@@ -58,6 +58,7 @@ private:
     void connectDrops();
     void run(ActionType type);
     void openCard(const QString& folder, bool remember);
+    void openRecordings(const std::list<QString>& files);
     void chooseProfile(const QString& file);
     void takeProfile(const FlightLoader::Understood& understood);
     void reopen();

@@ -2,6 +2,8 @@
 
 #include "app/Bundle.h"
 #include "base/Property.h"
+#include "logbook/LogbookError.h"
+#include "logbook/LogbookSettings.h"
 #include "widgets/QwtComboBox.h"
 
 #include <QtCore/QScopedValueRollback>
@@ -36,7 +38,8 @@ constexpr Language Languages[] = {{"deutsch", "de"}, {"español", "es"},   {"fra
 DialogPreferences::DialogPreferences(QWidget* parent)
     : QDialog(parent), mPageList(new QListWidget), mPages(new QStackedWidget),
       mProfilePath(new QLineEdit), mLanguage(new QwtComboBox(this, 0)),
-      mAllDigits(new QCheckBox(tr("All recorded digits")))
+      mAllDigits(new QCheckBox(tr("All recorded digits"))), mLogbookUrl(new QLineEdit),
+      mLogbookFault(new QLabel), mAddsOpened(new QCheckBox(tr("Add every flight that I open")))
 {
     setWindowTitle(tr("Preferences"));
     mPageList->setMovement(QListView::Static);
@@ -66,6 +69,7 @@ QWidget* DialogPreferences::createGeneralPage()
     createProfileField();
     createLanguageBox();
     createDigitsBox();
+    createLogbookFields();
     auto* browse = new QToolButton;
     browse->setText(tr("..."));
     browse->setToolTip(tr("Choose a profile file"));
@@ -75,6 +79,8 @@ QWidget* DialogPreferences::createGeneralPage()
     profileLabel->setBuddy(mProfilePath);
     auto* languageLabel = new QLabel(tr("Language :"));
     languageLabel->setBuddy(mLanguage);
+    auto* logbookLabel = new QLabel(tr("Logbook :"));
+    logbookLabel->setBuddy(mLogbookUrl);
     auto* page = new QGroupBox(tr("Application"));
     auto* layout = new QGridLayout(page);
     layout->addWidget(profileLabel, 0, 0);
@@ -83,7 +89,11 @@ QWidget* DialogPreferences::createGeneralPage()
     layout->addWidget(languageLabel, 1, 0);
     layout->addWidget(mLanguage, 1, 1, Qt::AlignLeft);
     layout->addWidget(mAllDigits, 2, 1, Qt::AlignLeft);
-    layout->setRowStretch(3, 1);
+    layout->addWidget(logbookLabel, 3, 0);
+    layout->addWidget(mLogbookUrl, 3, 1);
+    layout->addWidget(mLogbookFault, 4, 1);
+    layout->addWidget(mAddsOpened, 5, 1, Qt::AlignLeft);
+    layout->setRowStretch(6, 1);
     layout->setColumnStretch(1, 1);
     return page;
 }
@@ -119,6 +129,41 @@ void DialogPreferences::createDigitsBox()
     connect(mAllDigits, &QCheckBox::toggled, this, &DialogPreferences::slotAllDigits);
 }
 
+void DialogPreferences::createLogbookFields()
+{
+    mLogbookUrl->setObjectName("logbookUrl");
+    mLogbookUrl->setPlaceholderText(tr("a file of the program's own"));
+    mLogbookUrl->setToolTip(tr("Where flights are kept: empty for this machine alone, "
+                               "\"postgresql://user@host/database\" for a team. A password is "
+                               "taken from PGPASSWORD or ~/.pgpass and never kept"));
+    mLogbookUrl->setAccessibleName(tr("Logbook"));
+    mLogbookFault->setWordWrap(true);
+    mLogbookFault->hide();
+    mAddsOpened->setObjectName("addsOpened");
+    mAddsOpened->setToolTip(tr("Keeps statistics and events of every flight in the logbook, not "
+                               "its samples"));
+    connect(mLogbookUrl, &QLineEdit::editingFinished, this, &DialogPreferences::takeLogbookUrl);
+    connect(mAddsOpened, &QCheckBox::toggled, this, [this](bool on) {
+        if (!mFilling) {
+            LogbookSettings::setAddsOpened(on);
+        }
+    });
+}
+
+/// What is wrong is said; the URL before it stays in force.
+void DialogPreferences::takeLogbookUrl()
+{
+    QString fault;
+    try {
+        LogbookSettings::setUrl(mLogbookUrl->text());
+        mLogbookUrl->setText(LogbookSettings::url());
+    } catch (const LogbookError& error) {
+        fault = QString::fromUtf8(error.what());
+    }
+    mLogbookFault->setText(fault);
+    mLogbookFault->setVisible(!fault.isEmpty());
+}
+
 void DialogPreferences::fillDialog()
 {
     const QScopedValueRollback filling(mFilling, true);
@@ -133,6 +178,9 @@ void DialogPreferences::fillDialog()
     }
     mLanguage->setData(current);
     mAllDigits->setChecked(settings->getSwitch("AllDigits", false));
+    mLogbookUrl->setText(LogbookSettings::url());
+    mLogbookFault->hide();
+    mAddsOpened->setChecked(LogbookSettings::addsOpened());
 }
 
 void DialogPreferences::showEvent(QShowEvent* event)

@@ -6,6 +6,7 @@
 #include <string>
 
 class QCheckBox;
+class QLabel;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
@@ -48,6 +49,8 @@ private:
     void createProfileField();
     void createLanguageBox();
     void createDigitsBox();
+    void createLogbookFields();
+    void takeLogbookUrl();
 
     bool mFilling = false; ///< controls follow the settings, not the user
     QListWidget* mPageList;
@@ -55,6 +58,9 @@ private:
     QLineEdit* mProfilePath;
     QwtComboBox* mLanguage;
     QCheckBox* mAllDigits;
+    QLineEdit* mLogbookUrl;
+    QLabel* mLogbookFault; ///< what is wrong with the URL
+    QCheckBox* mAddsOpened;
     std::map<int, std::string> mLanguageCodes; ///< by the data of the items in the box
 };
 

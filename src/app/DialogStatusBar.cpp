@@ -1,7 +1,7 @@
 #include "app/DialogStatusBar.h"
 
-#include "app/ActivityBar.h"
 #include "base/Revision.h"
+#include "widgets/ActivityBar.h"
 #include "widgets/ElidedLabel.h"
 
 namespace TARN {

@@ -4,6 +4,7 @@
 #include "app/DialogHelp.h"
 #include "app/DialogPreferences.h"
 #include "base/Property.h"
+#include "logbook/DialogLogbook.h"
 
 namespace TARN {
 
@@ -18,10 +19,32 @@ void present(QDialog* dialog)
 
 } // namespace
 
-SmallWindows::SmallWindows(QWidget& window)
-    : QObject(&window), mWindow(window),
+SmallWindows::SmallWindows(Session& session, QWidget& window)
+    : QObject(&window), mSession(session), mWindow(window),
       mLanguage(QString::fromStdString(Property::instance()->getString("Locale", "us")))
 {}
+
+SmallWindows::~SmallWindows() = default;
+
+void SmallWindows::show(ActionType command)
+{
+    switch (command) {
+    case ActionType::About:
+        showAbout();
+        break;
+    case ActionType::Help:
+        showHelp();
+        break;
+    case ActionType::Preferences:
+        showPreferences();
+        break;
+    case ActionType::Logbook:
+        showLogbook();
+        break;
+    default:
+        break;
+    }
+}
 
 void SmallWindows::showAbout()
 {
@@ -49,6 +72,25 @@ void SmallWindows::showPreferences()
                 &SmallWindows::allDigitsChanged);
     }
     present(mPreferences);
+}
+
+void SmallWindows::showLogbook()
+{
+    if (mLogbook == nullptr) {
+        mLogbook = std::make_unique<DialogLogbook>(mSession);
+        const DialogLogbook* logbook = mLogbook.get();
+        connect(logbook, &DialogLogbook::flightWanted, this, &SmallWindows::flightWanted);
+        connect(logbook, &DialogLogbook::flightWanted, this, &SmallWindows::showWindow);
+        connect(logbook, &DialogLogbook::referenceWanted, this, &SmallWindows::referenceWanted);
+        connect(logbook, &DialogLogbook::referenceWanted, this, &SmallWindows::showWindow);
+    }
+    present(mLogbook.get());
+}
+
+void SmallWindows::showWindow()
+{
+    mWindow.raise();
+    mWindow.activateWindow();
 }
 
 } // namespace TARN

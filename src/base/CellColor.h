@@ -9,6 +9,10 @@ namespace TARN {
 /// Background of time cells.
 inline const QColor TimeCellColor(230, 230, 230);
 
+/// What was worst in a line that stands for much.
+inline const QColor LimitColor(0xFF, 0x4A, 0x4A);
+inline const QColor WarningColor(0xFF, 0xB8, 0x20);
+
 /// Whether a cell of this colour takes the table's own colours instead: white means a normal
 /// value and is right in a light theme only, an invalid colour is none.
 inline bool isPlainCell(const QColor& color)

@@ -1,5 +1,6 @@
 #include "card/DialogCard.h"
 
+#include "base/CellColor.h"
 #include "base/ClockTime.h"
 #include "base/CountText.h"
 #include "record/RecordText.h"
@@ -257,8 +258,8 @@ void DialogCard::setOverview(const std::list<QString>& files,
                          : isWatched          ? tr("none")
                                               : "---");
     const bool isOdd = found.warnings + found.faults + found.lamps > 0;
-    item->setIcon(Name, signedIcon(iconOf(*item), found.limits > 0 ? QColor(0xFF, 0x4A, 0x4A)
-                                                  : isOdd          ? QColor(0xFF, 0xB8, 0x20)
+    item->setIcon(Name, signedIcon(iconOf(*item), found.limits > 0 ? LimitColor
+                                                  : isOdd          ? WarningColor
                                                                    : QColor()));
     item->setText(Exceeded, isWatched ? countText(found.limits + found.warnings) : "---");
     item->setText(Remarks, countText(found.remarks));

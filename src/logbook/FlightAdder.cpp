@@ -2,12 +2,12 @@
 
 #include "logbook/ContentHash.h"
 #include "logbook/FlightDigest.h"
+#include "logbook/FolderWalk.h"
 #include "logbook/Logbook.h"
 #include "logbook/LogbookError.h"
 #include "record/FlightGroups.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QDirIterator>
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
@@ -33,33 +33,25 @@ struct Found
     FlightGroup files;
 };
 
-/// Folders and all in them, each once.
-std::set<QString> foldersIn(const QStringList& folders)
-{
-    std::set<QString> all;
-    for (const QString& folder : folders) {
-        all.insert(QFileInfo(folder).canonicalFilePath());
-        for (QDirIterator below(QFileInfo(folder).canonicalFilePath(),
-                                QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
-                                QDirIterator::Subdirectories);
-             below.hasNext();) {
-            all.insert(below.next());
-        }
-    }
-    return all;
-}
-
-std::vector<Found> flightsIn(const QStringList& folders, Progress& progress)
+/// The flights of folders, all or those that one of these recordings is of.
+std::vector<Found> flightsIn(const std::set<QString>& folders,
+                             const std::optional<QStringList>& recordings, Progress& progress)
 {
     std::vector<Found> all;
-    for (const QString& folder : foldersIn(folders)) {
+    for (const QString& folder : folders) {
         const CardInfo card = readCard(folder, progress);
         if (progress.stopRequested()) {
             return {};
         }
         for (FlightGroup& group : flightGroups(card)) {
-            const QString serial = card.records.at(group.front()).engineSerialNr;
-            all.push_back({serial.trimmed(), std::move(group)});
+            const bool isWanted =
+                !recordings || std::ranges::any_of(group, [&](const QString& path) {
+                    return recordings->contains(path);
+                });
+            if (isWanted) {
+                const QString serial = card.records.at(group.front()).engineSerialNr;
+                all.push_back({serial.trimmed(), std::move(group)});
+            }
         }
     }
     return all;
@@ -237,8 +229,22 @@ AddTotals addFlights(const QStringList& folders, const QString& url,
     }
     Logbook(url, SqlConnection::Create); // what is wrong with it is told before all is looked at
     const unsigned threads = jobs > 0 ? jobs : std::max(1U, std::thread::hardware_concurrency());
-    return Adding(flightsIn(folders, progress), url, profile, listener, progress.stopToken())
+    return Adding(flightsIn(foldersBelow(folders), {}, progress), url, profile, listener,
+                  progress.stopToken())
         .run(threads);
+}
+
+AddTotals addFlightsOf(const QStringList& recordings, const QString& url,
+                       const std::shared_ptr<const Profile>& profile, const AddListener& listener,
+                       Progress& progress)
+{
+    std::set<QString> folders;
+    for (const QString& path : recordings) {
+        folders.insert(QFileInfo(path).path());
+    }
+    return Adding(flightsIn(folders, recordings, progress), url, profile, listener,
+                  progress.stopToken())
+        .run(1);
 }
 
 } // namespace TARN

@@ -53,4 +53,10 @@ AddTotals addFlights(const QStringList& folders, const QString& url,
                      const std::shared_ptr<const Profile>& profile, unsigned jobs,
                      const AddListener& listener, Progress& progress);
 
+/// The same, one after the other, for the flights that recordings are of: with what else their
+/// folders hold of these flights.
+AddTotals addFlightsOf(const QStringList& recordings, const QString& url,
+                       const std::shared_ptr<const Profile>& profile, const AddListener& listener,
+                       Progress& progress);
+
 } // namespace TARN

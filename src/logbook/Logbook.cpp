@@ -5,10 +5,12 @@
 #include "logbook/LogbookSchema.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QHash>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <map>
 #include <set>
 #include <tuple>
 
@@ -51,6 +53,39 @@ QString columnOf(Figure figure)
     return "(SELECT count(*) FROM episodes e WHERE e.aircraft = s.aircraft AND "
            "e.flight = s.flight AND e.device = s.device AND e.parameter = s.parameter)";
 }
+
+/// Of all flights, in the order of time, without values yet.
+std::vector<TrendPoint> pointsOf(const std::vector<FlightHead>& flights)
+{
+    std::vector<TrendPoint> points;
+    std::ranges::transform(flights, std::back_inserter(points), [](const FlightHead& head) {
+        return TrendPoint{head.flight, head.start, {}, {}, {}, false};
+    });
+    return points;
+}
+
+/// Puts the figures of one parameter into its trend.
+struct TrendBuilder
+{
+    std::size_t trend;          ///< its place
+    std::set<std::size_t> seen; ///< flights
+    std::size_t latest;         ///< flight that its unit is of
+
+    void take(ParameterTrend& to, std::size_t flight, const QSqlQuery& query)
+    {
+        if (!seen.insert(flight).second) {
+            return;
+        }
+        if (flight >= latest) {
+            latest = flight;
+            to.unit = query.value(2).toString();
+        }
+        const double value = query.value(5).toDouble();
+        if (query.value(4).toLongLong() > 0 && !query.value(5).isNull() && std::isfinite(value)) {
+            to.points[flight].value = value;
+        }
+    }
+};
 
 } // namespace
 
@@ -174,44 +209,56 @@ std::vector<TrendPoint> Logbook::trend(const QString& aircraft, const QString& p
                                       {aircraft, device, name})
                                  .next();
         if (isKnown) {
-            std::vector<TrendPoint> found = points(aircraft, device, name, figure);
-            markTrend(found, marks(aircraft));
-            return found;
+            const auto all =
+                found(aircraft, figure, " AND s.device = ? AND s.parameter = ?", {device, name});
+            return all.empty() ? pointsOf(flights(aircraft)) : all.front().points;
         }
     }
     return {};
 }
 
-/// Of parameters of the same name the first counts. What has no samples has no figure.
-std::vector<TrendPoint> Logbook::points(const QString& aircraft, const QString& device,
-                                        const QString& parameter, Figure figure)
+std::vector<ParameterTrend> Logbook::trends(const QString& aircraft, Figure figure)
 {
-    QSqlQuery query =
-        mSql.run("SELECT f.flight, f.start_utc, s.samples, " + columnOf(figure) +
-                     " FROM flights f LEFT JOIN statistics s ON s.aircraft = f.aircraft AND "
-                     "s.flight = f.flight AND s.device = ? AND s.parameter = ? AND s.steady = ? "
-                     "WHERE f.aircraft = ? ORDER BY s.place",
-                 {device, parameter, figure == Figure::SteadyMean ? 1 : 0, aircraft});
-    std::vector<TrendPoint> found;
-    std::set<QString> seen;
-    while (query.next()) {
-        TrendPoint point;
-        point.flight = query.value(0).toString();
-        if (!query.value(1).isNull()) {
-            point.start = query.value(1).toLongLong();
-        }
-        const double value = query.value(3).toDouble();
-        if (query.value(2).toLongLong() > 0 && !query.value(3).isNull() && std::isfinite(value)) {
-            point.value = value;
-        }
-        if (seen.insert(point.flight).second) {
-            found.push_back(point);
-        }
-    }
-    std::ranges::sort(found, {}, [](const TrendPoint& point) {
-        return std::tuple(orderOf(point.start), point.flight);
+    std::vector<ParameterTrend> all = found(aircraft, figure);
+    std::erase_if(all, [](const ParameterTrend& trend) {
+        return std::ranges::none_of(
+            trend.points, [](const TrendPoint& point) { return point.value.has_value(); });
     });
-    return found;
+    return all;
+}
+
+/// Of parameters of the same name the first of a profile counts. What has no samples has no figure.
+std::vector<ParameterTrend> Logbook::found(const QString& aircraft, Figure figure,
+                                           const QString& condition, const QVariantList& values)
+{
+    const std::vector<TrendPoint> empty = pointsOf(flights(aircraft));
+    QHash<QString, std::size_t> places;
+    for (std::size_t k = 0; k < empty.size(); ++k) {
+        places.insert(empty[k].flight, k);
+    }
+    QSqlQuery query =
+        mSql.run("SELECT s.device, s.parameter, s.unit, s.flight, s.samples, " + columnOf(figure) +
+                     " FROM statistics s WHERE s.aircraft = ? AND s.steady = ?" + condition +
+                     " ORDER BY s.place, s.flight",
+                 QVariantList{aircraft, figure == Figure::SteadyMean ? 1 : 0} + values);
+    std::vector<ParameterTrend> all;
+    std::map<std::pair<QString, QString>, TrendBuilder> known;
+    while (query.next()) {
+        const std::pair name(query.value(0).toString(), query.value(1).toString());
+        const auto place = places.constFind(query.value(3).toString());
+        if (place == places.cend()) {
+            continue; // added meanwhile
+        }
+        auto at = known.find(name);
+        if (at == known.end()) {
+            at = known.emplace(name, TrendBuilder{all.size(), {}, 0}).first;
+            all.push_back({name.first, name.second, {}, empty});
+        }
+        at->second.take(all[at->second.trend], *place, query);
+    }
+    const std::vector<MaintenanceMark> notes = marks(aircraft);
+    std::ranges::for_each(all, [&](ParameterTrend& trend) { markTrend(trend.points, notes); });
+    return all;
 }
 
 } // namespace TARN

@@ -18,6 +18,17 @@ enum class Figure
 /// The figures' names by which a user chooses, in their order: "steady max warning episodes".
 const QStringList& figureNames();
 
+/// A figure of a parameter over the flights of an aircraft.
+struct ParameterTrend
+{
+    QString device;
+    QString parameter;
+    QString unit;                   ///< in the latest flight that knows it
+    std::vector<TrendPoint> points; ///< of all flights by start, those without one first
+
+    QString fullName() const { return device + "/" + parameter; }
+};
+
 /// The flights that are kept of engines, in one database. Belongs to the thread that made it; any
 /// number of them, of any number of processes, may write to the same database at once. All throw
 /// LogbookError.
@@ -58,9 +69,15 @@ public:
     /// without one first, and marked. Empty where no flight knows the parameter.
     std::vector<TrendPoint> trend(const QString& aircraft, const QString& parameter, Figure figure);
 
+    /// The same of all parameters that have the figure in any of its flights, in the order of their
+    /// profiles.
+    std::vector<ParameterTrend> trends(const QString& aircraft, Figure figure);
+
 private:
-    std::vector<TrendPoint> points(const QString& aircraft, const QString& device,
-                                   const QString& parameter, Figure figure);
+    /// Of those of which \p condition holds, all for an empty one.
+    std::vector<ParameterTrend> found(const QString& aircraft, Figure figure,
+                                      const QString& condition = {},
+                                      const QVariantList& values = {});
 
     SqlConnection mSql;
 };

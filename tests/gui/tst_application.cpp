@@ -1,9 +1,9 @@
-#include "app/ActivityBar.h"
 #include "app/DialogSplash.h"
 #include "app/DialogStatusBar.h"
 #include "base/Property.h"
 #include "card/DialogCard.h"
 #include "gui/WindowTest.h"
+#include "widgets/ActivityBar.h"
 
 using namespace TARN;
 

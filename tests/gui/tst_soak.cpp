@@ -1,6 +1,6 @@
-#include "app/ActivityBar.h"
 #include "graph/WidgetGraph.h"
 #include "gui/WindowTest.h"
+#include "widgets/ActivityBar.h"
 
 #include <unistd.h>
 

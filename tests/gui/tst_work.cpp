@@ -1,7 +1,7 @@
-#include "app/ActivityBar.h"
 #include "gui/WindowTest.h"
 #include "support/CommandRun.h"
 #include "support/ResourceLimit.h"
+#include "widgets/ActivityBar.h"
 
 using namespace TARN;
 

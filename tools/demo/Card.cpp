@@ -75,7 +75,9 @@ private:
     bool record()
     {
         double duration = mOptions.minutes * 60.0;
-        Flight flight(duration, mOptions.seed);
+        Week week = weekOf(mOptions.seed);
+        week.wear = mOptions.wear.value_or(week.wear);
+        Flight flight(duration, mOptions.seed, week);
         if (!nextFile())
             return false;
         while (flight.timeAfter() < duration - 0.5 * Flight::kStep) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace TARN::Demo {
@@ -11,6 +12,7 @@ struct CardOptions
     int minutes = 60;
     int scale = 1;
     std::uint64_t seed = 1;
+    std::optional<int> wear = {}; ///< weeks that cylinder 6 has been wearing out; those of the seed
     int files = 3;
     bool littleEndian = false;
 };

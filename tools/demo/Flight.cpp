@@ -1,7 +1,5 @@
 #include "Flight.h"
 
-#include "Week.h"
-
 namespace TARN::Demo {
 
 namespace {
@@ -10,9 +8,9 @@ constexpr double kMassWithoutFuel = 1385.0; // kg, two persons and baggage
 
 } // namespace
 
-Flight::Flight(double duration, std::uint64_t seed)
-    : mRandom(seed), mAirframe(mRandom), mEngine(mRandom), mThermal(mRandom, weekOf(seed).wear),
-      mSystems(mRandom), mPilot(duration, weekOf(seed).delay), mStory(mRandom)
+Flight::Flight(double duration, std::uint64_t seed, const Week& week)
+    : mRandom(seed), mAirframe(mRandom), mEngine(mRandom), mThermal(mRandom, week.wear),
+      mSystems(mRandom), mPilot(duration, week.delay), mStory(mRandom)
 {
     report();
 }

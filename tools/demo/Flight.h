@@ -8,12 +8,13 @@
 #include "Story.h"
 #include "Systems.h"
 #include "Thermal.h"
+#include "Week.h"
 
 #include <cstdint>
 
 namespace TARN::Demo {
 
-/// The whole aircraft, advanced in fixed steps. The flight depends on the duration and the seed
+/// The whole aircraft, advanced in fixed steps. The flight depends on what it is made of
 /// only, not on how often its signals are looked at.
 class Flight
 {
@@ -21,7 +22,7 @@ public:
     static constexpr double kStep = 0.05; ///< s
 
     /// Duration of the recording in seconds.
-    Flight(double duration, std::uint64_t seed);
+    Flight(double duration, std::uint64_t seed, const Week& week);
 
     void step();
 

@@ -22,6 +22,9 @@ void describe(CLI::App& app, TARN::Demo::CardOptions& options)
                    "Number of the flight: each is a week after the one before, with other noise, "
                    "another take-off moment and a cylinder 6 that runs leaner from week to week")
         ->capture_default_str();
+    app.add_option("--wear", options.wear,
+                   "Weeks that cylinder 6 has been running leaner; without it those of the seed")
+        ->check(CLI::Range(0, 5));
     app.add_option("--files", options.files, "Number of consecutive files")
         ->check(CLI::Range(1, 99))
         ->capture_default_str();

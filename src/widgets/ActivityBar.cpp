@@ -1,4 +1,4 @@
-#include "app/ActivityBar.h"
+#include "widgets/ActivityBar.h"
 
 #include "base/CountText.h"
 

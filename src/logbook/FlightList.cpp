@@ -1,0 +1,160 @@
+#include "logbook/FlightList.h"
+
+#include "widgets/DataTableView.h"
+
+#include <QtCore/QSignalBlocker>
+#include <QtGui/QAction>
+#include <QtGui/QGuiApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QVBoxLayout>
+
+#include <algorithm>
+#include <set>
+
+namespace TARN {
+
+FlightList::FlightList(QWidget* parent)
+    : QWidget(parent), mEngine(new QComboBox), mText(new QLineEdit), mTable(new DataTableView)
+{
+    mEngine->setObjectName("engine");
+    mEngine->setToolTip(tr("Show the flights of this engine only"));
+    mEngine->setAccessibleName(tr("Engine"));
+    mEngine->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    mText->setObjectName("filter");
+    mText->setPlaceholderText(tr("Filter (Ctrl+F)"));
+    mText->setToolTip(tr("Show only flights that hold this text"));
+    mText->setAccessibleName(tr("Filter text"));
+    mText->setClearButtonEnabled(true);
+    mTable->setObjectName("flights");
+    mTable->setAccessibleName(tr("Flights"));
+    mTable->setModel(&mModel);
+    mTable->verticalHeader()->hide();
+    mTable->setContextMenuPolicy(Qt::ActionsContextMenu);
+    mTable->setStretched(FlightListModel::EngineColumn);
+    mTable->horizontalHeader()->setSortIndicator(FlightListModel::StartColumn, Qt::DescendingOrder);
+    mTable->horizontalHeader()->setSortIndicatorShown(true);
+    mTable->horizontalHeader()->setSectionsClickable(true);
+    mTable->fitColumns();
+    auto* line = new QHBoxLayout;
+    line->addWidget(mEngine);
+    line->addWidget(mText, 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(line);
+    layout->addWidget(mTable, 1);
+    connect(mEngine, &QComboBox::activated, this, &FlightList::applyFilter);
+    connect(mText, &QLineEdit::textChanged, this, &FlightList::applyFilter);
+    connect(mText, &QLineEdit::returnPressed, mTable, qOverload<>(&QWidget::setFocus));
+    connect(mTable, &DataTableView::rowPicked, this, &FlightList::chooseRow);
+    connect(mTable, &DataTableView::signalLink, this, &FlightList::signalLink);
+    connect(mTable->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
+            [this](int column, Qt::SortOrder order) {
+                mModel.sort(column, order);
+                choose(mChosen);
+            });
+    connect(mTable, &QAbstractItemView::doubleClicked, this, [this] {
+        const bool asReference = QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+        Q_EMIT flightWanted(mChosen, asReference);
+    });
+    createCommands();
+}
+
+void FlightList::createCommands()
+{
+    const auto add = [this](const QString& text, const QKeySequence& key, auto&& run) {
+        auto* action = new QAction(text, mTable);
+        action->setShortcut(key);
+        action->setShortcutContext(Qt::WidgetShortcut);
+        connect(action, &QAction::triggered, this, [this, run] {
+            if (!mChosen.isEmpty()) {
+                run();
+            }
+        });
+        mTable->addAction(action);
+    };
+    add(tr("&Open"), Qt::Key_Return, [this] { Q_EMIT flightWanted(mChosen, false); });
+    add(tr("Open as &Reference"), Qt::SHIFT | Qt::Key_Return,
+        [this] { Q_EMIT flightWanted(mChosen, true); });
+    add(tr("&Remove from the Logbook..."), Qt::Key_Delete, [this] { Q_EMIT removeWanted(); });
+}
+
+void FlightList::setEmptyText(const QString& text)
+{
+    mEmptyText = text;
+    applyFilter();
+}
+
+void FlightList::setFlights(const std::vector<FlightHead>& flights)
+{
+    mModel.setFlights(flights);
+    showEngines();
+    applyFilter();
+}
+
+/// The one that was chosen stays, where it still has a flight.
+void FlightList::showEngines()
+{
+    std::set<QString> engines;
+    for (const FlightHead& flight : mModel.flights()) {
+        engines.insert(flight.aircraft);
+    }
+    const QVariant before = mEngine->currentData();
+    const QSignalBlocker blocker(mEngine);
+    mEngine->clear();
+    mEngine->addItem(tr("All engines (%1)").arg(engines.size()));
+    for (const QString& engine : engines) {
+        mEngine->addItem(engineWords(engine), engine);
+    }
+    mEngine->setCurrentIndex(before.isValid() ? std::max(0, mEngine->findData(before)) : 0);
+}
+
+void FlightList::applyFilter()
+{
+    const QVariant engine = mEngine->currentData();
+    mModel.setFilter(engine.isValid() ? std::optional(engine.toString()) : std::nullopt,
+                     mText->text());
+    mTable->setEmptyText(
+        mModel.size() == 0
+            ? mEmptyText
+            : tr("No flight of %1 holds \"%2\".").arg(mModel.size()).arg(mText->text()));
+    choose(mModel.rowOf(mChosen) >= 0 ? mChosen
+           : mModel.rowCount() > 0    ? mModel.flight(0).flight
+                                      : QString());
+}
+
+void FlightList::choose(const QString& flight)
+{
+    mTable->showRow(mModel.rowOf(flight));
+    if (mChosen != flight) {
+        mChosen = flight;
+        Q_EMIT chosenChanged();
+    }
+}
+
+void FlightList::chooseRow(int row)
+{
+    mChosen = mModel.flight(row).flight;
+    Q_EMIT chosenChanged();
+}
+
+const FlightHead* FlightList::find(const QString& flight) const
+{
+    const auto found = std::ranges::find(mModel.flights(), flight, &FlightHead::flight);
+    return found == mModel.flights().end() ? nullptr : &*found;
+}
+
+const FlightHead* FlightList::chosen() const
+{
+    return find(mChosen);
+}
+
+void FlightList::beginFilter()
+{
+    mText->setFocus(Qt::ShortcutFocusReason);
+    mText->selectAll();
+}
+
+} // namespace TARN
