@@ -411,6 +411,18 @@ private Q_SLOTS:
         QVERIFY(*points[34].median < 183.0);
         QVERIFY(*points[35].median > 200.0);
         QVERIFY(logbook.trend("EN'1\";<x>", "RPM", Figure::Maximum).empty());
+        for (const Figure figure : {Figure::SteadyMean, Figure::Maximum, Figure::Episodes}) {
+            const auto all = logbook.trends("EN'1\";<x>", figure);
+            // One has no sample, one none in the steady stretch.
+            QCOMPARE(all.size(), std::size_t(figure == Figure::SteadyMean ? 3 : 4));
+            for (const ParameterTrend& of : all) {
+                const auto one = logbook.trend("EN'1\";<x>", of.fullName(), figure);
+                QVERIFY(std::ranges::equal(of.points, one, [](const auto& a, const auto& b) {
+                    return a.flight == b.flight && a.value == b.value && a.median == b.median &&
+                           a.isMarked == b.isMarked;
+                }));
+            }
+        }
     }
 
     void server()
