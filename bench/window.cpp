@@ -1,5 +1,6 @@
 #include "Window.h"
 
+#include "EventLoop.h"
 #include "Flights.h"
 #include "Suite.h"
 #include "app/DialogMain.h"
@@ -13,7 +14,6 @@
 #include "graph/WidgetGraph.h"
 #include "profile/Decoder.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
@@ -29,48 +29,6 @@ namespace TARN::Bench {
 namespace {
 
 constexpr int Rounds = 5;
-
-double median(std::vector<double> values)
-{
-    std::ranges::sort(values);
-    return values[values.size() / 2];
-}
-
-void live(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
-/// The longest time between two beats of a heart in the window's event loop, less the beat.
-class Heartbeat
-{
-public:
-    Heartbeat()
-    {
-        mTimer.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&mTimer, &QTimer::timeout, [this] { beat(); });
-        mTimer.start(Beat);
-        mSince.start();
-    }
-
-    double longestHold() const { return mLongest; } ///< seconds
-
-private:
-    static constexpr int Beat = 5; // ms
-
-    void beat()
-    {
-        const double passed = static_cast<double>(mSince.nsecsElapsed()) * 1e-9 - Beat * 1e-3;
-        mLongest = std::max(mLongest, passed);
-        mSince.restart();
-    }
-
-    QTimer mTimer;
-    QElapsedTimer mSince;
-    double mLongest = 0.0;
-};
 
 /// The viewer as a user has it, with a home and a profile of its own.
 class Viewer
@@ -98,10 +56,9 @@ public:
     /// Until nothing is left to be done and all is painted.
     void settle()
     {
-        constexpr int Turn = 20; // ms
         do {
-            live(Turn);
-        } while (pendingWork() > 0 || session().switches().loading.isOn());
+            liveUntilDone();
+        } while (session().switches().loading.isOn());
     }
 
     void pick(const std::string& recording)

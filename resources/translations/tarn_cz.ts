@@ -438,50 +438,50 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     <name>LogbookSettings</name>
     <message>
         <source>Added: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidáno: %1</translation>
     </message>
     <message>
         <source>known already: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>již známo: %1</translation>
     </message>
     <message>
         <source>not looked at: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>neprohlédnuto: %1</translation>
     </message>
     <message>
         <source>not added: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>nepřidáno: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>MaintenanceDialog</name>
     <message>
         <source>Maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Údržba</translation>
     </message>
     <message>
         <source>What was done to engine %1? Trends compare flights only with those since the last note.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se na motoru %1 udělalo? Trendy porovnávají lety jen s těmi od posledního zápisu.</translation>
     </message>
     <message>
         <source>Flights from this moment on are behind the maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety od tohoto okamžiku jsou po údržbě</translation>
     </message>
     <message>
         <source>Cylinder 6 replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyměněn válec 6</translation>
     </message>
     <message>
         <source>&amp;Date (UTC)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datum (UTC)</translation>
     </message>
     <message>
         <source>&amp;Note</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zápis</translation>
     </message>
     <message>
         <source>Note It</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapsat</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -660,11 +660,11 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     <name>RecordingFinder</name>
     <message>
         <source>Files named %1 were found, but they hold another flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory s názvem %1 byly nalezeny, ale obsahují jiný let.</translation>
     </message>
     <message>
         <source>The files %1 were not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory %1 nebyly nalezeny.</translation>
     </message>
 </context>
 <context>
@@ -1210,15 +1210,15 @@ Zvolte složku, do které lze zapisovat, s dostatkem volného místa, a název k
     </message>
     <message>
         <source>&amp;Logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deník...</translation>
     </message>
     <message>
         <source>Show the Flights That Were Kept, and What Changes from One to the Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit uložené lety a to, co se mezi nimi mění</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník</translation>
     </message>
 </context>
 <context>
@@ -1953,80 +1953,81 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     <name>TARN::DialogLogbook</name>
     <message>
         <source>Stop adding; what was added stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit přidávání; co bylo přidáno, zůstane</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník</translation>
     </message>
     <message>
         <source>Reading the logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtení deníku...</translation>
     </message>
     <message>
         <source>Add every flight that you open to this logbook? Only statistics and events are kept. You can change that under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidávat do tohoto deníku každý let, který otevřete? Ukládají se jen statistiky a události. Změnit to můžete v nabídce Nástroje, Předvolby.</translation>
     </message>
     <message>
         <source>&amp;Yes, Add Them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ano, přidávat</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ne</translation>
     </message>
     <message>
         <source>&amp;Add Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Přidat složku...</translation>
     </message>
     <message>
         <source>Add the flights of a folder and of all folders in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat lety ze složky a ze všech složek v ní</translation>
     </message>
     <message>
         <source>&amp;Maintenance...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ú&amp;držba...</translation>
     </message>
     <message>
         <source>Note that something was done to the engine: trends begin anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapsat, že se na motoru něco udělalo: trendy začínají znovu</translation>
     </message>
     <message>
         <source>Every flight that you open is added from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Každý let, který otevřete, se od nynějška přidává.</translation>
     </message>
     <message>
         <source>The logbook is empty.
 &lt;a href=&quot;add&quot;&gt;Add a folder&lt;/a&gt; of recordings; the folders in it are looked through too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník je prázdný.
+&lt;a href=&quot;add&quot;&gt;Přidejte složku&lt;/a&gt; se záznamy; prohledají se i složky v ní.</translation>
     </message>
     <message>
         <source>There is no profile by which recordings could be understood. Choose one under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není k dispozici žádný profil, podle kterého by šlo záznamy dekódovat. Zvolte jej v nabídce Nástroje, Předvolby.</translation>
     </message>
     <message>
         <source>Add a Folder to the Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat složku do deníku</translation>
     </message>
     <message>
         <source>Adding</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidávání</translation>
     </message>
     <message>
         <source>Choose a flight of the engine first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejprve zvolte let motoru.</translation>
     </message>
     <message>
         <source>Remove the flight of %1 from the logbook?</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat z deníku let z %1?</translation>
     </message>
     <message>
         <source>Its recordings stay where they are and can be added again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeho záznamy zůstanou, kde jsou, a lze je přidat znovu.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2034,23 +2035,23 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     </message>
     <message>
         <source>Looking for its recordings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledání jeho záznamů...</translation>
     </message>
     <message>
         <source>Opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřeno: %1</translation>
     </message>
     <message>
         <source>Where are the recordings of the flight of %1? The folders in the one that you choose are looked through too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde jsou záznamy letu z %1? Prohledají se i složky v té, kterou zvolíte.</translation>
     </message>
     <message>
         <source>Choose Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolit složku...</translation>
     </message>
     <message>
         <source>Find Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Najít záznamy</translation>
     </message>
 </context>
 <context>
@@ -2226,27 +2227,27 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     </message>
     <message>
         <source>Add every flight that I open</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidávat každý let, který otevřu</translation>
     </message>
     <message>
         <source>Logbook :</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník :</translation>
     </message>
     <message>
         <source>a file of the program&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>vlastní soubor programu</translation>
     </message>
     <message>
         <source>Where flights are kept: empty for this machine alone, &quot;postgresql://user@host/database&quot; for a team. A password is taken from PGPASSWORD or ~/.pgpass and never kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Kde se lety ukládají: prázdné jen pro tento počítač, „postgresql://uživatel@počítač/databáze“ pro tým. Heslo se bere z PGPASSWORD nebo ~/.pgpass a nikdy se neukládá</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník</translation>
     </message>
     <message>
         <source>Keeps statistics and events of every flight in the logbook, not its samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukládá do deníku statistiky a události každého letu, nikoli jeho vzorky</translation>
     </message>
 </context>
 <context>
@@ -2532,11 +2533,11 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     <name>TARN::FlightList</name>
     <message>
         <source>Show the flights of this engine only</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit jen lety tohoto motoru</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor</translation>
     </message>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -2544,7 +2545,7 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     </message>
     <message>
         <source>Show only flights that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit jen lety, které obsahují tento text</translation>
     </message>
     <message>
         <source>Filter text</source>
@@ -2552,60 +2553,62 @@ Počkat na jeho dokončení, nebo jej zastavit? Zastavený export ponechá půvo
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít</translation>
     </message>
     <message>
         <source>Open as &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít jako &amp;referenci</translation>
     </message>
     <message>
         <source>&amp;Remove from the Logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat z &amp;deníku...</translation>
     </message>
     <message>
         <source>All engines (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny motory (%1)</translation>
     </message>
     <message>
         <source>No flight of %1 holds &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný let z %1 neobsahuje „%2“.</translation>
     </message>
 </context>
 <context>
     <name>TARN::FlightListModel</name>
     <message>
         <source>without number</source>
-        <translation type="unfinished"></translation>
+        <translation>bez čísla</translation>
     </message>
     <message>
         <source>by the UTC in its data</source>
-        <translation type="unfinished"></translation>
+        <translation>podle UTC v jeho datech</translation>
     </message>
     <message>
         <source>by its header, in whatever zone</source>
-        <translation type="unfinished"></translation>
+        <translation>podle jeho hlavičky, v neznámém časovém pásmu</translation>
     </message>
     <message>
         <source>nothing tells when it was</source>
-        <translation type="unfinished"></translation>
+        <translation>nic neříká, kdy to bylo</translation>
     </message>
     <message>
         <source>Flight %1, %2.
 Engine %3 %4, profile %5.
 Double-click: open it; with Shift: open it as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Let %1, %2.
+Motor %3 %4, profil %5.
+Dvojité kliknutí: otevřít; s klávesou Shift: otevřít jako referenci.</translation>
     </message>
     <message>
         <source>Start (UTC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Začátek (UTC)</translation>
     </message>
     <message>
         <source>When the flight began; slanted: by the header&apos;s clock, whose zone is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdy let začal; kurzívou: podle hodin hlavičky, jejichž časové pásmo není známo</translation>
     </message>
     <message>
         <source>Duration</source>
@@ -2613,15 +2616,15 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>From the first sample to the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Od prvního vzorku do posledního</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor</translation>
     </message>
     <message>
         <source>Serial number of the engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Výrobní číslo motoru</translation>
     </message>
     <message>
         <source>Worst</source>
@@ -2629,39 +2632,39 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>The worst that happened</source>
-        <translation type="unfinished"></translation>
+        <translation>To nejhorší, co se stalo</translation>
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Limity</translation>
     </message>
     <message>
         <source>Times out of range that reached a limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolikrát byl opuštěn rozsah a dosažen limit</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Varování</translation>
     </message>
     <message>
         <source>Times out of range that did not reach a limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolikrát byl opuštěn rozsah, aniž byl dosažen limit</translation>
     </message>
     <message>
         <source>Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrolky</translation>
     </message>
     <message>
         <source>Times that a warning lamp was on</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolikrát svítila výstražná kontrolka</translation>
     </message>
     <message>
         <source>Faults</source>
-        <translation type="unfinished"></translation>
+        <translation>Poruchy</translation>
     </message>
     <message>
         <source>Warnings and faults that the matrices told of</source>
-        <translation type="unfinished"></translation>
+        <translation>Varování a poruchy, které hlásily matice</translation>
     </message>
     <message>
         <source>Remarks</source>
@@ -2669,7 +2672,7 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>What is to be said about the recordings themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>Co je třeba říci o samotných záznamech</translation>
     </message>
 </context>
 <context>
@@ -2750,22 +2753,22 @@ Double-click: open it; with Shift: open it as the reference.</source>
     <name>TARN::LogbookAccess</name>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není dost paměti.</translation>
     </message>
     <message>
         <source>%1 of %2 flights</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2 letů</translation>
     </message>
 </context>
 <context>
     <name>TARN::LogbookKeeper</name>
     <message>
         <source>Added to the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidáno do deníku.</translation>
     </message>
     <message>
         <source>Not added to the logbook: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nepřidáno do deníku: %1</translation>
     </message>
 </context>
 <context>
@@ -3362,106 +3365,106 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     </message>
     <message>
         <source>Device, parameter and unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Zařízení, parametr a jednotka</translation>
     </message>
     <message>
         <source>Away</source>
-        <translation type="unfinished"></translation>
+        <translation>Odchylka</translation>
     </message>
     <message>
         <source>How far the latest flight lies from the median, in robust standard deviations; red where it is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak daleko leží poslední let od mediánu, v robustních směrodatných odchylkách; červeně tam, kde je označen</translation>
     </message>
     <message>
         <source>Marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Označeno</translation>
     </message>
     <message>
         <source>Number of flights that leave the band</source>
-        <translation type="unfinished"></translation>
+        <translation>Počet letů, které opouštějí pásmo</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední</translation>
     </message>
     <message>
         <source>In the latest flight that has a value</source>
-        <translation type="unfinished"></translation>
+        <translation>V posledním letu, který má hodnotu</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián</translation>
     </message>
     <message>
         <source>Of the other flights since the last maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatních letů od poslední údržby</translation>
     </message>
 </context>
 <context>
     <name>TARN::TrendPanel</name>
     <message>
         <source>Time mean when steady</source>
-        <translation type="unfinished"></translation>
+        <translation>Časový průměr při ustálení</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Seconds above WARNING</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekundy nad WARNING</translation>
     </message>
     <message>
         <source>Times out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolikrát mimo rozsah</translation>
     </message>
     <message>
         <source>What is compared from flight to flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se mezi lety porovnává</translation>
     </message>
     <message>
         <source>Figure</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukazatel</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtr</translation>
     </message>
     <message>
         <source>Show only parameters that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit jen parametry, které obsahují tento text</translation>
     </message>
     <message>
         <source>Filter of the parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtr parametrů</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parametry</translation>
     </message>
     <message>
         <source>No parameter holds this text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný parametr neobsahuje tento text.</translation>
     </message>
     <message>
         <source>No flight of this engine has a steady stretch of three minutes. What is steady is told by parameters that the profile marks with &quot;steady&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný let tohoto motoru nemá ustálený úsek dlouhý tři minuty. Co je ustálené, určují parametry, které profil označuje atributem „steady“.</translation>
     </message>
     <message>
         <source>No flight of this engine has this figure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný let tohoto motoru nemá tento ukazatel.</translation>
     </message>
     <message>
         <source>Engine %1: a band needs five other flights since the last maintenance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor %1: pásmo potřebuje pět dalších letů od poslední údržby.</translation>
     </message>
     <message>
         <source>Engine %1: %2 of %3 parameters leave their band in their latest flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor %1: %2 z %3 parametrů ve svém posledním letu mimo své pásmo.</translation>
     </message>
     <message>
         <source>%1%2, %3: %4 of %5 flights leave the band</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2, %3: %4 z %5 letů mimo pásmo</translation>
     </message>
 </context>
 <context>
@@ -3526,23 +3529,23 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     <name>TARN::WidgetTrend</name>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend</translation>
     </message>
     <message>
         <source>no value</source>
-        <translation type="unfinished"></translation>
+        <translation>žádná hodnota</translation>
     </message>
     <message>
         <source>Median of the others %1, sigma %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián ostatních %1, sigma %2</translation>
     </message>
     <message>
         <source>It leaves the band.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opouští pásmo.</translation>
     </message>
     <message>
         <source>Click: open the flight; with Shift: as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutí: otevřít let; s klávesou Shift: jako referenci.</translation>
     </message>
 </context>
 <context>

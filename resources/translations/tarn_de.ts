@@ -438,50 +438,50 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     <name>LogbookSettings</name>
     <message>
         <source>Added: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzugefügt: %1</translation>
     </message>
     <message>
         <source>known already: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>bereits bekannt: %1</translation>
     </message>
     <message>
         <source>not looked at: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht angesehen: %1</translation>
     </message>
     <message>
         <source>not added: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht hinzugefügt: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>MaintenanceDialog</name>
     <message>
         <source>Maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartung</translation>
     </message>
     <message>
         <source>What was done to engine %1? Trends compare flights only with those since the last note.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was wurde am Triebwerk %1 gemacht? Trends vergleichen Flüge nur mit denen seit dem letzten Vermerk.</translation>
     </message>
     <message>
         <source>Flights from this moment on are behind the maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge ab diesem Zeitpunkt liegen nach der Wartung</translation>
     </message>
     <message>
         <source>Cylinder 6 replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>Zylinder 6 ersetzt</translation>
     </message>
     <message>
         <source>&amp;Date (UTC)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datum (UTC)</translation>
     </message>
     <message>
         <source>&amp;Note</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vermerk</translation>
     </message>
     <message>
         <source>Note It</source>
-        <translation type="unfinished"></translation>
+        <translation>Vermerken</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -660,11 +660,11 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     <name>RecordingFinder</name>
     <message>
         <source>Files named %1 were found, but they hold another flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien namens %1 wurden gefunden, sie enthalten aber einen anderen Flug.</translation>
     </message>
     <message>
         <source>The files %1 were not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dateien %1 wurden nicht gefunden.</translation>
     </message>
 </context>
 <context>
@@ -1210,15 +1210,15 @@ Wählen Sie einen beschreibbaren Ordner mit genügend freiem Platz und einen Nam
     </message>
     <message>
         <source>&amp;Logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bordbuch...</translation>
     </message>
     <message>
         <source>Show the Flights That Were Kept, and What Changes from One to the Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeicherte Flüge anzeigen und was sich von einem zum nächsten ändert</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordbuch</translation>
     </message>
 </context>
 <context>
@@ -1953,80 +1953,81 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     <name>TARN::DialogLogbook</name>
     <message>
         <source>Stop adding; what was added stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen stoppen; was hinzugefügt wurde, bleibt</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordbuch</translation>
     </message>
     <message>
         <source>Reading the logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordbuch wird gelesen...</translation>
     </message>
     <message>
         <source>Add every flight that you open to this logbook? Only statistics and events are kept. You can change that under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden Flug, den Sie öffnen, diesem Bordbuch hinzufügen? Gespeichert werden nur Statistiken und Ereignisse. Sie können das unter Extras, Einstellungen ändern.</translation>
     </message>
     <message>
         <source>&amp;Yes, Add Them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja, hinzufügen</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nein</translation>
     </message>
     <message>
         <source>&amp;Add Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner hinzufügen...</translation>
     </message>
     <message>
         <source>Add the flights of a folder and of all folders in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge eines Ordners und aller Ordner darin hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Maintenance...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wartung...</translation>
     </message>
     <message>
         <source>Note that something was done to the engine: trends begin anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Vermerken, dass am Triebwerk etwas gemacht wurde: Trends beginnen von vorn</translation>
     </message>
     <message>
         <source>Every flight that you open is added from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder Flug, den Sie öffnen, wird ab jetzt hinzugefügt.</translation>
     </message>
     <message>
         <source>The logbook is empty.
 &lt;a href=&quot;add&quot;&gt;Add a folder&lt;/a&gt; of recordings; the folders in it are looked through too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bordbuch ist leer.
+Fügen Sie einen &lt;a href=&quot;add&quot;&gt;Ordner mit Aufzeichnungen&lt;/a&gt; hinzu; die Ordner darin werden auch durchsucht.</translation>
     </message>
     <message>
         <source>There is no profile by which recordings could be understood. Choose one under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt kein Profil, mit dem sich Aufzeichnungen dekodieren lassen. Wählen Sie eines unter Extras, Einstellungen.</translation>
     </message>
     <message>
         <source>Add a Folder to the Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner zum Bordbuch hinzufügen</translation>
     </message>
     <message>
         <source>Adding</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Choose a flight of the engine first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie zuerst einen Flug des Triebwerks.</translation>
     </message>
     <message>
         <source>Remove the flight of %1 from the logbook?</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Flug vom %1 aus dem Bordbuch entfernen?</translation>
     </message>
     <message>
         <source>Its recordings stay where they are and can be added again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seine Aufzeichnungen bleiben, wo sie sind, und können wieder hinzugefügt werden.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2034,23 +2035,23 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     </message>
     <message>
         <source>Looking for its recordings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach seinen Aufzeichnungen...</translation>
     </message>
     <message>
         <source>Opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Geöffnet: %1</translation>
     </message>
     <message>
         <source>Where are the recordings of the flight of %1? The folders in the one that you choose are looked through too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo sind die Aufzeichnungen des Flugs vom %1? Auch die Ordner in dem, den Sie wählen, werden durchsucht.</translation>
     </message>
     <message>
         <source>Choose Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner wählen...</translation>
     </message>
     <message>
         <source>Find Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufzeichnungen suchen</translation>
     </message>
 </context>
 <context>
@@ -2226,27 +2227,27 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     </message>
     <message>
         <source>Add every flight that I open</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden Flug hinzufügen, den ich öffne</translation>
     </message>
     <message>
         <source>Logbook :</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordbuch :</translation>
     </message>
     <message>
         <source>a file of the program&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>eine eigene Datei des Programms</translation>
     </message>
     <message>
         <source>Where flights are kept: empty for this machine alone, &quot;postgresql://user@host/database&quot; for a team. A password is taken from PGPASSWORD or ~/.pgpass and never kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo Flüge gespeichert werden: leer nur für diesen Rechner, „postgresql://benutzer@rechner/datenbank“ für ein Team. Ein Passwort wird aus PGPASSWORD oder ~/.pgpass genommen und nie gespeichert</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordbuch</translation>
     </message>
     <message>
         <source>Keeps statistics and events of every flight in the logbook, not its samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichert Statistiken und Ereignisse jedes Flugs im Bordbuch, nicht seine Messwerte</translation>
     </message>
 </context>
 <context>
@@ -2532,11 +2533,11 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     <name>TARN::FlightList</name>
     <message>
         <source>Show the flights of this engine only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur die Flüge dieses Triebwerks anzeigen</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Triebwerk</translation>
     </message>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -2544,7 +2545,7 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     </message>
     <message>
         <source>Show only flights that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Flüge anzeigen, die diesen Text enthalten</translation>
     </message>
     <message>
         <source>Filter text</source>
@@ -2552,60 +2553,62 @@ Warten, bis er abgeschlossen ist, oder ihn stoppen? Ein gestoppter Export lässt
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
         <source>Open as &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Als &amp;Referenz öffnen</translation>
     </message>
     <message>
         <source>&amp;Remove from the Logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus dem Bordbuch &amp;entfernen...</translation>
     </message>
     <message>
         <source>All engines (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Triebwerke (%1)</translation>
     </message>
     <message>
         <source>No flight of %1 holds &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner von %1 Flügen enthält „%2“.</translation>
     </message>
 </context>
 <context>
     <name>TARN::FlightListModel</name>
     <message>
         <source>without number</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Nummer</translation>
     </message>
     <message>
         <source>by the UTC in its data</source>
-        <translation type="unfinished"></translation>
+        <translation>nach der UTC in seinen Daten</translation>
     </message>
     <message>
         <source>by its header, in whatever zone</source>
-        <translation type="unfinished"></translation>
+        <translation>nach seinem Dateikopf, in unbekannter Zeitzone</translation>
     </message>
     <message>
         <source>nothing tells when it was</source>
-        <translation type="unfinished"></translation>
+        <translation>nichts sagt, wann er war</translation>
     </message>
     <message>
         <source>Flight %1, %2.
 Engine %3 %4, profile %5.
 Double-click: open it; with Shift: open it as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug %1, %2.
+Triebwerk %3 %4, Profil %5.
+Doppelklick: öffnen; mit Umschalt: als Referenz öffnen.</translation>
     </message>
     <message>
         <source>Start (UTC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang (UTC)</translation>
     </message>
     <message>
         <source>When the flight began; slanted: by the header&apos;s clock, whose zone is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Wann der Flug begann; kursiv: nach der Uhr des Dateikopfs, deren Zeitzone nicht bekannt ist</translation>
     </message>
     <message>
         <source>Duration</source>
@@ -2613,15 +2616,15 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>From the first sample to the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom ersten Messwert bis zum letzten</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Triebwerk</translation>
     </message>
     <message>
         <source>Serial number of the engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Seriennummer des Triebwerks</translation>
     </message>
     <message>
         <source>Worst</source>
@@ -2629,39 +2632,39 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>The worst that happened</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Schlimmste, was geschah</translation>
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Grenzwerte</translation>
     </message>
     <message>
         <source>Times out of range that reached a limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft der Bereich verlassen und dabei ein Grenzwert erreicht wurde</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnungen</translation>
     </message>
     <message>
         <source>Times out of range that did not reach a limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft der Bereich verlassen, aber kein Grenzwert erreicht wurde</translation>
     </message>
     <message>
         <source>Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Lampen</translation>
     </message>
     <message>
         <source>Times that a warning lamp was on</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft eine Warnlampe leuchtete</translation>
     </message>
     <message>
         <source>Faults</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Warnings and faults that the matrices told of</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnungen und Fehler, die die Matrizen meldeten</translation>
     </message>
     <message>
         <source>Remarks</source>
@@ -2669,7 +2672,7 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>What is to be said about the recordings themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>Was zu den Aufzeichnungen selbst zu sagen ist</translation>
     </message>
 </context>
 <context>
@@ -2750,22 +2753,22 @@ Double-click: open it; with Shift: open it as the reference.</source>
     <name>TARN::LogbookAccess</name>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicher reicht nicht aus.</translation>
     </message>
     <message>
         <source>%1 of %2 flights</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 Flügen</translation>
     </message>
 </context>
 <context>
     <name>TARN::LogbookKeeper</name>
     <message>
         <source>Added to the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Bordbuch hinzugefügt.</translation>
     </message>
     <message>
         <source>Not added to the logbook: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht zum Bordbuch hinzugefügt: %1</translation>
     </message>
 </context>
 <context>
@@ -3362,106 +3365,106 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
     </message>
     <message>
         <source>Device, parameter and unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerät, Parameter und Einheit</translation>
     </message>
     <message>
         <source>Away</source>
-        <translation type="unfinished"></translation>
+        <translation>Abstand</translation>
     </message>
     <message>
         <source>How far the latest flight lies from the median, in robust standard deviations; red where it is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie weit der letzte Flug vom Median entfernt liegt, in robusten Standardabweichungen; rot, wo er markiert ist</translation>
     </message>
     <message>
         <source>Marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Markiert</translation>
     </message>
     <message>
         <source>Number of flights that leave the band</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahl der Flüge, die das Band verlassen</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter</translation>
     </message>
     <message>
         <source>In the latest flight that has a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Im letzten Flug, der einen Wert hat</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Median</translation>
     </message>
     <message>
         <source>Of the other flights since the last maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Der anderen Flüge seit der letzten Wartung</translation>
     </message>
 </context>
 <context>
     <name>TARN::TrendPanel</name>
     <message>
         <source>Time mean when steady</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitmittel, stationär</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Seconds above WARNING</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunden über WARNING</translation>
     </message>
     <message>
         <source>Times out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie oft außerhalb des Bereichs</translation>
     </message>
     <message>
         <source>What is compared from flight to flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Was von Flug zu Flug verglichen wird</translation>
     </message>
     <message>
         <source>Figure</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennzahl</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Show only parameters that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Parameter anzeigen, die diesen Text enthalten</translation>
     </message>
     <message>
         <source>Filter of the parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter der Parameter</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parameter</translation>
     </message>
     <message>
         <source>No parameter holds this text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Parameter enthält diesen Text.</translation>
     </message>
     <message>
         <source>No flight of this engine has a steady stretch of three minutes. What is steady is told by parameters that the profile marks with &quot;steady&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Flug dieses Triebwerks hat einen stationären Abschnitt von drei Minuten. Was stationär ist, bestimmen die Parameter, die das Profil mit „steady“ kennzeichnet.</translation>
     </message>
     <message>
         <source>No flight of this engine has this figure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Flug dieses Triebwerks hat diese Kennzahl.</translation>
     </message>
     <message>
         <source>Engine %1: a band needs five other flights since the last maintenance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Triebwerk %1: Ein Band braucht fünf andere Flüge seit der letzten Wartung.</translation>
     </message>
     <message>
         <source>Engine %1: %2 of %3 parameters leave their band in their latest flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Triebwerk %1: %2 von %3 Parametern in ihrem letzten Flug außerhalb ihres Bands.</translation>
     </message>
     <message>
         <source>%1%2, %3: %4 of %5 flights leave the band</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2, %3: %4 von %5 Flügen außerhalb des Bands</translation>
     </message>
 </context>
 <context>
@@ -3526,23 +3529,23 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
     <name>TARN::WidgetTrend</name>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Trend</translation>
     </message>
     <message>
         <source>no value</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Wert</translation>
     </message>
     <message>
         <source>Median of the others %1, sigma %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Median der anderen %1, Sigma %2</translation>
     </message>
     <message>
         <source>It leaves the band.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er verlässt das Band.</translation>
     </message>
     <message>
         <source>Click: open the flight; with Shift: as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klick: Flug öffnen; mit Umschalt: als Referenz.</translation>
     </message>
 </context>
 <context>

@@ -438,50 +438,50 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     <name>LogbookSettings</name>
     <message>
         <source>Added: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadidos: %1</translation>
     </message>
     <message>
         <source>known already: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ya conocidos: %1</translation>
     </message>
     <message>
         <source>not looked at: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no examinados: %1</translation>
     </message>
     <message>
         <source>not added: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>no añadidos: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>MaintenanceDialog</name>
     <message>
         <source>Maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantenimiento</translation>
     </message>
     <message>
         <source>What was done to engine %1? Trends compare flights only with those since the last note.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Qué se hizo en el motor %1? Las tendencias comparan los vuelos solo con los posteriores a la última nota.</translation>
     </message>
     <message>
         <source>Flights from this moment on are behind the maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Los vuelos a partir de este instante son posteriores al mantenimiento</translation>
     </message>
     <message>
         <source>Cylinder 6 replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>Cilindro 6 sustituido</translation>
     </message>
     <message>
         <source>&amp;Date (UTC)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fecha (UTC)</translation>
     </message>
     <message>
         <source>&amp;Note</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nota</translation>
     </message>
     <message>
         <source>Note It</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotar</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -660,11 +660,11 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     <name>RecordingFinder</name>
     <message>
         <source>Files named %1 were found, but they hold another flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se encontraron archivos con el nombre %1, pero contienen otro vuelo.</translation>
     </message>
     <message>
         <source>The files %1 were not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encontraron los archivos %1.</translation>
     </message>
 </context>
 <context>
@@ -1210,15 +1210,15 @@ Elija una carpeta en la que se pueda escribir, con espacio libre suficiente, y u
     </message>
     <message>
         <source>&amp;Logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Libro de vuelos...</translation>
     </message>
     <message>
         <source>Show the Flights That Were Kept, and What Changes from One to the Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los vuelos guardados y lo que cambia de uno al siguiente</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro de vuelos</translation>
     </message>
 </context>
 <context>
@@ -1953,80 +1953,81 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     <name>TARN::DialogLogbook</name>
     <message>
         <source>Stop adding; what was added stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Dejar de añadir; lo añadido se conserva</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro de vuelos</translation>
     </message>
     <message>
         <source>Reading the logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo el libro de vuelos...</translation>
     </message>
     <message>
         <source>Add every flight that you open to this logbook? Only statistics and events are kept. You can change that under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Añadir a este libro de vuelos cada vuelo que abra? Solo se guardan estadísticas y eventos. Puede cambiarlo en Extras, Preferencias.</translation>
     </message>
     <message>
         <source>&amp;Yes, Add Them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sí, añadirlos</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No</translation>
     </message>
     <message>
         <source>&amp;Add Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir carpeta...</translation>
     </message>
     <message>
         <source>Add the flights of a folder and of all folders in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir los vuelos de una carpeta y de todas las carpetas que contiene</translation>
     </message>
     <message>
         <source>&amp;Maintenance...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mantenimiento...</translation>
     </message>
     <message>
         <source>Note that something was done to the engine: trends begin anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotar que se hizo algo en el motor: las tendencias empiezan de nuevo</translation>
     </message>
     <message>
         <source>Every flight that you open is added from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>A partir de ahora se añade cada vuelo que abra.</translation>
     </message>
     <message>
         <source>The logbook is empty.
 &lt;a href=&quot;add&quot;&gt;Add a folder&lt;/a&gt; of recordings; the folders in it are looked through too.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro de vuelos está vacío.
+&lt;a href=&quot;add&quot;&gt;Añada una carpeta&lt;/a&gt; de grabaciones; también se examinan las carpetas que contiene.</translation>
     </message>
     <message>
         <source>There is no profile by which recordings could be understood. Choose one under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún perfil con el que decodificar las grabaciones. Elija uno en Extras, Preferencias.</translation>
     </message>
     <message>
         <source>Add a Folder to the Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una carpeta al libro de vuelos</translation>
     </message>
     <message>
         <source>Adding</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadiendo</translation>
     </message>
     <message>
         <source>Choose a flight of the engine first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija primero un vuelo del motor.</translation>
     </message>
     <message>
         <source>Remove the flight of %1 from the logbook?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Quitar del libro de vuelos el vuelo del %1?</translation>
     </message>
     <message>
         <source>Its recordings stay where they are and can be added again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus grabaciones se quedan donde están y se pueden volver a añadir.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2034,23 +2035,23 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     </message>
     <message>
         <source>Looking for its recordings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando sus grabaciones...</translation>
     </message>
     <message>
         <source>Opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abierto: %1</translation>
     </message>
     <message>
         <source>Where are the recordings of the flight of %1? The folders in the one that you choose are looked through too.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Dónde están las grabaciones del vuelo del %1? También se examinan las carpetas que contiene la que elija.</translation>
     </message>
     <message>
         <source>Choose Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir carpeta...</translation>
     </message>
     <message>
         <source>Find Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar grabaciones</translation>
     </message>
 </context>
 <context>
@@ -2226,27 +2227,27 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     </message>
     <message>
         <source>Add every flight that I open</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir cada vuelo que abro</translation>
     </message>
     <message>
         <source>Logbook :</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro de vuelos :</translation>
     </message>
     <message>
         <source>a file of the program&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>un archivo propio del programa</translation>
     </message>
     <message>
         <source>Where flights are kept: empty for this machine alone, &quot;postgresql://user@host/database&quot; for a team. A password is taken from PGPASSWORD or ~/.pgpass and never kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde se guardan los vuelos: vacío solo para este ordenador, «postgresql://usuario@equipo/base» para un grupo de trabajo. La contraseña se toma de PGPASSWORD o de ~/.pgpass y no se guarda nunca</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro de vuelos</translation>
     </message>
     <message>
         <source>Keeps statistics and events of every flight in the logbook, not its samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda en el libro de vuelos las estadísticas y los eventos de cada vuelo, no sus muestras</translation>
     </message>
 </context>
 <context>
@@ -2532,11 +2533,11 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     <name>TARN::FlightList</name>
     <message>
         <source>Show the flights of this engine only</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo los vuelos de este motor</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor</translation>
     </message>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -2544,7 +2545,7 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     </message>
     <message>
         <source>Show only flights that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo los vuelos que contienen este texto</translation>
     </message>
     <message>
         <source>Filter text</source>
@@ -2552,60 +2553,62 @@ Wait until it is complete, or stop it? A stopped export leaves the old file.</so
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir</translation>
     </message>
     <message>
         <source>Open as &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir como &amp;referencia</translation>
     </message>
     <message>
         <source>&amp;Remove from the Logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar del libro de vuelos...</translation>
     </message>
     <message>
         <source>All engines (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los motores (%1)</translation>
     </message>
     <message>
         <source>No flight of %1 holds &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno de %1 vuelos contiene «%2».</translation>
     </message>
 </context>
 <context>
     <name>TARN::FlightListModel</name>
     <message>
         <source>without number</source>
-        <translation type="unfinished"></translation>
+        <translation>sin número</translation>
     </message>
     <message>
         <source>by the UTC in its data</source>
-        <translation type="unfinished"></translation>
+        <translation>según la UTC de sus datos</translation>
     </message>
     <message>
         <source>by its header, in whatever zone</source>
-        <translation type="unfinished"></translation>
+        <translation>según su cabecera, en una zona horaria desconocida</translation>
     </message>
     <message>
         <source>nothing tells when it was</source>
-        <translation type="unfinished"></translation>
+        <translation>nada indica cuándo fue</translation>
     </message>
     <message>
         <source>Flight %1, %2.
 Engine %3 %4, profile %5.
 Double-click: open it; with Shift: open it as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo %1, %2.
+Motor %3 %4, perfil %5.
+Doble clic: abrirlo; con Mayús: abrirlo como referencia.</translation>
     </message>
     <message>
         <source>Start (UTC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio (UTC)</translation>
     </message>
     <message>
         <source>When the flight began; slanted: by the header&apos;s clock, whose zone is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuándo empezó el vuelo; en cursiva: según el reloj de la cabecera, cuya zona horaria no se conoce</translation>
     </message>
     <message>
         <source>Duration</source>
@@ -2613,15 +2616,15 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>From the first sample to the last</source>
-        <translation type="unfinished"></translation>
+        <translation>De la primera muestra a la última</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor</translation>
     </message>
     <message>
         <source>Serial number of the engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de serie del motor</translation>
     </message>
     <message>
         <source>Worst</source>
@@ -2629,39 +2632,39 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>The worst that happened</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo peor que pasó</translation>
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Límites</translation>
     </message>
     <message>
         <source>Times out of range that reached a limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Veces fuera de rango en que se alcanzó un límite</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Avisos</translation>
     </message>
     <message>
         <source>Times out of range that did not reach a limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Veces fuera de rango en que no se alcanzó ningún límite</translation>
     </message>
     <message>
         <source>Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Luces</translation>
     </message>
     <message>
         <source>Times that a warning lamp was on</source>
-        <translation type="unfinished"></translation>
+        <translation>Veces que estuvo encendida una luz de aviso</translation>
     </message>
     <message>
         <source>Faults</source>
-        <translation type="unfinished"></translation>
+        <translation>Fallos</translation>
     </message>
     <message>
         <source>Warnings and faults that the matrices told of</source>
-        <translation type="unfinished"></translation>
+        <translation>Avisos y fallos que comunicaron las matrices</translation>
     </message>
     <message>
         <source>Remarks</source>
@@ -2669,7 +2672,7 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>What is to be said about the recordings themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que hay que decir de las propias grabaciones</translation>
     </message>
 </context>
 <context>
@@ -2750,22 +2753,22 @@ Double-click: open it; with Shift: open it as the reference.</source>
     <name>TARN::LogbookAccess</name>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente.</translation>
     </message>
     <message>
         <source>%1 of %2 flights</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 vuelos</translation>
     </message>
 </context>
 <context>
     <name>TARN::LogbookKeeper</name>
     <message>
         <source>Added to the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadido al libro de vuelos.</translation>
     </message>
     <message>
         <source>Not added to the logbook: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se añadió al libro de vuelos: %1</translation>
     </message>
 </context>
 <context>
@@ -3362,106 +3365,106 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
     </message>
     <message>
         <source>Device, parameter and unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo, parámetro y unidad</translation>
     </message>
     <message>
         <source>Away</source>
-        <translation type="unfinished"></translation>
+        <translation>Desvío</translation>
     </message>
     <message>
         <source>How far the latest flight lies from the median, in robust standard deviations; red where it is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>A qué distancia de la mediana está el último vuelo, en desviaciones estándar robustas; en rojo donde está marcado</translation>
     </message>
     <message>
         <source>Marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcados</translation>
     </message>
     <message>
         <source>Number of flights that leave the band</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de vuelos que salen de la banda</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation type="unfinished"></translation>
+        <translation>Último</translation>
     </message>
     <message>
         <source>In the latest flight that has a value</source>
-        <translation type="unfinished"></translation>
+        <translation>En el último vuelo que tiene un valor</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana</translation>
     </message>
     <message>
         <source>Of the other flights since the last maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>De los demás vuelos desde el último mantenimiento</translation>
     </message>
 </context>
 <context>
     <name>TARN::TrendPanel</name>
     <message>
         <source>Time mean when steady</source>
-        <translation type="unfinished"></translation>
+        <translation>Media temporal estabilizada</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo</translation>
     </message>
     <message>
         <source>Seconds above WARNING</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos por encima de WARNING</translation>
     </message>
     <message>
         <source>Times out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>Veces fuera de rango</translation>
     </message>
     <message>
         <source>What is compared from flight to flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que se compara de un vuelo a otro</translation>
     </message>
     <message>
         <source>Figure</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicador</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Show only parameters that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar solo los parámetros que contienen este texto</translation>
     </message>
     <message>
         <source>Filter of the parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro de los parámetros</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetros</translation>
     </message>
     <message>
         <source>No parameter holds this text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún parámetro contiene este texto.</translation>
     </message>
     <message>
         <source>No flight of this engine has a steady stretch of three minutes. What is steady is told by parameters that the profile marks with &quot;steady&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún vuelo de este motor tiene un tramo estabilizado de tres minutos. Qué es estabilizado lo determinan los parámetros que el perfil marca con «steady».</translation>
     </message>
     <message>
         <source>No flight of this engine has this figure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún vuelo de este motor tiene este indicador.</translation>
     </message>
     <message>
         <source>Engine %1: a band needs five other flights since the last maintenance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor %1: una banda necesita otros cinco vuelos desde el último mantenimiento.</translation>
     </message>
     <message>
         <source>Engine %1: %2 of %3 parameters leave their band in their latest flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor %1: %2 de %3 parámetros fuera de su banda en su último vuelo.</translation>
     </message>
     <message>
         <source>%1%2, %3: %4 of %5 flights leave the band</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2, %3: %4 de %5 vuelos fuera de la banda</translation>
     </message>
 </context>
 <context>
@@ -3526,23 +3529,23 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
     <name>TARN::WidgetTrend</name>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendencia</translation>
     </message>
     <message>
         <source>no value</source>
-        <translation type="unfinished"></translation>
+        <translation>sin valor</translation>
     </message>
     <message>
         <source>Median of the others %1, sigma %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana de los demás %1, sigma %2</translation>
     </message>
     <message>
         <source>It leaves the band.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sale de la banda.</translation>
     </message>
     <message>
         <source>Click: open the flight; with Shift: as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic: abrir el vuelo; con Mayús: como referencia.</translation>
     </message>
 </context>
 <context>

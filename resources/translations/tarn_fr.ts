@@ -438,50 +438,50 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <name>LogbookSettings</name>
     <message>
         <source>Added: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutés&#xa0;: %1</translation>
     </message>
     <message>
         <source>known already: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>déjà connus&#xa0;: %1</translation>
     </message>
     <message>
         <source>not looked at: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>non examinés&#xa0;: %1</translation>
     </message>
     <message>
         <source>not added: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>non ajoutés&#xa0;: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>MaintenanceDialog</name>
     <message>
         <source>Maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenance</translation>
     </message>
     <message>
         <source>What was done to engine %1? Trends compare flights only with those since the last note.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qu&apos;a-t-on fait sur le moteur %1&#xa0;? Les tendances ne comparent les vols qu&apos;à ceux qui suivent la dernière note.</translation>
     </message>
     <message>
         <source>Flights from this moment on are behind the maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Les vols à partir de cet instant sont postérieurs à la maintenance</translation>
     </message>
     <message>
         <source>Cylinder 6 replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>Cylindre 6 remplacé</translation>
     </message>
     <message>
         <source>&amp;Date (UTC)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Date (UTC)</translation>
     </message>
     <message>
         <source>&amp;Note</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Note</translation>
     </message>
     <message>
         <source>Note It</source>
-        <translation type="unfinished"></translation>
+        <translation>Noter</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -660,11 +660,11 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <name>RecordingFinder</name>
     <message>
         <source>Files named %1 were found, but they hold another flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des fichiers nommés %1 ont été trouvés, mais ils contiennent un autre vol.</translation>
     </message>
     <message>
         <source>The files %1 were not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les fichiers %1 n&apos;ont pas été trouvés.</translation>
     </message>
 </context>
 <context>
@@ -1210,15 +1210,15 @@ Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, e
     </message>
     <message>
         <source>&amp;Logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carnet...</translation>
     </message>
     <message>
         <source>Show the Flights That Were Kept, and What Changes from One to the Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les vols conservés et ce qui change de l&apos;un à l&apos;autre</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Carnet</translation>
     </message>
 </context>
 <context>
@@ -1953,80 +1953,81 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     <name>TARN::DialogLogbook</name>
     <message>
         <source>Stop adding; what was added stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter l&apos;ajout&#xa0;; ce qui a été ajouté reste</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Carnet</translation>
     </message>
     <message>
         <source>Reading the logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture du carnet...</translation>
     </message>
     <message>
         <source>Add every flight that you open to this logbook? Only statistics and events are kept. You can change that under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter à ce carnet chaque vol que vous ouvrez&#xa0;? Seuls sont conservés les statistiques et les événements. Vous pouvez changer cela sous Outils, Préférences.</translation>
     </message>
     <message>
         <source>&amp;Yes, Add Them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oui, les ajouter</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Non</translation>
     </message>
     <message>
         <source>&amp;Add Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter un dossier...</translation>
     </message>
     <message>
         <source>Add the flights of a folder and of all folders in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter les vols d&apos;un dossier et de tous les dossiers qu&apos;il contient</translation>
     </message>
     <message>
         <source>&amp;Maintenance...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Maintenance...</translation>
     </message>
     <message>
         <source>Note that something was done to the engine: trends begin anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Noter une intervention sur le moteur&#xa0;: les tendances repartent de zéro</translation>
     </message>
     <message>
         <source>Every flight that you open is added from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque vol que vous ouvrez est désormais ajouté.</translation>
     </message>
     <message>
         <source>The logbook is empty.
 &lt;a href=&quot;add&quot;&gt;Add a folder&lt;/a&gt; of recordings; the folders in it are looked through too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet est vide.
+&lt;a href=&quot;add&quot;&gt;Ajoutez un dossier&lt;/a&gt; d&apos;enregistrements&#xa0;; les dossiers qu&apos;il contient sont parcourus aussi.</translation>
     </message>
     <message>
         <source>There is no profile by which recordings could be understood. Choose one under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de profil permettant de décoder les enregistrements. Choisissez-en un sous Outils, Préférences.</translation>
     </message>
     <message>
         <source>Add a Folder to the Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier au carnet</translation>
     </message>
     <message>
         <source>Adding</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajout</translation>
     </message>
     <message>
         <source>Choose a flight of the engine first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez d&apos;abord un vol du moteur.</translation>
     </message>
     <message>
         <source>Remove the flight of %1 from the logbook?</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer du carnet le vol du %1&#xa0;?</translation>
     </message>
     <message>
         <source>Its recordings stay where they are and can be added again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ses enregistrements restent où ils sont et peuvent être ajoutés de nouveau.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2034,23 +2035,23 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     </message>
     <message>
         <source>Looking for its recordings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de ses enregistrements...</translation>
     </message>
     <message>
         <source>Opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvert&#xa0;: %1</translation>
     </message>
     <message>
         <source>Where are the recordings of the flight of %1? The folders in the one that you choose are looked through too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Où sont les enregistrements du vol du %1&#xa0;? Les dossiers que contient celui que vous choisissez sont parcourus aussi.</translation>
     </message>
     <message>
         <source>Choose Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un dossier...</translation>
     </message>
     <message>
         <source>Find Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher les enregistrements</translation>
     </message>
 </context>
 <context>
@@ -2226,27 +2227,27 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
     <message>
         <source>Add every flight that I open</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter chaque vol que j&apos;ouvre</translation>
     </message>
     <message>
         <source>Logbook :</source>
-        <translation type="unfinished"></translation>
+        <translation>Carnet&#xa0;:</translation>
     </message>
     <message>
         <source>a file of the program&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier propre au programme</translation>
     </message>
     <message>
         <source>Where flights are kept: empty for this machine alone, &quot;postgresql://user@host/database&quot; for a team. A password is taken from PGPASSWORD or ~/.pgpass and never kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Où les vols sont conservés&#xa0;: vide pour cet ordinateur seul, «&#xa0;postgresql://utilisateur@hôte/base&#xa0;» pour une équipe. Le mot de passe est pris dans PGPASSWORD ou ~/.pgpass et n&apos;est jamais conservé</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Carnet</translation>
     </message>
     <message>
         <source>Keeps statistics and events of every flight in the logbook, not its samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserve dans le carnet les statistiques et les événements de chaque vol, pas ses échantillons</translation>
     </message>
 </context>
 <context>
@@ -2532,11 +2533,11 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     <name>TARN::FlightList</name>
     <message>
         <source>Show the flights of this engine only</source>
-        <translation type="unfinished"></translation>
+        <translation>N&apos;afficher que les vols de ce moteur</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Moteur</translation>
     </message>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -2544,7 +2545,7 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
     <message>
         <source>Show only flights that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>N&apos;afficher que les vols qui contiennent ce texte</translation>
     </message>
     <message>
         <source>Filter text</source>
@@ -2552,60 +2553,62 @@ Attendre qu&apos;il soit terminé, ou l&apos;arrêter&#xa0;? Un export arrêté 
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir</translation>
     </message>
     <message>
         <source>Open as &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir comme &amp;référence</translation>
     </message>
     <message>
         <source>&amp;Remove from the Logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;tirer du carnet...</translation>
     </message>
     <message>
         <source>All engines (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les moteurs (%1)</translation>
     </message>
     <message>
         <source>No flight of %1 holds &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun vol sur %1 ne contient «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>TARN::FlightListModel</name>
     <message>
         <source>without number</source>
-        <translation type="unfinished"></translation>
+        <translation>sans numéro</translation>
     </message>
     <message>
         <source>by the UTC in its data</source>
-        <translation type="unfinished"></translation>
+        <translation>d&apos;après l&apos;UTC de ses données</translation>
     </message>
     <message>
         <source>by its header, in whatever zone</source>
-        <translation type="unfinished"></translation>
+        <translation>d&apos;après son en-tête, dans un fuseau inconnu</translation>
     </message>
     <message>
         <source>nothing tells when it was</source>
-        <translation type="unfinished"></translation>
+        <translation>rien n&apos;indique quand c&apos;était</translation>
     </message>
     <message>
         <source>Flight %1, %2.
 Engine %3 %4, profile %5.
 Double-click: open it; with Shift: open it as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol %1, %2.
+Moteur %3 %4, profil %5.
+Double clic&#xa0;: l&apos;ouvrir&#xa0;; avec Maj&#xa0;: l&apos;ouvrir comme référence.</translation>
     </message>
     <message>
         <source>Start (UTC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Début (UTC)</translation>
     </message>
     <message>
         <source>When the flight began; slanted: by the header&apos;s clock, whose zone is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand le vol a commencé&#xa0;; en italique&#xa0;: d&apos;après l&apos;horloge de l&apos;en-tête, dont le fuseau n&apos;est pas connu</translation>
     </message>
     <message>
         <source>Duration</source>
@@ -2613,15 +2616,15 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>From the first sample to the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Du premier échantillon au dernier</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Moteur</translation>
     </message>
     <message>
         <source>Serial number of the engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro de série du moteur</translation>
     </message>
     <message>
         <source>Worst</source>
@@ -2629,39 +2632,39 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>The worst that happened</source>
-        <translation type="unfinished"></translation>
+        <translation>Le pire de ce qui s&apos;est passé</translation>
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Limites</translation>
     </message>
     <message>
         <source>Times out of range that reached a limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de fois hors plage où une limite a été atteinte</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Alertes</translation>
     </message>
     <message>
         <source>Times out of range that did not reach a limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de fois hors plage où aucune limite n&apos;a été atteinte</translation>
     </message>
     <message>
         <source>Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Voyants</translation>
     </message>
     <message>
         <source>Times that a warning lamp was on</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de fois qu&apos;un voyant d&apos;alerte a été allumé</translation>
     </message>
     <message>
         <source>Faults</source>
-        <translation type="unfinished"></translation>
+        <translation>Défauts</translation>
     </message>
     <message>
         <source>Warnings and faults that the matrices told of</source>
-        <translation type="unfinished"></translation>
+        <translation>Alertes et défauts signalés par les matrices</translation>
     </message>
     <message>
         <source>Remarks</source>
@@ -2669,7 +2672,7 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>What is to be said about the recordings themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu&apos;il y a à dire des enregistrements eux-mêmes</translation>
     </message>
 </context>
 <context>
@@ -2750,22 +2753,22 @@ Double-click: open it; with Shift: open it as the reference.</source>
     <name>TARN::LogbookAccess</name>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mémoire ne suffit pas.</translation>
     </message>
     <message>
         <source>%1 of %2 flights</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2 vols</translation>
     </message>
 </context>
 <context>
     <name>TARN::LogbookKeeper</name>
     <message>
         <source>Added to the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouté au carnet.</translation>
     </message>
     <message>
         <source>Not added to the logbook: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d&apos;ajout au carnet&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -3362,106 +3365,106 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     </message>
     <message>
         <source>Device, parameter and unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Équipement, paramètre et unité</translation>
     </message>
     <message>
         <source>Away</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart</translation>
     </message>
     <message>
         <source>How far the latest flight lies from the median, in robust standard deviations; red where it is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>De combien le dernier vol est éloigné de la médiane, en écarts types robustes&#xa0;; en rouge là où il est marqué</translation>
     </message>
     <message>
         <source>Marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Marqués</translation>
     </message>
     <message>
         <source>Number of flights that leave the band</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de vols qui sortent de la bande</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier</translation>
     </message>
     <message>
         <source>In the latest flight that has a value</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le dernier vol qui a une valeur</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Médiane</translation>
     </message>
     <message>
         <source>Of the other flights since the last maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Des autres vols depuis la dernière maintenance</translation>
     </message>
 </context>
 <context>
     <name>TARN::TrendPanel</name>
     <message>
         <source>Time mean when steady</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne temporelle stabilisée</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>Seconds above WARNING</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes au-dessus de WARNING</translation>
     </message>
     <message>
         <source>Times out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de fois hors plage</translation>
     </message>
     <message>
         <source>What is compared from flight to flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que l&apos;on compare d&apos;un vol à l&apos;autre</translation>
     </message>
     <message>
         <source>Figure</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicateur</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre</translation>
     </message>
     <message>
         <source>Show only parameters that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>N&apos;afficher que les paramètres qui contiennent ce texte</translation>
     </message>
     <message>
         <source>Filter of the parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre des paramètres</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>No parameter holds this text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun paramètre ne contient ce texte.</translation>
     </message>
     <message>
         <source>No flight of this engine has a steady stretch of three minutes. What is steady is told by parameters that the profile marks with &quot;steady&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun vol de ce moteur n&apos;a de partie stabilisée de trois minutes. Ce qui est stabilisé est déterminé par les paramètres que le profil marque par «&#xa0;steady&#xa0;».</translation>
     </message>
     <message>
         <source>No flight of this engine has this figure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun vol de ce moteur n&apos;a cet indicateur.</translation>
     </message>
     <message>
         <source>Engine %1: a band needs five other flights since the last maintenance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Moteur %1&#xa0;: une bande demande cinq autres vols depuis la dernière maintenance.</translation>
     </message>
     <message>
         <source>Engine %1: %2 of %3 parameters leave their band in their latest flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Moteur %1&#xa0;: %2 sur %3 paramètres hors de leur bande dans leur dernier vol.</translation>
     </message>
     <message>
         <source>%1%2, %3: %4 of %5 flights leave the band</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2, %3&#xa0;: %4 sur %5 vols hors de la bande</translation>
     </message>
 </context>
 <context>
@@ -3526,23 +3529,23 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     <name>TARN::WidgetTrend</name>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendance</translation>
     </message>
     <message>
         <source>no value</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de valeur</translation>
     </message>
     <message>
         <source>Median of the others %1, sigma %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Médiane des autres %1, sigma %2</translation>
     </message>
     <message>
         <source>It leaves the band.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il sort de la bande.</translation>
     </message>
     <message>
         <source>Click: open the flight; with Shift: as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Clic&#xa0;: ouvrir le vol&#xa0;; avec Maj&#xa0;: comme référence.</translation>
     </message>
 </context>
 <context>

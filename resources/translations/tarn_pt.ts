@@ -438,50 +438,50 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     <name>LogbookSettings</name>
     <message>
         <source>Added: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionados: %1</translation>
     </message>
     <message>
         <source>known already: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>já conhecidos: %1</translation>
     </message>
     <message>
         <source>not looked at: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>não examinados: %1</translation>
     </message>
     <message>
         <source>not added: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>não adicionados: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>MaintenanceDialog</name>
     <message>
         <source>Maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Manutenção</translation>
     </message>
     <message>
         <source>What was done to engine %1? Trends compare flights only with those since the last note.</source>
-        <translation type="unfinished"></translation>
+        <translation>O que foi feito no motor %1? As tendências comparam os voos apenas com os posteriores à última nota.</translation>
     </message>
     <message>
         <source>Flights from this moment on are behind the maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Os voos a partir deste momento são posteriores à manutenção</translation>
     </message>
     <message>
         <source>Cylinder 6 replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>Cilindro 6 substituído</translation>
     </message>
     <message>
         <source>&amp;Date (UTC)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Data (UTC)</translation>
     </message>
     <message>
         <source>&amp;Note</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nota</translation>
     </message>
     <message>
         <source>Note It</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotar</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -660,11 +660,11 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     <name>RecordingFinder</name>
     <message>
         <source>Files named %1 were found, but they hold another flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Foram encontrados arquivos com o nome %1, mas eles contêm outro voo.</translation>
     </message>
     <message>
         <source>The files %1 were not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Os arquivos %1 não foram encontrados.</translation>
     </message>
 </context>
 <context>
@@ -1210,15 +1210,15 @@ Escolha uma pasta em que se possa escrever, com espaço livre suficiente, e um n
     </message>
     <message>
         <source>&amp;Logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diário...</translation>
     </message>
     <message>
         <source>Show the Flights That Were Kept, and What Changes from One to the Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar os voos guardados e o que muda de um para o outro</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Diário</translation>
     </message>
 </context>
 <context>
@@ -1953,80 +1953,81 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     <name>TARN::DialogLogbook</name>
     <message>
         <source>Stop adding; what was added stays</source>
-        <translation type="unfinished"></translation>
+        <translation>Interromper a adição; o que foi adicionado permanece</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Diário</translation>
     </message>
     <message>
         <source>Reading the logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>Lendo o diário...</translation>
     </message>
     <message>
         <source>Add every flight that you open to this logbook? Only statistics and events are kept. You can change that under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar a este diário cada voo que abrir? Apenas estatísticas e eventos são guardados. Isso pode ser alterado em Extras, Preferências.</translation>
     </message>
     <message>
         <source>&amp;Yes, Add Them</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sim, adicionar</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Não</translation>
     </message>
     <message>
         <source>&amp;Add Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adicionar pasta...</translation>
     </message>
     <message>
         <source>Add the flights of a folder and of all folders in it</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar os voos de uma pasta e de todas as pastas dentro dela</translation>
     </message>
     <message>
         <source>&amp;Maintenance...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manutenção...</translation>
     </message>
     <message>
         <source>Note that something was done to the engine: trends begin anew</source>
-        <translation type="unfinished"></translation>
+        <translation>Anotar que algo foi feito no motor: as tendências recomeçam</translation>
     </message>
     <message>
         <source>Every flight that you open is added from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>A partir de agora, cada voo que abrir é adicionado.</translation>
     </message>
     <message>
         <source>The logbook is empty.
 &lt;a href=&quot;add&quot;&gt;Add a folder&lt;/a&gt; of recordings; the folders in it are looked through too.</source>
-        <translation type="unfinished"></translation>
+        <translation>O diário está vazio.
+&lt;a href=&quot;add&quot;&gt;Adicione uma pasta&lt;/a&gt; de gravações; as pastas dentro dela também são examinadas.</translation>
     </message>
     <message>
         <source>There is no profile by which recordings could be understood. Choose one under Extras, Preferences.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há nenhum perfil com o qual decodificar as gravações. Escolha um em Extras, Preferências.</translation>
     </message>
     <message>
         <source>Add a Folder to the Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar uma pasta ao diário</translation>
     </message>
     <message>
         <source>Adding</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionando</translation>
     </message>
     <message>
         <source>Choose a flight of the engine first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha primeiro um voo do motor.</translation>
     </message>
     <message>
         <source>Remove the flight of %1 from the logbook?</source>
-        <translation type="unfinished"></translation>
+        <translation>Remover do diário o voo de %1?</translation>
     </message>
     <message>
         <source>Its recordings stay where they are and can be added again.</source>
-        <translation type="unfinished"></translation>
+        <translation>As gravações dele ficam onde estão e podem ser adicionadas de novo.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Remover</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2034,23 +2035,23 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     </message>
     <message>
         <source>Looking for its recordings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurando as gravações dele...</translation>
     </message>
     <message>
         <source>Opened: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aberto: %1</translation>
     </message>
     <message>
         <source>Where are the recordings of the flight of %1? The folders in the one that you choose are looked through too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Onde estão as gravações do voo de %1? As pastas dentro da que escolher também são examinadas.</translation>
     </message>
     <message>
         <source>Choose Folder...</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolher pasta...</translation>
     </message>
     <message>
         <source>Find Recordings</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar gravações</translation>
     </message>
 </context>
 <context>
@@ -2226,27 +2227,27 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     </message>
     <message>
         <source>Add every flight that I open</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionar cada voo que eu abrir</translation>
     </message>
     <message>
         <source>Logbook :</source>
-        <translation type="unfinished"></translation>
+        <translation>Diário :</translation>
     </message>
     <message>
         <source>a file of the program&apos;s own</source>
-        <translation type="unfinished"></translation>
+        <translation>um arquivo próprio do programa</translation>
     </message>
     <message>
         <source>Where flights are kept: empty for this machine alone, &quot;postgresql://user@host/database&quot; for a team. A password is taken from PGPASSWORD or ~/.pgpass and never kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Onde os voos são guardados: vazio só para esta máquina, “postgresql://usuário@máquina/banco” para uma equipe. A senha é lida de PGPASSWORD ou de ~/.pgpass e nunca é guardada</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Diário</translation>
     </message>
     <message>
         <source>Keeps statistics and events of every flight in the logbook, not its samples</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda no diário as estatísticas e os eventos de cada voo, não as suas amostras</translation>
     </message>
 </context>
 <context>
@@ -2532,11 +2533,11 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     <name>TARN::FlightList</name>
     <message>
         <source>Show the flights of this engine only</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar só os voos deste motor</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor</translation>
     </message>
     <message>
         <source>Filter (Ctrl+F)</source>
@@ -2544,7 +2545,7 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     </message>
     <message>
         <source>Show only flights that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar só os voos que contêm este texto</translation>
     </message>
     <message>
         <source>Filter text</source>
@@ -2552,60 +2553,62 @@ Aguardar a conclusão ou interrompê-la? Se for interrompida, o arquivo antigo �
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Voos</translation>
     </message>
     <message>
         <source>&amp;Open</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir</translation>
     </message>
     <message>
         <source>Open as &amp;Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir como &amp;referência</translation>
     </message>
     <message>
         <source>&amp;Remove from the Logbook...</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;mover do diário...</translation>
     </message>
     <message>
         <source>All engines (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos os motores (%1)</translation>
     </message>
     <message>
         <source>No flight of %1 holds &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum de %1 voos contém “%2”.</translation>
     </message>
 </context>
 <context>
     <name>TARN::FlightListModel</name>
     <message>
         <source>without number</source>
-        <translation type="unfinished"></translation>
+        <translation>sem número</translation>
     </message>
     <message>
         <source>by the UTC in its data</source>
-        <translation type="unfinished"></translation>
+        <translation>pelo UTC dos seus dados</translation>
     </message>
     <message>
         <source>by its header, in whatever zone</source>
-        <translation type="unfinished"></translation>
+        <translation>pelo seu cabeçalho, em fuso horário desconhecido</translation>
     </message>
     <message>
         <source>nothing tells when it was</source>
-        <translation type="unfinished"></translation>
+        <translation>nada indica quando foi</translation>
     </message>
     <message>
         <source>Flight %1, %2.
 Engine %3 %4, profile %5.
 Double-click: open it; with Shift: open it as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voo %1, %2.
+Motor %3 %4, perfil %5.
+Clique duplo: abrir; com Shift: abrir como referência.</translation>
     </message>
     <message>
         <source>Start (UTC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Início (UTC)</translation>
     </message>
     <message>
         <source>When the flight began; slanted: by the header&apos;s clock, whose zone is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Quando o voo começou; em itálico: pelo relógio do cabeçalho, cujo fuso horário não é conhecido</translation>
     </message>
     <message>
         <source>Duration</source>
@@ -2613,15 +2616,15 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>From the first sample to the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Da primeira amostra à última</translation>
     </message>
     <message>
         <source>Engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor</translation>
     </message>
     <message>
         <source>Serial number of the engine</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de série do motor</translation>
     </message>
     <message>
         <source>Worst</source>
@@ -2629,39 +2632,39 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>The worst that happened</source>
-        <translation type="unfinished"></translation>
+        <translation>O pior que aconteceu</translation>
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Limites</translation>
     </message>
     <message>
         <source>Times out of range that reached a limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Vezes fora da faixa em que um limite foi atingido</translation>
     </message>
     <message>
         <source>Warnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Avisos</translation>
     </message>
     <message>
         <source>Times out of range that did not reach a limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Vezes fora da faixa em que nenhum limite foi atingido</translation>
     </message>
     <message>
         <source>Lamps</source>
-        <translation type="unfinished"></translation>
+        <translation>Luzes</translation>
     </message>
     <message>
         <source>Times that a warning lamp was on</source>
-        <translation type="unfinished"></translation>
+        <translation>Vezes que uma luz de aviso esteve acesa</translation>
     </message>
     <message>
         <source>Faults</source>
-        <translation type="unfinished"></translation>
+        <translation>Falhas</translation>
     </message>
     <message>
         <source>Warnings and faults that the matrices told of</source>
-        <translation type="unfinished"></translation>
+        <translation>Avisos e falhas informados pelas matrizes</translation>
     </message>
     <message>
         <source>Remarks</source>
@@ -2669,7 +2672,7 @@ Double-click: open it; with Shift: open it as the reference.</source>
     </message>
     <message>
         <source>What is to be said about the recordings themselves</source>
-        <translation type="unfinished"></translation>
+        <translation>O que há a dizer sobre as próprias gravações</translation>
     </message>
 </context>
 <context>
@@ -2750,22 +2753,22 @@ Double-click: open it; with Shift: open it as the reference.</source>
     <name>TARN::LogbookAccess</name>
     <message>
         <source>There is not enough memory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há memória suficiente.</translation>
     </message>
     <message>
         <source>%1 of %2 flights</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2 voos</translation>
     </message>
 </context>
 <context>
     <name>TARN::LogbookKeeper</name>
     <message>
         <source>Added to the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adicionado ao diário.</translation>
     </message>
     <message>
         <source>Not added to the logbook: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não adicionado ao diário: %1</translation>
     </message>
 </context>
 <context>
@@ -3362,106 +3365,106 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     </message>
     <message>
         <source>Device, parameter and unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivo, parâmetro e unidade</translation>
     </message>
     <message>
         <source>Away</source>
-        <translation type="unfinished"></translation>
+        <translation>Desvio</translation>
     </message>
     <message>
         <source>How far the latest flight lies from the median, in robust standard deviations; red where it is marked</source>
-        <translation type="unfinished"></translation>
+        <translation>A que distância da mediana está o último voo, em desvios padrão robustos; em vermelho onde está marcado</translation>
     </message>
     <message>
         <source>Marked</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcados</translation>
     </message>
     <message>
         <source>Number of flights that leave the band</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de voos que saem da banda</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation type="unfinished"></translation>
+        <translation>Último</translation>
     </message>
     <message>
         <source>In the latest flight that has a value</source>
-        <translation type="unfinished"></translation>
+        <translation>No último voo que tem um valor</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana</translation>
     </message>
     <message>
         <source>Of the other flights since the last maintenance</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos outros voos desde a última manutenção</translation>
     </message>
 </context>
 <context>
     <name>TARN::TrendPanel</name>
     <message>
         <source>Time mean when steady</source>
-        <translation type="unfinished"></translation>
+        <translation>Média temporal estabilizada</translation>
     </message>
     <message>
         <source>Maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo</translation>
     </message>
     <message>
         <source>Seconds above WARNING</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos acima de WARNING</translation>
     </message>
     <message>
         <source>Times out of range</source>
-        <translation type="unfinished"></translation>
+        <translation>Vezes fora da faixa</translation>
     </message>
     <message>
         <source>What is compared from flight to flight</source>
-        <translation type="unfinished"></translation>
+        <translation>O que se compara de um voo para outro</translation>
     </message>
     <message>
         <source>Figure</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicador</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>Show only parameters that hold this text</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar só os parâmetros que contêm este texto</translation>
     </message>
     <message>
         <source>Filter of the parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro dos parâmetros</translation>
     </message>
     <message>
         <source>Parameters</source>
-        <translation type="unfinished"></translation>
+        <translation>Parâmetros</translation>
     </message>
     <message>
         <source>No parameter holds this text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum parâmetro contém este texto.</translation>
     </message>
     <message>
         <source>No flight of this engine has a steady stretch of three minutes. What is steady is told by parameters that the profile marks with &quot;steady&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum voo deste motor tem um trecho estabilizado de três minutos. O que é estabilizado é determinado pelos parâmetros que o perfil marca com “steady”.</translation>
     </message>
     <message>
         <source>No flight of this engine has this figure.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum voo deste motor tem este indicador.</translation>
     </message>
     <message>
         <source>Engine %1: a band needs five other flights since the last maintenance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor %1: uma banda precisa de outros cinco voos desde a última manutenção.</translation>
     </message>
     <message>
         <source>Engine %1: %2 of %3 parameters leave their band in their latest flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Motor %1: %2 de %3 parâmetros fora da sua banda no seu último voo.</translation>
     </message>
     <message>
         <source>%1%2, %3: %4 of %5 flights leave the band</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2, %3: %4 de %5 voos fora da banda</translation>
     </message>
 </context>
 <context>
@@ -3526,23 +3529,23 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     <name>TARN::WidgetTrend</name>
     <message>
         <source>Trend</source>
-        <translation type="unfinished"></translation>
+        <translation>Tendência</translation>
     </message>
     <message>
         <source>no value</source>
-        <translation type="unfinished"></translation>
+        <translation>sem valor</translation>
     </message>
     <message>
         <source>Median of the others %1, sigma %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana dos outros %1, sigma %2</translation>
     </message>
     <message>
         <source>It leaves the band.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sai da banda.</translation>
     </message>
     <message>
         <source>Click: open the flight; with Shift: as the reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Clique: abrir o voo; com Shift: como referência.</translation>
     </message>
 </context>
 <context>

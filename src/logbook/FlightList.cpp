@@ -87,9 +87,9 @@ void FlightList::setEmptyText(const QString& text)
     applyFilter();
 }
 
-void FlightList::setFlights(const std::vector<FlightHead>& flights)
+void FlightList::setFlights(std::shared_ptr<const std::vector<FlightHead>> flights)
 {
-    mModel.setFlights(flights);
+    mModel.setFlights(std::move(flights));
     showEngines();
     applyFilter();
 }
@@ -117,9 +117,9 @@ void FlightList::applyFilter()
     mModel.setFilter(engine.isValid() ? std::optional(engine.toString()) : std::nullopt,
                      mText->text());
     mTable->setEmptyText(
-        mModel.size() == 0
+        mModel.flights().empty()
             ? mEmptyText
-            : tr("No flight of %1 holds \"%2\".").arg(mModel.size()).arg(mText->text()));
+            : tr("No flight of %1 holds \"%2\".").arg(mModel.flights().size()).arg(mText->text()));
     choose(mModel.rowOf(mChosen) >= 0 ? mChosen
            : mModel.rowCount() > 0    ? mModel.flight(0).flight
                                       : QString());

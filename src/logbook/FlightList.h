@@ -20,7 +20,7 @@ public:
     explicit FlightList(QWidget* parent = nullptr);
 
     /// The flight that was chosen stays so where it is still there, otherwise the latest is.
-    void setFlights(const std::vector<FlightHead>& flights);
+    void setFlights(std::shared_ptr<const std::vector<FlightHead>> flights);
     /// Why there are none; see EmptyPlace.
     void setEmptyText(const QString& text);
     /// Chooses a flight by its key.

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <tuple>
 
 namespace TARN {
 
@@ -74,13 +73,10 @@ QString engineWords(const QString& aircraft)
     return aircraft.isEmpty() ? FlightListModel::tr("without number") : aircraft;
 }
 
-void FlightListModel::setFlights(std::vector<FlightHead> flights)
+void FlightListModel::setFlights(std::shared_ptr<const std::vector<FlightHead>> flights)
 {
     beginResetModel();
     mFlights = std::move(flights);
-    std::ranges::sort(mFlights, std::greater(), [](const FlightHead& flight) {
-        return std::tuple(keyOf(flight, StartColumn), flight.aircraft, flight.flight);
-    });
     arrange();
     endResetModel();
 }
@@ -106,8 +102,8 @@ void FlightListModel::sort(int column, Qt::SortOrder order)
 void FlightListModel::arrange()
 {
     mRows.clear();
-    for (std::size_t k = 0; k < mFlights.size(); ++k) {
-        const FlightHead& flight = mFlights[k];
+    for (std::size_t k = 0; k < flights().size(); ++k) {
+        const FlightHead& flight = flights()[k];
         bool isWanted = !mEngine || flight.aircraft == *mEngine;
         if (isWanted && !mText.isEmpty()) {
             isWanted = false;
@@ -120,8 +116,8 @@ void FlightListModel::arrange()
         }
     }
     const auto isLess = [this](std::size_t a, std::size_t b) {
-        const FlightHead& left = mFlights[mOrder == Qt::AscendingOrder ? a : b];
-        const FlightHead& right = mFlights[mOrder == Qt::AscendingOrder ? b : a];
+        const FlightHead& left = flights()[mOrder == Qt::AscendingOrder ? a : b];
+        const FlightHead& right = flights()[mOrder == Qt::AscendingOrder ? b : a];
         return mColumn == EngineColumn ? left.aircraft < right.aircraft
                                        : keyOf(left, mColumn) < keyOf(right, mColumn);
     };
@@ -131,7 +127,7 @@ void FlightListModel::arrange()
 int FlightListModel::rowOf(const QString& flight) const
 {
     const auto found = std::ranges::find(
-        mRows, flight, [this](std::size_t k) -> const QString& { return mFlights[k].flight; });
+        mRows, flight, [this](std::size_t k) -> const QString& { return flights()[k].flight; });
     return found == mRows.end() ? -1 : static_cast<int>(found - mRows.begin());
 }
 

@@ -4,6 +4,8 @@
 
 #include <QtCore/QAbstractTableModel>
 
+#include <memory>
+
 namespace TARN {
 
 /// The flights of a logbook as a table, those that the user wants to see in the order that they
@@ -29,7 +31,8 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    void setFlights(std::vector<FlightHead> flights);
+    /// The latest first.
+    void setFlights(std::shared_ptr<const std::vector<FlightHead>> flights);
 
     /// Only flights of this engine, of all without one, that hold this text in a cell, in capitals
     /// or not.
@@ -37,11 +40,10 @@ public:
 
     const FlightHead& flight(int row) const
     {
-        return mFlights[mRows[static_cast<std::size_t>(row)]];
+        return flights()[mRows[static_cast<std::size_t>(row)]];
     }
-    int rowOf(const QString& flight) const;              ///< by key; -1 where it is not shown
-    std::size_t size() const { return mFlights.size(); } ///< of all
-    const std::vector<FlightHead>& flights() const { return mFlights; }
+    int rowOf(const QString& flight) const; ///< by key; -1 where it is not shown
+    const std::vector<FlightHead>& flights() const { return *mFlights; } ///< all
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -56,8 +58,9 @@ private:
     QString toolTipOf(const FlightHead& flight) const;
     void arrange();
 
-    std::vector<FlightHead> mFlights; ///< the latest first
-    std::vector<std::size_t> mRows;   ///< into mFlights
+    std::shared_ptr<const std::vector<FlightHead>> mFlights =
+        std::make_shared<std::vector<FlightHead>>();
+    std::vector<std::size_t> mRows; ///< into mFlights
     std::optional<QString> mEngine;
     QString mText;
     int mColumn = StartColumn;

@@ -4,6 +4,8 @@
 
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
+
 namespace TARN {
 
 namespace {
@@ -62,9 +64,11 @@ void LogbookAccess::readFlights()
 {
     ask<FlightHeads>(
         mReading,
-        [url = mUrl](Progress&) {
+        [url = mUrl](Progress&) -> FlightHeads {
             const auto logbook = opened(url);
-            return logbook != nullptr ? logbook->flights() : FlightHeads();
+            auto flights = logbook != nullptr ? logbook->flights() : std::vector<FlightHead>();
+            std::ranges::stable_sort(flights, std::greater(), &FlightHead::start);
+            return std::make_shared<const std::vector<FlightHead>>(std::move(flights));
         },
         [this](const FlightHeads& flights) { Q_EMIT flightsRead(flights); });
 }

@@ -9,8 +9,8 @@
 
 namespace TARN {
 
-/// The flights of a logbook at one moment.
-using FlightHeads = std::vector<FlightHead>;
+/// The flights of a logbook at one moment, the latest first; never null.
+using FlightHeads = std::shared_ptr<const std::vector<FlightHead>>;
 
 /// A figure of all parameters of an engine.
 struct EngineTrends

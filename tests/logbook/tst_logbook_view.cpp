@@ -32,10 +32,11 @@ class TestLogbookView : public FlightTest
         return head;
     }
 
-    static std::vector<FlightHead> flights()
+    static std::shared_ptr<const std::vector<FlightHead>> flights()
     {
-        return {flight("B", "b1", 86'400, 3600.0 * 30, 0), flight("A", "a1", 0, 90.0, 2),
-                flight("A", "a2", 2 * 86'400, 60.0, 11), flight("", "c1", {}, 61.0, 0)};
+        return std::make_shared<const std::vector<FlightHead>>(std::vector<FlightHead>{
+            flight("A", "a2", 2 * 86'400, 60.0, 11), flight("B", "b1", 86'400, 3600.0 * 30, 0),
+            flight("A", "a1", 0, 90.0, 2), flight("", "c1", {}, 61.0, 0)});
     }
 
     static QString keys(const FlightListModel& model)
