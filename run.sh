@@ -21,6 +21,16 @@ mv "$root/build-log.txt" "$demo/build-log.txt"
 
 export HOME=$demo/home
 settings=$HOME/ORNA/ORNA.ini
+# The logbook of a season: an injector is cleaned after two flights and clogs anew in the last four.
+if [ ! -e "$HOME/ORNA/Logbook.sqlite" ]; then
+    for number in $(seq 3 14); do
+        "$build/bin/orna-demo" --seed "$number" --wear $((number > 10 ? number - 10 : 0)) \
+            --out "$demo/season/flight$number"
+    done
+    "$build/bin/orna-cli" logbook add --profile resources/Tolvane_Profile.xml \
+        "$demo/card" "$demo/week2" "$demo/season" >"$demo/logbook-log.txt" 2>&1 &&
+        "$build/bin/orna-cli" logbook mark TV6-300-1187 2026-05-28 "Injector 6 cleaned"
+fi
 if [ ! -e "$settings" ]; then
     cp resources/demo/Demo_Project.xml "$HOME/ORNA/Demo_Project.xml"
     cat >"$settings" <<XML
@@ -35,6 +45,7 @@ cd "$build" # the program looks for its bundle below the working directory
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || [ "$(uname)" = Darwin ]; then
     echo "Opening the demo flight: click a recording in the list on the left."
     echo "The same aircraft a week later, to compare with: $demo/week2"
+    echo "Its season of 14 flights: Extras, Logbook"
     exec orna.app/Contents/MacOS/orna
 fi
 profile=orna.app/Contents/Resources/Tolvane_Profile.xml

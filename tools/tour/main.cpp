@@ -131,6 +131,7 @@ public:
             shoot(QString("example%1").arg(++number), mWindow.findChild<TARN::GraphPanes*>());
         }
         compare();
+        passDialog("example6", TARN::ActionType::Logbook);
         return !mFailed;
     }
 
@@ -255,6 +256,7 @@ private:
         passDialog("21-about", ActionType::About);
         passDialog("22-help", ActionType::Help);
         passDialog("26-details", ActionType::RecordDetails);
+        passDialog("27-logbook", ActionType::Logbook);
         auto* setup = mWindow.findChild<TARN::DialogGraphSetup*>();
         setup->updateDialog();
         setup->show();
@@ -279,6 +281,7 @@ private:
     {
         action(type)->trigger();
         live(300);
+        settle();
         if (QWidget* dialog = QApplication::activeWindow(); dialog != &mWindow) {
             shoot(name, dialog);
             dialog->hide();
