@@ -1,5 +1,7 @@
 #include "app/FlightLoader.h"
 
+#include "record/MemoryNeed.h"
+
 namespace TARN {
 
 FlightLoader::FlightLoader(Session& session, QObject* parent) : QObject(parent), mSession(session)

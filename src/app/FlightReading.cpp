@@ -1,12 +1,5 @@
 #include "app/FlightReading.h"
 
-#include "base/FreeMemory.h"
-#include "record/RecordHeader.h"
-
-#include <QtCore/QFileInfo>
-
-#include <algorithm>
-
 namespace TARN {
 
 ReadFlight readFlight(const std::list<QString>& files, double offset,
@@ -36,22 +29,6 @@ std::list<QString> filesOf(const Flight* flight)
         }
     }
     return paths;
-}
-
-double promisedSamples(const std::list<QString>& files)
-{
-    double samples = 0.0;
-    for (const QString& file : files) {
-        samples += static_cast<double>(std::max<qint64>(0, sampleCountOf(QFileInfo(file).size())));
-    }
-    return samples;
-}
-
-bool fitMemory(double samples)
-{
-    constexpr double BytesPerSample = 40.0; // while it is read, indexes included
-    const auto available = availableMemory();
-    return !available || samples * BytesPerSample <= static_cast<double>(*available);
 }
 
 } // namespace TARN

@@ -27,10 +27,4 @@ ReadFlight understoodBy(std::shared_ptr<const Profile> profile, const ReadFlight
 /// The files that a flight was read from; none of no flight.
 std::list<QString> filesOf(const Flight* flight);
 
-/// Samples that files promise by their sizes.
-double promisedSamples(const std::list<QString>& files);
-
-/// Whether so many samples fit the memory that the system can give; true where it does not say.
-bool fitMemory(double samples);
-
 } // namespace TARN

@@ -1,5 +1,7 @@
 #include "app/ReferenceLoader.h"
 
+#include "record/MemoryNeed.h"
+
 namespace TARN {
 
 ReferenceLoader::ReferenceLoader(Session& session, QObject* parent)

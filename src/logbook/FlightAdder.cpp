@@ -6,6 +6,7 @@
 #include "logbook/Logbook.h"
 #include "logbook/LogbookError.h"
 #include "record/FlightGroups.h"
+#include "record/MemoryNeed.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
@@ -76,6 +77,10 @@ struct Damage
 
 std::shared_ptr<const Record> read(const FlightGroup& files, Progress& progress)
 {
+    // With what others read at the same time, and what a window shows.
+    if (!fitMemory(promisedSamples({files.begin(), files.end()}))) {
+        throw std::bad_alloc();
+    }
     auto record = std::make_shared<Record>();
     if (!record->readRecordData({files.begin(), files.end()}, 0.0, progress, 1)) {
         throw Damage{record->errorText()};
