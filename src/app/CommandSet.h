@@ -26,7 +26,8 @@ enum class ActionType
     ExportKml = 16,
     ExportCsv = 17,
     RecordDetails = 18,
-    FlightReport = 19
+    FlightReport = 19,
+    ExportGpx = 20
 };
 
 /// The commands of the main window, in its menus and its toolbar.

@@ -133,7 +133,7 @@ std::size_t ExportGpx::addWaypoints(XmlStream& xml, const ExportInput& input, co
             QStringList texts;
             for (const RecordEvent* event : one.events) {
                 names += QString::fromStdString(event->name);
-                texts += event->shortText;
+                texts += event->shortText.trimmed();
             }
             beginPoint(xml, "wpt", *one.point, one.time, clock);
             xml.element("name", names.join(", ").toStdString());

@@ -115,7 +115,9 @@ void ExportKml::addMark(XmlStream& xml, const KmlMark& mark, const char* style) 
     xml.element("styleUrl", style);
     xml.begin("ExtendedData");
     for (const KmlMark::Item& item : mark.items) {
+        xml.begin("Data");
         addMarkItem(xml, item.name, item.value);
+        xml.end();
     }
     xml.end();
     xml.begin("Point");

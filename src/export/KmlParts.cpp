@@ -58,10 +58,8 @@ void addPathStyle(XmlStream& xml, const KmlExportOptions& options)
 
 void addMarkItem(XmlStream& xml, const std::string& name, const std::string& value)
 {
-    xml.begin("Data");
     xml.element("displayName", "<b>" + name + "</b>");
     xml.element("value", value);
-    xml.end();
 }
 
 } // namespace TARN

@@ -18,7 +18,7 @@ void addMarkStyles(XmlStream& xml, const KmlExportOptions& options);
 /// The style of the path.
 void addPathStyle(XmlStream& xml, const KmlExportOptions& options);
 
-/// One value of a mark.
+/// Name and value inside of a mark's Data element.
 void addMarkItem(XmlStream& xml, const std::string& name, const std::string& value);
 
 } // namespace TARN

@@ -38,6 +38,14 @@ std::string coordinates(const TrackPoint& point, char separator)
            separator + fixedText(altitude, 1);
 }
 
+/// Its name is what tables of other programs call the column.
+void addItem(XmlStream& xml, const std::string& name, const std::string& value)
+{
+    xml.begin("Data", {{"name", name}});
+    addMarkItem(xml, name, value);
+    xml.end();
+}
+
 std::string fieldName(std::size_t number)
 {
     std::string name = "p";
@@ -109,7 +117,7 @@ void TimedKml::addHead(XmlStream& xml)
 
 void TimedKml::addPlaceMarks(XmlStream& xml, Progress& progress)
 {
-    if (!mOptions.placeMarkOn || mValues.empty()) {
+    if (!mOptions.placeMarkOn || mValues.empty() || mStretches.empty()) {
         return;
     }
     xml.begin("Folder");
@@ -127,7 +135,7 @@ void TimedKml::addPlaceMark(XmlStream& xml, const TrackPoint& point)
     for (TrackValues& values : mValues) {
         const std::string& value = values.at(point.time);
         if (!value.empty()) {
-            addMarkItem(xml, values.title(), value);
+            addItem(xml, values.title(), value);
         }
     }
     endMark(xml, point);
@@ -135,13 +143,17 @@ void TimedKml::addPlaceMark(XmlStream& xml, const TrackPoint& point)
 
 void TimedKml::addEvents(XmlStream& xml, const char* folder, const std::vector<RecordEvent>& events)
 {
+    const auto list = trackEvents(events, *mInput.flight, mInput.offset, mTrack, mOptions.range(),
+                                  mEventsLeftOut);
+    if (list.empty()) {
+        return;
+    }
     xml.begin("Folder");
     xml.element("name", folder);
-    for (const TrackEvents& one : trackEvents(events, *mInput.flight, mInput.offset, mTrack,
-                                              mOptions.range(), mEventsLeftOut)) {
+    for (const TrackEvents& one : list) {
         beginMark(xml, one.time, "#errorPlacemark");
         for (const RecordEvent* event : one.events) {
-            addMarkItem(xml, event->name, event->value);
+            addItem(xml, event->name, event->value);
         }
         endMark(xml, *one.point);
     }
@@ -171,12 +183,16 @@ void TimedKml::endMark(XmlStream& xml, const TrackPoint& point)
 
 void TimedKml::addPath(XmlStream& xml)
 {
+    const auto isLine = [](const GeoTrack::Stretch& stretch) { return stretch.size() > 1; };
+    if (std::ranges::none_of(mStretches, isLine)) {
+        return;
+    }
     xml.begin("Placemark");
     xml.element("name", "Path");
     addPathStyle(xml, mOptions);
     xml.begin("MultiGeometry");
     for (const GeoTrack::Stretch& stretch : mStretches) {
-        if (stretch.size() > 1) {
+        if (isLine(stretch)) {
             addLine(xml, stretch);
         }
     }
