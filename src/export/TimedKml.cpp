@@ -66,8 +66,7 @@ ExportResult TimedKml::write(Progress& progress)
 {
     if (!mClock.isKnown()) {
         return ExportResult::failure(TimedTexts::tr(
-            "The recording tells no date, and without one a track has no times. Switch \"Timed "
-            "track\" off."));
+            "The recording tells no date: no times can be given. Export the path without them."));
     }
     OutputFile file(mOptions.path());
     if (!file.open()) {

@@ -251,7 +251,7 @@ private Q_SLOTS:
         QTest::newRow("odd unit") << fixes("1:+0 2:+1") + " 1038@1=5" << QByteArray("&lt;x") << true
                                   << 2 << "The unit \"<x\"";
         QTest::newRow("no date") << fixes("1:+0 2:+1") << QByteArray("m") << false << 2
-                                 << "tells no date";
+                                 << "The recording tells no date";
         QTest::newRow("edges")
             << fixes("1:-90,180 50000:90,-180 100000:+0,179.9999999999 150000:+0,360")
             << QByteArray("m") << true << 4 << header;
