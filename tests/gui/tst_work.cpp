@@ -277,7 +277,10 @@ private:
         QStringList command = line.split(' ')
                               << "-o" << path(line.startsWith("report") ? "other.html" : "other");
         if (line != "can") {
-            command << "--profile" << profilePath() << "--project" << projectPath();
+            command << "--profile" << profilePath();
+        }
+        if (!line.startsWith("can") && !line.startsWith("gpx")) { // of no selection
+            command << "--project" << projectPath();
         }
         for (const QString& name : recordings.split(' ')) {
             command << path("card/" + name);
