@@ -11,7 +11,8 @@ namespace TARN {
 DialogExportGpxOptions::DialogExportGpxOptions(GpxExportOptions& options)
     : mOptions(options),
       mTimestamp(createSpinBox(100, 60000, 100, tr(" ms"), tr("One point of the track for each"))),
-      mWaypoints(new QCheckBox(tr("Waypoints"))), mTimes(new WidgetTimeRange(options))
+      mWaypoints(new QCheckBox(tr("Waypoints at limits and lamps"))),
+      mTimes(new WidgetTimeRange(options))
 {
     setTitle(tr("GPX Export"));
     setSubTitle(tr("Select GPX Option"));

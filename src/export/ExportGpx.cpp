@@ -15,7 +15,7 @@ namespace TARN {
 
 namespace {
 
-constexpr std::size_t Piece = 1024; // points between two looks at the progress
+constexpr std::size_t PointsPerLook = 1024; // between two looks at the progress
 
 std::string degrees(double value)
 {
@@ -136,6 +136,7 @@ std::size_t ExportGpx::addWaypoints(XmlStream& xml, const ExportInput& input, co
                 texts += event->shortText.trimmed();
             }
             beginPoint(xml, "wpt", *one.point, one.time, clock);
+            names.removeDuplicates();
             xml.element("name", names.join(", ").toStdString());
             xml.element("desc", texts.join(", ").toStdString());
             xml.element("type", list == &events.limits ? "limit" : "warning lamp");
@@ -152,7 +153,7 @@ void ExportGpx::addTrack(XmlStream& xml, const GeoTrack& track, const TrackClock
     for (const GeoTrack::Stretch& stretch : track.stretches()) {
         xml.begin("trkseg");
         for (const TrackPoint& point : stretch) {
-            if (done++ % Piece == 0) {
+            if (done++ % PointsPerLook == 0) {
                 progress.report(done, track.points().size());
                 if (progress.stopRequested()) {
                     break;

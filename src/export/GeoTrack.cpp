@@ -11,7 +11,7 @@ namespace TARN {
 
 namespace {
 
-constexpr double None = std::numeric_limits<double>::quiet_NaN();
+constexpr double NotTold = std::numeric_limits<double>::quiet_NaN();
 
 SilencesSource silencesOf(const Flight& flight, double offset)
 {
@@ -31,7 +31,7 @@ public:
     double at(double time)
     {
         if (mSeries.empty()) {
-            return None;
+            return NotTold;
         }
         while (mNext + 1 < mSeries.size() && mSeries.time(mNext + 1) <= time) {
             ++mNext;
@@ -39,7 +39,7 @@ public:
         const std::size_t after = std::min(mNext + 1, mSeries.size() - 1);
         const bool isLater = distance(after, time) < distance(mNext, time);
         const std::size_t k = isLater ? after : mNext;
-        return distance(k, time) <= mReach ? mSeries.value(k) : None;
+        return distance(k, time) <= mReach ? mSeries.value(k) : NotTold;
     }
 
 private:
@@ -50,13 +50,26 @@ private:
     std::size_t mNext = 0; ///< last one that is not after the time, or the first
 };
 
+void fillGaps(std::vector<TrackPoint>& points)
+{
+    for (std::size_t k = 1; k < points.size(); ++k) {
+        if (std::isnan(points[k].altitude) && points[k].link == TrackPoint::Joined) {
+            points[k].altitude = points[k - 1].altitude;
+        }
+    }
+    for (std::size_t k = points.size(); k-- > 1;) {
+        if (std::isnan(points[k - 1].altitude) && points[k].link == TrackPoint::Joined) {
+            points[k - 1].altitude = points[k].altitude;
+        }
+    }
+}
+
 } // namespace
 
 GeoTrack::GeoTrack(const Flight& flight, double offset, double slotWidth, const TimeRange& range)
 {
     collect(flight, offset, range);
     thin(slotWidth);
-    mReach = std::max(mReach, slotWidth);
 }
 
 void GeoTrack::collect(const Flight& flight, double offset, const TimeRange& range)
@@ -79,7 +92,8 @@ void GeoTrack::collect(const Flight& flight, double offset, const TimeRange& ran
     TrackPoint::Link link = TrackPoint::AfterGap;
     const std::size_t end = latitude.firstAfter(range.stop);
     for (std::size_t k = latitude.firstNotBefore(range.start); k < end; ++k) {
-        TrackPoint point{.time = latitude.time(k)};
+        TrackPoint point;
+        point.time = latitude.time(k);
         point.place = {latitude.value(k), longitude.at(point.time)};
         if (k > 0 && gaps.isGap(latitude.time(k - 1), point.time)) {
             link = TrackPoint::AfterGap;
@@ -90,8 +104,8 @@ void GeoTrack::collect(const Flight& flight, double offset, const TimeRange& ran
             continue;
         }
         point.place.longitude = turnBetween(0.0, point.place.longitude);
-        const double height = altitude ? altitude->at(point.time) * metres : None;
-        point.altitude = std::isfinite(height) ? height : None;
+        const double height = altitude ? altitude->at(point.time) * metres : NotTold;
+        point.altitude = std::isfinite(height) ? height : NotTold;
         point.link = link;
         add(point);
         link = TrackPoint::Joined;
@@ -106,20 +120,20 @@ void GeoTrack::add(TrackPoint point)
     };
     if (point.link == TrackPoint::AfterGap) {
         dropLonely();
-    } else if (isJumpFrom(mPoints.back())) {
-        const bool wasLonely = mPoints.back().link == TrackPoint::AfterJump;
+    } else if (isJumpFrom(mAll.back())) {
+        const bool wasLonely = mAll.back().link == TrackPoint::AfterJump;
         dropLonely();
-        const bool isJump = !wasLonely || isJumpFrom(mPoints.back());
+        const bool isJump = !wasLonely || isJumpFrom(mAll.back());
         point.link = isJump ? TrackPoint::AfterJump : TrackPoint::Joined;
     }
-    mPoints.push_back(point);
+    mAll.push_back(point);
 }
 
 /// The last point, if it came by a jump: nothing followed it either.
 void GeoTrack::dropLonely()
 {
-    if (!mPoints.empty() && mPoints.back().link == TrackPoint::AfterJump) {
-        mPoints.pop_back();
+    if (!mAll.empty() && mAll.back().link == TrackPoint::AfterJump) {
+        mAll.pop_back();
         ++mLeftOut.jumps;
     }
 }
@@ -129,15 +143,16 @@ void GeoTrack::thin(double slotWidth)
     const auto slotOf = [&](const TrackPoint& point) {
         return truncatedTo<std::int64_t>(point.time / slotWidth);
     };
-    std::size_t kept = 0;
-    for (const TrackPoint& point : mPoints) {
-        const bool replaces = kept > 0 && point.link == TrackPoint::Joined &&
-                              slotOf(mPoints[kept - 1]) == slotOf(point);
-        const TrackPoint::Link link = replaces ? mPoints[--kept].link : point.link;
-        mPoints[kept] = point;
-        mPoints[kept++].link = link;
+    for (const TrackPoint& point : mAll) {
+        const bool isSame = !mPoints.empty() && slotOf(mPoints.back()) == slotOf(point);
+        if (!isSame || point.link != TrackPoint::Joined) {
+            mPoints.push_back(point);
+            continue;
+        }
+        const TrackPoint::Link link = mPoints.back().link;
+        mPoints.back() = point;
+        mPoints.back().link = link;
     }
-    mPoints.resize(kept);
 }
 
 std::vector<GeoTrack::Stretch> GeoTrack::stretches() const
@@ -155,12 +170,12 @@ std::vector<GeoTrack::Stretch> GeoTrack::stretches() const
 
 const TrackPoint* GeoTrack::nearest(double time) const
 {
-    if (mPoints.empty()) {
+    if (mAll.empty()) {
         return nullptr;
     }
-    auto after = std::ranges::lower_bound(mPoints, time, {}, &TrackPoint::time);
-    const bool isLast = after == mPoints.end();
-    if (isLast || (after != mPoints.begin() && time - (after - 1)->time < after->time - time)) {
+    auto after = std::ranges::lower_bound(mAll, time, {}, &TrackPoint::time);
+    const bool isLast = after == mAll.end();
+    if (isLast || (after != mAll.begin() && time - (after - 1)->time < after->time - time)) {
         --after;
     }
     return std::abs(after->time - time) <= mReach ? &*after : nullptr;
@@ -168,18 +183,8 @@ const TrackPoint* GeoTrack::nearest(double time) const
 
 void GeoTrack::fillAltitudes()
 {
-    for (std::size_t k = 1; k < mPoints.size(); ++k) {
-        TrackPoint& point = mPoints[k];
-        if (std::isnan(point.altitude) && point.link == TrackPoint::Joined) {
-            point.altitude = mPoints[k - 1].altitude;
-        }
-    }
-    for (std::size_t k = mPoints.size(); k-- > 1;) {
-        TrackPoint& point = mPoints[k - 1];
-        if (std::isnan(point.altitude) && mPoints[k].link == TrackPoint::Joined) {
-            point.altitude = mPoints[k].altitude;
-        }
-    }
+    fillGaps(mAll);
+    fillGaps(mPoints);
 }
 
 } // namespace TARN

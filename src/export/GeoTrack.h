@@ -45,8 +45,8 @@ public:
     using Stretch = std::span<const TrackPoint>;
     std::vector<Stretch> stretches() const;
 
-    /// The point nearest to a time, if it is not further away than positions may be from each
-    /// other; else null.
+    /// Of all positions, not only of those that stay, the one nearest to a time; null where it is
+    /// further away than half of the time that makes a gap.
     const TrackPoint* nearest(double time) const;
 
     /// Gives points without an altitude that of the one before in their stretch, else that of the
@@ -70,7 +70,8 @@ private:
     void dropLonely();
     void thin(double slotWidth);
 
-    std::vector<TrackPoint> mPoints;
+    std::vector<TrackPoint> mAll;    ///< as they were sent
+    std::vector<TrackPoint> mPoints; ///< of them those that stay
     LeftOut mLeftOut;
     QString mAltitudeUnit;
     double mReach = 0.0; ///< of nearest(), seconds

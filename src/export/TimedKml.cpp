@@ -17,7 +17,7 @@ namespace TARN {
 
 namespace {
 
-constexpr std::size_t Piece = 1024; // values between two looks at the progress
+constexpr std::size_t ValuesPerLook = 1024; // between two looks at the progress
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
 struct TimedTexts
@@ -264,7 +264,7 @@ void TimedKml::addValues(XmlStream& xml, GeoTrack::Stretch stretch, Progress& pr
         const std::string name = fieldName(i);
         xml.begin("gx:SimpleArrayData", {{"name", name}});
         for (const TrackPoint& point : stretch) {
-            if (mDone++ % Piece == 0) {
+            if (mDone++ % ValuesPerLook == 0) {
                 progress.report(mDone, all);
                 if (progress.stopRequested()) {
                     break;

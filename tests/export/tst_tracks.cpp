@@ -177,7 +177,8 @@ private Q_SLOTS:
 
     void nearest()
     {
-        const GeoTrack track(*flightOf(fixes("10:+0 11:+1 12:+2 40:+30"), positionIn("m")), 0, 0.1,
+        // Of all positions, however few are written.
+        const GeoTrack track(*flightOf(fixes("10:+0 11:+1 12:+2 40:+30"), positionIn("m")), 0, 100,
                              Always);
         for (const auto& [time, expected] : {std::pair(4.0, 0.0),
                                              {9.0, 10.0},
