@@ -50,6 +50,8 @@ std::vector<CommandSet::Command> CommandSet::commands()
          tr("Open SD Card")},
         {Type::ExportKml, file, First, true, "", "exportKml", tr("Export Google KML File"),
          tr("Export Google Earth KML File")},
+        {Type::ExportGpx, file, Next, false, "", "exportGpx", tr("Export GPX File"),
+         tr("Export the Track as GPX File")},
         {Type::ExportCsv, file, Next, true, "", "exportCsv", tr("Export CSV/CAN File"),
          tr("Export CSV/CAN File")},
         {Type::FlightReport, file, Next, true, "Ctrl+R", "report", tr("Flight &Report..."),

@@ -27,7 +27,8 @@ enum class ActionType
     ExportCsv = 17,
     RecordDetails = 18,
     FlightReport = 19,
-    Logbook = 20
+    Logbook = 20,
+    ExportGpx = 21
 };
 
 /// The commands of the main window, in its menus and its toolbar.

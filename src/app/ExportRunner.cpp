@@ -1,6 +1,7 @@
 #include "app/ExportRunner.h"
 
 #include "export/DialogExportCsv.h"
+#include "export/DialogExportGpx.h"
 #include "export/DialogExportKml.h"
 #include "report/DialogReport.h"
 
@@ -22,6 +23,7 @@ ExportFace* make(QWidget* window)
 ExportRunner::ExportRunner(Session& session, QWidget& window)
     : QObject(&window), mSession(session),
       mWindow(window), mKinds{{ActionType::ExportKml, {make<DialogExportKml>}},
+                              {ActionType::ExportGpx, {make<DialogExportGpx>}},
                               {ActionType::ExportCsv, {make<DialogExportCsv>}},
                               {ActionType::FlightReport, {make<DialogReport>, false}}}
 {

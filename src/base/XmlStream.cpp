@@ -2,6 +2,8 @@
 
 #include "base/XmlText.h"
 
+#include <algorithm>
+
 namespace TARN {
 
 void XmlStream::instruction(const char* target, const char* data)
@@ -9,14 +11,18 @@ void XmlStream::instruction(const char* target, const char* data)
     mFile.write(std::string("<?") + target + " " + data + "?>\n");
 }
 
-void XmlStream::begin(const char* name, const char* attribute, const QString& value)
+void XmlStream::begin(const char* name, std::initializer_list<Attribute> attributes)
 {
     close();
     indent();
-    mFile.write(std::string("<") + name);
-    if (attribute != nullptr) {
-        mFile.write(std::string(" ") + attribute + "=\"" + xmlEscaped(value, true).toStdString() +
-                    "\"");
+    mFile.write("<");
+    mFile.write(name);
+    for (const auto& [attribute, value] : attributes) {
+        mFile.write(" ");
+        mFile.write(attribute);
+        mFile.write("=\"");
+        escape(value, true);
+        mFile.write("\"");
     }
     mOpen.push_back(name);
     mIsEmpty = true;
@@ -35,11 +41,23 @@ void XmlStream::end()
     mFile.write(std::string("</") + name + ">\n");
 }
 
-void XmlStream::element(const char* name, const std::string& text)
+void XmlStream::element(const char* name, std::string_view text)
 {
     beginText(name);
     this->text(text);
     endText();
+}
+
+void XmlStream::row(const char* name, std::string_view text)
+{
+    close();
+    mFile.write("<");
+    mFile.write(name);
+    mFile.write(">");
+    escape(text, false);
+    mFile.write("</");
+    mFile.write(name);
+    mFile.write(">\n");
 }
 
 void XmlStream::beginText(const char* name)
@@ -50,9 +68,9 @@ void XmlStream::beginText(const char* name)
     mOpen.push_back(name);
 }
 
-void XmlStream::text(const std::string& piece)
+void XmlStream::text(std::string_view piece)
 {
-    mFile.write(xmlEscaped(QString::fromStdString(piece), false).toStdString());
+    escape(piece, false);
 }
 
 void XmlStream::endText()
@@ -73,6 +91,20 @@ void XmlStream::close()
         mFile.write(">\n");
         mIsEmpty = false;
     }
+}
+
+/// Most texts are plain: numbers, times, names.
+void XmlStream::escape(std::string_view text, bool inAttribute)
+{
+    const bool isPlain = std::ranges::all_of(text, [](char c) {
+        return c >= ' ' && c <= '~' && c != '<' && c != '>' && c != '&' && c != '"';
+    });
+    if (isPlain) {
+        mFile.write(text);
+        return;
+    }
+    const auto size = static_cast<qsizetype>(text.size());
+    mFile.write(xmlEscaped(QString::fromUtf8(text.data(), size), inAttribute).toStdString());
 }
 
 } // namespace TARN

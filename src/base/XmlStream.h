@@ -2,7 +2,9 @@
 
 #include "base/OutputFile.h"
 
+#include <initializer_list>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace TARN {
@@ -17,20 +19,27 @@ public:
     explicit XmlStream(OutputFile& file) : mFile(file) {}
 
     void instruction(const char* target, const char* data);
-    /// With at most one attribute.
-    void begin(const char* name, const char* attribute = nullptr, const QString& value = {});
+    struct Attribute
+    {
+        const char* name;
+        std::string_view value; ///< UTF-8
+    };
+    void begin(const char* name, std::initializer_list<Attribute> attributes = {});
     void end();
     /// An element that holds a text; one of an empty text holds nothing but stays on its line.
-    void element(const char* name, const std::string& text);
+    void element(const char* name, std::string_view text);
+    /// One of very many such elements: it is not indented, the file would be mostly blanks.
+    void row(const char* name, std::string_view text);
 
     // A text in pieces: none of them is kept.
     void beginText(const char* name);
-    void text(const std::string& piece);
+    void text(std::string_view piece);
     void endText();
 
 private:
     void indent();
     void close();
+    void escape(std::string_view text, bool inAttribute);
 
     OutputFile& mFile;
     std::vector<const char*> mOpen;

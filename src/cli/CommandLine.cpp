@@ -151,6 +151,12 @@ void addCsv(CLI::App& app, CsvArguments& arguments)
     command->final_callback([&] { runCsv(arguments); });
 }
 
+void addTimestamp(CLI::App& command, int& timeStamp)
+{
+    command.add_option("--timestamp", timeStamp, "width of a position slot in ms")
+        ->check(CLI::PositiveNumber);
+}
+
 void addKmlOptions(CLI::App& command, KmlExportOptions& options)
 {
     const CLI::Validator isColor(
@@ -164,8 +170,8 @@ void addKmlOptions(CLI::App& command, KmlExportOptions& options)
         command.add_flag_callback(
             name, [&on] { on = false; }, help);
     };
-    command.add_option("--timestamp", options.timeStamp, "width of a position slot in ms")
-        ->check(CLI::PositiveNumber);
+    addTimestamp(command, options.timeStamp);
+    command.add_flag("--timed", options.isTimed, "with times and values, to be played");
     command.add_option("--line-width", options.lineWidth, "width of the path");
     command.add_option("--line-color", options.lineColor, "colour of the path")->check(isColor);
     command.add_option("--line-alpha", options.lineAlpha, "its opacity")->check(CLI::Range(0, 255));
@@ -195,6 +201,20 @@ void addKml(CLI::App& app, KmlArguments& arguments)
     command->final_callback([&] { runKml(arguments); });
 }
 
+void addGpx(CLI::App& app, GpxArguments& arguments)
+{
+    CLI::App* command = app.add_subcommand("gpx", "The track with times and heights for all else");
+    addProfile(*command, arguments.profile);
+    addRange(*command, arguments.range);
+    addTimestamp(*command, arguments.options.timeStamp);
+    command->add_flag_callback(
+        "--no-waypoints", [&arguments] { arguments.options.waypoints = false; },
+        "none where something went wrong");
+    addOut(*command, arguments.out);
+    addFiles(*command, arguments.files);
+    command->final_callback([&] { runGpx(arguments); });
+}
+
 void addCan(CLI::App& app, CanArguments& arguments)
 {
     CLI::App* command = app.add_subcommand("can", "A part of the recording as a recording");
@@ -217,6 +237,7 @@ struct Arguments
     ReportArguments report;
     CsvArguments csv;
     KmlArguments kml;
+    GpxArguments gpx;
     CanArguments can;
     LogbookArguments logbook;
 };
@@ -239,6 +260,7 @@ int runCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
     addReport(app, arguments.report);
     addCsv(app, arguments.csv);
     addKml(app, arguments.kml);
+    addGpx(app, arguments.gpx);
     addCan(app, arguments.can);
     addLogbook(app, arguments.logbook, out, error);
     try {

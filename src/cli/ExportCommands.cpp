@@ -3,6 +3,7 @@
 #include "cli/ExportRun.h"
 #include "export/ExportCan.h"
 #include "export/ExportCsv.h"
+#include "export/ExportGpx.h"
 #include "export/ExportKml.h"
 
 namespace TARN {
@@ -23,6 +24,14 @@ void runKml(const KmlArguments& arguments)
     KmlExportOptions options = arguments.options;
     complete(options, arguments.out, arguments.range, input.flight->range(input.offset));
     runExport(ExportKml(options), input);
+}
+
+void runGpx(const GpxArguments& arguments)
+{
+    const ExportInput input = inputOf(arguments.profile, arguments.files, {});
+    GpxExportOptions options = arguments.options;
+    complete(options, arguments.out, arguments.range, input.flight->range(input.offset));
+    runExport(ExportGpx(options), input);
 }
 
 void runCan(const CanArguments& arguments)

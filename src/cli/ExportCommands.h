@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/Inputs.h"
+#include "export/GpxExportOptions.h"
 #include "export/KmlExportOptions.h"
 
 namespace TARN {
@@ -26,6 +27,15 @@ struct KmlArguments
     std::vector<std::string> files;
 };
 
+struct GpxArguments
+{
+    std::string profile;
+    Range range;
+    GpxExportOptions options;
+    std::string out;
+    std::vector<std::string> files;
+};
+
 struct CanArguments
 {
     Range range;
@@ -36,6 +46,7 @@ struct CanArguments
 // The exports write the file and nothing to a stream.
 void runCsv(const CsvArguments& arguments);
 void runKml(const KmlArguments& arguments);
+void runGpx(const GpxArguments& arguments);
 void runCan(const CanArguments& arguments);
 
 } // namespace TARN

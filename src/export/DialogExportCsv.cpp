@@ -35,9 +35,7 @@ std::shared_ptr<Exporter> DialogExportCsv::ask(const ExportInput& shown,
                                                const ExportOptions& preset)
 {
     CsvExportOptions options = mOptions;
-    options.startTime = preset.startTime;
-    options.stopTime = preset.stopTime;
-    options.currentTime = preset.currentTime;
+    options.setTimes(preset);
     if (getOptions(options, shown.flight->range(0.0)) != Accepted) {
         return nullptr;
     }

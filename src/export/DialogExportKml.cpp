@@ -32,11 +32,8 @@ std::shared_ptr<Exporter> DialogExportKml::ask(const ExportInput& shown,
                                                const ExportOptions& preset)
 {
     KmlExportOptions options = mOptions;
-    options.startTime = preset.startTime;
-    options.stopTime = preset.stopTime;
-    options.currentTime = preset.currentTime;
-    const QString first = shown.flight->record()->integrity().files.front().info.fileName;
-    options.fileName = first.section('/', -1).section('.', 0, 0).toStdString() + ".kml";
+    options.setTimes(preset);
+    options.fileName = recordingName(shown) + ".kml";
     const bool isAccepted = getOptions(options) == Accepted;
     return isAccepted ? std::make_shared<ExportKml>(options) : nullptr;
 }

@@ -4,6 +4,7 @@
 #include "export/WidgetTimeRange.h"
 #include "widgets/ColorButton.h"
 
+#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QSpinBox>
@@ -13,16 +14,20 @@ namespace TARN {
 DialogExportKmlOptions::DialogExportKmlOptions(KmlExportOptions& options)
     : mOptions(options),
       mTimestamp(createSpinBox(100, 60000, 100, tr(" ms"), tr("One point of the path for each"))),
-      mTimes(new WidgetTimeRange(options))
+      mTimed(new QCheckBox(tr("Timed track"))), mTimes(new WidgetTimeRange(options))
 {
     setTitle(tr("KML Export"));
     setSubTitle(tr("Select KML Option"));
     auto* layout = new QFormLayout(this);
     layout->addRow(tr("Timestamp every :"), mTimestamp);
+    layout->addRow(mTimed);
     layout->addRow(createLineBox());
     layout->addRow(createPolygonBox());
     layout->addRow(mTimes);
+    mTimed->setToolTip(tr("Times and the selected values at each point, so that earth viewers can "
+                          "play the flight; nothing is drawn over gaps"));
     connect(mTimestamp, &QSpinBox::valueChanged, this, &DialogExportKmlOptions::slotTimestamp);
+    connect(mTimed, &QCheckBox::toggled, this, &DialogExportKmlOptions::slotTimed);
 }
 
 QGroupBox* DialogExportKmlOptions::createLineBox()
@@ -55,6 +60,7 @@ QGroupBox* DialogExportKmlOptions::createPolygonBox()
 void DialogExportKmlOptions::initializePage()
 {
     mTimestamp->setValue(mOptions.timeStamp);
+    mTimed->setChecked(mOptions.isTimed);
     mLineWidth->setValue(mOptions.lineWidth);
     mLineColor->setColor(mOptions.lineColor);
     mPolygon->setChecked(mOptions.polygonOn);
@@ -73,6 +79,11 @@ bool DialogExportKmlOptions::validatePage()
 void DialogExportKmlOptions::slotTimestamp(int milliseconds)
 {
     mOptions.timeStamp = milliseconds;
+}
+
+void DialogExportKmlOptions::slotTimed(bool on)
+{
+    mOptions.isTimed = on;
 }
 
 void DialogExportKmlOptions::slotLineWidth(int width)

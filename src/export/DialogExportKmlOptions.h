@@ -4,6 +4,7 @@
 
 #include <QtWidgets/QWizardPage>
 
+class QCheckBox;
 class QGroupBox;
 class QSpinBox;
 
@@ -25,6 +26,7 @@ public:
 
 private Q_SLOTS:
     void slotTimestamp(int milliseconds);
+    void slotTimed(bool on);
     void slotLineWidth(int width);
     void slotLineColor(const QString& color);
     void slotPolygon(bool on);
@@ -36,6 +38,7 @@ private:
 
     KmlExportOptions& mOptions;
     QSpinBox* mTimestamp;
+    QCheckBox* mTimed;
     QSpinBox* mLineWidth;
     ColorButton* mLineColor;
     QGroupBox* mPolygon;

@@ -1,34 +1,18 @@
 #pragma once
 
-#include "export/KmlExportOptions.h"
-
-#include <QtWidgets/QWizardPage>
-
-class QLineEdit;
+#include "export/DialogExportPath.h"
 
 namespace TARN {
 
-class DirectoryEdit;
-
 /// Where the KML file goes.
-class DialogExportKmlPath : public QWizardPage
+class DialogExportKmlPath : public DialogExportPath
 {
     Q_OBJECT
 
 public:
-    explicit DialogExportKmlPath(KmlExportOptions& options);
-
-    void initializePage() override;
-    bool validatePage() override;
-
-private Q_SLOTS:
-    void slotPath(const QString& path);
-    void slotFile(const QString& file);
-
-private:
-    KmlExportOptions& mOptions;
-    DirectoryEdit* mPath;
-    QLineEdit* mFile;
+    explicit DialogExportKmlPath(ExportOptions& options)
+        : DialogExportPath(options, tr("KML Export"), tr("Save KML Export"))
+    {}
 };
 
 } // namespace TARN

@@ -28,6 +28,14 @@ public:
 
     /// The file is there.
     virtual void written(const QString& /*path*/) {}
+
+protected:
+    /// Of the first file, without folder and extensions; for the name of what is written.
+    static std::string recordingName(const ExportInput& shown)
+    {
+        const QString first = shown.flight->record()->integrity().files.front().info.fileName;
+        return first.section('/', -1).section('.', 0, 0).toStdString();
+    }
 };
 
 } // namespace TARN

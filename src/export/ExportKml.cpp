@@ -6,12 +6,12 @@
 #include "base/OutputFile.h"
 #include "base/XmlStream.h"
 #include "export/FlightPath.h"
+#include "export/KmlParts.h"
 #include "export/PlaceMarks.h"
+#include "export/TimedKml.h"
+#include "export/TrackNote.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtGui/QColor>
-
-#include <cstdio>
 
 namespace TARN {
 
@@ -23,42 +23,30 @@ struct KmlTexts
     Q_DECLARE_TR_FUNCTIONS(ExportKml)
 };
 
-/// Alpha, blue, green, red, each as two hexadecimal digits.
-std::string kmlColor(const std::string& rgb, int alpha)
-{
-    const QString name = "#" + QString::fromStdString(rgb);
-    const QColor color = QColor::isValidColor(name) ? QColor(name) : QColor();
-    char text[40];
-    std::snprintf(text, sizeof text, "%02x%02x%02x%02x", static_cast<unsigned>(alpha),
-                  static_cast<unsigned>(color.blue()), static_cast<unsigned>(color.green()),
-                  static_cast<unsigned>(color.red()));
-    return text;
-}
-
 std::string coordinates(const PathPosition& position)
 {
     return fixedText(position.longitude, 8) + "," + fixedText(position.latitude, 8) + "," +
            fixedText(position.altitude, 1);
 }
 
-constexpr int Opaque = 255;
-
 } // namespace
 
 ExportResult ExportKml::write(const ExportInput& input, Progress& progress)
 {
+    if (mOptions.isTimed) {
+        return TimedKml(mOptions, input).write(progress);
+    }
     const FlightPath path(*input.flight, input.offset, mOptions.slotWidth(), mOptions.range());
     OutputFile file(this->path());
     if (!file.open()) {
-        return notWritten();
+        return ExportResult::failure(notWrittenText(this->path()));
     }
     XmlStream xml(file);
     xml.instruction("xml", "version=\"1.0\" encoding=\"UTF-8\"");
     xml.begin("kml");
     xml.begin("Document");
     xml.element("name", "ORNA Flightpath " + input.flight->info().dateTimeText().toStdString());
-    addStyle(xml, "normalPlacemark", mOptions.placeMarkColor);
-    addStyle(xml, "errorPlacemark", mOptions.errorMarkColor);
+    addMarkStyles(xml, mOptions);
     LeftOut leftOut;
     if (!addPlaceMarks(xml, input, path, leftOut, progress)) {
         return ExportResult::stopped();
@@ -72,21 +60,14 @@ ExportResult ExportKml::write(const ExportInput& input, Progress& progress)
     addPath(xml, path);
     xml.end();
     xml.end();
-    return file.commit() ? ExportResult::success(noteOf(path, leftOut)) : notWritten();
-}
-
-ExportResult ExportKml::notWritten() const
-{
-    return ExportResult::failure(
-        KmlTexts::tr("\"%1\" could not be written. Check that the folder exists, may be written "
-                     "to and has room.")
-            .arg(path()));
+    return file.commit() ? ExportResult::success(noteOf(path, leftOut))
+                         : ExportResult::failure(notWrittenText(this->path()));
 }
 
 QString ExportKml::noteOf(const FlightPath& path, const LeftOut& leftOut) const
 {
     if (path.points().empty()) {
-        return KmlTexts::tr("No position lies in the time range, the flight path is empty.");
+        return noPositionText();
     }
     if (leftOut.values + leftOut.events == 0) {
         return {};
@@ -96,18 +77,6 @@ QString ExportKml::noteOf(const FlightPath& path, const LeftOut& leftOut) const
                "A longer \"Timestamp every\" keeps them.")
         .arg(countText(static_cast<qint64>(leftOut.values)),
              countText(static_cast<qint64>(leftOut.events)));
-}
-
-void ExportKml::addStyle(XmlStream& xml, const char* id, const std::string& color) const
-{
-    xml.begin("Style", "id", id);
-    xml.begin("LabelStyle");
-    xml.element("color", "ffffffff");
-    xml.end();
-    xml.begin("IconStyle");
-    xml.element("color", kmlColor(color, Opaque));
-    xml.end();
-    xml.end();
 }
 
 /// False when it was asked to stop.
@@ -147,8 +116,7 @@ void ExportKml::addMark(XmlStream& xml, const KmlMark& mark, const char* style) 
     xml.begin("ExtendedData");
     for (const KmlMark::Item& item : mark.items) {
         xml.begin("Data");
-        xml.element("displayName", "<b>" + item.name + "</b>");
-        xml.element("value", item.value);
+        addMarkItem(xml, item.name, item.value);
         xml.end();
     }
     xml.end();
@@ -162,15 +130,7 @@ void ExportKml::addMark(XmlStream& xml, const KmlMark& mark, const char* style) 
 void ExportKml::addPath(XmlStream& xml, const FlightPath& path) const
 {
     xml.begin("Placemark");
-    xml.begin("Style");
-    xml.begin("LineStyle");
-    xml.element("color", kmlColor(mOptions.lineColor, mOptions.lineAlpha));
-    xml.element("width", std::to_string(mOptions.lineWidth));
-    xml.end();
-    xml.begin("PolyStyle");
-    xml.element("color", kmlColor(mOptions.polygonColor, mOptions.polygonAlpha));
-    xml.end();
-    xml.end();
+    addPathStyle(xml, mOptions);
     xml.begin("LineString");
     xml.element("extrude", mOptions.polygonOn ? "1" : "0");
     xml.beginText("coordinates");

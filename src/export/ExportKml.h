@@ -10,8 +10,9 @@ class XmlStream;
 struct KmlMark;
 
 /// Writes the flight path as a KML document: a line, place marks with the values of the selected
-/// parameters, and marks where something went wrong. Marks are written as they are made: memory
-/// follows the positions. The result says what had no position and was left out.
+/// parameters, and marks where something went wrong; or, when that is asked for, one with times,
+/// see TimedKml. Marks are written as they are made: memory follows the positions. The result says
+/// what had no position and was left out.
 class ExportKml : public Exporter
 {
 public:
@@ -30,14 +31,12 @@ private:
         std::size_t events = 0;
     };
 
-    void addStyle(XmlStream& xml, const char* id, const std::string& color) const;
     bool addPlaceMarks(XmlStream& xml, const ExportInput& input, const FlightPath& path,
                        LeftOut& leftOut, Progress& progress) const;
     void addErrorMarks(XmlStream& xml, const std::vector<RecordEvent>& events,
                        const FlightPath& path, LeftOut& leftOut) const;
     void addMark(XmlStream& xml, const KmlMark& mark, const char* style) const;
     void addPath(XmlStream& xml, const FlightPath& path) const;
-    ExportResult notWritten() const;
     QString noteOf(const FlightPath& path, const LeftOut& leftOut) const;
 
     KmlExportOptions mOptions;

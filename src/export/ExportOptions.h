@@ -20,6 +20,12 @@ struct ExportOptions
     double currentTime = 0.0; ///< the data window's current time, for who chooses the range
 
     QString path() const { return QString::fromStdString(directory + "/" + fileName); }
+    void setTimes(const ExportOptions& other)
+    {
+        startTime = other.startTime;
+        stopTime = other.stopTime;
+        currentTime = other.currentTime;
+    }
     TimeRange range() const { return {startTime, stopTime}; }
 };
 

@@ -2,11 +2,11 @@
 
 #include "base/Diagnostics.h"
 #include "base/Numbers.h"
+#include "export/PositionSource.h"
 #include "flight/Flight.h"
 
 #include <algorithm>
 #include <ranges>
-#include <utility>
 
 namespace TARN {
 
@@ -38,18 +38,10 @@ void FlightPath::collect(const Flight& flight, double offset, const TimeRange& r
         double value;
     };
     std::vector<Told> told;
-    const Profile& profile = *flight.profile();
-    const KmlInfo kml = profile.kmlInfo();
-    const std::pair<int, int> sources[] = {{kml.latitudeChannel, kml.latitudeId},
-                                           {kml.longitudeChannel, kml.longitudeId},
-                                           {kml.altitudeChannel, kml.altitudeId}};
-    for (std::size_t i = 0; i < std::size(sources); ++i) {
-        // By the identifier, as another device may describe it: the profile's last word counts.
-        const auto [channel, id] = sources[i];
-        ProfileParameter parameter = profile.parameterById(static_cast<unsigned>(id));
-        parameter.channel = channel;
-        parameter.id = id;
-        const Series series(flight.samples(), profile, parameter, offset);
+    const PositionSource source(*flight.profile());
+    const ProfileParameter* parameters[] = {&source.latitude, &source.longitude, &source.altitude};
+    for (std::size_t i = 0; i < std::size(parameters); ++i) {
+        const Series series = flight.series(*parameters[i], offset);
         for (const RecordEntry& entry : series.entries()) {
             const double time = series.timeOf(entry);
             if (range.contains(time)) {

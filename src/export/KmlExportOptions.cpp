@@ -8,6 +8,7 @@ void KmlExportOptions::load(const Property& settings)
 {
     const KmlExportOptions defaults;
     directory = settings.getString("KmlExportDir", defaults.directory);
+    isTimed = settings.getSwitch("KmlTimed", defaults.isTimed);
     timeStamp = settings.getInt("KmlTimeStamp", defaults.timeStamp);
     lineWidth = settings.getInt("KmlLineWidth", defaults.lineWidth);
     lineColor = settings.getString("KmlLineColor", defaults.lineColor);
@@ -27,6 +28,7 @@ void KmlExportOptions::load(const Property& settings)
 void KmlExportOptions::store(Property& settings) const
 {
     settings.setString("KmlExportDir", directory);
+    settings.setSwitch("KmlTimed", isTimed);
     settings.setInt("KmlTimeStamp", timeStamp);
     settings.setInt("KmlLineWidth", lineWidth);
     settings.setString("KmlLineColor", lineColor);

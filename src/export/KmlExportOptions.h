@@ -7,7 +7,8 @@ namespace TARN {
 /// What the KML export is told. Colours are six hexadecimal digits: red, green, blue.
 struct KmlExportOptions : ExportOptions
 {
-    int timeStamp = 100; ///< width of a position slot in milliseconds
+    bool isTimed = false; ///< with times, to be played
+    int timeStamp = 100;  ///< width of a position slot in milliseconds
     int lineWidth = 1;
     std::string lineColor = "ff0000";
     int lineAlpha = 255;

@@ -2,6 +2,7 @@
 
 #include "flight/FlightSummary.h"
 #include "flight/SteadyStretch.h"
+#include "record/RecordStart.h"
 #include "record/RecordText.h"
 
 #include <algorithm>
@@ -60,17 +61,12 @@ void keepSummary(const FlightSummary& summary, FlightEntry& entry)
     head.worst = worstOf(entry);
 }
 
-/// The data's own clock knows best. Nothing tells the zone of the header's date, which only has to
-/// put flights in order.
-void keepStart(const RecordInfo& info, const QDateTime& header, FlightHead& head)
+void keepStart(const RecordStart& start, FlightHead& head)
 {
-    head.startSource = "none";
-    if (info.utcTime != 0) {
-        head.start = info.utcTime;
-        head.startSource = "data";
-    } else if (header.isValid()) {
-        head.start = header.toSecsSinceEpoch();
-        head.startSource = "header";
+    constexpr const char* Sources[] = {"none", "data", "header"};
+    head.startSource = Sources[start.source];
+    if (start.source != RecordStart::Unknown) {
+        head.start = start.seconds;
     }
 }
 
@@ -79,7 +75,7 @@ void keepHeader(const Flight& flight, FlightEntry& entry)
     const RecordInfo& info = flight.info();
     const auto& files = flight.record()->integrity().files;
     const QDateTime header = files.empty() ? info.dateTime : files.front().info.dateTime;
-    keepStart(info, header, entry.head);
+    keepStart(recordStart(*flight.record()), entry.head);
     entry.headerDate = header.toString("yyyy-MM-ddTHH:mm:ss");
     entry.head.engineType = info.engineType;
     entry.busType = info.busType;

@@ -13,11 +13,11 @@ namespace TARN {
 
 namespace {
 
-using Source = std::pair<unsigned, unsigned>; // channel, identifier
+using Identifier = std::pair<unsigned, unsigned>; // channel, identifier
 
-std::set<Source> sourcesOf(const ProfileInfo& profile)
+std::set<Identifier> sourcesOf(const ProfileInfo& profile)
 {
-    std::set<Source> sources;
+    std::set<Identifier> sources;
     for (const auto& [id, device] : profile.devices) {
         for (const auto& [uid, parameter] : device.parameters) {
             sources.emplace(parameter.channel, parameter.id);
@@ -49,7 +49,7 @@ QString UnknownIdentifiers::remark() const
 
 UnknownIdentifiers unknownIdentifiers(const RecordData& data, const Profile& profile)
 {
-    const std::set<Source> known = sourcesOf(profile.data());
+    const std::set<Identifier> known = sourcesOf(profile.data());
     UnknownIdentifiers unknown;
     for (const RecordIdList& list : data.lists()) {
         if (!isOfClock(list.id) && !known.contains({list.channel, list.id})) {

@@ -66,13 +66,13 @@ private Q_SLOTS:
         QVERIFY(file.open());
         XmlStream xml(file);
         xml.instruction("xml", "version='1.0'");
-        xml.begin("a", "b", "<&>\"'\t]]>\xC3\xBC");
+        xml.begin("a", {{"b", "<&>\"'\t]]>\xC3\xBC"}});
         xml.begin("c");
         xml.begin("d");
         xml.end();
         xml.element("e", "<&>\"'\t]]>\xC3\xBC");
         xml.end();
-        xml.begin("f", "g", "");
+        xml.begin("f", {{"g", ""}});
         xml.element("h", "1");
         xml.end();
         xml.end();

@@ -588,6 +588,10 @@ private Q_SLOTS:
         row("kml --profile P --placemark-interval 0 -o T/out R", 2, "--placemark-interval");
         row("kml --profile P --line-alpha 256 -o T/out R", 2, "--line-alpha");
         row("kml --profile P --polygon-alpha -1 -o T/out R", 2, "--polygon-alpha");
+        row("kml --profile P --timed -o T/out R", 1, "The recording tells no date");
+        row("gpx --profile P --timestamp 0 -o T/out R", 2, "--timestamp");
+        row("gpx --profile P --all -o T/out R", 2, "--all");
+        row("gpx --profile P -o T/gone/out R", 1, "/gone/out\"");
         row("can --profile P -o T/out R", 2, "--profile");
         row("report --profile P --align start -o T/out R", 2, "requires");
         row("report --profile P --reference R --align 9:x -o T/out R", 2, "--align");

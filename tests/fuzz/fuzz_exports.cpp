@@ -5,7 +5,9 @@
 #include "events/EventModel.h"
 #include "export/ExportCan.h"
 #include "export/ExportCsv.h"
+#include "export/ExportGpx.h"
 #include "export/ExportKml.h"
+#include "export/GeoTrack.h"
 #include "fuzz/Fuzz.h"
 #include "report/ExportReport.h"
 #include "table/TableModel.h"
@@ -220,6 +222,46 @@ void checkKml(const ExportInput& input, const ExportOptions& range, std::uint8_t
     require(XmlHandler().xmlReadFile(document, options.path()));
 }
 
+void parse(const QString& name)
+{
+    QXmlStreamReader document(Fuzz::read(name));
+    while (!document.atEnd()) {
+        document.readNext();
+    }
+    require(!document.hasError());
+}
+
+/// Two kinds of files of one track: with as many points, each where somebody can be.
+void checkTracks(const ExportInput& input, const ExportOptions& range, std::uint8_t choice)
+{
+    Progress progress;
+    GpxExportOptions gpx;
+    static_cast<ExportOptions&>(gpx) = range;
+    gpx.fileName = "out.gpx";
+    gpx.timeStamp = 1 << (choice & 15);
+    require(ExportGpx(gpx).run(input, progress).done);
+    parse("out.gpx");
+    const GeoTrack track(*input.flight, input.offset, gpx.slotWidth(), gpx.range());
+    const auto points = static_cast<qsizetype>(track.points().size());
+    require(Fuzz::read("out.gpx").count("<trkpt ") == points);
+    require(std::ranges::is_sorted(track.points(), {}, &TrackPoint::time));
+    for (const TrackPoint& point : track.points()) {
+        require(gpx.range().contains(point.time) && std::abs(point.place.longitude) <= 180.0);
+    }
+    KmlExportOptions kml;
+    static_cast<ExportOptions&>(kml) = range;
+    kml.fileName = "timed.kml";
+    kml.isTimed = true;
+    kml.timeStamp = gpx.timeStamp;
+    kml.placeMarkInterval = 1 + (choice >> 4);
+    const ExportResult result = ExportKml(kml).run(input, progress);
+    require(result.done || !result.message.isEmpty());
+    if (result) {
+        parse("timed.kml");
+        require(Fuzz::read("timed.kml").count("<gx:coord>") == points);
+    }
+}
+
 /// Nothing in the input makes it anything but a page of text, tables and pictures.
 void checkReport(ExportInput input, const ExportOptions& range)
 {
@@ -309,7 +351,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if ((choices.take<std::uint8_t>() & 1) != 0) {
         options.stopTime = record->recordInfo().stopTime; // these two grow with the samples only
     }
-    checkKml(flight, options, choices.take<std::uint8_t>());
+    const auto choice = choices.take<std::uint8_t>();
+    checkKml(flight, options, choice);
+    checkTracks(flight, options, choice);
     checkReport(flight, options);
     checkCan(flight, options);
     return 0;

@@ -122,6 +122,7 @@ private Q_SLOTS:
         QVERIFY(!slider()->isEnabled() && !offset()->isEnabled());
         QVERIFY(!action(ActionType::SaveProject)->isEnabled());
         QVERIFY(!action(ActionType::ExportKml)->isEnabled());
+        QVERIFY(!action(ActionType::ExportGpx)->isEnabled());
         QCOMPARE(emptyTexts().filter("No recording is loaded").size(), 5);
         for (const QLCDNumber* display : window().findChildren<QLCDNumber*>()) {
             QCOMPARE(display->height(), 40);
@@ -139,6 +140,7 @@ private Q_SLOTS:
         QCOMPARE(all->info().stopTime, stop);
         QVERIFY(cell(table, 0, 0).startsWith("09:12:00."));
         QVERIFY(action(ActionType::ExportKml)->isEnabled());
+        QVERIFY(action(ActionType::ExportGpx)->isEnabled());
 
         // A detail line stands for no file: what was loaded stays.
         first->setExpanded(true);

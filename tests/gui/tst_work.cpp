@@ -80,6 +80,10 @@ private Q_SLOTS:
         QTest::newRow("kml --timestamp 500 --line-width 4 --no-polygon --placemark-interval 25 "
                       "--no-limits")
             << "LOG_0001.kml";
+        QTest::newRow("kml --timestamp 500 --line-width 4 --no-polygon --placemark-interval 25 "
+                      "--no-limits --timed")
+            << "LOG_0001.kml";
+        QTest::newRow("gpx --timestamp 500 --no-waypoints") << "LOG_0001.gpx";
         QTest::newRow("csv --separator , --resolution 10") << "ExportOrna.csv";
         QTest::newRow("csv --start 86100 --stop 87000.5") << "ExportOrna.csv";
         QTest::newRow("can") << "ExportOrna.CAN";
@@ -114,7 +118,11 @@ private Q_SLOTS:
                     type(page.findChild<QTimeEdit*>("startTime"), "23:55:00.000");
                     type(page.findChild<QTimeEdit*>("stopTime"), "00:10:00.500");
                 }
+            } else if (proposed.endsWith("gpx")) {
+                numbers[0]->setValue(500);
+                page.findChild<QCheckBox*>()->setChecked(false);
             } else if (numbers.size() == 2) {
+                page.findChild<QCheckBox*>()->setChecked(command.contains("--timed"));
                 numbers[0]->setValue(500);
                 numbers[1]->setValue(4);
                 page.findChildren<QGroupBox*>()[1]->setChecked(false);
@@ -123,7 +131,9 @@ private Q_SLOTS:
                 page.findChildren<QCheckBox*>()[0]->setChecked(false);
             }
         });
-        run(proposed.endsWith("kml") ? ActionType::ExportKml : ActionType::ExportCsv);
+        run(proposed.endsWith("kml")   ? ActionType::ExportKml
+            : proposed.endsWith("gpx") ? ActionType::ExportGpx
+                                       : ActionType::ExportCsv);
         settle();
         const QString file = path("out/" + proposed);
         QCOMPARE(answers().said, QStringList());
@@ -267,7 +277,10 @@ private:
         QStringList command = line.split(' ')
                               << "-o" << path(line.startsWith("report") ? "other.html" : "other");
         if (line != "can") {
-            command << "--profile" << profilePath() << "--project" << projectPath();
+            command << "--profile" << profilePath();
+        }
+        if (!line.startsWith("can") && !line.startsWith("gpx")) { // of no selection
+            command << "--project" << projectPath();
         }
         for (const QString& name : recordings.split(' ')) {
             command << path("card/" + name);

@@ -265,6 +265,7 @@ private:
         setup->hide();
         passWizard("24-kml", ActionType::ExportKml);
         passWizard("25-csv", ActionType::ExportCsv);
+        passWizard("25-gpx", ActionType::ExportGpx);
     }
 
     QAction* action(TARN::ActionType type)

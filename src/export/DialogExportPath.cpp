@@ -1,4 +1,4 @@
-#include "export/DialogExportKmlPath.h"
+#include "export/DialogExportPath.h"
 
 #include "export/DirectoryEdit.h"
 #include "export/TargetQuestion.h"
@@ -8,37 +8,38 @@
 
 namespace TARN {
 
-DialogExportKmlPath::DialogExportKmlPath(KmlExportOptions& options)
-    : mOptions(options), mPath(new DirectoryEdit(tr("Save KML Export"))), mFile(new QLineEdit)
+DialogExportPath::DialogExportPath(ExportOptions& options, const QString& title,
+                                   const QString& chooser)
+    : mOptions(options), mPath(new DirectoryEdit(chooser)), mFile(new QLineEdit)
 {
-    setTitle(tr("KML Export"));
+    setTitle(title);
     setSubTitle(tr("Select the output directory and file"));
     mFile->setToolTip(tr("Name of the file in this folder"));
     mFile->setObjectName("fileName");
     auto* layout = new QFormLayout(this);
     layout->addRow(tr("Export Path"), mPath);
     layout->addRow(tr("Export Filename"), mFile);
-    connect(mPath, &DirectoryEdit::signalPath, this, &DialogExportKmlPath::slotPath);
-    connect(mFile, &QLineEdit::textEdited, this, &DialogExportKmlPath::slotFile);
+    connect(mPath, &DirectoryEdit::signalPath, this, &DialogExportPath::slotPath);
+    connect(mFile, &QLineEdit::textEdited, this, &DialogExportPath::slotFile);
 }
 
-void DialogExportKmlPath::initializePage()
+void DialogExportPath::initializePage()
 {
     mPath->setPath(mOptions.directory);
     mFile->setText(QString::fromStdString(mOptions.fileName));
 }
 
-bool DialogExportKmlPath::validatePage()
+bool DialogExportPath::validatePage()
 {
     return confirmTarget(this, mOptions.directory, mOptions.fileName);
 }
 
-void DialogExportKmlPath::slotPath(const QString& path)
+void DialogExportPath::slotPath(const QString& path)
 {
     mOptions.directory = path.toStdString();
 }
 
-void DialogExportKmlPath::slotFile(const QString& file)
+void DialogExportPath::slotFile(const QString& file)
 {
     mOptions.fileName = file.toStdString();
 }
