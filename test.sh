@@ -38,7 +38,7 @@ core_tests() { # PRESET [OPTIONS]
 with_display() { xvfb-run -a -s "-screen 0 1400x1000x24" "$@"; }
 
 step "set up"
-scripts/setup.sh $servers
+scripts/setup.sh "$@"
 
 step "format"
 git ls-files '*.cpp' '*.h' | xargs clang-format-14 --dry-run --Werror

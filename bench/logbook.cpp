@@ -41,11 +41,10 @@ public:
     }
 
 private:
-    /// And as much again for the logbook, of which nothing is known here.
     static std::uintmax_t bytesOf(std::size_t flights, int minutes)
     {
-        constexpr std::uintmax_t MinuteBytes = 640'000;
-        return 2 * flights * static_cast<std::uintmax_t>(minutes) * MinuteBytes;
+        constexpr std::uintmax_t OfMinute = 650'000; // with what is kept of it
+        return flights * static_cast<std::uintmax_t>(minutes) * OfMinute;
     }
 
     /// Days of months that all years have.

@@ -114,6 +114,7 @@ class TestFleet : public CoreTest
         environment.insert("PROFILE", ORNA_PROFILE);
         environment.insert("CARDS", path("cards"));
         shell.setProcessEnvironment(environment);
+        shell.setWorkingDirectory(folder());
         shell.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         shell.start("bash", {write("page.sh", script())});
         QVERIFY(shell.waitForFinished(300'000));
