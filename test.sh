@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds, runs every test, and tells how long each step took. Ends with
 # a status other than 0 when anything fails: a warning of the compiler, a file that is not
-# formatted, a test. Usage: test.sh [--servers]; with it a database server is installed where there
-# is none, and the logbook is tested with one that is started in a folder of its own.
+# formatted, a test. Usage: test.sh [--servers]; with it database servers are installed where there
+# are none, and the logbook and docs/fleet.md are tested with some that are started in folders of
+# their own.
 set -euo pipefail
 [ $# -eq 0 ] || [ "$*" = --servers ] || { echo "usage: $0 [--servers]" >&2; exit 2; }
 servers=${1:-}
@@ -37,7 +38,7 @@ core_tests() { # PRESET [OPTIONS]
 with_display() { xvfb-run -a -s "-screen 0 1400x1000x24" "$@"; }
 
 step "set up"
-scripts/setup.sh $servers
+scripts/setup.sh "$@"
 
 step "format"
 git ls-files '*.cpp' '*.h' | xargs clang-format-14 --dry-run --Werror
@@ -49,8 +50,8 @@ step "tests of the core"
 core_tests release --label-exclude display
 
 if [ -n "$servers" ]; then
-    step "the logbook on a server"
-    ORNA_SERVERS=yes core_tests release --tests-regex '^tst_logbook$'
+    step "the logbook and a fleet on servers"
+    ORNA_SERVERS=yes core_tests release --tests-regex '^tst_(logbook|fleet)$'
 fi
 
 # They mostly wait for the screen: meanwhile something else can be done.

@@ -8,17 +8,44 @@
 
 namespace TARN::Bench {
 
-Suite::Suite(Options options) : mOptions(std::move(options))
+namespace {
+
+std::filesystem::path newFolderIn(const std::filesystem::path& parent)
 {
-    std::string folder = (std::filesystem::temp_directory_path() / "orna-bench-XXXXXX").string();
+    std::string folder = (parent / "orna-bench-XXXXXX").string();
     require(mkdtemp(folder.data()) != nullptr, "no folder for the recordings");
-    mFolder = folder;
+    return folder;
 }
+
+} // namespace
+
+Suite::Suite(Options options)
+    : mOptions(std::move(options)), mFolder(newFolderIn(std::filesystem::temp_directory_path()))
+{}
 
 Suite::~Suite()
 {
     std::error_code ignored;
-    std::filesystem::remove_all(mFolder, ignored);
+    for (const auto& folder : {mFolder, mMemory}) {
+        if (!folder.empty()) {
+            std::filesystem::remove_all(folder, ignored);
+        }
+    }
+}
+
+const std::filesystem::path& Suite::memoryFolder(std::uintmax_t bytes)
+{
+    const std::filesystem::path memory = "/dev/shm";
+    std::error_code missing;
+    const auto space = std::filesystem::space(memory, missing);
+    if (missing || space.available < bytes) {
+        std::fprintf(stderr, "orna-bench: too little memory for files, the disk is measured\n");
+        return mFolder;
+    }
+    if (mMemory.empty()) {
+        mMemory = newFolderIn(memory);
+    }
+    return mMemory;
 }
 
 void Suite::figure(const std::string& name, double target, const Measurement& value)

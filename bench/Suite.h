@@ -46,6 +46,9 @@ public:
     const std::string& tableRecording(std::size_t rows);
 
     const std::filesystem::path& folder() const { return mFolder; }
+    /// A folder of files in memory, whose speed is the same each time; where there is none with
+    /// room for \p bytes, folder().
+    const std::filesystem::path& memoryFolder(std::uintmax_t bytes);
 
     /// A recording of csvMessages() over an hour, with --quick over six minutes.
     const std::string& csvRecording();
@@ -58,6 +61,7 @@ private:
 
     Options mOptions;
     std::filesystem::path mFolder;
+    std::filesystem::path mMemory;                  ///< empty until it is asked for
     std::map<std::string, std::string> mRecordings; ///< path by name
 };
 

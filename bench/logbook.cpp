@@ -16,7 +16,8 @@ class LogbookBench
 {
 public:
     LogbookBench(Suite& suite, std::size_t flights, int minutes)
-        : mFolder(suite.folder() / "logbook"), mProfile(Profile::load(ORNA_BENCH_PROFILE))
+        : mFolder(suite.memoryFolder(bytesOf(flights, minutes)) / "logbook"),
+          mProfile(Profile::load(ORNA_BENCH_PROFILE))
     {
         Demo::CardOptions demo;
         demo.folder = (suite.folder() / "one").string();
@@ -40,6 +41,12 @@ public:
     }
 
 private:
+    static std::uintmax_t bytesOf(std::size_t flights, int minutes)
+    {
+        constexpr std::uintmax_t OfMinute = 650'000; // with what is kept of it
+        return flights * static_cast<std::uintmax_t>(minutes) * OfMinute;
+    }
+
     /// Days of months that all years have.
     static void setDay(const std::string& file, std::size_t k)
     {
@@ -79,7 +86,7 @@ void logbookFigures(Suite& suite)
 {
     if (suite.isWanted("logbook.add")) {
         const bool isQuick = suite.options().quick;
-        LogbookBench bench(suite, isQuick ? 10 : 50, isQuick ? 8 : 32); // 20 MB
+        LogbookBench bench(suite, isQuick ? 10 : 50, 32); // of 20 MB
         suite.figure("logbook.add", 4.0, [&] { return bench.ratio(); });
     }
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what building, testing and running needs. The one list of packages; safe to repeat.
-# Usage: setup.sh [--servers]; with it a database server for the tests, which is not started.
+# Usage: setup.sh [--servers]; with it the database servers that the tests start by themselves, none
+# of which runs or starts with the machine because of this.
 set -euo pipefail
 
 packages=(
@@ -25,7 +26,9 @@ if [ "$(uname)" = Darwin ]; then
     exit
 fi
 
-[ "${1:-}" = --servers ] && packages+=(postgresql)
+servers=()
+[ "${1:-}" = --servers ] && servers=(postgresql clickhouse-server clickhouse-client)
+packages+=("${servers[@]}")
 
 missing=()
 for package in "${packages[@]}"; do
@@ -38,11 +41,22 @@ echo "installing: ${missing[*]}"
 as_root=()
 [ "$(id -u)" -eq 0 ] || as_root=(sudo)
 export DEBIAN_FRONTEND=noninteractive
-if [ "${1:-}" = --servers ] && [ ! -e /etc/postgresql-common ]; then
+"${as_root[@]}" apt-get update -qq
+
+is_missing() { [[ " ${missing[*]} " == *" $1 "* ]]; }
+policy=/usr/sbin/policy-rc.d # asked by packages whether they may start what they bring
+if is_missing postgresql && [ ! -e /etc/postgresql-common ]; then
     # Installed alone it would make a database for everybody, and start with the machine.
     "${as_root[@]}" mkdir -p /etc/postgresql-common/createcluster.d
     echo "create_main_cluster = false" |
         "${as_root[@]}" tee /etc/postgresql-common/createcluster.d/orna.conf >/dev/null
 fi
-"${as_root[@]}" apt-get update -qq
+if is_missing clickhouse-server && [ ! -e $policy ]; then
+    trap '"${as_root[@]}" rm -f $policy' EXIT
+    printf '#!/bin/sh\nexit 101\n' | "${as_root[@]}" tee $policy >/dev/null
+    "${as_root[@]}" chmod 755 $policy
+fi
 "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+if is_missing clickhouse-server; then
+    "${as_root[@]}" update-rc.d clickhouse-server disable
+fi

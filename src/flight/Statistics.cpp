@@ -80,7 +80,7 @@ bool StatisticsIndex::build(double offset, Progress& progress)
         }
     }
     if (!rhythm.isProven()) {
-        mRule.gaps = mSeries.gapRule([&] { return mFlight->silences(offset); });
+        mRule.gaps = mSeries.measuredGapRule([&] { return mFlight->silences(offset); });
     }
     for (const std::size_t block : left) {
         mTree.set(block, scan(block * Block, (block + 1) * Block));

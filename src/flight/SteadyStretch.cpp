@@ -24,7 +24,8 @@ public:
     SteadyParameter(const Flight& flight, const ProfileParameter& parameter, double offset)
         : mSeries(flight.series(parameter, offset)),
           mGaps(mSeries.gapRule([&] { return flight.silences(offset); })),
-          mPercent(*parameter.steady), mAbove(parameter.steadyAbove.value_or(-Never))
+          mPercent(*parameter.steady), mAbove(parameter.steadyAbove.value_or(-Never)),
+          mNextTime(timeOf(0))
     {}
 
     const Series& series() const { return mSeries; }
@@ -32,12 +33,11 @@ public:
     /// Reads on, up to a time that is included.
     void readTo(double time)
     {
-        for (; mNext < mSeries.size() && mSeries.time(mNext) <= time; ++mNext) {
-            add(mNext);
+        for (; mNextTime <= time; mNextTime = timeOf(mNext)) {
+            mLastTime = mNextTime;
+            add(mNext++);
         }
-        const bool isOver = timeOf(mNext) == Never && timeOf(mNext - 1) < time;
-        const bool isInGap = !isOver && timeOf(mNext - 1) < time && isGapBefore(mNext);
-        mIsAbsent = mNext == 0 || isOver || isInGap;
+        mIsAbsent = mLastTime < time && mIsGapNext;
     }
 
     /// Whether it is from \p start up to where it was read.
@@ -57,16 +57,12 @@ public:
 private:
     struct Extreme
     {
-        std::size_t sample;
         double value;
+        double time;
+        double until; ///< the next sample
     };
 
     double timeOf(std::size_t k) const { return k < mSeries.size() ? mSeries.time(k) : Never; }
-
-    bool isGapBefore(std::size_t k) const
-    {
-        return mGaps.isGap(mSeries.time(k - 1), mSeries.time(k));
-    }
 
     /// What is no number is out of all bounds.
     void add(std::size_t k)
@@ -80,18 +76,19 @@ private:
         while (!mHighest.empty() && mHighest.back().value <= high) {
             mHighest.pop_back();
         }
-        mLowest.push_back({k, low});
-        mHighest.push_back({k, high});
-        if (k == 0 || isGapBefore(k)) {
-            mEarliest = mSeries.time(k);
+        const double until = timeOf(k + 1);
+        mLowest.push_back({low, mLastTime, until});
+        mHighest.push_back({high, mLastTime, until});
+        if (mIsGapNext) {
+            mEarliest = mLastTime;
         }
+        mIsGapNext = until == Never || mGaps.isGap(mLastTime, until);
     }
 
     /// Leaves away what neither lies behind a start nor holds there. The last value always holds.
-    void drop(std::deque<Extreme>& extremes, double start) const
+    static void drop(std::deque<Extreme>& extremes, double start)
     {
-        while (mSeries.time(extremes.front().sample) < start &&
-               timeOf(extremes.front().sample + 1) <= start) {
+        while (extremes.front().time < start && extremes.front().until <= start) {
             extremes.pop_front();
         }
     }
@@ -101,7 +98,10 @@ private:
     double mPercent;
     double mAbove;
     std::size_t mNext = 0;        ///< sample to read
-    bool mIsAbsent = true;        ///< it has no value where it was read to
+    double mNextTime;             ///< of it; Never behind the last one
+    double mLastTime = -Never;    ///< of the one before
+    bool mIsGapNext = true;       ///< there is no value between those two
+    bool mIsAbsent = true;        ///< there is none where it was read to
     double mEarliest = Never;     ///< since then it has values
     std::deque<Extreme> mLowest;  ///< later ones are greater
     std::deque<Extreme> mHighest; ///< later ones are smaller

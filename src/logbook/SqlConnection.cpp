@@ -130,20 +130,13 @@ QStringList SqlConnection::tables() const
 
 QSqlQuery SqlConnection::run(const QString& sql, const QVariantList& values)
 {
-    QSqlQuery query(QSqlDatabase::database(mName, false));
-    query.setForwardOnly(true);
-    bool done = false;
-    if (values.isEmpty()) {
-        done = query.exec(sql);
-    } else if (query.prepare(sql)) {
-        for (const QVariant& value : values) {
-            query.addBindValue(value.typeId() == QMetaType::QString
-                                   ? QVariant(value.toString().remove(QChar(0)))
-                                   : value);
-        }
-        done = query.exec();
+    if (!values.isEmpty()) {
+        QSqlQuery query = prepare(sql);
+        execute(query, values);
+        return query;
     }
-    if (!done) {
+    QSqlQuery query = newQuery();
+    if (!query.exec(sql)) {
         fail(query.lastError());
     }
     return query;
@@ -152,23 +145,56 @@ QSqlQuery SqlConnection::run(const QString& sql, const QVariantList& values)
 void SqlConnection::insert(const QString& table, const QString& columns,
                            const QList<QVariantList>& rows)
 {
-    // A server is asked as seldom as may be; with a file the time grows with the square of them.
-    const qsizetype mostValues = mPlace.isFile() ? 200 : 6000;
     if (rows.isEmpty()) {
         return;
     }
+    // A server is asked as seldom as may be; what is in this process as shortly as may be.
+    const qsizetype mostValues = mPlace.isFile() ? 1 : 6000;
     const qsizetype width = rows.front().size();
-    const QString row = "(?" + QString(", ?").repeated(width - 1) + ")";
     const qsizetype atOnce = std::max<qsizetype>(1, mostValues / width);
+    const QString row = "(?" + QString(", ?").repeated(width - 1) + ")";
+    const QString beginning = "INSERT INTO " + table + " (" + columns + ") VALUES ";
+    std::optional<QSqlQuery> query;
+    qsizetype prepared = 0; // rows of it
     for (qsizetype begin = 0; begin < rows.size(); begin += atOnce) {
         const qsizetype count = std::min(atOnce, rows.size() - begin);
         QVariantList values;
         for (const QVariantList& one : rows.mid(begin, count)) {
             values += one;
         }
-        run("INSERT INTO " + table + " (" + columns + ") VALUES " + row +
-                (", " + row).repeated(count - 1) + " ON CONFLICT DO NOTHING",
-            values);
+        if (count != std::exchange(prepared, count)) {
+            query = prepare(beginning + row + (", " + row).repeated(count - 1) +
+                            " ON CONFLICT DO NOTHING");
+        }
+        execute(*query, values);
+    }
+}
+
+QSqlQuery SqlConnection::newQuery() const
+{
+    QSqlQuery query(QSqlDatabase::database(mName, false));
+    query.setForwardOnly(true);
+    return query;
+}
+
+QSqlQuery SqlConnection::prepare(const QString& sql) const
+{
+    QSqlQuery query = newQuery();
+    if (!query.prepare(sql)) {
+        fail(query.lastError());
+    }
+    return query;
+}
+
+void SqlConnection::execute(QSqlQuery& query, const QVariantList& values) const
+{
+    for (const QVariant& value : values) {
+        query.addBindValue(value.typeId() == QMetaType::QString
+                               ? QVariant(value.toString().remove(QChar(0)))
+                               : value);
+    }
+    if (!query.exec()) {
+        fail(query.lastError());
     }
 }
 

@@ -54,6 +54,9 @@ public:
     }
 
 private:
+    QSqlQuery newQuery() const;
+    QSqlQuery prepare(const QString& sql) const;
+    void execute(QSqlQuery& query, const QVariantList& values) const;
     void open();
     void reopen(const QString& reason);
     void rollBack() noexcept;

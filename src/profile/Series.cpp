@@ -77,7 +77,13 @@ GapRule Series::gapRule(const SilencesSource& silences) const
     if (rhythm.isProven()) {
         return QuickRhythm::rule();
     }
+    return measuredGapRule(silences);
+}
+
+GapRule Series::measuredGapRule(const SilencesSource& silences) const
+{
     std::vector<double> steps;
+    steps.reserve(size());
     for (std::size_t k = 1; k < size(); ++k) {
         const double step = time(k) - time(k - 1);
         if (step > 0.0) {

@@ -66,6 +66,8 @@ public:
 
     /// Where the parameter has no value; \p silences of the recording at the same offset.
     GapRule gapRule(const SilencesSource& silences) const;
+    /// The same for who knows that QuickRhythm proves nothing.
+    GapRule measuredGapRule(const SilencesSource& silences) const;
 
 private:
     void findOrder() const

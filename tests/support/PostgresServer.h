@@ -1,26 +1,20 @@
 #pragma once
 
+#include "support/LocalServer.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
-#include <QtTest/QTest>
 
-#include <arpa/inet.h>
-#include <csignal>
 #include <grp.h>
 #include <pwd.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
-/// A database server with a folder of its own on the loopback address, stopped when this dies. It
-/// refuses to be run by root and is run by its own user then.
-class PostgresServer
+/// A database server. It refuses to be run by root and is run by its own user then.
+class PostgresServer : public LocalServer
 {
 public:
     static constexpr const char* Password = "p'w \"<b>&;";
 
-    PostgresServer() : mPort(freePort()), mUser(geteuid() == 0 ? getpwnam("postgres") : nullptr)
+    PostgresServer() : mUser(geteuid() == 0 ? getpwnam("postgres") : nullptr)
     {
         const QString password = mFolder.filePath("password");
         QFile file(password);
@@ -41,26 +35,18 @@ public:
             qFatal("could not make a database: %s", init.readAllStandardError().constData());
         }
     }
-    ~PostgresServer() { stop(); }
+    ~PostgresServer() override { stop(); }
 
     void start()
     {
-        startAs(mServer, "postgres",
+        startAs(mProcess, "postgres",
                 {"-D", data(), "-h", "127.0.0.1", "-p", QString::number(mPort), "-k",
                  mFolder.path(), "-F"});
-        for (int left = 600; left > 0 && !isReady(); --left) {
-            QTest::qWait(100);
-        }
+        waitUntilReady();
     }
 
     /// Ends its connections, too.
-    void stop()
-    {
-        if (mServer.state() != QProcess::NotRunning) {
-            ::kill(static_cast<pid_t>(mServer.processId()), SIGINT);
-            mServer.waitForFinished();
-        }
-    }
+    void stop() { signalAndWait(SIGINT); }
 
     QString url(const QString& user = "orna") const
     {
@@ -68,19 +54,6 @@ public:
     }
 
 private:
-    static int freePort()
-    {
-        const int made = socket(AF_INET, SOCK_STREAM, 0);
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t size = sizeof address;
-        auto* generic = reinterpret_cast<sockaddr*>(&address);
-        const bool known = bind(made, generic, size) == 0 && getsockname(made, generic, &size) == 0;
-        close(made);
-        return known ? ntohs(address.sin_port) : 0;
-    }
-
     void startAs(QProcess& process, const QString& program, const QStringList& arguments)
     {
         process.setWorkingDirectory(mFolder.path());
@@ -88,22 +61,19 @@ private:
         if (program == "postgres") {
             process.setStandardErrorFile(QProcess::nullDevice());
         }
-        if (mUser != nullptr) {
-            process.setChildProcessModifier([user = mUser] {
-                if (setgroups(0, nullptr) != 0 || setgid(user->pw_gid) != 0 ||
-                    setuid(user->pw_uid) != 0) {
-                    _exit(1);
-                }
-            });
-        }
+        process.setChildProcessModifier([user = mUser] {
+            if (user != nullptr && (setgroups(0, nullptr) != 0 || setgid(user->pw_gid) != 0 ||
+                                    setuid(user->pw_uid) != 0)) {
+                _exit(1);
+            }
+            dieWithParent();
+        });
         process.start(binary(program), arguments);
     }
 
-    bool isReady() const
+    bool isReady() const override
     {
-        QProcess asked;
-        asked.start(binary("pg_isready"), {"-h", "127.0.0.1", "-p", QString::number(mPort)});
-        return asked.waitForFinished() && asked.exitCode() == 0;
+        return succeeds(binary("pg_isready"), {"-h", "127.0.0.1", "-p", QString::number(mPort)});
     }
 
     static QString binary(const QString& program)
@@ -116,8 +86,5 @@ private:
 
     QString data() const { return mFolder.filePath("data"); }
 
-    QTemporaryDir mFolder;
-    int mPort;
     const passwd* mUser; ///< null: the one who runs this
-    QProcess mServer;
 };
