@@ -1220,6 +1220,14 @@ Zvolte složku, do které lze zapisovat, s dostatkem volného místa, a název k
         <source>Logbook</source>
         <translation>Deník</translation>
     </message>
+    <message>
+        <source>Export GPX File</source>
+        <translation>Exportovat soubor GPX</translation>
+    </message>
+    <message>
+        <source>Export the Track as GPX File</source>
+        <translation>Exportovat dráhu letu jako soubor GPX</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
@@ -1611,6 +1619,56 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     </message>
 </context>
 <context>
+    <name>TARN::DialogExportGpx</name>
+    <message>
+        <source>GPX Export</source>
+        <translation>Export GPX</translation>
+    </message>
+    <message>
+        <source>Save GPX Export</source>
+        <translation>Uložit export GPX</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA – upozornění</translation>
+    </message>
+    <message>
+        <source>Exporting GPX file failed !</source>
+        <translation>Export souboru GPX se nezdařil !</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportGpxOptions</name>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>One point of the track for each</source>
+        <translation>Jeden bod dráhy na každý takový úsek</translation>
+    </message>
+    <message>
+        <source>Waypoints at limits and lamps</source>
+        <translation>Body trasy u mezí a kontrolek</translation>
+    </message>
+    <message>
+        <source>GPX Export</source>
+        <translation>Export GPX</translation>
+    </message>
+    <message>
+        <source>Select GPX Option</source>
+        <translation>Zvolte možnosti GPX</translation>
+    </message>
+    <message>
+        <source>Where limits were exceeded and warning lamps came on</source>
+        <translation>Kde byly překročeny meze a rozsvítily se výstražné kontrolky</translation>
+    </message>
+    <message>
+        <source>Timestamp every :</source>
+        <translation>Časový údaj každých :</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogExportKml</name>
     <message>
         <source>Google Earth KML Export</source>
@@ -1683,6 +1741,14 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
         <source>Polygon color</source>
         <translation>Barva polygonu</translation>
     </message>
+    <message>
+        <source>Timed track</source>
+        <translation>Dráha s časy</translation>
+    </message>
+    <message>
+        <source>Times and the selected values at each point, so that earth viewers can play the flight; nothing is drawn over gaps</source>
+        <translation>Časy a vybrané hodnoty v každém bodě, aby prohlížeče Země mohly let přehrát; přes mezery se nic nekreslí</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPath</name>
@@ -1693,22 +1759,6 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     <message>
         <source>KML Export</source>
         <translation>Export KML</translation>
-    </message>
-    <message>
-        <source>Select the output directory and file</source>
-        <translation>Zvolte výstupní složku a soubor</translation>
-    </message>
-    <message>
-        <source>Name of the file in this folder</source>
-        <translation>Název souboru v této složce</translation>
-    </message>
-    <message>
-        <source>Export Path</source>
-        <translation>Cílová složka</translation>
-    </message>
-    <message>
-        <source>Export Filename</source>
-        <translation>Název souboru</translation>
     </message>
 </context>
 <context>
@@ -1768,6 +1818,25 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     <message>
         <source>Exceedance Placemark Color</source>
         <translation>Barva značek překročení</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportPath</name>
+    <message>
+        <source>Select the output directory and file</source>
+        <translation>Zvolte výstupní složku a soubor</translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation>Název souboru v této složce</translation>
+    </message>
+    <message>
+        <source>Export Path</source>
+        <translation>Cílová složka</translation>
+    </message>
+    <message>
+        <source>Export Filename</source>
+        <translation>Název souboru</translation>
     </message>
 </context>
 <context>
@@ -3569,6 +3638,40 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     <message>
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
         <translation>Soubor „%1“ v této složce již existuje. Nahradit?</translation>
+    </message>
+</context>
+<context>
+    <name>TimedKml</name>
+    <message>
+        <source>The recording tells no date: no times can be given. Export the path without them.</source>
+        <translation>Záznam neuvádí datum: časy nelze udat. Exportujte dráhu bez nich.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackNote</name>
+    <message>
+        <source>The recording tells no UTC: times are counted from the date of its header, whose time zone is not known, as if that were UTC.</source>
+        <translation>Záznam neuvádí UTC: časy se počítají od data v jeho hlavičce, jejíž časové pásmo není známo, jako by to bylo UTC.</translation>
+    </message>
+    <message>
+        <source>The recording tells no date: the track is without times.</source>
+        <translation>Záznam neuvádí datum: dráha je bez časů.</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; of the altitude is not known, its numbers were taken for metres.</source>
+        <translation>Jednotka výšky &quot;%1&quot; není známa, její čísla byla vzata jako metry.</translation>
+    </message>
+    <message>
+        <source>Times are UTC as the recording&apos;s own messages tell it.</source>
+        <translation>Časy jsou UTC podle vlastních zpráv záznamu.</translation>
+    </message>
+    <message>
+        <source>Altitudes are metres, converted from %1.</source>
+        <translation>Výšky jsou v metrech, převedené z %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1 positions at 0/0 or incomplete, %2 that nothing flies to, %3 events without a position.</source>
+        <translation>Vynecháno: %1 poloh v 0/0 nebo neúplných, %2, kam nic nedoletí, %3 událostí bez polohy.</translation>
     </message>
 </context>
 <context>

@@ -1220,6 +1220,14 @@ Wählen Sie einen beschreibbaren Ordner mit genügend freiem Platz und einen Nam
         <source>Logbook</source>
         <translation>Bordbuch</translation>
     </message>
+    <message>
+        <source>Export GPX File</source>
+        <translation>GPX-Datei exportieren</translation>
+    </message>
+    <message>
+        <source>Export the Track as GPX File</source>
+        <translation>Flugweg als GPX-Datei exportieren</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
@@ -1611,6 +1619,56 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     </message>
 </context>
 <context>
+    <name>TARN::DialogExportGpx</name>
+    <message>
+        <source>GPX Export</source>
+        <translation>GPX-Export</translation>
+    </message>
+    <message>
+        <source>Save GPX Export</source>
+        <translation>GPX-Export speichern</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA-Warnung</translation>
+    </message>
+    <message>
+        <source>Exporting GPX file failed !</source>
+        <translation>Export der GPX-Datei fehlgeschlagen !</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportGpxOptions</name>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>One point of the track for each</source>
+        <translation>Ein Punkt des Flugwegs für jeden solchen Abschnitt</translation>
+    </message>
+    <message>
+        <source>Waypoints at limits and lamps</source>
+        <translation>Wegpunkte bei Grenzwerten und Lampen</translation>
+    </message>
+    <message>
+        <source>GPX Export</source>
+        <translation>GPX-Export</translation>
+    </message>
+    <message>
+        <source>Select GPX Option</source>
+        <translation>GPX-Optionen wählen</translation>
+    </message>
+    <message>
+        <source>Where limits were exceeded and warning lamps came on</source>
+        <translation>Wo Grenzwerte überschritten wurden und Warnlampen angingen</translation>
+    </message>
+    <message>
+        <source>Timestamp every :</source>
+        <translation>Zeitstempel alle :</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogExportKml</name>
     <message>
         <source>Google Earth KML Export</source>
@@ -1683,6 +1741,14 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
         <source>Polygon color</source>
         <translation>Polygonfarbe</translation>
     </message>
+    <message>
+        <source>Timed track</source>
+        <translation>Flugweg mit Zeiten</translation>
+    </message>
+    <message>
+        <source>Times and the selected values at each point, so that earth viewers can play the flight; nothing is drawn over gaps</source>
+        <translation>Zeiten und die gewählten Werte an jedem Punkt, damit Globus-Programme den Flug abspielen können; über Lücken wird nichts gezeichnet</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPath</name>
@@ -1693,22 +1759,6 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     <message>
         <source>KML Export</source>
         <translation>KML-Export</translation>
-    </message>
-    <message>
-        <source>Select the output directory and file</source>
-        <translation>Ausgabeordner und Datei wählen</translation>
-    </message>
-    <message>
-        <source>Name of the file in this folder</source>
-        <translation>Name der Datei in diesem Ordner</translation>
-    </message>
-    <message>
-        <source>Export Path</source>
-        <translation>Exportpfad</translation>
-    </message>
-    <message>
-        <source>Export Filename</source>
-        <translation>Exportdateiname</translation>
     </message>
 </context>
 <context>
@@ -1768,6 +1818,25 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     <message>
         <source>Exceedance Placemark Color</source>
         <translation>Farbe Grenzwertverletzung</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportPath</name>
+    <message>
+        <source>Select the output directory and file</source>
+        <translation>Ausgabeordner und Datei wählen</translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation>Name der Datei in diesem Ordner</translation>
+    </message>
+    <message>
+        <source>Export Path</source>
+        <translation>Exportpfad</translation>
+    </message>
+    <message>
+        <source>Export Filename</source>
+        <translation>Exportdateiname</translation>
     </message>
 </context>
 <context>
@@ -3569,6 +3638,40 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
     <message>
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
         <translation>„%1“ ist in diesem Ordner bereits vorhanden. Ersetzen?</translation>
+    </message>
+</context>
+<context>
+    <name>TimedKml</name>
+    <message>
+        <source>The recording tells no date: no times can be given. Export the path without them.</source>
+        <translation>Die Aufzeichnung nennt kein Datum: Zeiten können nicht angegeben werden. Exportieren Sie den Flugweg ohne sie.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackNote</name>
+    <message>
+        <source>The recording tells no UTC: times are counted from the date of its header, whose time zone is not known, as if that were UTC.</source>
+        <translation>Die Aufzeichnung nennt kein UTC: Die Zeiten zählen ab dem Datum ihres Kopfes, dessen Zeitzone nicht bekannt ist, als wäre es UTC.</translation>
+    </message>
+    <message>
+        <source>The recording tells no date: the track is without times.</source>
+        <translation>Die Aufzeichnung nennt kein Datum: Der Flugweg ist ohne Zeiten.</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; of the altitude is not known, its numbers were taken for metres.</source>
+        <translation>Die Einheit &quot;%1&quot; der Höhe ist nicht bekannt, ihre Zahlen wurden als Meter genommen.</translation>
+    </message>
+    <message>
+        <source>Times are UTC as the recording&apos;s own messages tell it.</source>
+        <translation>Die Zeiten sind UTC, wie es die Meldungen der Aufzeichnung selbst nennen.</translation>
+    </message>
+    <message>
+        <source>Altitudes are metres, converted from %1.</source>
+        <translation>Höhen sind in Metern, umgerechnet aus %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1 positions at 0/0 or incomplete, %2 that nothing flies to, %3 events without a position.</source>
+        <translation>Weggelassen: %1 Positionen bei 0/0 oder unvollständig, %2, zu denen nichts fliegt, %3 Ereignisse ohne Position.</translation>
     </message>
 </context>
 <context>

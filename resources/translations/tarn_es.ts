@@ -1220,6 +1220,14 @@ Elija una carpeta en la que se pueda escribir, con espacio libre suficiente, y u
         <source>Logbook</source>
         <translation>Libro de vuelos</translation>
     </message>
+    <message>
+        <source>Export GPX File</source>
+        <translation>Exportar archivo GPX</translation>
+    </message>
+    <message>
+        <source>Export the Track as GPX File</source>
+        <translation>Exportar la trayectoria como archivo GPX</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
@@ -1611,6 +1619,56 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     </message>
 </context>
 <context>
+    <name>TARN::DialogExportGpx</name>
+    <message>
+        <source>GPX Export</source>
+        <translation>Exportación GPX</translation>
+    </message>
+    <message>
+        <source>Save GPX Export</source>
+        <translation>Guardar exportación GPX</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso de ORNA</translation>
+    </message>
+    <message>
+        <source>Exporting GPX file failed !</source>
+        <translation>¡Error al exportar el archivo GPX!</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportGpxOptions</name>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>One point of the track for each</source>
+        <translation>Un punto de la trayectoria por cada intervalo</translation>
+    </message>
+    <message>
+        <source>Waypoints at limits and lamps</source>
+        <translation>Puntos de paso en límites y testigos</translation>
+    </message>
+    <message>
+        <source>GPX Export</source>
+        <translation>Exportación GPX</translation>
+    </message>
+    <message>
+        <source>Select GPX Option</source>
+        <translation>Elija las opciones GPX</translation>
+    </message>
+    <message>
+        <source>Where limits were exceeded and warning lamps came on</source>
+        <translation>Donde se superaron límites y se encendieron testigos de aviso</translation>
+    </message>
+    <message>
+        <source>Timestamp every :</source>
+        <translation>Marca de tiempo cada :</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogExportKml</name>
     <message>
         <source>Google Earth KML Export</source>
@@ -1683,6 +1741,14 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
         <source>Polygon color</source>
         <translation>Color de polígono</translation>
     </message>
+    <message>
+        <source>Timed track</source>
+        <translation>Trayectoria con tiempos</translation>
+    </message>
+    <message>
+        <source>Times and the selected values at each point, so that earth viewers can play the flight; nothing is drawn over gaps</source>
+        <translation>Tiempos y valores seleccionados en cada punto, para que los visores terrestres puedan reproducir el vuelo; no se dibuja nada sobre los huecos</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPath</name>
@@ -1693,22 +1759,6 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     <message>
         <source>KML Export</source>
         <translation>Exportación KML</translation>
-    </message>
-    <message>
-        <source>Select the output directory and file</source>
-        <translation>Elija la carpeta y el archivo de destino</translation>
-    </message>
-    <message>
-        <source>Name of the file in this folder</source>
-        <translation>Nombre del archivo en esta carpeta</translation>
-    </message>
-    <message>
-        <source>Export Path</source>
-        <translation>Carpeta</translation>
-    </message>
-    <message>
-        <source>Export Filename</source>
-        <translation>Nombre de archivo</translation>
     </message>
 </context>
 <context>
@@ -1768,6 +1818,25 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     <message>
         <source>Exceedance Placemark Color</source>
         <translation>Color de marca de superación</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportPath</name>
+    <message>
+        <source>Select the output directory and file</source>
+        <translation>Elija la carpeta y el archivo de destino</translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation>Nombre del archivo en esta carpeta</translation>
+    </message>
+    <message>
+        <source>Export Path</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Export Filename</source>
+        <translation>Nombre de archivo</translation>
     </message>
 </context>
 <context>
@@ -3569,6 +3638,40 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
     <message>
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
         <translation>«%1» ya existe en esta carpeta. ¿Reemplazarlo?</translation>
+    </message>
+</context>
+<context>
+    <name>TimedKml</name>
+    <message>
+        <source>The recording tells no date: no times can be given. Export the path without them.</source>
+        <translation>La grabación no indica ninguna fecha: no se pueden dar tiempos. Exporte la trayectoria sin ellos.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackNote</name>
+    <message>
+        <source>The recording tells no UTC: times are counted from the date of its header, whose time zone is not known, as if that were UTC.</source>
+        <translation>La grabación no indica UTC: los tiempos se cuentan desde la fecha de su cabecera, cuya zona horaria no se conoce, como si fuera UTC.</translation>
+    </message>
+    <message>
+        <source>The recording tells no date: the track is without times.</source>
+        <translation>La grabación no indica ninguna fecha: la trayectoria no lleva tiempos.</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; of the altitude is not known, its numbers were taken for metres.</source>
+        <translation>La unidad &quot;%1&quot; de la altitud no se conoce; sus números se tomaron por metros.</translation>
+    </message>
+    <message>
+        <source>Times are UTC as the recording&apos;s own messages tell it.</source>
+        <translation>Los tiempos son UTC según los propios mensajes de la grabación.</translation>
+    </message>
+    <message>
+        <source>Altitudes are metres, converted from %1.</source>
+        <translation>Las altitudes están en metros, convertidas de %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1 positions at 0/0 or incomplete, %2 that nothing flies to, %3 events without a position.</source>
+        <translation>Omitidos: %1 posiciones en 0/0 o incompletas, %2 a las que nada vuela, %3 eventos sin posición.</translation>
     </message>
 </context>
 <context>

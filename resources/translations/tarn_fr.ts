@@ -1220,6 +1220,14 @@ Choisissez un dossier accessible en écriture, avec assez d&apos;espace libre, e
         <source>Logbook</source>
         <translation>Carnet</translation>
     </message>
+    <message>
+        <source>Export GPX File</source>
+        <translation>Exporter un fichier GPX</translation>
+    </message>
+    <message>
+        <source>Export the Track as GPX File</source>
+        <translation>Exporter la trajectoire en fichier GPX</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
@@ -1611,6 +1619,56 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     </message>
 </context>
 <context>
+    <name>TARN::DialogExportGpx</name>
+    <message>
+        <source>GPX Export</source>
+        <translation>Export GPX</translation>
+    </message>
+    <message>
+        <source>Save GPX Export</source>
+        <translation>Enregistrer l&apos;export GPX</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>ORNA - Avertissement</translation>
+    </message>
+    <message>
+        <source>Exporting GPX file failed !</source>
+        <translation>Échec de l&apos;export du fichier GPX !</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportGpxOptions</name>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>One point of the track for each</source>
+        <translation>Un point de la trajectoire par intervalle</translation>
+    </message>
+    <message>
+        <source>Waypoints at limits and lamps</source>
+        <translation>Points de passage aux limites et voyants</translation>
+    </message>
+    <message>
+        <source>GPX Export</source>
+        <translation>Export GPX</translation>
+    </message>
+    <message>
+        <source>Select GPX Option</source>
+        <translation>Choisissez les options GPX</translation>
+    </message>
+    <message>
+        <source>Where limits were exceeded and warning lamps came on</source>
+        <translation>Là où des limites ont été dépassées et des voyants se sont allumés</translation>
+    </message>
+    <message>
+        <source>Timestamp every :</source>
+        <translation>Horodatage toutes les :</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogExportKml</name>
     <message>
         <source>Google Earth KML Export</source>
@@ -1683,6 +1741,14 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
         <source>Polygon color</source>
         <translation>Couleur du polygone</translation>
     </message>
+    <message>
+        <source>Timed track</source>
+        <translation>Trajectoire horodatée</translation>
+    </message>
+    <message>
+        <source>Times and the selected values at each point, so that earth viewers can play the flight; nothing is drawn over gaps</source>
+        <translation>Heures et valeurs choisies à chaque point, pour que les globes virtuels puissent rejouer le vol&#xa0;; rien n’est tracé sur les lacunes</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPath</name>
@@ -1693,22 +1759,6 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     <message>
         <source>KML Export</source>
         <translation>Export KML</translation>
-    </message>
-    <message>
-        <source>Select the output directory and file</source>
-        <translation>Choisissez le dossier et le fichier de sortie</translation>
-    </message>
-    <message>
-        <source>Name of the file in this folder</source>
-        <translation>Nom du fichier dans ce dossier</translation>
-    </message>
-    <message>
-        <source>Export Path</source>
-        <translation>Dossier d&apos;export</translation>
-    </message>
-    <message>
-        <source>Export Filename</source>
-        <translation>Nom du fichier</translation>
     </message>
 </context>
 <context>
@@ -1768,6 +1818,25 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     <message>
         <source>Exceedance Placemark Color</source>
         <translation>Couleur des repères de dépassement</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportPath</name>
+    <message>
+        <source>Select the output directory and file</source>
+        <translation>Choisissez le dossier et le fichier de sortie</translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation>Nom du fichier dans ce dossier</translation>
+    </message>
+    <message>
+        <source>Export Path</source>
+        <translation>Dossier d&apos;export</translation>
+    </message>
+    <message>
+        <source>Export Filename</source>
+        <translation>Nom du fichier</translation>
     </message>
 </context>
 <context>
@@ -3569,6 +3638,40 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     <message>
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
         <translation>«&#xa0;%1&#xa0;» existe déjà dans ce dossier. Le remplacer&#xa0;?</translation>
+    </message>
+</context>
+<context>
+    <name>TimedKml</name>
+    <message>
+        <source>The recording tells no date: no times can be given. Export the path without them.</source>
+        <translation>L’enregistrement n’indique aucune date&#xa0;: aucune heure ne peut être donnée. Exportez la trajectoire sans elles.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackNote</name>
+    <message>
+        <source>The recording tells no UTC: times are counted from the date of its header, whose time zone is not known, as if that were UTC.</source>
+        <translation>L’enregistrement n’indique pas l’UTC&#xa0;: les heures sont comptées depuis la date de son en-tête, dont le fuseau est inconnu, comme si c’était l’UTC.</translation>
+    </message>
+    <message>
+        <source>The recording tells no date: the track is without times.</source>
+        <translation>L’enregistrement n’indique aucune date&#xa0;: la trajectoire est sans heures.</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; of the altitude is not known, its numbers were taken for metres.</source>
+        <translation>L’unité &quot;%1&quot; de l’altitude est inconnue, ses nombres ont été pris pour des mètres.</translation>
+    </message>
+    <message>
+        <source>Times are UTC as the recording&apos;s own messages tell it.</source>
+        <translation>Les heures sont l’UTC que donnent les messages de l’enregistrement.</translation>
+    </message>
+    <message>
+        <source>Altitudes are metres, converted from %1.</source>
+        <translation>Les altitudes sont en mètres, converties depuis %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1 positions at 0/0 or incomplete, %2 that nothing flies to, %3 events without a position.</source>
+        <translation>Omis&#xa0;: %1 positions à 0/0 ou incomplètes, %2 où rien ne vole, %3 événements sans position.</translation>
     </message>
 </context>
 <context>

@@ -1220,6 +1220,14 @@ Escolha uma pasta em que se possa escrever, com espaço livre suficiente, e um n
         <source>Logbook</source>
         <translation>Diário</translation>
     </message>
+    <message>
+        <source>Export GPX File</source>
+        <translation>Exportar arquivo GPX</translation>
+    </message>
+    <message>
+        <source>Export the Track as GPX File</source>
+        <translation>Exportar a trajetória como arquivo GPX</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogCard</name>
@@ -1611,6 +1619,56 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     </message>
 </context>
 <context>
+    <name>TARN::DialogExportGpx</name>
+    <message>
+        <source>GPX Export</source>
+        <translation>Exportação GPX</translation>
+    </message>
+    <message>
+        <source>Save GPX Export</source>
+        <translation>Salvar exportação GPX</translation>
+    </message>
+    <message>
+        <source>ORNA Warning</source>
+        <translation>Aviso do ORNA</translation>
+    </message>
+    <message>
+        <source>Exporting GPX file failed !</source>
+        <translation>A exportação do arquivo GPX falhou !</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportGpxOptions</name>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>One point of the track for each</source>
+        <translation>Um ponto da trajetória para cada intervalo</translation>
+    </message>
+    <message>
+        <source>Waypoints at limits and lamps</source>
+        <translation>Pontos de passagem em limites e lâmpadas</translation>
+    </message>
+    <message>
+        <source>GPX Export</source>
+        <translation>Exportação GPX</translation>
+    </message>
+    <message>
+        <source>Select GPX Option</source>
+        <translation>Escolher opções de GPX</translation>
+    </message>
+    <message>
+        <source>Where limits were exceeded and warning lamps came on</source>
+        <translation>Onde limites foram excedidos e lâmpadas de aviso acenderam</translation>
+    </message>
+    <message>
+        <source>Timestamp every :</source>
+        <translation>Ponto a cada :</translation>
+    </message>
+</context>
+<context>
     <name>TARN::DialogExportKml</name>
     <message>
         <source>Google Earth KML Export</source>
@@ -1683,6 +1741,14 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
         <source>Polygon color</source>
         <translation>Cor do polígono</translation>
     </message>
+    <message>
+        <source>Timed track</source>
+        <translation>Trajetória com tempos</translation>
+    </message>
+    <message>
+        <source>Times and the selected values at each point, so that earth viewers can play the flight; nothing is drawn over gaps</source>
+        <translation>Tempos e valores selecionados em cada ponto, para que visualizadores da Terra possam reproduzir o voo; nada é desenhado sobre lacunas</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogExportKmlPath</name>
@@ -1693,22 +1759,6 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     <message>
         <source>KML Export</source>
         <translation>Exportação KML</translation>
-    </message>
-    <message>
-        <source>Select the output directory and file</source>
-        <translation>Escolher a pasta e o arquivo de saída</translation>
-    </message>
-    <message>
-        <source>Name of the file in this folder</source>
-        <translation>Nome do arquivo nesta pasta</translation>
-    </message>
-    <message>
-        <source>Export Path</source>
-        <translation>Pasta de destino</translation>
-    </message>
-    <message>
-        <source>Export Filename</source>
-        <translation>Nome do arquivo</translation>
     </message>
 </context>
 <context>
@@ -1768,6 +1818,25 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     <message>
         <source>Exceedance Placemark Color</source>
         <translation>Cor da marca de excedência</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogExportPath</name>
+    <message>
+        <source>Select the output directory and file</source>
+        <translation>Escolher a pasta e o arquivo de saída</translation>
+    </message>
+    <message>
+        <source>Name of the file in this folder</source>
+        <translation>Nome do arquivo nesta pasta</translation>
+    </message>
+    <message>
+        <source>Export Path</source>
+        <translation>Pasta de destino</translation>
+    </message>
+    <message>
+        <source>Export Filename</source>
+        <translation>Nome do arquivo</translation>
     </message>
 </context>
 <context>
@@ -3569,6 +3638,40 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     <message>
         <source>&quot;%1&quot; exists in this folder. Replace it?</source>
         <translation>&quot;%1&quot; já existe nesta pasta. Substituir?</translation>
+    </message>
+</context>
+<context>
+    <name>TimedKml</name>
+    <message>
+        <source>The recording tells no date: no times can be given. Export the path without them.</source>
+        <translation>A gravação não indica data: não é possível informar tempos. Exporte a trajetória sem eles.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackNote</name>
+    <message>
+        <source>The recording tells no UTC: times are counted from the date of its header, whose time zone is not known, as if that were UTC.</source>
+        <translation>A gravação não indica UTC: os tempos são contados a partir da data do cabeçalho, cujo fuso horário não é conhecido, como se fosse UTC.</translation>
+    </message>
+    <message>
+        <source>The recording tells no date: the track is without times.</source>
+        <translation>A gravação não indica data: a trajetória não tem tempos.</translation>
+    </message>
+    <message>
+        <source>The unit &quot;%1&quot; of the altitude is not known, its numbers were taken for metres.</source>
+        <translation>A unidade &quot;%1&quot; da altitude não é conhecida; seus números foram tomados como metros.</translation>
+    </message>
+    <message>
+        <source>Times are UTC as the recording&apos;s own messages tell it.</source>
+        <translation>Os tempos são UTC conforme as próprias mensagens da gravação.</translation>
+    </message>
+    <message>
+        <source>Altitudes are metres, converted from %1.</source>
+        <translation>As altitudes estão em metros, convertidas de %1.</translation>
+    </message>
+    <message>
+        <source>Left out: %1 positions at 0/0 or incomplete, %2 that nothing flies to, %3 events without a position.</source>
+        <translation>Omitidos: %1 posições em 0/0 ou incompletas, %2 às quais nada voa, %3 eventos sem posição.</translation>
     </message>
 </context>
 <context>
