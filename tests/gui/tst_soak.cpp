@@ -1,5 +1,6 @@
 #include "graph/WidgetGraph.h"
 #include "gui/WindowTest.h"
+#include "logbook/LogbookSettings.h"
 #include "widgets/ActivityBar.h"
 
 #include <unistd.h>
@@ -89,7 +90,6 @@ private:
     /// Does something and says what.
     const char* act()
     {
-        using Type = ActionType;
         const std::pair<const char*, std::function<void()>> deeds[] = {
             {"mouse", [this] { useMouse(); }}, // the first four twice as often
             {"keys", [this] { pressKeys(); }},
@@ -99,13 +99,14 @@ private:
             {"slider", [this] { slider()->setValue(any(10001)); }},
             {"time", [this] { timeEdit()->setTime(QTime(any(24), any(60), any(60))); }},
             {"offset", [this] { offset()->setValue(any(2000) * 0.1 - 100.0); }},
-            {"view", [this] { views()->setCurrentIndex(any(5)); }},
+            {"view", [this] { views()->setCurrentIndex(any(views()->count())); }},
             {"resize", [this] { window().resize(700 + any(600), 500 + any(400)); }},
             {"profile", [this] { useProfile(any(3) == 0 ? projectPath() : profilePath()); }},
             {"card", [this] { drop({isHeads() ? cardPath() : exportPath()}); }},
             {"project", [this] { drop({projectPath()}); }},
             {"reference", [this] { compare(); }},
-            {"export", [this] { run(isHeads() ? Type::ExportKml : Type::ExportCsv); }},
+            {"export", [this] { exportOne(); }},
+            {"logbook", [this] { useLogbook(); }},
             {"stop", [this] { find<QWidget>("exporting")->findChild<QToolButton*>()->click(); }},
             {"cancel", [this] { QTest::keyClick(recordings(), Qt::Key_Escape); }},
             {"close", [this] { window().close(), hasClosed() ? start() : void(); }}};
@@ -198,6 +199,37 @@ private:
             break;
         default:
             isHeads() ? reference.setShift(any(1000) - 500.0) : reference.setFlight(nullptr);
+        }
+    }
+
+    void exportOne()
+    {
+        using Type = ActionType;
+        constexpr Type Exports[] = {Type::ExportKml, Type::ExportCsv, Type::ExportGpx};
+        run(Exports[any(std::size(Exports))]);
+    }
+
+    /// What is opened is kept or not; what is kept is looked at, opened, removed.
+    void useLogbook()
+    {
+        LogbookSettings::setAddsOpened(any(4) != 0);
+        run(ActionType::Logbook);
+        QTest::qWait(any(100));
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            if (top->objectName() != "logbook" || !top->isVisible()) {
+                continue;
+            }
+            const QWidgetList all = top->findChildren<QWidget*>();
+            for (int i = any(6); i > 0; --i) {
+                QWidget* widget = all.at(any(static_cast<int>(all.size())));
+                if (widget->isVisible() && widget->isEnabled()) {
+                    QTest::mouseClick(widget, Qt::LeftButton,
+                                      isHeads() ? Qt::ShiftModifier : Qt::NoModifier,
+                                      placeOn(widget));
+                    QTest::keyClick(widget, any(4) == 0 ? Qt::Key_Delete : Qt::Key_Right);
+                }
+            }
+            isHeads() ? void(top->close()) : window().activateWindow();
         }
     }
 
