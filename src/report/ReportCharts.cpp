@@ -1,7 +1,7 @@
 #include "report/ReportCharts.h"
 
 #include "base/ClockTime.h"
-#include "events/EventWords.h"
+#include "faults/EventWords.h"
 #include "graph/CurveFill.h"
 #include "graph/GraphPalette.h"
 

@@ -1,0 +1,260 @@
+#include "flight/PositionTrack.h"
+
+#include "base/ClockTime.h"
+#include "base/CountText.h"
+#include "flight/ValueReader.h"
+#include "profile/Profile.h"
+#include "profile/Series.h"
+
+#include <QtCore/QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace TARN {
+
+namespace {
+
+/// The user's texts of this file, declared so that the extraction of texts finds them.
+struct PositionTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(PositionTrack)
+};
+
+constexpr double Radians = std::numbers::pi / 180.0;
+
+/// By the identifier, as another device may describe it: the profile's last word counts.
+ProfileParameter parameterOf(const Profile& profile, int channel, int id)
+{
+    ProfileParameter parameter = profile.parameterById(static_cast<unsigned>(id));
+    parameter.channel = channel;
+    parameter.id = id;
+    return parameter;
+}
+
+/// The longitudes of a flight at times that ascend.
+class Longitudes
+{
+public:
+    Longitudes(const Series& series, const SilencesSource& silences)
+        : mSeries(series), mGaps(series.gapRule(silences))
+    {}
+
+    /// NaN in a gap; the nearest sample where two contradict each other and at the ends.
+    double at(double time, double latitude)
+    {
+        while (mNext < mSeries.size() && mSeries.time(mNext) <= time + HalfTick) {
+            ++mNext;
+        }
+        const bool hasBefore = mNext > 0;
+        const bool hasAfter = mNext < mSeries.size();
+        if (!hasBefore || !hasAfter) {
+            return hasBefore || hasAfter ? alone(hasBefore ? mNext - 1 : mNext, time) : NoValue;
+        }
+        const double from = mSeries.time(mNext - 1);
+        const double before = mSeries.value(mNext - 1);
+        if (time - from <= HalfTick) {
+            return before;
+        }
+        const double to = mSeries.time(mNext);
+        const double after = mSeries.value(mNext);
+        if (mGaps.isGap(from, to)) {
+            return NoValue;
+        }
+        if (isJump({latitude, before}, {latitude, after}, to - from)) {
+            return time - from < to - time ? before : after;
+        }
+        return before + (time - from) / (to - from) * turnBetween(before, after);
+    }
+
+private:
+    static constexpr double NoValue = std::numeric_limits<double>::quiet_NaN();
+
+    double alone(std::size_t k, double time) const
+    {
+        const double other = mSeries.time(k);
+        return mGaps.isGap(std::min(time, other), std::max(time, other)) ? NoValue
+                                                                         : mSeries.value(k);
+    }
+
+    const Series& mSeries;
+    GapRule mGaps;
+    std::size_t mNext = 0; ///< first sample after the last time
+};
+
+/// Degrees clockwise from north of the great circle from one point to another.
+double bearing(const GeoPoint& from, const GeoPoint& to)
+{
+    const double turn = turnBetween(from.longitude, to.longitude) * Radians;
+    const double north =
+        std::cos(from.latitude * Radians) * std::sin(to.latitude * Radians) -
+        std::sin(from.latitude * Radians) * std::cos(to.latitude * Radians) * std::cos(turn);
+    const double east = std::sin(turn) * std::cos(to.latitude * Radians);
+    const double degrees = std::atan2(east, north) / Radians;
+    return degrees < 0.0 ? degrees + 360.0 : degrees;
+}
+
+} // namespace
+
+bool namesPosition(const Profile& profile)
+{
+    return profile.kmlInfo().latitudeId != 0 && profile.kmlInfo().longitudeId != 0;
+}
+
+QStringList PositionQuality::remarks() const
+{
+    QStringList lines;
+    if (nowhere > 0) {
+        lines += PositionTexts::tr("Positions of 0/0, sent while the receiver knows none: %1")
+                     .arg(countText(static_cast<qint64>(nowhere)));
+    }
+    if (jumps > 0) {
+        lines += PositionTexts::tr("Jumps of the position faster than 500 m/s: %1, the first at %2")
+                     .arg(countText(static_cast<qint64>(jumps)), clockText(firstJump));
+    }
+    return lines;
+}
+
+PositionTrack::PositionTrack(const RecordData& data, const Profile& profile, double offset,
+                             const SilencesSource& silences, Progress& progress)
+{
+    constexpr std::size_t Turn = 4096; // positions between two looks
+    if (!namesPosition(profile)) {
+        return;
+    }
+    const KmlInfo kml = profile.kmlInfo();
+    const ProfileParameter north = parameterOf(profile, kml.latitudeChannel, kml.latitudeId);
+    const ProfileParameter east = parameterOf(profile, kml.longitudeChannel, kml.longitudeId);
+    const Series latitudes(data, profile, north, offset);
+    const Series eastern(data, profile, east, offset);
+    const GapRule gaps = latitudes.gapRule(silences);
+    Longitudes longitudes(eastern, silences);
+    mTimes.reserve(latitudes.size());
+    mPoints.reserve(latitudes.size());
+    mMetres.reserve(latitudes.size());
+    bool isCut = true;
+    for (std::size_t k = 0; k < latitudes.size(); ++k) {
+        if (k % Turn == 0 && progress.stopRequested()) {
+            break;
+        }
+        const double time = latitudes.time(k);
+        const double latitude = latitudes.value(k);
+        const GeoPoint point{latitude, longitudes.at(time, latitude)};
+        isCut = isCut || (k > 0 && gaps.isGap(latitudes.time(k - 1), time));
+        if (!isPlace(point)) {
+            mQuality.nowhere += latitude == 0.0 && point.longitude == 0.0 ? 1 : 0;
+            isCut = true;
+            continue;
+        }
+        add(time, {latitude, std::remainder(point.longitude, 360.0)}, isCut);
+        isCut = false;
+    }
+    mAltitudes.assign(size(), std::numeric_limits<float>::quiet_NaN());
+}
+
+void PositionTrack::add(double time, const GeoPoint& point, bool isCut)
+{
+    double metres = mMetres.empty() ? 0.0 : mMetres.back();
+    bool hasJumped = false;
+    if (!mTimes.empty()) {
+        const double step = distanceBetween(mPoints.back(), point);
+        hasJumped = isJump(step, time - mTimes.back());
+        metres += isCut || hasJumped ? 0.0 : step;
+    }
+    if (hasJumped) {
+        mQuality.firstJump = mQuality.jumps == 0 ? mTimes.back() : mQuality.firstJump;
+        ++mQuality.jumps;
+        mStretches.back().jumped = true;
+    }
+    if (isCut || hasJumped) {
+        mStretches.push_back({mTimes.size(), mTimes.size(), hasJumped});
+    }
+    mTimes.push_back(time);
+    mPoints.push_back(point);
+    mMetres.push_back(metres);
+    mStretches.back().end = mTimes.size();
+}
+
+void PositionTrack::addAltitudes(const RecordData& data, const Profile& profile, double offset,
+                                 const SilencesSource& silences)
+{
+    const KmlInfo kml = profile.kmlInfo();
+    if (kml.altitudeId == 0) {
+        return;
+    }
+    const ProfileParameter parameter = parameterOf(profile, kml.altitudeChannel, kml.altitudeId);
+    mAltitudeUnit = parameter.unit;
+    const Series series(data, profile, parameter, offset);
+    const GapRule gaps = series.gapRule(silences);
+    ValueReader reader(SeriesSamples{series, gaps}, Between::Line);
+    for (std::size_t k = 0; k < size(); ++k) {
+        mAltitudes[k] = static_cast<float>(reader.at(mTimes[k]));
+    }
+}
+
+const PositionTrack::Stretch& PositionTrack::stretchOf(std::size_t k) const
+{
+    return *(std::ranges::upper_bound(mStretches, k, {}, &Stretch::begin) - 1);
+}
+
+std::size_t PositionTrack::firstNotBefore(double time) const
+{
+    return static_cast<std::size_t>(std::ranges::lower_bound(mTimes, time - HalfTick) -
+                                    mTimes.begin());
+}
+
+std::optional<PositionTrack::Place> PositionTrack::at(double time) const
+{
+    constexpr double Held = 2.0; // seconds, the shortest limit of a gap
+    const auto after = static_cast<std::size_t>(std::ranges::upper_bound(mTimes, time + HalfTick) -
+                                                mTimes.begin());
+    if (after == 0) {
+        return std::nullopt;
+    }
+    const std::size_t k = after - 1;
+    Place place{mPoints[k], mAltitudes[k], mMetres[k], k, true};
+    if (after == stretchOf(k).end) {
+        place.isKnown = time - mTimes[k] <= Held;
+        return place;
+    }
+    const double share = std::max(0.0, (time - mTimes[k]) / (mTimes[after] - mTimes[k]));
+    const auto between = [share](double from, double to) { return from + share * (to - from); };
+    const GeoPoint& from = mPoints[k];
+    const double turn = turnBetween(from.longitude, mPoints[after].longitude);
+    place.point = {between(from.latitude, mPoints[after].latitude),
+                   std::remainder(from.longitude + share * turn, 360.0)};
+    place.altitude = between(mAltitudes[k], mAltitudes[after]);
+    place.metres = between(mMetres[k], mMetres[after]);
+    return place;
+}
+
+std::optional<double> PositionTrack::courseAt(std::size_t k) const
+{
+    constexpr double Apart = 15.0; // metres, beyond the noise of a receiver
+    const Stretch& stretch = stretchOf(k);
+    const auto isFar = [&](std::size_t other) {
+        return distanceBetween(mPoints[k], mPoints[other]) >= Apart;
+    };
+    // Wider and wider steps: an aircraft may stand for hours.
+    std::size_t from = k;
+    std::size_t to = k;
+    for (std::size_t step = 1; to + 1 < stretch.end && !isFar(to); step *= 2) {
+        to = std::min(k + step, stretch.end - 1);
+    }
+    for (std::size_t step = 1; from > stretch.begin && !isFar(from); step *= 2) {
+        from = k - std::min(step, k - stretch.begin);
+    }
+    // One that stands looks as it came to stand, or as it will go.
+    if (isFar(from) && isFar(to) && mTimes[to] - mTimes[from] < 60.0) {
+        return bearing(mPoints[from], mPoints[to]);
+    }
+    const double since = isFar(from) ? mTimes[k] - mTimes[from] : INFINITY;
+    const double until = isFar(to) ? mTimes[to] - mTimes[k] : INFINITY;
+    if (std::isinf(since) && std::isinf(until)) {
+        return std::nullopt;
+    }
+    return since <= until ? bearing(mPoints[from], mPoints[k]) : bearing(mPoints[k], mPoints[to]);
+}
+
+} // namespace TARN

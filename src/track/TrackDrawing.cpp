@@ -1,0 +1,460 @@
+#include "track/TrackDrawing.h"
+
+#include "base/ClockTime.h"
+#include "base/CountText.h"
+#include "track/Graticule.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QTransform>
+
+#include <algorithm>
+#include <cmath>
+#include <ranges>
+#include <set>
+
+namespace TARN {
+
+namespace {
+
+constexpr double PathWidth = 2.0; ///< pixels
+constexpr double Edge = 8.0;      ///< between what stands in a corner and the edge
+
+/// The user's texts of this file, declared so that the extraction of texts finds them.
+struct DrawingTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(TrackDrawing)
+};
+
+QPolygonF turned(const QPolygonF& shape, double degrees, const QPointF& place)
+{
+    return QTransform().translate(place.x(), place.y()).rotate(degrees).map(shape);
+}
+
+/// Seen from above, flying up.
+QPolygonF aircraft()
+{
+    const QPolygonF half = {{0.0, -13.0}, {1.7, -10.0}, {2.0, -4.0}, {13.0, 2.0}, {13.0, 4.6},
+                            {2.0, 2.0},   {1.4, 8.0},   {5.0, 10.6}, {5.0, 12.6}, {0.0, 11.4}};
+    QPolygonF whole = half;
+    for (const QPointF& point : std::views::reverse(half)) {
+        whole.append({-point.x(), point.y()});
+    }
+    return whole;
+}
+
+QPolygonF circle(const QPointF& place, double radius)
+{
+    constexpr int Corners = 16;
+    QPolygonF shape;
+    for (int k = 0; k < Corners; ++k) {
+        const double angle = 6.283185307179586 * k / Corners;
+        shape.append(place + radius * QPointF(std::sin(angle), -std::cos(angle)));
+    }
+    return shape;
+}
+
+/// Where a line goes from one side of a level or upright line to the other.
+std::optional<QPointF> crossing(const QPolygonF& line, bool isUpright, double at)
+{
+    for (qsizetype k = 0; k + 1 < line.size(); ++k) {
+        const QPointF way = line[k + 1] - line[k];
+        const double from = (isUpright ? line[k].x() : line[k].y()) - at;
+        const double to = from + (isUpright ? way.x() : way.y());
+        if ((from <= 0.0) != (to <= 0.0)) {
+            return line[k] + from / (from - to) * way;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+QPolygonF symbolOf(const TrackMark& mark, const QPointF& place)
+{
+    const double size = mark.state == StateLimit ? 6.5 : 5.5;
+    switch (mark.kind) {
+    case TrackMark::Lamp:
+        return {place + QPointF(0.0, -size), place + QPointF(size, size * 0.8),
+                place + QPointF(-size, size * 0.8)};
+    case TrackMark::Fault:
+        return QPolygonF(
+                   QRectF(place.x() - size * 0.8, place.y() - size * 0.8, size * 1.6, size * 1.6))
+            .first(4);
+    default:
+        return {place + QPointF(0.0, -size), place + QPointF(size, 0.0), place + QPointF(0.0, size),
+                place + QPointF(-size, 0.0)};
+    }
+}
+
+std::vector<const TrackMark*> marksNear(const TrackScene& scene, const TrackView& view,
+                                        const QPointF& pixel)
+{
+    constexpr double Near = 8.0; // pixels
+    std::vector<const TrackMark*> found;
+    if (scene.marks != nullptr) {
+        for (const TrackMark& mark : std::views::reverse(scene.marks->marks)) {
+            const QPointF apart = view.toPixel(mark.place) - pixel;
+            if (std::hypot(apart.x(), apart.y()) <= Near) {
+                found.push_back(&mark);
+            }
+        }
+    }
+    return found;
+}
+
+TrackDrawing::TrackDrawing(const TrackScene& scene, const TrackStyle& style, TrackCanvas& canvas)
+    : mScene(scene), mStyle(style), mCanvas(canvas)
+{}
+
+void TrackDrawing::draw(const TrackView& view)
+{
+    mTaken.clear();
+    mCanvas.fill(view.area, mStyle.ground);
+    if (mScene.empty()) {
+        return;
+    }
+    mCanvas.clip(view.area);
+    // Corners are taken before labels look for room.
+    drawLegend(view);
+    drawNorth(view);
+    drawScale(view);
+    drawKey(view);
+    drawGraticule(view);
+    drawBands(view);
+    drawPath(view);
+    drawSymbols(view);
+    drawNames(view);
+    drawLegend(view);
+    drawNorth(view);
+    drawScale(view);
+    drawKey(view);
+    mCanvas.clipNone();
+}
+
+bool TrackDrawing::isFree(const QRectF& box) const
+{
+    return std::ranges::none_of(mTaken, [&](const QRectF& other) { return other.intersects(box); });
+}
+
+void TrackDrawing::plate(const QRectF& box)
+{
+    constexpr int Opaque = 205;
+    QColor color = mStyle.ground;
+    color.setAlpha(Opaque);
+    mCanvas.fill(box, color);
+    mTaken.push_back(box);
+}
+
+bool TrackDrawing::label(const QString& text, const QPointF& topLeft, const QColor& color)
+{
+    const QRectF box(topLeft, mCanvas.sizeOf(text));
+    if (!isFree(box.adjusted(-4.0, -1.0, 4.0, 1.0))) {
+        return false;
+    }
+    plate(box.adjusted(-2.0, 0.0, 2.0, 0.0));
+    mCanvas.text(topLeft, text, color);
+    return true;
+}
+
+void TrackDrawing::drawGraticule(const TrackView& view)
+{
+    const auto lines = graticuleOf(mScene.ground->projection, view);
+    for (const GraticuleLine& line : lines) {
+        mCanvas.line(line.points, mStyle.grid, 1.0);
+    }
+    for (const GraticuleLine& line : lines) {
+        const QSizeF size = mCanvas.sizeOf(line.label);
+        const double inset = line.isMeridian ? view.area.bottom() - 2.0 - size.height() / 2.0
+                                             : view.area.left() + 4.0;
+        const auto place = crossing(line.points, !line.isMeridian, inset);
+        if (!place) {
+            continue;
+        }
+        const QPointF topLeft(line.isMeridian ? place->x() - size.width() / 2.0 : inset,
+                              place->y() - size.height() / 2.0);
+        if (view.area.contains(QRectF(topLeft, size))) {
+            label(line.label, topLeft, mStyle.faint);
+        }
+    }
+}
+
+void TrackDrawing::drawPath(const TrackView& view)
+{
+    const PositionTrack& track = mScene.ground->track;
+    mArrows = 0;
+    if (!mScene.range.hasExtent()) {
+        drawPart(view, 0, track.size(), false);
+        return;
+    }
+    const std::size_t begin = track.firstNotBefore(mScene.range.start);
+    const std::size_t end = track.firstNotBefore(mScene.range.stop);
+    drawPart(view, 0, std::min(begin + 1, track.size()), true);
+    drawPart(view, end - std::min<std::size_t>(1, end), track.size(), true);
+    drawPart(view, begin, end, false);
+}
+
+void TrackDrawing::drawPart(const TrackView& view, std::size_t begin, std::size_t end, bool isFaded)
+{
+    static const TrackColors Plain;
+    const TrackColors& colors = mScene.colors != nullptr && !isFaded ? *mScene.colors : Plain;
+    const auto lines = mScene.ground->path.lines(view, colors.shades(), begin, end);
+    for (const TrackPath::Line& line : lines) {
+        const QColor color = isFaded ? mStyle.faded : colors.color(line.shade, mStyle.light);
+        mCanvas.line(line.points, color, line.points.size() == 1 ? 2.0 * PathWidth : PathWidth);
+    }
+    for (const TrackPath::Line& line : lines) {
+        drawArrows(line.points, isFaded ? mStyle.faded : colors.color(line.shade, mStyle.light));
+    }
+}
+
+/// Which way it went, now and then.
+void TrackDrawing::drawArrows(const QPolygonF& line, const QColor& color)
+{
+    constexpr double Apart = 150.0; // pixels
+    constexpr double Longest = 6.0;
+    constexpr int Most = 60;
+    static const QPolygonF Arrow = {{0.0, -6.0}, {4.5, 5.0}, {0.0, 2.5}, {-4.5, 5.0}};
+    for (qsizetype k = 0; k + 1 < line.size() && mArrows < Most; ++k) {
+        const QPointF way = line[k + 1] - line[k];
+        const double length = std::hypot(way.x(), way.y());
+        mUntilArrow -= length;
+        if (mUntilArrow > 0.0 || length < Longest) {
+            continue; // a short piece may point anywhere
+        }
+        const double degrees = std::atan2(way.x(), -way.y()) * 57.29577951308232;
+        mCanvas.shape(turned(Arrow, degrees, line[k] + way / 2.0), color, color);
+        mUntilArrow = Apart;
+        ++mArrows;
+    }
+}
+
+/// Stretches of the path during which something was wrong.
+void TrackDrawing::drawBands(const TrackView& view)
+{
+    constexpr double Width = 9.0;
+    constexpr int Opaque = 150;
+    static const TrackShades Plain;
+    if (mScene.marks == nullptr) {
+        return;
+    }
+    for (const TrackMark& mark : mScene.marks->marks) {
+        QColor color = mStyle.inkOf(mark.color);
+        color.setAlpha(Opaque);
+        const auto lines = mScene.ground->path.lines(view, Plain, mark.begin, mark.end + 1);
+        for (const TrackPath::Line& line : lines) {
+            if (line.points.size() > 1) {
+                mCanvas.line(line.points, color, Width);
+            }
+        }
+    }
+}
+
+void TrackDrawing::drawSymbols(const TrackView& view)
+{
+    constexpr double Cell = 4.0; // pixels; of equal ones in a cell the worst is drawn
+    if (mScene.marks == nullptr) {
+        return;
+    }
+    std::set<std::tuple<int, int, int>> drawn;
+    std::vector<const TrackMark*> shown;
+    for (const TrackMark& mark : std::views::reverse(mScene.marks->marks)) {
+        const QPointF pixel = view.toPixel(mark.place);
+        if (view.area.contains(pixel) &&
+            drawn.insert({mark.kind, int(pixel.x() / Cell), int(pixel.y() / Cell)}).second) {
+            shown.push_back(&mark);
+        }
+    }
+    const QColor outline = mStyle.light ? QColor("#303030") : QColor("#000000");
+    for (const TrackMark* mark : std::views::reverse(shown)) {
+        mCanvas.shape(symbolOf(*mark, view.toPixel(mark->place)), mStyle.inkOf(mark->color),
+                      outline);
+    }
+    for (const TrackMark* mark : shown) {
+        mTaken.push_back(symbolOf(*mark, view.toPixel(mark->place)).boundingRect());
+    }
+}
+
+/// As many names of the worst as have room beside their symbols.
+void TrackDrawing::drawNames(const TrackView& view)
+{
+    constexpr int Most = 14;
+    constexpr double Beside = 10.0; // pixels
+    if (mScene.marks == nullptr) {
+        return;
+    }
+    int named = 0;
+    std::set<QString> names;
+    for (const TrackMark& mark : std::views::reverse(mScene.marks->marks)) {
+        const QPointF pixel = view.toPixel(mark.place);
+        if (named >= Most || !view.area.contains(pixel) || names.contains(mark.name)) {
+            continue;
+        }
+        const QSizeF size = mCanvas.sizeOf(mark.name);
+        for (const QPointF& topLeft :
+             {pixel + QPointF(Beside, -size.height() / 2.0),
+              pixel + QPointF(-Beside - size.width(), -size.height() / 2.0),
+              pixel + QPointF(-size.width() / 2.0, -Beside - size.height()),
+              pixel + QPointF(-size.width() / 2.0, Beside)}) {
+            if (view.area.contains(QRectF(topLeft, size)) &&
+                label(mark.name, topLeft, mStyle.text)) {
+                names.insert(mark.name);
+                ++named;
+                break;
+            }
+        }
+    }
+}
+
+void TrackDrawing::drawScale(const TrackView& view)
+{
+    constexpr double Longest = 130.0; // pixels
+    constexpr double Mile = 1852.0;   // metres
+    constexpr double Row = 20.0;
+    constexpr double LeastMiles = 0.01;
+    const double metres = roundLength(Longest * view.scale);
+    const double miles = roundLength(Longest * view.scale / Mile);
+    double bottom = view.area.bottom() - Edge - Row;
+    const double right = view.area.right() - Edge - 4.0;
+    plate({right - Longest - 4.0, bottom - 2.0 * Row, Longest + 8.0, 2.0 * Row + 4.0});
+    const auto bar = [&](double length, const QString& text) {
+        const double left = right - length / view.scale;
+        mCanvas.line({{left, bottom - 4.0}, {left, bottom}, {right, bottom}, {right, bottom - 4.0}},
+                     mStyle.text, 1.0);
+        mCanvas.text({right - mCanvas.sizeOf(text).width() - 3.0,
+                      bottom - mCanvas.sizeOf(text).height() - 1.0},
+                     text, mStyle.text);
+        bottom -= Row;
+    };
+    const bool isFar = metres >= 1000.0;
+    bar(metres, QString("%1 %2").arg(isFar ? metres / 1000.0 : metres).arg(isFar ? "km" : "m"));
+    if (miles >= LeastMiles) {
+        bar(miles * Mile, QString("%1 NM").arg(miles));
+    }
+}
+
+void TrackDrawing::drawNorth(const TrackView& view)
+{
+    constexpr double Size = 15.0; // pixels
+    static const QPolygonF Needle = {
+        {0.0, -Size}, {5.0, Size * 0.6}, {0.0, Size * 0.25}, {-5.0, Size * 0.6}};
+    const QPointF place(view.area.right() - Edge - Size, view.area.top() + Edge + 2.2 * Size);
+    const QSizeF letter = mCanvas.sizeOf("N");
+    plate({place.x() - Size - 3.0, view.area.top() + Edge, 2.0 * Size + 6.0, 3.6 * Size});
+    mCanvas.text({place.x() - letter.width() / 2.0, view.area.top() + Edge}, "N", mStyle.text);
+    mCanvas.shape(
+        turned(Needle, mScene.ground->projection.northAt(view.middle), place + QPointF(0.0, 5.0)),
+        mStyle.text, mStyle.text);
+}
+
+void TrackDrawing::drawLegend(const TrackView& view)
+{
+    constexpr double Width = 170.0; // pixels, of a scale
+    constexpr double Bar = 9.0;
+    constexpr int Steps = 30;
+    if (mScene.colors == nullptr || mScene.colors->legend().empty()) {
+        return;
+    }
+    const TrackColors& colors = *mScene.colors;
+    const TrackColors::Legend& legend = colors.legend();
+    const double row = mCanvas.sizeOf("0").height();
+    const QPointF at = view.area.topLeft() + QPointF(Edge + 4.0, Edge + 2.0);
+    const double wide = std::max(Width, mCanvas.sizeOf(legend.title).width());
+    const double high =
+        row + (legend.isScale() ? Bar + row + 6.0 : row * double(legend.entries.size()) + 2.0);
+    plate({at.x() - 4.0, at.y() - 2.0, wide + 8.0, high + 4.0});
+    mCanvas.text(at, legend.title, mStyle.text);
+    double y = at.y() + row + 2.0;
+    for (const auto& [words, shade] : legend.entries) {
+        mCanvas.line({{at.x(), y + row / 2.0}, {at.x() + 18.0, y + row / 2.0}},
+                     colors.color(shade, mStyle.light), 4.0);
+        mCanvas.text({at.x() + 26.0, y}, words, mStyle.text);
+        y += row;
+    }
+    if (!legend.isScale()) {
+        return;
+    }
+    for (int step = 0; step < Steps; ++step) {
+        const int shade = legend.lowest + (legend.highest - legend.lowest) * step / (Steps - 1);
+        mCanvas.fill({at.x() + Width * step / Steps, y, Width / Steps + 0.5, Bar},
+                     colors.color(static_cast<std::uint8_t>(shade), mStyle.light));
+    }
+    mCanvas.text({at.x(), y + Bar + 2.0}, legend.low, mStyle.text);
+    mCanvas.text({at.x() + Width - mCanvas.sizeOf(legend.high).width(), y + Bar + 2.0}, legend.high,
+                 mStyle.text);
+}
+
+/// What the symbols mean, and how many are not on the path.
+void TrackDrawing::drawKey(const TrackView& view)
+{
+    if (mScene.marks == nullptr) {
+        return;
+    }
+    const TrackMarks& marks = *mScene.marks;
+    const double row = mCanvas.sizeOf("0").height() + 3.0;
+    std::vector<std::pair<TrackMark::Kind, QString>> kinds = {
+        {TrackMark::Limit, DrawingTexts::tr("out of range")},
+        {TrackMark::Lamp, DrawingTexts::tr("warning lamp")},
+        {TrackMark::Fault, DrawingTexts::tr("fault or warning")}};
+    std::erase_if(kinds, [&](const auto& kind) {
+        return std::ranges::find(marks.marks, kind.first, &TrackMark::kind) == marks.marks.end();
+    });
+    const QString missing = marks.elsewhere == 0
+                                ? QString()
+                                : DrawingTexts::tr("Events without a position: %1")
+                                      .arg(countText(static_cast<qint64>(marks.elsewhere)));
+    double wide = mCanvas.sizeOf(missing).width();
+    for (const auto& [kind, words] : kinds) {
+        wide = std::max(wide, mCanvas.sizeOf(words).width() + 18.0);
+    }
+    const double rows = double(kinds.size()) + (missing.isEmpty() ? 0.0 : 1.0);
+    if (rows == 0.0) {
+        return;
+    }
+    constexpr double AboveLabels = 22.0; // those of the meridians
+    constexpr double BesideLabels = 76.0;
+    double y = view.area.bottom() - AboveLabels - Edge - rows * row;
+    const double x = view.area.left() + BesideLabels;
+    plate({x - 4.0, y - 2.0, wide + 8.0, rows * row + 4.0});
+    for (const auto& [kind, words] : kinds) {
+        TrackMark sample{};
+        sample.kind = kind;
+        mCanvas.shape(symbolOf(sample, {x + 6.0, y + row / 2.0 - 1.0}), mStyle.faint, mStyle.text);
+        mCanvas.text({x + 18.0, y}, words, mStyle.text);
+        y += row;
+    }
+    if (!missing.isEmpty()) {
+        mCanvas.text({x, y}, missing, mStyle.text);
+    }
+}
+
+void TrackDrawing::drawAircraft(const TrackView& view, double time)
+{
+    const PositionTrack& track = mScene.ground->track;
+    const auto place = track.at(time);
+    mCanvas.clip(view.area);
+    if (!place || !place->isKnown) {
+        const QString words =
+            place ? DrawingTexts::tr("No position at %1; shown is the last one, of %2")
+                        .arg(clockText(time), clockText(track.time(place->index)))
+                  : DrawingTexts::tr("No position at %1 or before").arg(clockText(time));
+        const QSizeF size = mCanvas.sizeOf(words);
+        mTaken.clear();
+        label(words, {view.area.center().x() - size.width() / 2.0, view.area.top() + Edge},
+              mStyle.text);
+    }
+    if (place) {
+        const QPointF plane = mScene.ground->projection.toPlane(place->point);
+        const QPointF pixel = view.toPixel(plane);
+        const QColor fill = place->isKnown ? mStyle.text : mStyle.ground;
+        const QColor outline = place->isKnown ? mStyle.ground : mStyle.text;
+        if (const auto course = track.courseAt(place->index)) {
+            const double degrees = *course + mScene.ground->projection.northAt(plane);
+            mCanvas.shape(turned(aircraft(), degrees, pixel), fill, outline);
+        } else {
+            mCanvas.shape(circle(pixel, 6.5), fill, outline);
+        }
+    }
+    mCanvas.clipNone();
+}
+
+} // namespace TARN
