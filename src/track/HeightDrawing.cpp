@@ -104,8 +104,8 @@ void HeightDrawing::drawAltitudes()
     const QString& unit = mScene.ground->track.altitudeUnit();
     const QString title =
         unit.isEmpty() ? HeightTexts::tr("Altitude") : HeightTexts::tr("Altitude [%1]").arg(unit);
-    mCanvas.text({mChart.plot.left(), mChart.plot.top() - mCanvas.sizeOf(title).height() - 1.0},
-                 title, mStyle.faint);
+    mCanvas.text({mChart.plot.left(), mChart.plot.top() - mCanvas.sizeOf(title).height()}, title,
+                 mStyle.faint);
 }
 
 void HeightDrawing::drawColumn(double x, const QString& text)

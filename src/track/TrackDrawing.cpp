@@ -17,7 +17,14 @@ namespace TARN {
 namespace {
 
 constexpr double PathWidth = 2.0; ///< pixels
-constexpr double Edge = 8.0;      ///< between what stands in a corner and the edge
+constexpr double ColoredWidth = 3.0;
+constexpr double Edge = 8.0; ///< between what stands in a corner and the edge
+
+constexpr double LongestBar = 130.0; ///< pixels, of the scale
+constexpr double BarRow = 20.0;
+constexpr double NeedleSize = 15.0;
+constexpr double ScaleWidth = 170.0; ///< of the legend's colours
+constexpr double ScaleHeight = 9.0;
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
 struct DrawingTexts
@@ -114,20 +121,15 @@ void TrackDrawing::draw(const TrackView& view)
         return;
     }
     mCanvas.clip(view.area);
-    // Corners are taken before labels look for room.
-    drawLegend(view);
-    drawNorth(view);
-    drawScale(view);
-    drawKey(view);
+    placeCorners(view);
     drawGraticule(view);
     drawBands(view);
     drawPath(view);
     drawSymbols(view);
     drawNames(view);
-    drawLegend(view);
-    drawNorth(view);
     drawScale(view);
-    drawKey(view);
+    drawNorth(view);
+    drawLegend();
     mCanvas.clipNone();
 }
 
@@ -198,9 +200,10 @@ void TrackDrawing::drawPart(const TrackView& view, std::size_t begin, std::size_
     static const TrackColors Plain;
     const TrackColors& colors = mScene.colors != nullptr && !isFaded ? *mScene.colors : Plain;
     const auto lines = mScene.ground->path.lines(view, colors.shades(), begin, end);
+    const double width = colors.legend().empty() ? PathWidth : ColoredWidth;
     for (const TrackPath::Line& line : lines) {
         const QColor color = isFaded ? mStyle.faded : colors.color(line.shade, mStyle.light);
-        mCanvas.line(line.points, color, line.points.size() == 1 ? 2.0 * PathWidth : PathWidth);
+        mCanvas.line(line.points, color, line.points.size() == 1 ? 2.0 * width : width);
     }
     for (const TrackPath::Line& line : lines) {
         drawArrows(line.points, isFaded ? mStyle.faded : colors.color(line.shade, mStyle.light));
@@ -278,7 +281,7 @@ void TrackDrawing::drawSymbols(const TrackView& view)
 void TrackDrawing::drawNames(const TrackView& view)
 {
     constexpr int Most = 14;
-    constexpr double Beside = 10.0; // pixels
+    constexpr double Beside = 12.0; // pixels
     if (mScene.marks == nullptr) {
         return;
     }
@@ -295,7 +298,8 @@ void TrackDrawing::drawNames(const TrackView& view)
               pixel + QPointF(-Beside - size.width(), -size.height() / 2.0),
               pixel + QPointF(-size.width() / 2.0, -Beside - size.height()),
               pixel + QPointF(-size.width() / 2.0, Beside)}) {
-            if (view.area.contains(QRectF(topLeft, size)) &&
+            const QRectF box(topLeft, size);
+            if (view.area.contains(box) && !isOnPath(view, box) &&
                 label(mark.name, topLeft, mStyle.text)) {
                 names.insert(mark.name);
                 ++named;
@@ -305,25 +309,77 @@ void TrackDrawing::drawNames(const TrackView& view)
     }
 }
 
+/// Whether the path runs through a box.
+bool TrackDrawing::isOnPath(const TrackView& view, const QRectF& box) const
+{
+    static const TrackShades Plain;
+    TrackView part = view;
+    part.area = box;
+    part.middle = view.toPlane(box.center());
+    return !mScene.ground->path.lines(part, Plain, 0, mScene.ground->track.size()).empty();
+}
+
+/// The first of the corners in which neither the path nor anything else is, or the first of all.
+QRectF TrackDrawing::corner(const TrackView& view, const QSizeF& size,
+                            std::initializer_list<Qt::Corner> corners)
+{
+    constexpr double Labels = 20.0; // of the meridians, at the lower edge
+    const QRectF area = view.area.adjusted(Edge, Edge, -Edge, -Edge - Labels);
+    std::optional<QRectF> first;
+    for (const Qt::Corner corner : corners) {
+        QRectF box(area.topLeft(), size);
+        if (corner == Qt::TopRightCorner || corner == Qt::BottomRightCorner) {
+            box.moveRight(area.right());
+        }
+        if (corner == Qt::BottomLeftCorner || corner == Qt::BottomRightCorner) {
+            box.moveBottom(area.bottom());
+        }
+        first = first.value_or(box);
+        if (isFree(box) && !isOnPath(view, box)) {
+            mTaken.push_back(box);
+            return box;
+        }
+    }
+    mTaken.push_back(*first);
+    return *first;
+}
+
+/// Corners are taken before labels look for room.
+void TrackDrawing::placeCorners(const TrackView& view)
+{
+    mNorth = corner(view, {2.0 * NeedleSize + 6.0, 3.6 * NeedleSize},
+                    {Qt::TopRightCorner, Qt::TopLeftCorner, Qt::BottomLeftCorner});
+    mScale = corner(view, {LongestBar + 12.0, 2.0 * BarRow + 4.0},
+                    {Qt::BottomRightCorner, Qt::BottomLeftCorner, Qt::TopLeftCorner});
+    mLegend = {};
+    if (mScene.colors == nullptr || mScene.colors->legend().empty()) {
+        return;
+    }
+    const TrackColors::Legend& legend = mScene.colors->legend();
+    const double row = mCanvas.sizeOf("0").height();
+    const double below =
+        legend.isScale() ? ScaleHeight + row + 6.0 : row * double(legend.entries.size()) + 2.0;
+    mLegend = corner(
+        view, {std::max(ScaleWidth, mCanvas.sizeOf(legend.title).width()) + 8.0, row + below + 4.0},
+        {Qt::TopLeftCorner, Qt::BottomLeftCorner, Qt::BottomRightCorner, Qt::TopRightCorner});
+}
+
 void TrackDrawing::drawScale(const TrackView& view)
 {
-    constexpr double Longest = 130.0; // pixels
-    constexpr double Mile = 1852.0;   // metres
-    constexpr double Row = 20.0;
+    constexpr double Mile = 1852.0; // metres
     constexpr double LeastMiles = 0.01;
-    const double metres = roundLength(Longest * view.scale);
-    const double miles = roundLength(Longest * view.scale / Mile);
-    double bottom = view.area.bottom() - Edge - Row;
-    const double right = view.area.right() - Edge - 4.0;
-    plate({right - Longest - 4.0, bottom - 2.0 * Row, Longest + 8.0, 2.0 * Row + 4.0});
+    const double metres = roundLength(LongestBar * view.scale);
+    const double miles = roundLength(LongestBar * view.scale / Mile);
+    double bottom = mScale.bottom() - 3.0;
+    const double right = mScale.right() - 4.0;
+    plate(mScale);
     const auto bar = [&](double length, const QString& text) {
         const double left = right - length / view.scale;
         mCanvas.line({{left, bottom - 4.0}, {left, bottom}, {right, bottom}, {right, bottom - 4.0}},
                      mStyle.text, 1.0);
-        mCanvas.text({right - mCanvas.sizeOf(text).width() - 3.0,
-                      bottom - mCanvas.sizeOf(text).height() - 1.0},
-                     text, mStyle.text);
-        bottom -= Row;
+        const QSizeF size = mCanvas.sizeOf(text);
+        mCanvas.text({right - size.width() - 3.0, bottom - size.height() - 1.0}, text, mStyle.text);
+        bottom -= BarRow;
     };
     const bool isFar = metres >= 1000.0;
     bar(metres, QString("%1 %2").arg(isFar ? metres / 1000.0 : metres).arg(isFar ? "km" : "m"));
@@ -334,34 +390,29 @@ void TrackDrawing::drawScale(const TrackView& view)
 
 void TrackDrawing::drawNorth(const TrackView& view)
 {
-    constexpr double Size = 15.0; // pixels
-    static const QPolygonF Needle = {
-        {0.0, -Size}, {5.0, Size * 0.6}, {0.0, Size * 0.25}, {-5.0, Size * 0.6}};
-    const QPointF place(view.area.right() - Edge - Size, view.area.top() + Edge + 2.2 * Size);
-    const QSizeF letter = mCanvas.sizeOf("N");
-    plate({place.x() - Size - 3.0, view.area.top() + Edge, 2.0 * Size + 6.0, 3.6 * Size});
-    mCanvas.text({place.x() - letter.width() / 2.0, view.area.top() + Edge}, "N", mStyle.text);
-    mCanvas.shape(
-        turned(Needle, mScene.ground->projection.northAt(view.middle), place + QPointF(0.0, 5.0)),
-        mStyle.text, mStyle.text);
+    static const QPolygonF Needle = {{0.0, -NeedleSize},
+                                     {5.0, NeedleSize * 0.6},
+                                     {0.0, NeedleSize * 0.25},
+                                     {-5.0, NeedleSize * 0.6}};
+    plate(mNorth);
+    const double middle = mNorth.center().x();
+    mCanvas.text({middle - mCanvas.sizeOf("N").width() / 2.0, mNorth.top()}, "N", mStyle.text);
+    mCanvas.shape(turned(Needle, mScene.ground->projection.northAt(view.middle),
+                         {middle, mNorth.bottom() - 1.2 * NeedleSize}),
+                  mStyle.text, mStyle.text);
 }
 
-void TrackDrawing::drawLegend(const TrackView& view)
+void TrackDrawing::drawLegend()
 {
-    constexpr double Width = 170.0; // pixels, of a scale
-    constexpr double Bar = 9.0;
     constexpr int Steps = 30;
-    if (mScene.colors == nullptr || mScene.colors->legend().empty()) {
+    if (mLegend.isEmpty()) {
         return;
     }
     const TrackColors& colors = *mScene.colors;
     const TrackColors::Legend& legend = colors.legend();
     const double row = mCanvas.sizeOf("0").height();
-    const QPointF at = view.area.topLeft() + QPointF(Edge + 4.0, Edge + 2.0);
-    const double wide = std::max(Width, mCanvas.sizeOf(legend.title).width());
-    const double high =
-        row + (legend.isScale() ? Bar + row + 6.0 : row * double(legend.entries.size()) + 2.0);
-    plate({at.x() - 4.0, at.y() - 2.0, wide + 8.0, high + 4.0});
+    const QPointF at = mLegend.topLeft() + QPointF(4.0, 2.0);
+    plate(mLegend);
     mCanvas.text(at, legend.title, mStyle.text);
     double y = at.y() + row + 2.0;
     for (const auto& [words, shade] : legend.entries) {
@@ -375,55 +426,44 @@ void TrackDrawing::drawLegend(const TrackView& view)
     }
     for (int step = 0; step < Steps; ++step) {
         const int shade = legend.lowest + (legend.highest - legend.lowest) * step / (Steps - 1);
-        mCanvas.fill({at.x() + Width * step / Steps, y, Width / Steps + 0.5, Bar},
+        mCanvas.fill({at.x() + ScaleWidth * step / Steps, y, ScaleWidth / Steps + 0.5, ScaleHeight},
                      colors.color(static_cast<std::uint8_t>(shade), mStyle.light));
     }
-    mCanvas.text({at.x(), y + Bar + 2.0}, legend.low, mStyle.text);
-    mCanvas.text({at.x() + Width - mCanvas.sizeOf(legend.high).width(), y + Bar + 2.0}, legend.high,
+    y += ScaleHeight + 2.0;
+    mCanvas.text({at.x(), y}, legend.low, mStyle.text);
+    mCanvas.text({at.x() + ScaleWidth - mCanvas.sizeOf(legend.high).width(), y}, legend.high,
                  mStyle.text);
 }
 
 /// What the symbols mean, and how many are not on the path.
-void TrackDrawing::drawKey(const TrackView& view)
+void TrackDrawing::drawKey(const QRectF& row)
 {
-    if (mScene.marks == nullptr) {
+    constexpr double Gap = 18.0; // pixels
+    mCanvas.fill(row, mStyle.frame);
+    if (mScene.empty() || mScene.marks == nullptr) {
         return;
     }
     const TrackMarks& marks = *mScene.marks;
-    const double row = mCanvas.sizeOf("0").height() + 3.0;
-    std::vector<std::pair<TrackMark::Kind, QString>> kinds = {
+    const std::pair<TrackMark::Kind, QString> kinds[] = {
         {TrackMark::Limit, DrawingTexts::tr("out of range")},
         {TrackMark::Lamp, DrawingTexts::tr("warning lamp")},
         {TrackMark::Fault, DrawingTexts::tr("fault or warning")}};
-    std::erase_if(kinds, [&](const auto& kind) {
-        return std::ranges::find(marks.marks, kind.first, &TrackMark::kind) == marks.marks.end();
-    });
-    const QString missing = marks.elsewhere == 0
-                                ? QString()
-                                : DrawingTexts::tr("Events without a position: %1")
-                                      .arg(countText(static_cast<qint64>(marks.elsewhere)));
-    double wide = mCanvas.sizeOf(missing).width();
+    double x = row.left() + Edge;
+    const double top = row.center().y() - mCanvas.sizeOf("0").height() / 2.0;
     for (const auto& [kind, words] : kinds) {
-        wide = std::max(wide, mCanvas.sizeOf(words).width() + 18.0);
+        if (std::ranges::find(marks.marks, kind, &TrackMark::kind) != marks.marks.end()) {
+            TrackMark sample{};
+            sample.kind = kind;
+            mCanvas.shape(symbolOf(sample, {x + 5.0, row.center().y()}), mStyle.faint, mStyle.text);
+            mCanvas.text({x + 15.0, top}, words, mStyle.text);
+            x += 15.0 + mCanvas.sizeOf(words).width() + Gap;
+        }
     }
-    const double rows = double(kinds.size()) + (missing.isEmpty() ? 0.0 : 1.0);
-    if (rows == 0.0) {
-        return;
-    }
-    constexpr double AboveLabels = 22.0; // those of the meridians
-    constexpr double BesideLabels = 76.0;
-    double y = view.area.bottom() - AboveLabels - Edge - rows * row;
-    const double x = view.area.left() + BesideLabels;
-    plate({x - 4.0, y - 2.0, wide + 8.0, rows * row + 4.0});
-    for (const auto& [kind, words] : kinds) {
-        TrackMark sample{};
-        sample.kind = kind;
-        mCanvas.shape(symbolOf(sample, {x + 6.0, y + row / 2.0 - 1.0}), mStyle.faint, mStyle.text);
-        mCanvas.text({x + 18.0, y}, words, mStyle.text);
-        y += row;
-    }
-    if (!missing.isEmpty()) {
-        mCanvas.text({x, y}, missing, mStyle.text);
+    if (marks.elsewhere > 0) {
+        mCanvas.text({x, top},
+                     DrawingTexts::tr("Events without a position: %1")
+                         .arg(countText(static_cast<qint64>(marks.elsewhere))),
+                     mStyle.text);
     }
 }
 

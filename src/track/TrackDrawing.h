@@ -15,6 +15,9 @@ public:
     /// All but the current time.
     void draw(const TrackView& view);
 
+    /// What the symbols mean, in a row.
+    void drawKey(const QRectF& row);
+
     /// The aircraft where it was at a time, hollow and with words where nobody knows.
     void drawAircraft(const TrackView& view, double time);
 
@@ -28,8 +31,11 @@ private:
     void drawNames(const TrackView& view);
     void drawScale(const TrackView& view);
     void drawNorth(const TrackView& view);
-    void drawLegend(const TrackView& view);
-    void drawKey(const TrackView& view);
+    void drawLegend();
+    void placeCorners(const TrackView& view);
+    QRectF corner(const TrackView& view, const QSizeF& size,
+                  std::initializer_list<Qt::Corner> corners);
+    bool isOnPath(const TrackView& view, const QRectF& box) const;
     void plate(const QRectF& box);
     /// A text on a plate where nothing stands yet; false where something does.
     bool label(const QString& text, const QPointF& topLeft, const QColor& color);
@@ -39,6 +45,9 @@ private:
     const TrackStyle& mStyle;
     TrackCanvas& mCanvas;
     std::vector<QRectF> mTaken;
+    QRectF mNorth;
+    QRectF mScale;
+    QRectF mLegend;           ///< null without one
     double mUntilArrow = 0.0; ///< pixels
     int mArrows = 0;
 };

@@ -27,6 +27,11 @@ QColor colorOf(const Episode& episode)
                                                      : QColor("#ffe666");
 }
 
+QString nameOf(const Episode& episode)
+{
+    return episode.parameter != nullptr ? episode.parameter->name : episode.name;
+}
+
 QString textOf(const Episode& episode, EventKind kind)
 {
     QString text = QString("%1, %2, %3, %4")
@@ -59,11 +64,10 @@ TrackMarks marksOf(const Troubles& troubles, const PositionTrack& track,
                 ++found.elsewhere;
                 continue;
             }
-            found.marks.push_back({mark, episode.state, colorOf(episode),
-                                   episode.name.section('/', -1), textOf(episode, kind), time,
-                                   projection.toPlane(place->point), place->metres, place->altitude,
-                                   track.firstNotBefore(episode.start),
-                                   track.firstNotBefore(episode.end)});
+            found.marks.push_back(
+                {mark, episode.state, colorOf(episode), nameOf(episode), textOf(episode, kind),
+                 time, projection.toPlane(place->point), place->metres, place->altitude,
+                 track.firstNotBefore(episode.start), track.firstNotBefore(episode.end)});
         }
     };
     add(troubles.lamps, EventKind::Lamps, TrackMark::Lamp);

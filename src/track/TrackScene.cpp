@@ -21,14 +21,16 @@ TrackPanes::TrackPanes(const QSizeF& size, bool hasHeights)
     constexpr double Share = 0.24;
     constexpr double Least = 90.0; // pixels
     constexpr double Most = 190.0;
+    constexpr double Key = 20.0;
     constexpr double Left = 58.0; // for the numbers of the axes
     constexpr double Right = 16.0;
     constexpr double Top = 20.0;
     constexpr double Bottom = 22.0;
     const double below = hasHeights ? std::clamp(size.height() * Share, Least, Most) : 0.0;
-    chart = {0.0, 0.0, size.width(), std::max(1.0, size.height() - below)};
+    chart = {0.0, 0.0, size.width(), std::max(1.0, size.height() - below - Key)};
+    key = {0.0, chart.bottom(), size.width(), Key};
     if (hasHeights) {
-        heights = {Left, chart.bottom() + Top, std::max(1.0, size.width() - Left - Right),
+        heights = {Left, key.bottom() + Top, std::max(1.0, size.width() - Left - Right),
                    below - Top - Bottom};
     }
 }

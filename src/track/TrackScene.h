@@ -57,6 +57,7 @@ struct TrackStyle
 struct TrackPanes
 {
     QRectF chart;
+    QRectF key;     ///< a row that says what symbols mean
     QRectF heights; ///< the plot alone; null where there are none
 
     TrackPanes() = default;

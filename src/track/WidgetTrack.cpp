@@ -95,9 +95,9 @@ void WidgetTrack::lay()
             hasHeights = std::isfinite(track.altitude(k));
         }
     }
-    const TrackPanes panes(size(), hasHeights);
-    mView.area = panes.chart;
-    mHeights = {mScene, mAxis, panes.heights};
+    mPanes = {size(), hasHeights};
+    mView.area = mPanes.chart;
+    mHeights = {mScene, mAxis, mPanes.heights};
     redraw();
 }
 
@@ -141,16 +141,16 @@ void WidgetTrack::resizeEvent(QResizeEvent*)
 
 void WidgetTrack::paintEvent(QPaintEvent*)
 {
-    const QRectF below(0.0, mView.area.bottom(), width(), height() - mView.area.bottom());
     if (mStill.isNull()) {
         mStill = QPixmap(size() * devicePixelRatioF());
         mStill.setDevicePixelRatio(devicePixelRatioF());
         QPainter painter(&mStill);
         PaintedTrack canvas(painter, font());
-        TrackDrawing(mScene, mStyle, canvas).draw(mView);
-        if (!below.isEmpty()) {
-            HeightDrawing(mScene, mStyle, mHeights, canvas).draw(below);
-        }
+        TrackDrawing drawing(mScene, mStyle, canvas);
+        drawing.draw(mView);
+        drawing.drawKey(mPanes.key);
+        HeightDrawing(mScene, mStyle, mHeights, canvas)
+            .draw({0.0, mPanes.key.bottom(), double(width()), height() - mPanes.key.bottom()});
     }
     QPainter painter(this);
     painter.drawPixmap(0, 0, mStill);

@@ -68,6 +68,7 @@ private:
 
     TrackScene mScene;
     TrackStyle mStyle;
+    TrackPanes mPanes;
     TrackView mView;
     HeightProfile::Axis mAxis = HeightProfile::Time;
     HeightChart mHeights;
