@@ -7,6 +7,7 @@ class Suite;
 // The figures that need a display, one source for each subject.
 void paintFigures(Suite& suite);
 void startFigures(Suite& suite);
+void trackFigures(Suite& suite);
 void windowFigures(Suite& suite);
 
 } // namespace TARN::Bench

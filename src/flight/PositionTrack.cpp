@@ -133,6 +133,7 @@ PositionTrack::PositionTrack(const RecordData& data, const Profile& profile, dou
     mTimes.reserve(latitudes.size());
     mPoints.reserve(latitudes.size());
     mMetres.reserve(latitudes.size());
+    mAltitudes.reserve(latitudes.size());
     bool isCut = true;
     for (std::size_t k = 0; k < latitudes.size(); ++k) {
         if (k % Turn == 0 && progress.stopRequested()) {
@@ -147,14 +148,14 @@ PositionTrack::PositionTrack(const RecordData& data, const Profile& profile, dou
             isCut = true;
             continue;
         }
-        add(time, {latitude, std::remainder(point.longitude, 360.0)}, isCut);
+        append(time, {latitude, std::remainder(point.longitude, 360.0)}, isCut);
         isCut = false;
     }
-    mAltitudes.assign(size(), std::numeric_limits<float>::quiet_NaN());
 }
 
-void PositionTrack::add(double time, const GeoPoint& point, bool isCut)
+void PositionTrack::append(double time, const GeoPoint& point, bool isCut, double altitude)
 {
+    isCut = isCut || empty();
     double metres = mMetres.empty() ? 0.0 : mMetres.back();
     bool hasJumped = false;
     if (!mTimes.empty()) {
@@ -172,6 +173,7 @@ void PositionTrack::add(double time, const GeoPoint& point, bool isCut)
     }
     mTimes.push_back(time);
     mPoints.push_back(point);
+    mAltitudes.push_back(static_cast<float>(altitude));
     mMetres.push_back(metres);
     mStretches.back().end = mTimes.size();
 }

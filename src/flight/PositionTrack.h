@@ -6,6 +6,7 @@
 
 #include <QtCore/QStringList>
 
+#include <cmath>
 #include <cstddef>
 #include <optional>
 #include <vector>
@@ -52,6 +53,9 @@ public:
     /// offset; asked only where it matters.
     PositionTrack(const RecordData& data, const Profile& profile, double offset,
                   const SilencesSource& silences, Progress& progress);
+
+    /// The next position, which is a place; \p isCut where nothing is known since the one before.
+    void append(double time, const GeoPoint& point, bool isCut = false, double altitude = NAN);
 
     /// Of the same recording, profile and offset.
     void addAltitudes(const RecordData& data, const Profile& profile, double offset,
@@ -100,8 +104,6 @@ public:
     std::optional<double> courseAt(std::size_t k) const;
 
 private:
-    void add(double time, const GeoPoint& point, bool isCut);
-
     std::vector<double> mTimes;
     std::vector<GeoPoint> mPoints;
     std::vector<float> mAltitudes;

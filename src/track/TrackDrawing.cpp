@@ -168,11 +168,15 @@ void TrackDrawing::drawGraticule(const TrackView& view)
         const QSizeF size = mCanvas.sizeOf(line.label);
         const double inset = line.isMeridian ? view.area.bottom() - 2.0 - size.height() / 2.0
                                              : view.area.left() + 4.0;
-        const auto place = crossing(line.points, !line.isMeridian, inset);
+        auto place = crossing(line.points, !line.isMeridian, inset);
+        if (!place && !line.isMeridian) { // around a pole
+            place = crossing(line.points, true, view.area.center().x());
+        }
         if (!place) {
             continue;
         }
-        const QPointF topLeft(line.isMeridian ? place->x() - size.width() / 2.0 : inset,
+        const bool isAtEdge = !line.isMeridian && place->x() < inset + 1.0;
+        const QPointF topLeft(isAtEdge ? inset : place->x() - size.width() / 2.0,
                               place->y() - size.height() / 2.0);
         if (view.area.contains(QRectF(topLeft, size))) {
             label(line.label, topLeft, mStyle.faint);
