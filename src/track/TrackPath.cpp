@@ -17,6 +17,17 @@ double cross(const QPointF& a, const QPointF& b)
     return a.x() * b.y() - a.y() * b.x();
 }
 
+/// From a point to a piece of a line.
+double distanceOf(const QPointF& from, const QPointF& to, const QPointF& point)
+{
+    const QPointF way = to - from;
+    const double square = QPointF::dotProduct(way, way);
+    const double share =
+        square > 0.0 ? std::clamp(QPointF::dotProduct(point - from, way) / square, 0.0, 1.0) : 0.0;
+    const QPointF apart = from + share * way - point;
+    return std::hypot(apart.x(), apart.y());
+}
+
 } // namespace
 
 TrackPath::TrackPath(const PositionTrack& track, const TrackProjection& projection)
@@ -42,6 +53,45 @@ TrackPath::TrackPath(const PositionTrack& track, const TrackProjection& projecti
     }
     mStarts.push_back(size());
     makeBoxes();
+    makeBends();
+}
+
+void TrackPath::makeBends()
+{
+    for (std::size_t level = 0; level < mBoxes.size(); ++level) {
+        std::vector<float> bends;
+        bends.reserve(mBoxes[level].size());
+        for (std::size_t node = 0; node < mBoxes[level].size(); ++node) {
+            bends.push_back(bendOf(level, node));
+        }
+        mBends.push_back(std::move(bends));
+    }
+    for (const std::size_t start : mStarts) { // no line leads to it
+        for (std::size_t level = 0; start > 0 && level < mBends.size(); ++level) {
+            mBends[level][(start - 1) / TrackShades::width(level)] =
+                std::numeric_limits<float>::infinity();
+        }
+    }
+}
+
+/// Of a node of nodes the most that can be: distances from a line are greatest at ends of others.
+float TrackPath::bendOf(std::size_t level, std::size_t node) const
+{
+    const std::size_t width = TrackShades::width(level);
+    const std::size_t begin = node * width;
+    const std::size_t end = std::min(begin + width, size() - 1);
+    const QPointF from = point(begin);
+    const QPointF to = point(end);
+    const std::size_t step = level == 0 ? 1 : TrackShades::width(level - 1);
+    double bend = 0.0;
+    double before = 0.0;
+    for (std::size_t k = begin; k < end; k += step) {
+        const double after = distanceOf(from, to, point(std::min(k + step, end)));
+        const double own = level == 0 ? 0.0 : mBends[level - 1][k / step];
+        bend = std::max(bend, own + std::max(before, after));
+        before = after;
+    }
+    return static_cast<float>(bend);
 }
 
 void TrackPath::makeBoxes()
@@ -87,6 +137,7 @@ public:
         mSight = {static_cast<float>(low.x() - margin), static_cast<float>(low.y() - margin),
                   static_cast<float>(high.x() + margin), static_cast<float>(high.y() + margin)};
         mSmall = static_cast<float>(OnePixel * view.scale);
+        mBend = static_cast<float>(Straight * view.scale);
         mNextStart = static_cast<std::size_t>(std::ranges::lower_bound(path.mStarts, begin) -
                                               path.mStarts.begin());
     }
@@ -117,7 +168,11 @@ private:
             return;
         }
         const bool isWhole = first >= mBegin && last <= mEnd;
-        if (isWhole && box.right - box.left <= mSmall && box.top - box.bottom <= mSmall) {
+        const bool isSmall = box.right - box.left <= mSmall && box.top - box.bottom <= mSmall;
+        // What follows ends its line.
+        const bool isStraight =
+            last < mEnd && mPath.mBends[level][node] <= mBend && mShades.isUniform(level, node);
+        if (isWhole && (isSmall || isStraight)) {
             add(first, mShades.greatest(level, node));
             return;
         }
@@ -236,6 +291,7 @@ private:
     std::size_t mEnd;
     TrackPath::Box mSight;
     float mSmall; ///< metres
+    float mBend;
     std::size_t mNextStart;
     std::vector<TrackPath::Line> mLines;
     TrackPath::Line mLine{};
@@ -298,8 +354,7 @@ std::optional<TrackPath::Hit> TrackPath::nearest(const TrackView& view, const QP
             const double share =
                 square > 0.0 ? std::clamp(QPointF::dotProduct(place - from, way) / square, 0.0, 1.0)
                              : 0.0;
-            const QPointF apart = from + share * way - place;
-            const double found = std::hypot(apart.x(), apart.y());
+            const double found = distanceOf(from, from + way, place);
             if (found < distance || (!hit && found <= distance)) {
                 distance = found;
                 hit = Hit{k, share, 0.0};

@@ -11,7 +11,8 @@ namespace TARN {
 
 /// The positions of a flight on the plane, ready to be drawn at any scale: what is shown of a
 /// million of them is found in the time that its pixels take. Boxes around 16, 64, 256 ...
-/// positions tell what is out of sight and what is a single pixel.
+/// positions tell what is out of sight and what is a single pixel, and how much the way through
+/// them bends what is a straight line.
 class TrackPath
 {
 public:
@@ -63,6 +64,8 @@ private:
     };
 
     void makeBoxes();
+    void makeBends();
+    float bendOf(std::size_t level, std::size_t node) const;
     template <typename Visitor>
     void search(std::size_t level, std::size_t node, Visitor& visitor) const;
 
@@ -70,6 +73,9 @@ private:
     std::vector<std::size_t> mStarts; ///< first positions of stretches, and size()
     /// By level: around the positions of a node and the one that follows.
     std::vector<std::vector<Box>> mBoxes;
+    /// By level: metres that the way through a node is at most beside the straight line from its
+    /// first position to the one that follows; infinite where it is cut.
+    std::vector<std::vector<float>> mBends;
     QRectF mBounds;
 };
 

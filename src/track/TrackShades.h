@@ -21,7 +21,12 @@ public:
     std::uint8_t at(std::size_t k) const { return mShades.empty() ? 0 : mShades[k]; }
     std::uint8_t greatest(std::size_t level, std::size_t node) const
     {
-        return mShades.empty() ? 0 : mLevels[level][node];
+        return mShades.empty() ? 0 : mGreatest[level][node];
+    }
+    /// Whether all positions of a node have the same.
+    bool isUniform(std::size_t level, std::size_t node) const
+    {
+        return mShades.empty() || mGreatest[level][node] == mLeast[level][node];
     }
 
     /// Positions in a node of a level.
@@ -35,8 +40,14 @@ public:
     }
 
 private:
+    using Levels = std::vector<std::vector<std::uint8_t>>;
+
+    template <typename Pick>
+    Levels levelsOf(Pick pick) const;
+
     std::vector<std::uint8_t> mShades;
-    std::vector<std::vector<std::uint8_t>> mLevels;
+    Levels mGreatest;
+    Levels mLeast;
 };
 
 } // namespace TARN
