@@ -49,6 +49,7 @@ DialogDataTrack::DialogDataTrack(Session& session, EpisodeWatch& episodes, QWidg
     setFocusProxy(mTrack);
     listParameters();
     listen();
+    showScene();
 }
 
 void DialogDataTrack::createControls(QHBoxLayout& row)
@@ -185,10 +186,13 @@ QString DialogDataTrack::emptyText() const
     if (!general.isEmpty()) {
         return general;
     }
+    if (mIsStale) {
+        return {}; // nobody looks
+    }
     if (mLoader.isShort()) {
         return tr("There is not enough memory for the path.");
     }
-    if (mIsStale || mLoader.isBusy()) {
+    if (mLoader.isBusy()) {
         return tr("The path is being found.");
     }
     const std::size_t nowhere = mSession.flight()->positionQuality().nowhere;

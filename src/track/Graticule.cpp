@@ -146,7 +146,6 @@ double roundLength(double longest)
 
 std::vector<GraticuleLine> graticuleOf(const TrackProjection& projection, const TrackView& view)
 {
-    constexpr double Short = 3.0; // steps that meridians end before a pole
     constexpr double LeastCos = 1e-3;
     const Extent extent = extentOf(projection, view);
     const double perPixel = view.scale / MetresADegree * Degree; // seconds of latitude
@@ -157,7 +156,7 @@ std::vector<GraticuleLine> graticuleOf(const TrackProjection& projection, const 
     const double centre = projection.centre().longitude;
     const double west = centre + std::max(extent.west - across, -180.0);
     const double east = centre + std::min(extent.east + across, 180.0);
-    const double poleward = std::min(10.0, Short * step);
+    const double poleward = std::min(10.0, step);
     std::vector<GraticuleLine> lines;
     const Liner liner(projection, view);
     for (double k = std::ceil(south / step); k * step <= north; ++k) {

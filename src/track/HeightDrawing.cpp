@@ -87,14 +87,10 @@ void HeightDrawing::drawAltitudes()
     const double perPixel =
         1.0 / std::max(1e-9, mChart.y(profile.lowest()) - mChart.y(profile.lowest() + 1.0));
     const double step = roundStep(Row * perPixel);
-    for (double k = std::ceil(profile.lowest() / step - 0.5);; ++k) {
+    const double bottom =
+        profile.lowest() - (mChart.plot.bottom() - mChart.y(profile.lowest())) * perPixel;
+    for (double k = std::ceil(bottom / step); mChart.y(k * step) >= mChart.plot.top(); ++k) {
         const double y = mChart.y(k * step);
-        if (y < mChart.plot.top()) {
-            break;
-        }
-        if (y > mChart.plot.bottom()) {
-            continue;
-        }
         const QString text = QString::number(k * step, 'g', 6);
         const QSizeF size = mCanvas.sizeOf(text);
         mCanvas.line({{mChart.plot.left(), y}, {mChart.plot.right(), y}}, mStyle.grid, 1.0);

@@ -164,24 +164,35 @@ void TrackDrawing::drawGraticule(const TrackView& view)
     for (const GraticuleLine& line : lines) {
         mCanvas.line(line.points, mStyle.grid, 1.0);
     }
+    std::set<QString> labelled; // on the far side of the earth a line is in pieces
     for (const GraticuleLine& line : lines) {
-        const QSizeF size = mCanvas.sizeOf(line.label);
-        const double inset = line.isMeridian ? view.area.bottom() - 2.0 - size.height() / 2.0
-                                             : view.area.left() + 4.0;
-        auto place = crossing(line.points, !line.isMeridian, inset);
-        if (!place && !line.isMeridian) { // around a pole
-            place = crossing(line.points, true, view.area.center().x());
-        }
-        if (!place) {
-            continue;
-        }
-        const bool isAtEdge = !line.isMeridian && place->x() < inset + 1.0;
-        const QPointF topLeft(isAtEdge ? inset : place->x() - size.width() / 2.0,
-                              place->y() - size.height() / 2.0);
-        if (view.area.contains(QRectF(topLeft, size))) {
-            label(line.label, topLeft, mStyle.faint);
+        if (!labelled.contains(line.label) && labelLine(view, line)) {
+            labelled.insert(line.label);
         }
     }
+}
+
+/// At the left or the lower edge where neither the path nor another label is, else further in.
+bool TrackDrawing::labelLine(const TrackView& view, const GraticuleLine& line)
+{
+    constexpr double Inset = 4.0; // pixels
+    const QSizeF size = mCanvas.sizeOf(line.label);
+    const QRectF area = view.area.adjusted(Inset + size.width() / 2.0, 2.0 + size.height() / 2.0,
+                                           -Inset - size.width() / 2.0, -2.0 - size.height() / 2.0);
+    const bool isUpright = !line.isMeridian; // what it crosses
+    for (const double share : {0.0, 1.0, 0.3, 0.7}) {
+        const auto place = crossing(line.points, isUpright,
+                                    isUpright ? area.left() + share * area.width()
+                                              : area.bottom() - share * area.height());
+        if (!place || !area.contains(*place)) {
+            continue;
+        }
+        const QRectF box(*place - QPointF(size.width(), size.height()) / 2.0, size);
+        if (!isOnPath(view, box) && label(line.label, box.topLeft(), mStyle.faint)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void TrackDrawing::drawPath(const TrackView& view)

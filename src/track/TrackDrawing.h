@@ -5,6 +5,8 @@
 
 namespace TARN {
 
+struct GraticuleLine;
+
 /// Draws the chart of a track: graticule, path, marks, and what a reader needs to read them.
 class TrackDrawing
 {
@@ -23,6 +25,7 @@ public:
 
 private:
     void drawGraticule(const TrackView& view);
+    bool labelLine(const TrackView& view, const GraticuleLine& line);
     void drawPath(const TrackView& view);
     void drawPart(const TrackView& view, std::size_t begin, std::size_t end, bool isFaded);
     void drawArrows(const QPolygonF& line, const QColor& color);

@@ -1,6 +1,7 @@
 #include "track/TrackScene.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace TARN {
 
@@ -26,7 +27,8 @@ TrackPanes::TrackPanes(const QSizeF& size, bool hasHeights)
     constexpr double Right = 16.0;
     constexpr double Top = 20.0;
     constexpr double Bottom = 22.0;
-    const double below = hasHeights ? std::clamp(size.height() * Share, Least, Most) : 0.0;
+    const double below =
+        hasHeights ? std::floor(std::clamp(size.height() * Share, Least, Most)) : 0.0;
     chart = {0.0, 0.0, size.width(), std::max(1.0, size.height() - below - Key)};
     key = {0.0, chart.bottom(), size.width(), Key};
     if (hasHeights) {
@@ -53,9 +55,10 @@ double HeightChart::x(double time, double metres) const
 double HeightChart::y(double altitude) const
 {
     constexpr double Air = 0.06; // of the height, above and below
-    const double range = std::max(1.0, profile.highest() - profile.lowest());
-    const double share = (altitude - profile.lowest()) / range;
-    return plot.bottom() - (Air + share * (1.0 - 2.0 * Air)) * plot.height();
+    constexpr double LeastRange = 10.0;
+    const double range = std::max(LeastRange, profile.highest() - profile.lowest());
+    const double middle = (profile.highest() + profile.lowest()) / 2.0;
+    return plot.center().y() - (altitude - middle) / range * (1.0 - 2.0 * Air) * plot.height();
 }
 
 double HeightChart::timeAt(const PositionTrack& track, double x) const

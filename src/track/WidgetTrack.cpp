@@ -82,7 +82,7 @@ void WidgetTrack::updateEmptyPlace()
 {
     constexpr int Margin = 24;
     mEmpty->setGeometry(rect().adjusted(Margin, Margin, -Margin, -Margin));
-    mEmpty->setVisible(mScene.empty());
+    mEmpty->setVisible(mScene.empty() && !mEmpty->text().isEmpty());
 }
 
 /// What stands where, and the heights in it.
