@@ -6,7 +6,7 @@
 #include "track/WidgetTrack.h"
 
 #include <QtCore/QEvent>
-#include <QtGui/QGuiApplication>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -66,6 +66,8 @@ void DialogDataTrack::createControls(QHBoxLayout& row)
         auto* words = new QLabel(label);
         words->setBuddy(box);
         box->setObjectName(name);
+        box->setAccessibleName(QString(label).remove('&').remove(':'));
+        box->view()->setAccessibleName(box->accessibleName());
         box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         row.addSpacing(12);
         row.addWidget(words);
