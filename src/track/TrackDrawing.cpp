@@ -296,7 +296,6 @@ void TrackDrawing::drawSymbols(const TrackView& view)
 void TrackDrawing::drawNames(const TrackView& view)
 {
     constexpr int Most = 14;
-    constexpr double Beside = 12.0; // pixels
     if (mScene.marks == nullptr) {
         return;
     }
@@ -307,29 +306,42 @@ void TrackDrawing::drawNames(const TrackView& view)
         if (named >= Most || !view.area.contains(pixel) || names.contains(mark.name)) {
             continue;
         }
-        const QSizeF size = mCanvas.sizeOf(mark.name);
-        for (const QPointF& topLeft :
-             {pixel + QPointF(Beside, -size.height() / 2.0),
-              pixel + QPointF(-Beside - size.width(), -size.height() / 2.0),
-              pixel + QPointF(-size.width() / 2.0, -Beside - size.height()),
-              pixel + QPointF(-size.width() / 2.0, Beside)}) {
-            const QRectF box(topLeft, size);
-            if (view.area.contains(box) && !isOnPath(view, box) &&
-                label(mark.name, topLeft, mStyle.text)) {
-                names.insert(mark.name);
-                ++named;
-                break;
-            }
+        if (labelMark(view, mark.name, pixel)) {
+            names.insert(mark.name);
+            ++named;
         }
     }
+}
+
+/// Beside, over or under its symbol, where there is room.
+bool TrackDrawing::labelMark(const TrackView& view, const QString& name, const QPointF& pixel)
+{
+    constexpr double Beside = 12.0; // pixels
+    const QSizeF size = mCanvas.sizeOf(name);
+    const double right = Beside;
+    const double left = -Beside - size.width();
+    const double above = -Beside - size.height();
+    const double level = -size.height() / 2.0;
+    for (const QPointF& place :
+         {QPointF(right, level), QPointF(left, level), QPointF(-size.width() / 2.0, above),
+          QPointF(-size.width() / 2.0, Beside), QPointF(right, above), QPointF(left, above),
+          QPointF(right, Beside), QPointF(left, Beside)}) {
+        const QRectF box(pixel + place, size);
+        if (view.area.contains(box) && !isOnPath(view, box) &&
+            label(name, box.topLeft(), mStyle.text)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 /// Whether the path runs through a box.
 bool TrackDrawing::isOnPath(const TrackView& view, const QRectF& box) const
 {
     static const TrackShades Plain;
+    constexpr double Margin = 5.0; // pixels that are looked at around any area
     TrackView part = view;
-    part.area = box;
+    part.area = box.adjusted(Margin, Margin, -Margin, -Margin);
     part.middle = view.toPlane(box.center());
     return !mScene.ground->path.lines(part, Plain, 0, mScene.ground->track.size()).empty();
 }

@@ -31,6 +31,7 @@ private:
     void drawArrows(const QPolygonF& line, const QColor& color);
     void drawBands(const TrackView& view);
     void drawSymbols(const TrackView& view);
+    bool labelMark(const TrackView& view, const QString& name, const QPointF& pixel);
     void drawNames(const TrackView& view);
     void drawScale(const TrackView& view);
     void drawNorth(const TrackView& view);
