@@ -6,6 +6,7 @@
 #include "track/PaintedTrack.h"
 #include "track/SvgTrack.h"
 #include "track/TrackDrawing.h"
+#include "track/TrackSymbols.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -65,7 +66,7 @@ private:
     {
         TrackDrawing drawing(mScene, mStyle, canvas);
         drawing.draw(mView);
-        drawing.drawKey(mPanes.key);
+        drawKey(mScene, mStyle, mPanes.key, canvas);
         if (mHeights.isShown()) {
             const double top = mPanes.key.bottom();
             HeightDrawing(mScene, mStyle, mHeights, canvas)

@@ -2,7 +2,7 @@
 
 #include "base/ClockTime.h"
 #include "track/Graticule.h"
-#include "track/TrackDrawing.h"
+#include "track/TrackSymbols.h"
 
 #include <QtCore/QCoreApplication>
 

@@ -4,6 +4,7 @@
 #include "track/Graticule.h"
 #include "track/HeightDrawing.h"
 #include "track/PaintedTrack.h"
+#include "track/TrackSymbols.h"
 #include "widgets/EmptyPlace.h"
 
 #include <QtGui/QHelpEvent>
@@ -148,7 +149,7 @@ void WidgetTrack::paintEvent(QPaintEvent*)
         PaintedTrack canvas(painter, font());
         TrackDrawing drawing(mScene, mStyle, canvas);
         drawing.draw(mView);
-        drawing.drawKey(mPanes.key);
+        drawKey(mScene, mStyle, mPanes.key, canvas);
         HeightDrawing(mScene, mStyle, mHeights, canvas)
             .draw({0.0, mPanes.key.bottom(), double(width()), height() - mPanes.key.bottom()});
     }

@@ -3,6 +3,7 @@
 #include "track/HeightDrawing.h"
 #include "track/SvgTrack.h"
 #include "track/TrackDrawing.h"
+#include "track/TrackSymbols.h"
 
 #include <QtCore/QXmlStreamReader>
 
@@ -84,7 +85,7 @@ QStringList textsOf(const TrackScene& scene, double time)
     const TrackView view = fitted(scene);
     TrackDrawing drawing(scene, style, canvas);
     drawing.draw(view);
-    drawing.drawKey({0.0, 600.0, 800.0, 20.0});
+    drawKey(scene, style, {0.0, 600.0, 800.0, 20.0}, canvas);
     const HeightChart heights(scene, HeightProfile::Time, {60.0, 640.0, 700.0, 130.0});
     HeightDrawing(scene, style, heights, canvas).draw({0.0, 620.0, 800.0, 180.0});
     HeightDrawing(scene, style, heights, canvas).drawMoment(time);
