@@ -78,10 +78,8 @@ void addPositions(const Record& record, const Profile& profile, FileReport& repo
     }
     Progress none;
     const RecordData& data = record.recordData();
-    const PositionQuality found =
-        PositionTrack(
-            data, profile, 0.0, [&data] { return std::make_shared<Silences>(data, 0.0); }, none)
-            .quality();
+    const PositionQuality found = positionQuality(
+        data, profile, [&data] { return std::make_shared<Silences>(data, 0.0); }, none);
     report.integrity["positionsNowhere"] = found.nowhere;
     report.integrity["positionJumps"] = found.jumps;
     report.integrity["firstPositionJump"] = found.firstJump;

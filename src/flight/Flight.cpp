@@ -44,7 +44,7 @@ Flight::Flight(std::shared_ptr<const Record> record, std::shared_ptr<const Profi
         mFixed = timesOf(samples(), false);
         mShifted = timesOf(samples(), true);
     }
-    mPositions = PositionTrack(samples(), *mProfile, 0.0, silencesSource(0.0), progress).quality();
+    mPositions = TARN::positionQuality(samples(), *mProfile, silencesSource(0.0), progress);
 }
 
 std::shared_ptr<const Flight> Flight::make(std::shared_ptr<const Record> record,

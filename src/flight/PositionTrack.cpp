@@ -33,55 +33,121 @@ ProfileParameter parameterOf(const Profile& profile, int channel, int id)
     return parameter;
 }
 
+/// Whether two points are so near that there is no jump from one to the other; most are, and
+/// angles are dear.
+bool isStep(const GeoPoint& from, const GeoPoint& to)
+{
+    constexpr double Near = 3e-4; // degrees, at most 33 m
+    return std::abs(to.latitude - from.latitude) < Near &&
+           std::abs(to.longitude - from.longitude) < Near;
+}
+
 /// The longitudes of a flight at times that ascend.
 class Longitudes
 {
 public:
     Longitudes(const Series& series, const SilencesSource& silences)
         : mSeries(series), mGaps(series.gapRule(silences))
-    {}
+    {
+        mAfter = sample(0);
+    }
 
     /// NaN in a gap; the nearest sample where two contradict each other and at the ends.
     double at(double time, double latitude)
     {
-        while (mNext < mSeries.size() && mSeries.time(mNext) <= time + HalfTick) {
-            ++mNext;
+        for (; mNext < mSeries.size() && mAfter.time <= time + HalfTick; mAfter = sample(++mNext)) {
+            mBefore = mAfter;
         }
-        const bool hasBefore = mNext > 0;
-        const bool hasAfter = mNext < mSeries.size();
-        if (!hasBefore || !hasAfter) {
-            return hasBefore || hasAfter ? alone(hasBefore ? mNext - 1 : mNext, time) : NoValue;
+        if (time - mBefore.time <= HalfTick) {
+            return mBefore.value;
         }
-        const double from = mSeries.time(mNext - 1);
-        const double before = mSeries.value(mNext - 1);
-        if (time - from <= HalfTick) {
-            return before;
+        if (mNext == 0 || mNext >= mSeries.size()) {
+            return alone(mNext == 0 ? mAfter : mBefore, time);
         }
-        const double to = mSeries.time(mNext);
-        const double after = mSeries.value(mNext);
-        if (mGaps.isGap(from, to)) {
+        if (mGaps.isGap(mBefore.time, mAfter.time)) {
             return NoValue;
         }
-        if (isJump({latitude, before}, {latitude, after}, to - from)) {
-            return time - from < to - time ? before : after;
+        const double step = mAfter.time - mBefore.time;
+        const GeoPoint before{latitude, mBefore.value};
+        const GeoPoint after{latitude, mAfter.value};
+        if (isStep(before, after)) {
+            return mBefore.value + (time - mBefore.time) / step * (mAfter.value - mBefore.value);
         }
-        return before + (time - from) / (to - from) * turnBetween(before, after);
+        if (isJump(before, after, step)) {
+            return time - mBefore.time < mAfter.time - time ? mBefore.value : mAfter.value;
+        }
+        return mBefore.value +
+               (time - mBefore.time) / step * turnBetween(mBefore.value, mAfter.value);
     }
 
 private:
     static constexpr double NoValue = std::numeric_limits<double>::quiet_NaN();
+    static constexpr double Never = std::numeric_limits<double>::infinity();
 
-    double alone(std::size_t k, double time) const
+    struct Sample
     {
-        const double other = mSeries.time(k);
-        return mGaps.isGap(std::min(time, other), std::max(time, other)) ? NoValue
-                                                                         : mSeries.value(k);
+        double time;
+        double value;
+    };
+
+    Sample sample(std::size_t k) const
+    {
+        return k < mSeries.size() ? Sample{mSeries.time(k), mSeries.value(k)}
+                                  : Sample{Never, NoValue};
+    }
+
+    double alone(const Sample& other, double time) const
+    {
+        return mGaps.isGap(std::min(time, other.time), std::max(time, other.time)) ? NoValue
+                                                                                   : other.value;
     }
 
     const Series& mSeries;
     GapRule mGaps;
-    std::size_t mNext = 0; ///< first sample after the last time
+    std::size_t mNext = 0; ///< of the sample after the last time
+    Sample mBefore{-Never, NoValue};
+    Sample mAfter;
 };
+
+/// Tells all places by time, and where what is between it and the one before is not known; how
+/// many positions are 0/0.
+template <typename Visitor>
+std::size_t visitPositions(const RecordData& data, const Profile& profile, double offset,
+                           const SilencesSource& silences, Progress& progress, Visitor visit)
+{
+    constexpr std::size_t Turn = 4096; // positions between two looks
+    const KmlInfo kml = profile.kmlInfo();
+    const ProfileParameter north = parameterOf(profile, kml.latitudeChannel, kml.latitudeId);
+    const ProfileParameter east = parameterOf(profile, kml.longitudeChannel, kml.longitudeId);
+    const Series latitudes(data, profile, north, offset);
+    const Series eastern(data, profile, east, offset);
+    const GapRule gaps = latitudes.gapRule(silences);
+    Longitudes longitudes(eastern, silences);
+    std::size_t nowhere = 0;
+    double before = 0.0;
+    bool isCut = true;
+    for (std::size_t k = 0; k < latitudes.size(); ++k) {
+        if (k % Turn == 0 && progress.stopRequested()) {
+            break;
+        }
+        const double time = latitudes.time(k);
+        const double latitude = latitudes.value(k);
+        GeoPoint point{latitude, longitudes.at(time, latitude)};
+        isCut = isCut || gaps.isGap(before, time);
+        before = time;
+        if (!isPlace(point)) {
+            nowhere += latitude == 0.0 && point.longitude == 0.0 ? 1 : 0;
+            isCut = true;
+            continue;
+        }
+        if (std::abs(point.longitude) > 180.0) {
+            point.longitude = std::remainder(point.longitude, 360.0);
+        }
+        visit(time, point, isCut);
+        isCut = false;
+    }
+    return nowhere;
+}
 
 /// Degrees clockwise from north of the great circle from one point to another.
 double bearing(const GeoPoint& from, const GeoPoint& to)
@@ -116,40 +182,33 @@ QStringList PositionQuality::remarks() const
     return lines;
 }
 
+PositionQuality positionQuality(const RecordData& data, const Profile& profile,
+                                const SilencesSource& silences, Progress& progress)
+{
+    PositionQuality found;
+    if (!namesPosition(profile)) {
+        return found;
+    }
+    std::optional<GeoPoint> last;
+    double lastTime = 0.0;
+    const auto look = [&](double time, const GeoPoint& point, bool) {
+        if (last && !isStep(*last, point) && isJump(*last, point, time - lastTime)) {
+            found.addJump(lastTime);
+        }
+        last = point;
+        lastTime = time;
+    };
+    found.nowhere = visitPositions(data, profile, 0.0, silences, progress, look);
+    return found;
+}
+
 PositionTrack::PositionTrack(const RecordData& data, const Profile& profile, double offset,
                              const SilencesSource& silences, Progress& progress)
 {
-    constexpr std::size_t Turn = 4096; // positions between two looks
-    if (!namesPosition(profile)) {
-        return;
-    }
-    const KmlInfo kml = profile.kmlInfo();
-    const ProfileParameter north = parameterOf(profile, kml.latitudeChannel, kml.latitudeId);
-    const ProfileParameter east = parameterOf(profile, kml.longitudeChannel, kml.longitudeId);
-    const Series latitudes(data, profile, north, offset);
-    const Series eastern(data, profile, east, offset);
-    const GapRule gaps = latitudes.gapRule(silences);
-    Longitudes longitudes(eastern, silences);
-    mTimes.reserve(latitudes.size());
-    mPoints.reserve(latitudes.size());
-    mMetres.reserve(latitudes.size());
-    mAltitudes.reserve(latitudes.size());
-    bool isCut = true;
-    for (std::size_t k = 0; k < latitudes.size(); ++k) {
-        if (k % Turn == 0 && progress.stopRequested()) {
-            break;
-        }
-        const double time = latitudes.time(k);
-        const double latitude = latitudes.value(k);
-        const GeoPoint point{latitude, longitudes.at(time, latitude)};
-        isCut = isCut || (k > 0 && gaps.isGap(latitudes.time(k - 1), time));
-        if (!isPlace(point)) {
-            mQuality.nowhere += latitude == 0.0 && point.longitude == 0.0 ? 1 : 0;
-            isCut = true;
-            continue;
-        }
-        append(time, {latitude, std::remainder(point.longitude, 360.0)}, isCut);
-        isCut = false;
+    if (namesPosition(profile)) {
+        mQuality.nowhere = visitPositions(
+            data, profile, offset, silences, progress,
+            [this](double time, const GeoPoint& point, bool isCut) { append(time, point, isCut); });
     }
 }
 
@@ -164,8 +223,7 @@ void PositionTrack::append(double time, const GeoPoint& point, bool isCut, doubl
         metres += isCut || hasJumped ? 0.0 : step;
     }
     if (hasJumped) {
-        mQuality.firstJump = mQuality.jumps == 0 ? mTimes.back() : mQuality.firstJump;
-        ++mQuality.jumps;
+        mQuality.addJump(mTimes.back());
         mStretches.back().jumped = true;
     }
     if (isCut || hasJumped) {

@@ -26,9 +26,20 @@ struct PositionQuality
     std::size_t jumps = 0;   ///< steps that nothing flies, see isJump
     double firstJump = 0.0;  ///< time before the first of them, seconds
 
+    void addJump(double time)
+    {
+        firstJump = jumps == 0 ? time : firstJump;
+        ++jumps;
+    }
+
     /// In words, a line each.
     QStringList remarks() const;
 };
+
+/// The same that a PositionTrack without a time offset finds; nothing where the profile names no
+/// position. \p silences as there.
+PositionQuality positionQuality(const RecordData& data, const Profile& profile,
+                                const SilencesSource& silences, Progress& progress);
 
 /// Where an aircraft was: a position for each sample of its latitude, in the order of time. The
 /// longitude then stands on the straight line between its samples, the short way round. There is

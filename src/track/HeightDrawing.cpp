@@ -161,8 +161,8 @@ void HeightDrawing::drawMarks()
         const double x = mChart.x(mark.time, mark.metres);
         const double y =
             std::isfinite(mark.altitude) ? mChart.y(mark.altitude) : mChart.plot.bottom() - 8.0;
-        if (drawn.insert({int(x / 3.0), static_cast<QRgb>(mark.kind)}).second ||
-            mark.state == StateLimit) {
+        const auto look = static_cast<QRgb>(4 * mark.state + mark.kind);
+        if (drawn.insert({int(x / 3.0), look}).second) {
             mCanvas.shape(symbolOf(mark, {x, y}), mStyle.inkOf(mark.color), outline);
         }
     }

@@ -18,7 +18,8 @@ void TrackLoader::load(std::shared_ptr<const Flight> flight, double offset)
     mFlight = std::move(flight);
     mOffset = offset;
     mIsShort = false;
-    mColoring = {}; // its parameter may be one of another profile
+    mTroubles = nullptr; // they and the parameter are of another flight
+    mColoring = {};
     mScene.ground = nullptr;
     mScene.marks = nullptr;
     mScene.colors = nullptr;

@@ -20,7 +20,8 @@ public:
     /// Memory did not suffice for the path.
     bool isShort() const { return mIsShort; }
 
-    /// Another flight, null for none, at a time offset; all that was there is gone at once.
+    /// Another flight, null for none, at a time offset. All that was there is gone at once, with
+    /// what was told of it.
     void load(std::shared_ptr<const Flight> flight, double offset);
 
     /// What went wrong in the flight at the offset, null while nobody knows.

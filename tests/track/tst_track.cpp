@@ -174,6 +174,7 @@ private Q_SLOTS:
         const auto flight = flightOf(samples, Positions);
         QTEST(textOf(trackOf(*flight)), "track");
         QTEST(flight->remarks().join("; "), "remarks");
+        QCOMPARE(trackOf(*flight).quality().remarks(), flight->remarks()); // counted in two ways
         QVERIFY(
             !namesPosition(*profileOf("<Device name='D'><Parameter name='a' id='1'/></Device>")));
     }
