@@ -22,7 +22,7 @@ struct PositionTexts
     Q_DECLARE_TR_FUNCTIONS(PositionTrack)
 };
 
-constexpr double Radians = std::numbers::pi / 180.0;
+constexpr double DegreeOfArc = std::numbers::pi / 180.0;
 
 /// By the identifier, as another device may describe it: the profile's last word counts.
 ProfileParameter parameterOf(const Profile& profile, int channel, int id)
@@ -152,12 +152,13 @@ std::size_t visitPositions(const RecordData& data, const Profile& profile, doubl
 /// Degrees clockwise from north of the great circle from one point to another.
 double bearing(const GeoPoint& from, const GeoPoint& to)
 {
-    const double turn = turnBetween(from.longitude, to.longitude) * Radians;
+    const double turn = turnBetween(from.longitude, to.longitude) * DegreeOfArc;
     const double north =
-        std::cos(from.latitude * Radians) * std::sin(to.latitude * Radians) -
-        std::sin(from.latitude * Radians) * std::cos(to.latitude * Radians) * std::cos(turn);
-    const double east = std::sin(turn) * std::cos(to.latitude * Radians);
-    const double degrees = std::atan2(east, north) / Radians;
+        std::cos(from.latitude * DegreeOfArc) * std::sin(to.latitude * DegreeOfArc) -
+        std::sin(from.latitude * DegreeOfArc) * std::cos(to.latitude * DegreeOfArc) *
+            std::cos(turn);
+    const double east = std::sin(turn) * std::cos(to.latitude * DegreeOfArc);
+    const double degrees = std::atan2(east, north) / DegreeOfArc;
     return degrees < 0.0 ? degrees + 360.0 : degrees;
 }
 

@@ -17,7 +17,7 @@ namespace TARN {
 namespace {
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
-struct TrackTexts
+struct ReportTrackTexts
 {
     Q_DECLARE_TR_FUNCTIONS(ReportTrack)
 };
@@ -99,9 +99,9 @@ void writeTrack(const ReportMatter& matter, ReportPages& pages, Progress& progre
     if (matter.range.start > whole.start || matter.range.stop < whole.stop) {
         scene.range = matter.range;
     }
-    pages.heading(TrackTexts::tr("Where it happened"));
+    pages.heading(ReportTrackTexts::tr("Where it happened"));
     const QString words =
-        TrackTexts::tr("The path of the flight from above, %1 to %2")
+        ReportTrackTexts::tr("The path of the flight from above, %1 to %2")
             .arg(clockText(scene.ground->track.time(0)),
                  clockText(scene.ground->track.time(scene.ground->track.size() - 1)));
     const TrackFigure figure(scene);

@@ -9,7 +9,7 @@ namespace TARN {
 
 namespace {
 
-constexpr double Apart = 110.0; ///< pixels between two lines, at least
+constexpr double LinesApart = 110.0; ///< pixels between two lines, at least
 constexpr double MetresADegree = EarthRadius * std::numbers::pi / 180.0;
 // Seconds.
 constexpr double Minute = 60.0;
@@ -75,7 +75,7 @@ class Liner
 public:
     Liner(const TrackProjection& projection, const TrackView& view)
         : mProjection(projection), mView(view),
-          mSight(view.area.adjusted(-Apart, -Apart, Apart, Apart))
+          mSight(view.area.adjusted(-LinesApart, -LinesApart, LinesApart, LinesApart))
     {}
 
     void add(std::vector<GraticuleLine>& lines, const QString& label, bool isMeridian, double fixed,
@@ -149,8 +149,9 @@ std::vector<GraticuleLine> graticuleOf(const TrackProjection& projection, const 
     constexpr double LeastCos = 1e-3;
     const Extent extent = extentOf(projection, view);
     const double perPixel = view.scale / MetresADegree * Degree; // seconds of latitude
-    const double step = stepOf(Apart * perPixel) / Degree;
-    const double across = stepOf(Apart * perPixel / std::max(LeastCos, extent.widest)) / Degree;
+    const double step = stepOf(LinesApart * perPixel) / Degree;
+    const double across =
+        stepOf(LinesApart * perPixel / std::max(LeastCos, extent.widest)) / Degree;
     const double south = std::max(extent.south - step, -90.0);
     const double north = std::min(extent.north + step, 90.0);
     const double centre = projection.centre().longitude;

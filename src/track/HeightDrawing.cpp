@@ -16,7 +16,7 @@ namespace TARN {
 
 namespace {
 
-constexpr double Apart = 90.0; ///< pixels between two lines of time or distance, at least
+constexpr double ColumnsApart = 90.0; ///< pixels between two lines of time or distance, at least
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
 struct HeightTexts
@@ -117,7 +117,7 @@ void HeightDrawing::drawTimes()
 {
     const HeightProfile& profile = mChart.profile;
     const double range = profile.stop() - profile.start();
-    const double step = timeStep(std::max(1.0, Apart * range / mChart.plot.width()));
+    const double step = timeStep(std::max(1.0, ColumnsApart * range / mChart.plot.width()));
     for (double k = std::ceil(profile.start() / step); k * step <= profile.stop(); ++k) {
         drawColumn(mChart.x(k * step, 0.0), clockText(k * step + 0.0005));
     }
@@ -127,7 +127,7 @@ void HeightDrawing::drawDistances()
 {
     constexpr double Kilometre = 1000.0;
     const double range = mChart.profile.stop();
-    const double step = roundStep(std::max(1.0, Apart * range / mChart.plot.width()));
+    const double step = roundStep(std::max(1.0, ColumnsApart * range / mChart.plot.width()));
     for (double k = 0; k * step <= range; ++k) {
         drawColumn(mChart.x(0.0, k * step), QString("%1 km").arg(k * step / Kilometre));
     }

@@ -18,7 +18,7 @@ namespace {
 
 constexpr double PathWidth = 2.0; ///< pixels
 constexpr double ColoredWidth = 3.0;
-constexpr double Edge = 8.0; ///< between what stands in a corner and the edge
+constexpr double NoteEdge = 8.0; ///< between what stands in a corner and the edge
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
 struct DrawingTexts
@@ -255,7 +255,7 @@ void TrackDrawing::drawAircraft(const TrackView& view, double time)
                   : DrawingTexts::tr("No position at %1 or before").arg(clockText(time));
         const QSizeF size = mCanvas.sizeOf(words);
         ChartLabels(mScene, mStyle, view, mCanvas)
-            .add(words, {view.area.center().x() - size.width() / 2.0, view.area.top() + Edge},
+            .add(words, {view.area.center().x() - size.width() / 2.0, view.area.top() + NoteEdge},
                  mStyle.text);
     }
     if (place) {

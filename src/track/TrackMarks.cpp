@@ -13,12 +13,12 @@ namespace TARN {
 namespace {
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
-struct MarkTexts
+struct TrackMarkTexts
 {
     Q_DECLARE_TR_FUNCTIONS(TrackMarks)
 };
 
-QColor colorOf(const Episode& episode)
+QColor markColor(const Episode& episode)
 {
     const QColor own =
         episode.peak && episode.peak->color.isValid() ? episode.peak->color : episode.color;
@@ -27,18 +27,18 @@ QColor colorOf(const Episode& episode)
                                                      : QColor("#ffe666");
 }
 
-QString nameOf(const Episode& episode)
+QString markName(const Episode& episode)
 {
     return episode.parameter != nullptr ? episode.parameter->name : episode.name;
 }
 
-QString textOf(const Episode& episode, EventKind kind)
+QString markText(const Episode& episode, EventKind kind)
 {
     QString text = QString("%1, %2, %3, %4")
                        .arg(clockText(episode.start), durationWords(episode.duration()),
                             episode.name, severityWords(kind).value(episode.state));
     if (kind == EventKind::Limits && episode.peak && episode.parameter != nullptr) {
-        text += ", " + MarkTexts::tr("peak %1 at %2, threshold %3")
+        text += ", " + TrackMarkTexts::tr("peak %1 at %2, threshold %3")
                            .arg(valueWords(*episode.parameter, episode.peak->value),
                                 clockText(episode.peak->time), thresholdWords(*episode.peak));
     }
@@ -64,10 +64,11 @@ TrackMarks marksOf(const Troubles& troubles, const PositionTrack& track,
                 ++found.elsewhere;
                 continue;
             }
-            found.marks.push_back(
-                {mark, episode.state, colorOf(episode), nameOf(episode), textOf(episode, kind),
-                 time, projection.toPlane(place->point), place->metres, place->altitude,
-                 track.firstNotBefore(episode.start), track.firstNotBefore(episode.end)});
+            found.marks.push_back({mark, episode.state, markColor(episode), markName(episode),
+                                   markText(episode, kind), time, projection.toPlane(place->point),
+                                   place->metres, place->altitude,
+                                   track.firstNotBefore(episode.start),
+                                   track.firstNotBefore(episode.end)});
         }
     };
     add(troubles.lamps, EventKind::Lamps, TrackMark::Lamp);

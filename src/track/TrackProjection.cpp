@@ -10,8 +10,8 @@ namespace TARN {
 
 namespace {
 
-constexpr double Pi = std::numbers::pi;
-constexpr double Radians = Pi / 180.0;
+constexpr double HalfTurn = std::numbers::pi;
+constexpr double OneDegree = HalfTurn / 180.0;
 
 /// The direction of the sum of all positions, seen from the middle of the earth.
 GeoPoint middleOf(const PositionTrack& track)
@@ -24,8 +24,8 @@ GeoPoint middleOf(const PositionTrack& track)
     std::size_t count = 0;
     for (const PositionTrack::Stretch& stretch : track.stretches()) {
         for (std::size_t k = stretch.begin; k < stretch.end && !track.isStray(stretch); k += step) {
-            const double latitude = track.point(k).latitude * Radians;
-            const double longitude = track.point(k).longitude * Radians;
+            const double latitude = track.point(k).latitude * OneDegree;
+            const double longitude = track.point(k).longitude * OneDegree;
             x += std::cos(latitude) * std::cos(longitude);
             y += std::cos(latitude) * std::sin(longitude);
             z += std::sin(latitude);
@@ -35,23 +35,23 @@ GeoPoint middleOf(const PositionTrack& track)
     if (std::hypot(x, y, z) < Least * static_cast<double>(count) || count == 0) {
         return track.empty() ? GeoPoint{} : track.point(0);
     }
-    return {std::atan2(z, std::hypot(x, y)) / Radians, std::atan2(y, x) / Radians};
+    return {std::atan2(z, std::hypot(x, y)) / OneDegree, std::atan2(y, x) / OneDegree};
 }
 
 } // namespace
 
 TrackProjection::TrackProjection(const GeoPoint& centre)
-    : mCentre(centre), mSin(std::sin(centre.latitude * Radians)),
-      mCos(std::cos(centre.latitude * Radians))
+    : mCentre(centre), mSin(std::sin(centre.latitude * OneDegree)),
+      mCos(std::cos(centre.latitude * OneDegree))
 {}
 
 TrackProjection::TrackProjection(const PositionTrack& track) : TrackProjection(middleOf(track)) {}
 
 QPointF TrackProjection::toPlane(const GeoPoint& point) const
 {
-    const double turn = turnBetween(mCentre.longitude, point.longitude) * Radians;
-    const double sine = std::sin(point.latitude * Radians);
-    const double cosine = std::cos(point.latitude * Radians);
+    const double turn = turnBetween(mCentre.longitude, point.longitude) * OneDegree;
+    const double sine = std::sin(point.latitude * OneDegree);
+    const double cosine = std::cos(point.latitude * OneDegree);
     // As seen along the line from the middle of the earth to the centre.
     const double east = cosine * std::sin(turn);
     const double north = mCos * sine - mSin * cosine * std::cos(turn);
@@ -68,14 +68,14 @@ GeoPoint TrackProjection::toEarth(const QPointF& place) const
     if (length == 0.0) {
         return {mCentre.latitude, std::remainder(mCentre.longitude, 360.0)};
     }
-    const double angle = std::min(length / EarthRadius, Pi);
+    const double angle = std::min(length / EarthRadius, HalfTurn);
     const double east = std::sin(angle) * place.x() / length;
     const double north = std::sin(angle) * place.y() / length;
     const double depth = std::cos(angle);
     const double outwards = mCos * depth - mSin * north;
     const double latitude =
-        std::atan2(mSin * depth + mCos * north, std::hypot(outwards, east)) / Radians;
-    const double longitude = mCentre.longitude + std::atan2(east, outwards) / Radians;
+        std::atan2(mSin * depth + mCos * north, std::hypot(outwards, east)) / OneDegree;
+    const double longitude = mCentre.longitude + std::atan2(east, outwards) / OneDegree;
     return {latitude, std::remainder(longitude, 360.0)};
 }
 
@@ -86,7 +86,7 @@ double TrackProjection::northAt(const QPointF& place) const
     GeoPoint from = toEarth(place);
     from.latitude = std::min(from.latitude, Highest - Step);
     const QPointF way = toPlane({from.latitude + Step, from.longitude}) - toPlane(from);
-    return std::atan2(way.x(), way.y()) / Radians;
+    return std::atan2(way.x(), way.y()) / OneDegree;
 }
 
 } // namespace TARN
