@@ -8,6 +8,7 @@ class Suite;
 void logbookWindowFigures(Suite& suite);
 void paintFigures(Suite& suite);
 void startFigures(Suite& suite);
+void trackFigures(Suite& suite);
 void windowFigures(Suite& suite);
 
 } // namespace TARN::Bench

@@ -20,6 +20,6 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "orna-bench-window: no OpenGL on this display\n");
         return 1;
     }
-    return Bench::measure(options, {Bench::paintFigures, Bench::startFigures, Bench::windowFigures,
-                                    Bench::logbookWindowFigures});
+    return Bench::measure(options, {Bench::paintFigures, Bench::trackFigures, Bench::startFigures,
+                                    Bench::windowFigures, Bench::logbookWindowFigures});
 }

@@ -11,7 +11,7 @@ declare -A floor=(
     [profile]=2
     [faults]=3
     [flight]=4
-    [card]=5 [selection]=5 [table]=5 [events]=5 [graph]=5 [compare]=5
+    [card]=5 [selection]=5 [table]=5 [events]=5 [graph]=5 [compare]=5 [track]=5
     [export]=6 [logbook]=6
     [report]=7
     [app]=8 [cli]=8

@@ -10,6 +10,7 @@
 #include "graph/GraphActions.h"
 #include "graph/WidgetGraph.h"
 #include "table/DialogDataTable.h"
+#include "track/DialogDataTrack.h"
 
 #include <QtGui/QShortcut>
 #include <QtWidgets/QTabWidget>
@@ -37,9 +38,10 @@ DialogData::DialogData(Session& session, QWidget* parent)
     addView(new DialogDataLimit(session, mEpisodes), "limit", tr("Limit/Warning Exceed"));
     addView(mGraph, "graphSingle", tr("Graph"));
     addView(new DialogDataWarning(session, mEpisodes), "warningLamp", tr("Warning Lamps"),
-            hasWarningLamps);
+            [](const Profile& profile) { return hasWarningLamps(profile.data()); });
     addView(new DialogDataErrorMatrix(session, mEpisodes), "faultMatrix", tr("Fault Matrix"),
-            [](const ProfileInfo& profile) { return !profile.faultMatrices.empty(); });
+            [](const Profile& profile) { return !profile.data().faultMatrices.empty(); });
+    addView(new DialogDataTrack(session, mEpisodes), "track", tr("Track"), namesPosition);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(mBar);
     layout->addWidget(mTabs, 1);
@@ -99,8 +101,7 @@ void DialogData::createShortcuts()
 void DialogData::showTabs()
 {
     for (std::size_t i = 0; i < mIsOfUse.size(); ++i) {
-        mTabs->setTabVisible(static_cast<int>(i),
-                             !mIsOfUse[i] || mIsOfUse[i](mSession.profile()->data()));
+        mTabs->setTabVisible(static_cast<int>(i), !mIsOfUse[i] || mIsOfUse[i](*mSession.profile()));
     }
 }
 

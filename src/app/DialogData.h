@@ -41,7 +41,7 @@ Q_SIGNALS:
 
 private:
     /// Whether a view has something to do with a profile.
-    using IsOfUse = std::function<bool(const ProfileInfo&)>;
+    using IsOfUse = std::function<bool(const Profile&)>;
 
     template <typename View>
     void addView(View* view, const char* icon, const QString& title, IsOfUse isOfUse = {});

@@ -3,7 +3,6 @@
 #include "base/CountText.h"
 #include "base/Property.h"
 #include "flight/Flight.h"
-#include "record/RecordText.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
@@ -45,7 +44,7 @@ QString referenceMessage(const Flight& flight)
 
 QString loadedMessage(const Flight& flight)
 {
-    const QStringList remarks = recordRemarks(flight.record()->integrity());
+    const QStringList remarks = flight.remarks();
     QString text = StartTexts::tr("Samples loaded: %1")
                        .arg(countText(static_cast<qint64>(flight.samples().count())));
     if (!remarks.isEmpty()) {

@@ -145,6 +145,21 @@ void appendShortest(float value, std::string& out)
     out.append(plain, placePoint(digits, exponent, plain));
 }
 
+void appendTenths(double value, std::string& out)
+{
+    const auto tenths = truncatedTo<std::int64_t>(std::floor(value * 10.0 + 0.5));
+    if (tenths < 0) {
+        out += '-';
+    }
+    const std::uint64_t size =
+        tenths < 0 ? -static_cast<std::uint64_t>(tenths) : static_cast<std::uint64_t>(tenths);
+    out += std::to_string(size / 10);
+    if (size % 10 != 0) {
+        out += '.';
+        out += static_cast<char>('0' + size % 10);
+    }
+}
+
 std::string fixedText(double value, int decimals)
 {
     char buffer[512]; // the largest double has 309 digits before the point

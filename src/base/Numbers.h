@@ -34,6 +34,9 @@ void appendGeneral(double value, int digits, std::string& out);
 /// 0.0001 to below 1e12.
 void appendShortest(float value, std::string& out);
 
+/// Appends \p value in tenths, rounded, as short as can be: "12", "-0.3".
+void appendTenths(double value, std::string& out);
+
 /// \p value in fixed notation with \p decimals decimals, as "%.<decimals>f" in the "C" locale.
 std::string fixedText(double value, int decimals);
 

@@ -46,7 +46,8 @@ bool DialogRecordDetails::showAll(const Flight* flight, const CardInfo& card)
     QList<RecordSection> sections;
     if (flight != nullptr) {
         const RecordIntegrity& integrity = flight->record()->integrity();
-        sections += recordSection(integrity, flight->unknown().remark());
+        sections += recordSection(integrity, flight->positionQuality().remarks()
+                                                 << flight->unknown().remark());
         for (const FileIntegrity& file : integrity.files) {
             sections += recordSection(file);
         }

@@ -2,6 +2,7 @@
 
 #include "cli/Inputs.h"
 #include "cli/Json.h"
+#include "flight/PositionTrack.h"
 #include "record/CardInfo.h"
 #include "record/RecordText.h"
 
@@ -69,6 +70,22 @@ FileReport headerReport(const QString& path)
     return {fieldsOf(info), integrityOf(info), recordRemarks(info)};
 }
 
+/// What is wrong with the positions, where the profile names them.
+void addPositions(const Record& record, const Profile& profile, FileReport& report)
+{
+    if (!namesPosition(profile)) {
+        return;
+    }
+    Progress none;
+    const RecordData& data = record.recordData();
+    const PositionQuality found = positionQuality(
+        data, profile, [&data] { return std::make_shared<Silences>(data, 0.0); }, none);
+    report.integrity["positionsNowhere"] = found.nowhere;
+    report.integrity["positionJumps"] = found.jumps;
+    report.integrity["firstPositionJump"] = found.firstJump;
+    report.remarks += found.remarks();
+}
+
 FileReport sampleReport(const QString& path, const std::string& profile, RecordIntegrity& checked)
 {
     const std::shared_ptr<const Profile> known = profile.empty() ? nullptr : loadProfile(profile);
@@ -84,6 +101,7 @@ FileReport sampleReport(const QString& path, const std::string& profile, RecordI
         report.integrity["unknownIdentifiers"] = unknown.identifiers;
         report.integrity["unknownSamples"] = unknown.samples;
         report.remarks += unknown.remark();
+        addPositions(*record, *known, report);
         report.remarks.removeAll(QString());
     }
     if (report.remarks.isEmpty()) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "events/EventWords.h"
+#include "faults/EventWords.h"
 #include "flight/Flight.h"
 
 namespace TARN {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "events/EventWords.h"
 #include "faults/Episode.h"
+#include "faults/EventWords.h"
 #include "faults/RecordEvent.h"
 
 #include <memory>

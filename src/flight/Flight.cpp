@@ -3,6 +3,7 @@
 #include "faults/EventDetector.h"
 #include "faults/FaultEpisodes.h"
 #include "faults/LampEpisodes.h"
+#include "record/RecordText.h"
 
 #include <algorithm>
 
@@ -43,6 +44,7 @@ Flight::Flight(std::shared_ptr<const Record> record, std::shared_ptr<const Profi
         mFixed = timesOf(samples(), false);
         mShifted = timesOf(samples(), true);
     }
+    mPositions = TARN::positionQuality(samples(), *mProfile, silencesSource(0.0), progress);
 }
 
 std::shared_ptr<const Flight> Flight::make(std::shared_ptr<const Record> record,
@@ -78,6 +80,19 @@ SilencesSource Flight::silencesSource(double offset) const
         *known = *known != nullptr ? *known : silences(offset);
         return *known;
     };
+}
+
+PositionTrack Flight::positions(double offset, Progress& progress) const
+{
+    const SilencesSource silences = silencesSource(offset);
+    PositionTrack track(samples(), *mProfile, offset, silences, progress);
+    track.addAltitudes(samples(), *mProfile, offset, silences);
+    return track;
+}
+
+QStringList Flight::remarks() const
+{
+    return recordRemarks(mRecord->integrity()) + mPositions.remarks();
 }
 
 std::vector<Episode> Flight::episodes(double offset, Progress& progress) const

@@ -4,6 +4,7 @@
 #include "faults/EventMarks.h"
 #include "faults/FaultHistory.h"
 #include "faults/RecordEvent.h"
+#include "flight/PositionTrack.h"
 #include "profile/Profile.h"
 #include "profile/Series.h"
 #include "profile/UnknownIdentifiers.h"
@@ -43,6 +44,14 @@ public:
     const EventMarks& marks() const { return mMarks; }
     const UnknownIdentifiers& unknown() const { return mUnknown; }
 
+    /// Of the positions, where the profile names them.
+    const PositionQuality& positionQuality() const { return mPositions; }
+    /// With altitudes.
+    PositionTrack positions(double offset, Progress& progress) const;
+    /// What a reader should know before trusting what the recording shows: on its files, and on
+    /// the positions where the profile names them.
+    QStringList remarks() const;
+
     /// A parameter of the profile at a time offset.
     Series series(const ProfileParameter& parameter, double offset) const
     {
@@ -72,6 +81,7 @@ private:
     std::vector<FaultHistory> mFaults;
     EventMarks mMarks;
     UnknownIdentifiers mUnknown;
+    PositionQuality mPositions;
     // Times of the samples to which the offset does not apply, and of those to which it does,
     // without it.
     std::optional<TimeRange> mFixed;

@@ -3,7 +3,6 @@
 #include "base/ClockTime.h"
 #include "base/CountText.h"
 #include "faults/EventDetector.h"
-#include "record/RecordText.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -111,7 +110,7 @@ FlightSummary summaryOf(const Flight& flight, double offset, const Troubles& tro
         }
     }
     summary.watched = watchedIn(flight, offset, range);
-    summary.remarks = static_cast<std::size_t>(recordRemarks(flight.record()->integrity()).size());
+    summary.remarks = static_cast<std::size_t>(flight.remarks().size());
     return summary;
 }
 

@@ -38,7 +38,12 @@ double distanceBetween(const GeoPoint& from, const GeoPoint& to)
 
 bool isJump(const GeoPoint& from, const GeoPoint& to, double seconds)
 {
-    return distanceBetween(from, to) > std::max(SmallestJump, FastestFlight * seconds);
+    return isJump(distanceBetween(from, to), seconds);
+}
+
+bool isJump(double metres, double seconds)
+{
+    return metres > std::max(SmallestJump, FastestFlight * seconds);
 }
 
 } // namespace TARN

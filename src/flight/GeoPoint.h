@@ -28,5 +28,6 @@ double distanceBetween(const GeoPoint& from, const GeoPoint& to);
 /// 500 m/s. Steps of up to 50 m never are: messages wait for a free bus, and receivers do not agree
 /// with themselves.
 bool isJump(const GeoPoint& from, const GeoPoint& to, double seconds);
+bool isJump(double metres, double seconds);
 
 } // namespace TARN

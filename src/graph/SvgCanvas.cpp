@@ -4,7 +4,6 @@
 #include "base/XmlText.h"
 
 #include <cmath>
-#include <cstdint>
 
 namespace TARN {
 
@@ -43,19 +42,9 @@ SvgCanvas::SvgCanvas(const QSizeF& whole, double height, const QString& label,
     rectangle({QPointF(), whole}, ground, 1.0F);
 }
 
-/// In tenths, as short as can be.
 void SvgCanvas::number(double value)
 {
-    const auto tenths = truncatedTo<std::int64_t>(std::floor(value * 10.0 + 0.5));
-    const std::int64_t size = tenths < 0 ? -tenths : tenths;
-    if (tenths < 0) {
-        mOut += '-';
-    }
-    mOut += std::to_string(size / 10);
-    if (size % 10 != 0) {
-        mOut += '.';
-        mOut += static_cast<char>('0' + size % 10);
-    }
+    appendTenths(value, mOut);
 }
 
 /// From the lower left corner, as all that is drawn; y counts down in a picture.

@@ -3,7 +3,6 @@
 #include "flight/FlightSummary.h"
 #include "flight/SteadyStretch.h"
 #include "record/RecordStart.h"
-#include "record/RecordText.h"
 
 #include <algorithm>
 
@@ -86,15 +85,16 @@ void keepHeader(const Flight& flight, FlightEntry& entry)
     entry.emuSwVersion = info.emuSwVersion;
 }
 
-void keepRecordings(const RecordIntegrity& integrity, FlightEntry& entry)
+void keepRecordings(const Flight& flight, FlightEntry& entry)
 {
+    const RecordIntegrity& integrity = flight.record()->integrity();
     for (const FileIntegrity& file : integrity.files) {
         entry.head.samples += static_cast<qint64>(file.samples);
         entry.recordings.push_back({file.info.fileName, static_cast<qint64>(file.samples),
                                     file.info.missingHeaderBytes, file.info.ignoredBytes,
                                     file.otherChannels, file.found});
     }
-    entry.remarks = recordRemarks(integrity);
+    entry.remarks = flight.remarks();
 }
 
 KeptStatistics keptStatistics(const Profile::Entry& of, int place, bool isSteady,
@@ -141,7 +141,7 @@ std::optional<FlightEntry> digestOf(const std::shared_ptr<const Flight>& flight,
     entry.head.startTime = range.start;
     entry.head.stopTime = range.stop;
     keepHeader(*flight, entry);
-    keepRecordings(flight->record()->integrity(), entry);
+    keepRecordings(*flight, entry);
     const Troubles troubles = flight->troubles(entry.offset, progress);
     keepTroubles(troubles, entry);
     keepSummary(summaryOf(*flight, entry.offset, troubles), entry);

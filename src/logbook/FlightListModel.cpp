@@ -1,7 +1,7 @@
 #include "logbook/FlightListModel.h"
 
 #include "base/CellColor.h"
-#include "events/EventWords.h"
+#include "faults/EventWords.h"
 
 #include <QtCore/QDateTime>
 #include <QtGui/QBrush>

@@ -190,16 +190,14 @@ RecordSection recordSection(const FileIntegrity& file)
     return sectionOf(file.info.fileName, fields, recordRemarks(file));
 }
 
-RecordSection recordSection(const RecordIntegrity& integrity, const QString& remark)
+RecordSection recordSection(const RecordIntegrity& integrity, const QStringList& more)
 {
     std::size_t samples = 0;
     for (const FileIntegrity& file : integrity.files) {
         samples += file.samples;
     }
-    QStringList remarks = recordRemarks(integrity);
-    if (!remark.isEmpty()) {
-        remarks += remark;
-    }
+    QStringList remarks = recordRemarks(integrity) + more;
+    remarks.removeAll(QString());
     return sectionOf(RecordText::tr("Recording"),
                      {{RecordText::tr("Files"), QString::number(integrity.files.size())},
                       {RecordText::tr("Samples Read"), countText(static_cast<qint64>(samples))}},

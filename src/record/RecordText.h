@@ -43,7 +43,7 @@ QStringList togetherRemarks(const RecordIntegrity& integrity);
 RecordSection recordSection(const RecordInfo& info);
 RecordSection recordSection(const FileIntegrity& file);
 
-/// All remarks on a recording, and \p remark where it is not empty.
-RecordSection recordSection(const RecordIntegrity& integrity, const QString& remark);
+/// All remarks on a recording, and those of \p more that are not empty.
+RecordSection recordSection(const RecordIntegrity& integrity, const QStringList& more);
 
 } // namespace TARN

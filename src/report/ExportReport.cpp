@@ -7,6 +7,7 @@
 #include "report/ReportHead.h"
 #include "report/ReportLists.h"
 #include "report/ReportNumbers.h"
+#include "report/ReportTrack.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
@@ -37,6 +38,7 @@ void writePages(const ReportMatter& matter, ReportPages& pages, Progress& progre
     ReportCharts charts(matter, pages, progress);
     charts.writeWorst();
     charts.writeWhole();
+    writeTrack(matter, pages, progress);
     writeNumbers(matter, pages, progress);
     writeComparison(matter, charts, pages, progress);
     writeRemarks(matter, pages);

@@ -151,7 +151,7 @@ void HtmlPages::figure(const QString& words, const std::vector<ReportFigure>& pa
     mFile.write("<figure>\n");
     element("figcaption", words);
     for (const ReportFigure& part : parts) {
-        mFile.write(part.picture.toSvg(*part.model, part.label, mPictures++));
+        mFile.write(part.toSvg(mPictures++));
     }
     mFile.write("</figure>\n");
 }

@@ -189,9 +189,9 @@ void PdfPages::figure(const QString& words, const std::vector<ReportFigure>& par
     for (const ReportFigure& part : parts) {
         painter.save();
         painter.translate(0.0, y);
-        part.picture.paint(painter, *part.model);
+        part.paint(painter);
         painter.restore();
-        y += part.picture.wholeSize().height();
+        y += part.size.height();
     }
     painter.end();
     figure.size = {double(Width), y};

@@ -1,9 +1,10 @@
 #include "report/ReportCharts.h"
 
 #include "base/ClockTime.h"
-#include "events/EventWords.h"
+#include "faults/EventWords.h"
 #include "graph/CurveFill.h"
 #include "graph/GraphPalette.h"
+#include "graph/GraphPicture.h"
 
 #include <QtCore/QCoreApplication>
 
@@ -83,9 +84,13 @@ public:
         mStyle.lanesOn = false;
     }
 
+    /// It lives no longer.
     ReportFigure figure(int height, const QString& label)
     {
-        return {{mStyle, {}, {ReportPages::Width, height}, {}}, &mModel, label};
+        const GraphPicture picture{mStyle, {}, {ReportPages::Width, height}, {}};
+        return {picture.size,
+                [this, picture, label](int number) { return picture.toSvg(mModel, label, number); },
+                [this, picture](QPainter& painter) { picture.paint(painter, mModel); }};
     }
 
 private:

@@ -149,7 +149,7 @@ void writeRemarks(const ReportMatter& matter, ReportPages& pages)
 {
     pages.heading(HeadTexts::tr("Remarks on the recording"));
     const RecordIntegrity& integrity = matter.flight().record()->integrity();
-    QStringList remarks = recordRemarks(integrity);
+    QStringList remarks = matter.flight().remarks();
     if (!integrity.damagedOffset.isEmpty()) { // where the card lay is not told
         remarks.replaceInStrings(integrity.damagedOffset, fileNameOf(integrity.damagedOffset));
     }

@@ -1,12 +1,16 @@
 #pragma once
 
-#include "graph/GraphPicture.h"
 #include "report/ReportOptions.h"
 
+#include <QtCore/QSizeF>
 #include <QtGui/QColor>
 
+#include <functional>
 #include <optional>
+#include <string>
 #include <vector>
+
+class QPainter;
 
 namespace TARN {
 
@@ -31,12 +35,14 @@ struct ReportTable
     }
 };
 
-/// A graph with the words under which it stands.
+/// A picture that can be drawn on any paper.
 struct ReportFigure
 {
-    GraphPicture picture;
-    GraphModel* model; ///< never null
-    QString label;     ///< what it shows, for who can't see it
+    QSizeF size; ///< pixels
+    /// As SVG; pictures of one page have a number each.
+    std::function<std::string(int number)> toSvg;
+    /// From the painter's origin on.
+    std::function<void(QPainter& painter)> paint;
 };
 
 /// What a report is written on, from top to bottom. Texts are plain: nothing in them means

@@ -18,7 +18,8 @@ public:
         Limits,
         Graph,
         Lamps,
-        Matrices
+        Matrices,
+        Track
     };
 
     /// Makes settings anew, the folder "card" (two files of a flight of so many minutes), the

@@ -163,7 +163,7 @@ private Q_SLOTS:
             "a.CAN: Samples of channels other than 0 and 1: 1",
             "a.CAN: Gaps of more than 10 s: 1, the longest is 60.5 s from 01:00:01 on"};
         QCOMPARE(remarks, QStringList(std::begin(expected), std::end(expected)));
-        const auto fields = recordSection(record->integrity(), "more").fields;
+        const auto fields = recordSection(record->integrity(), {"more"}).fields;
         QCOMPARE(fields.size(), 2 + remarks.size() + 1);
         QVERIFY(fields[1].value == "5" && fields.last().value == "more");
         QCOMPARE(recordSection(record->integrity().files[1]).fields.last().value, QString("none"));

@@ -19,6 +19,7 @@
 #include <QtGui/QAction>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QSlider>
 #include <QtWidgets/QTabWidget>
@@ -240,7 +241,8 @@ public:
         tabs->setCurrentIndex(2);
         mWindow.findChild<WidgetGraph*>()->setDisplayMode(TARN::DisplaySingle);
         settle();
-        shoot("08-graph-single");
+        shoot("09-graph-single");
+        showTrack(*tabs);
         passDialogs();
         return !mFailed;
     }
@@ -248,6 +250,24 @@ public:
 private:
     static constexpr int EventsToPass = 9; ///< into the middle of the flight's story
     static constexpr int PickDelay = 600;  ///< ms; until picked recordings are loaded
+
+    void showTrack(QTabWidget& tabs)
+    {
+        constexpr int Track = 5;
+        tabs.setCurrentIndex(Track);
+        const auto choose = [&](const char* name, int row) {
+            auto* box = mWindow.findChild<QComboBox*>(name);
+            box->setCurrentIndex(row);
+            Q_EMIT box->activated(row);
+            settle();
+        };
+        choose("trackColors", 1);
+        shoot("10-track-states");
+        choose("trackColors",
+               std::max(1, mWindow.findChild<QComboBox*>("trackColors")->findText("CHT 3 [°C]")));
+        choose("trackAxis", 1);
+        shoot("11-track-values");
+    }
 
     void passDialogs()
     {

@@ -1,4 +1,4 @@
-#include "events/EventWords.h"
+#include "faults/EventWords.h"
 
 #include "base/Numbers.h"
 #include "profile/ProfileTypes.h"
