@@ -218,6 +218,31 @@ private Q_SLOTS:
         }
     }
 
+    /// From where the date is told, whatever else happens before.
+    void moments()
+    {
+        const QString utc = " 1206@40=7:090707E5 1200@40=7:0C000000";
+        const std::tuple<const char*, QString, QString, const char*> rows[] = {
+            // name, samples of two files, when it is 100 on their clock
+            {"header", "500@10=1", "500@60=1", "04:06:36.000"},
+            {"header, files in another order", "500@60=1", "500@10=1", "04:05:46.000"},
+            {"header, a damaged time", "500@10=1 500@0=1 500@11=1", "500@60=1", "04:06:36.000"},
+            {"told later", "500@10=1" + utc, "500@60=1", "12:01:00.000"},
+            {"told, a damaged time", "500@10=1 500@0=1" + utc, "500@60=1", "12:01:00.000"},
+            {"told by the second file", "500@10.5=1", "500@39=1" + utc, "12:01:00.000"}};
+        for (const auto& [name, first, second, expected] : rows) {
+            RecordingBuilder files[2];
+            files[0].date(2021, 7, 9, 4, 5, 6);
+            const auto record = load({write("LOG_0001.CAN", add(files[0], first).bytes()),
+                                      write("LOG_0002.CAN", add(files[1], second).bytes())});
+            const std::string text = TrackClock(*record).text(100);
+            QVERIFY2(text == std::string("2021-07-09T") + expected + "Z",
+                     (name + (": " + text)).c_str());
+        }
+    }
+
+    }
+
     void goldenFiles()
     {
         const ExportInput input = eventfulFlight();
