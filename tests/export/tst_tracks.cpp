@@ -126,6 +126,8 @@ private Q_SLOTS:
             {"but of both sides of a gap", fixes("0:+0 1:+1 2:0,0 3:+3 4:+4"), 10, "1 | 4; 1 0"},
             {"a longitude that stays away",
              fixes("0:+0 1:+1") + " 1036@2=48.003 1036@12=48 1036@20=48", 1, "0 1 2; 2 0"},
+            {"half of a fix where one is found again", fixes("0:0,0 1:0,0 2:+2,0 3:+3 4:+4"), 1,
+             "3 4; 2 1"},
             {"lists that are not in order", fixes("2:+2 0:+0 1:+1"), 1, "0 1 2; 0 0"}};
         for (const auto& [name, samples, slot, expected] : rows) {
             const GeoTrack track(*flightOf(samples, positionIn("m")), 0, slot, Always);
@@ -281,10 +283,10 @@ private Q_SLOTS:
         QTest::newRow("edges")
             << fixes("1:-90,180 50000:90,-180 100000:+0,179.9999999999 150000:+0,360")
             << QByteArray("m") << true << 4 << header;
-        QTest::newRow("stretches")
-            << fixes("1:+0 2:+1 3:0,0 4:+3 5:+900 6:+901 40:+9") + " 1038@4=7 500@4=2 500@4.5=25 "
-                                                                   "500@39=10 500@99=25"
-            << QByteArray("ft") << true << 6 << header;
+        QTest::newRow("stretches") << fixes("1:+0 2:+1 3:0,0 3.9:+3 4:+3 5:+900 6:+901 40:+9") +
+                                          " 1038@4=7 500@4=2 500@4.5=25 "
+                                          "500@39=10 500@99=25"
+                                   << QByteArray("ft") << true << 7 << header;
         QTest::newRow("UTC") << fixes("1:+0 2:+1") + utc << QByteArray("m") << true << 2 << "";
         QTest::newRow("times beyond all years")
             << fixes("1:+0 300000000000:+1") << QByteArray("m") << true << 2 << header;
