@@ -199,7 +199,7 @@ private Q_SLOTS:
     {
         // By number of the parameter, at times that ascend.
         const auto flight = datedFlight("500@1=1 500@2=2.5 500@2.5=2:7FC00000 500@3=4 500@14=5 "
-                                        "501@2=5:00000001",
+                                        "500@3.2=2:7F800000 501@2=5:00000001",
                                         Engine);
         const ExportInput input = inputOf(flight);
         Progress none;
@@ -211,6 +211,7 @@ private Q_SLOTS:
                                                   {2.4, "2.5", "1: an & aus"},
                                                   {2.6, "", ""},
                                                   {3.0, "4", ""},
+                                                  {3.2, "", ""},
                                                   {3.5, "", ""},
                                                   {14.0, "5", ""},
                                                   {16.0, "5", ""},
