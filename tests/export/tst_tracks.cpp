@@ -244,6 +244,23 @@ private Q_SLOTS:
         }
     }
 
+    /// However little there is to be written for each position.
+    void stop()
+    {
+        QString samples;
+        for (int i = 0; i < 5000; ++i) {
+            samples += fixes(QString("%1:+%2").arg(i).arg(i % 4));
+        }
+        ExportInput input = inputOf(datedFlight(samples, positionIn("m")));
+        input.selection = {};
+        auto options = optionsFor<KmlExportOptions>("stopped.kml", {0, 5000});
+        options.isTimed = true;
+        std::stop_source source;
+        const auto stopIt = [&](int percent, const QString&) {
+            percent < 10 || source.request_stop();
+        };
+        QVERIFY(!run(ExportKml(options), input, Progress(stopIt, source.get_token())).done);
+        QVERIFY(!QFile::exists(path("stopped.kml")));
     }
 
     void goldenFiles()
