@@ -145,6 +145,12 @@ private Q_SLOTS:
         const auto unnamed = flightOf(samples, "<Device name='D'><Parameter name='P' id='1036' "
                                                "dataType='FLOAT' startByte='4'/></Device>");
         QCOMPARE(text(GeoTrack(*unnamed, 0, 1, Always)), "; 0 0");
+        // Messages of identifier 0 are no longitudes because nothing names any.
+        const auto half =
+            flightOf(samples + " 0@0=5 0@1=5",
+                     "<Device name='D'><Parameter name='P' id='1036' dataType='FLOAT' "
+                     "startByte='4' kmlId='Latitude'/></Device>");
+        QCOMPARE(text(GeoTrack(*half, 0, 1, Always)), "; 0 0");
         // The offset holds for the files to which it applies, in positions as in everything.
         const auto high = Flight::make(load({writeRecording(samples, "REC_8000.CAN")}),
                                        profileOf(positionIn("m")));
