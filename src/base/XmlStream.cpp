@@ -93,11 +93,12 @@ void XmlStream::close()
     }
 }
 
-/// Most texts are plain: numbers, times, names.
+/// Most texts are plain: numbers, times, names. Ends of lines are, but not in an attribute.
 void XmlStream::escape(std::string_view text, bool inAttribute)
 {
-    const bool isPlain = std::ranges::all_of(text, [](char c) {
-        return c >= ' ' && c <= '~' && c != '<' && c != '>' && c != '&' && c != '"';
+    const bool isPlain = std::ranges::all_of(text, [inAttribute](char c) {
+        return (c >= ' ' || (c == '\n' && !inAttribute)) && c <= '~' && c != '<' && c != '>' &&
+               c != '&' && c != '"';
     });
     if (isPlain) {
         mFile.write(text);

@@ -125,8 +125,25 @@ void GeoTrack::add(TrackPoint point)
         dropLonely();
         const bool isJump = !wasLonely || isJumpFrom(mAll.back());
         point.link = isJump ? TrackPoint::AfterJump : TrackPoint::Joined;
+    } else {
+        dropStray();
     }
     mAll.push_back(point);
+}
+
+/// The point before the last one, if nothing comes before it, the last one came from there by a
+/// jump, and now another one stays with that.
+void GeoTrack::dropStray()
+{
+    const std::size_t size = mAll.size();
+    if (size < 2 || mAll[size - 1].link != TrackPoint::AfterJump ||
+        mAll[size - 2].link != TrackPoint::AfterGap) {
+        return;
+    }
+    mAll[size - 2] = mAll[size - 1];
+    mAll[size - 2].link = TrackPoint::AfterGap;
+    mAll.pop_back();
+    ++mLeftOut.jumps;
 }
 
 /// The last point, if it came by a jump: nothing followed it either.

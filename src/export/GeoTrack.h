@@ -33,7 +33,8 @@ struct TrackPoint
 /// A latitude makes a position with the longitude and the altitude that are nearest to it in time,
 /// not further away than half of the time that makes a gap of theirs. A stretch ends at a gap of
 /// the latitude, at positions that nobody can be at, and at a jump. A single position that is
-/// reached by a jump and left by a jump or a gap is none.
+/// reached by a jump and left by a jump or a gap is none, nor is one that follows a gap when those
+/// after it are elsewhere: halves of two fixes meet where one is found again.
 class GeoTrack
 {
 public:
@@ -68,6 +69,7 @@ private:
     void collect(const Flight& flight, double offset, const TimeRange& range);
     void add(TrackPoint point);
     void dropLonely();
+    void dropStray();
     void thin(double slotWidth);
 
     std::vector<TrackPoint> mAll;    ///< as they were sent

@@ -9,21 +9,26 @@ struct PositionSource
 {
     explicit PositionSource(const Profile& profile);
 
-    /// Whether the profile tells latitude and longitude apart.
+    /// Whether the profile names latitude and longitude and tells them apart.
     bool isNamed() const
     {
-        return latitude.channel != longitude.channel || latitude.id != longitude.id;
+        return isNamed(latitude) && isNamed(longitude) &&
+               (latitude.channel != longitude.channel || latitude.id != longitude.id);
     }
 
-    /// Whether it tells an altitude at all.
-    bool hasAltitude() const
-    {
-        return altitude.channel != 0 || altitude.id != 0 || !altitude.name.isEmpty();
-    }
+    /// Whether it names an altitude at all.
+    bool hasAltitude() const { return isNamed(altitude); }
 
     ProfileParameter latitude;
     ProfileParameter longitude;
     ProfileParameter altitude;
+
+private:
+    /// What the profile does not name has channel and identifier 0.
+    static bool isNamed(const ProfileParameter& parameter)
+    {
+        return parameter.channel != 0 || parameter.id != 0 || !parameter.name.isEmpty();
+    }
 };
 
 /// Metres in a unit of height; 0 where it is not known.

@@ -17,7 +17,8 @@ namespace TARN {
 
 namespace {
 
-constexpr std::size_t ValuesPerLook = 1024; // between two looks at the progress
+constexpr std::size_t RowsPerLook = 1024; // between two reports of progress
+constexpr std::size_t RowsPerPoint = 3;   // apart from its values: in the line, when and where
 
 /// The user's texts of this file, declared so that the extraction of texts finds them.
 struct TimedTexts
@@ -82,7 +83,7 @@ ExportResult TimedKml::write(Progress& progress)
     if (mOptions.errorMarkOn && mOptions.showWarning) {
         addEvents(xml, "Warning lamps", mInput.flight->events().warnings);
     }
-    addPath(xml);
+    addPath(xml, progress);
     addTracks(xml, progress);
     xml.end();
     xml.end();
@@ -180,7 +181,7 @@ void TimedKml::endMark(XmlStream& xml, const TrackPoint& point)
     xml.end();
 }
 
-void TimedKml::addPath(XmlStream& xml)
+void TimedKml::addPath(XmlStream& xml, Progress& progress)
 {
     const auto isLine = [](const GeoTrack::Stretch& stretch) { return stretch.size() > 1; };
     if (std::ranges::none_of(mStretches, isLine)) {
@@ -192,20 +193,23 @@ void TimedKml::addPath(XmlStream& xml)
     xml.begin("MultiGeometry");
     for (const GeoTrack::Stretch& stretch : mStretches) {
         if (isLine(stretch)) {
-            addLine(xml, stretch);
+            addLine(xml, stretch, progress);
         }
     }
     xml.end();
     xml.end();
 }
 
-void TimedKml::addLine(XmlStream& xml, GeoTrack::Stretch stretch)
+void TimedKml::addLine(XmlStream& xml, GeoTrack::Stretch stretch, Progress& progress)
 {
     xml.begin("LineString");
     xml.element("extrude", mOptions.polygonOn ? "1" : "0");
     xml.element("altitudeMode", altitudeMode(stretch.front()));
     xml.beginText("coordinates");
     for (const TrackPoint& point : stretch) {
+        if (!goOn(progress)) {
+            break;
+        }
         xml.text(coordinates(point, ',') + "\n");
     }
     xml.endText();
@@ -241,39 +245,40 @@ void TimedKml::addTrack(XmlStream& xml, GeoTrack::Stretch stretch, Progress& pro
 {
     xml.begin("gx:Track");
     xml.element("altitudeMode", altitudeMode(stretch.front()));
-    for (const TrackPoint& point : stretch) {
-        xml.row("when", mClock.text(point.time));
-    }
-    for (const TrackPoint& point : stretch) {
-        xml.row("gx:coord", coordinates(point, ' '));
-    }
+    const auto rows = [&](const char* name, const auto& textOf) {
+        for (const TrackPoint& point : stretch) {
+            if (!goOn(progress)) {
+                break;
+            }
+            xml.row(name, textOf(point));
+        }
+    };
+    rows("when", [this](const TrackPoint& point) { return mClock.text(point.time); });
+    rows("gx:coord", [](const TrackPoint& point) { return coordinates(point, ' '); });
     if (!mValues.empty()) {
         xml.begin("ExtendedData");
         xml.begin("SchemaData", {{"schemaUrl", "#values"}});
-        addValues(xml, stretch, progress);
+        for (std::size_t i = 0; i < mValues.size(); ++i) {
+            const std::string field = fieldName(i);
+            xml.begin("gx:SimpleArrayData", {{"name", field}});
+            rows("gx:value", [&](const TrackPoint& point) -> const std::string& {
+                return mValues[i].at(point.time);
+            });
+            xml.end();
+        }
         xml.end();
         xml.end();
     }
     xml.end();
 }
 
-void TimedKml::addValues(XmlStream& xml, GeoTrack::Stretch stretch, Progress& progress)
+/// Before each of the rows, of which there are very many: false when it was asked to stop.
+bool TimedKml::goOn(Progress& progress)
 {
-    const std::size_t all = mTrack.points().size() * mValues.size();
-    for (std::size_t i = 0; i < mValues.size(); ++i) {
-        const std::string name = fieldName(i);
-        xml.begin("gx:SimpleArrayData", {{"name", name}});
-        for (const TrackPoint& point : stretch) {
-            if (mDone++ % ValuesPerLook == 0) {
-                progress.report(mDone, all);
-                if (progress.stopRequested()) {
-                    break;
-                }
-            }
-            xml.row("gx:value", mValues[i].at(point.time));
-        }
-        xml.end();
+    if (mDone++ % RowsPerLook == 0) {
+        progress.report(mDone, mTrack.points().size() * (RowsPerPoint + mValues.size()));
     }
+    return !progress.stopRequested();
 }
 
 } // namespace TARN

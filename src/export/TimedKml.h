@@ -31,11 +31,11 @@ private:
     void addEvents(XmlStream& xml, const char* folder, const std::vector<RecordEvent>& events);
     void beginMark(XmlStream& xml, double time, const char* style);
     void endMark(XmlStream& xml, const TrackPoint& point);
-    void addPath(XmlStream& xml);
-    void addLine(XmlStream& xml, GeoTrack::Stretch stretch);
+    void addPath(XmlStream& xml, Progress& progress);
+    void addLine(XmlStream& xml, GeoTrack::Stretch stretch, Progress& progress);
     void addTracks(XmlStream& xml, Progress& progress);
     void addTrack(XmlStream& xml, GeoTrack::Stretch stretch, Progress& progress);
-    void addValues(XmlStream& xml, GeoTrack::Stretch stretch, Progress& progress);
+    bool goOn(Progress& progress);
 
     const KmlExportOptions& mOptions;
     const ExportInput& mInput;
@@ -44,7 +44,7 @@ private:
     std::vector<GeoTrack::Stretch> mStretches;
     std::vector<TrackValues> mValues;
     std::size_t mEventsLeftOut = 0;
-    std::size_t mDone = 0; ///< values of the tracks
+    std::size_t mDone = 0; ///< rows of path and tracks
 };
 
 } // namespace TARN

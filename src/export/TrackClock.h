@@ -6,7 +6,7 @@
 
 namespace TARN {
 
-/// Turns times of a recording into moments of the world, by when the recording began.
+/// Turns times of a recording into moments of the world, by when its date was told.
 class TrackClock
 {
 public:
@@ -20,7 +20,6 @@ public:
 
 private:
     RecordStart mStart;
-    double mStartTime; ///< on the recording's clock, seconds
 };
 
 } // namespace TARN

@@ -24,7 +24,7 @@ const std::string& TrackValues::at(double time)
     if (&entry != mRead) {
         mRead = &entry;
         mText.clear();
-        if (!mIsNumber || !std::isnan(mSeries.decoder().toDouble(entry, true))) {
+        if (!mIsNumber || std::isfinite(mSeries.decoder().toDouble(entry, true))) {
             mSeries.decoder().appendText(entry, mText);
         }
     }

@@ -8,7 +8,8 @@
 namespace TARN {
 
 /// What one parameter shows at times that ascend: the text of its last sample, held until the next
-/// one but not across a gap. Not a number is no value.
+/// one but not across a gap. What is no number or infinite is no value: readers of numbers refuse
+/// it.
 class TrackValues
 {
 public:

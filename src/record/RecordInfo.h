@@ -16,6 +16,7 @@ struct RecordInfo
     double stopTime = 0;  ///< seconds on the recording's clock
     qint64 samples = 0;   ///< samples of the (last) file; below 1 when it is shorter than a header
     qint64 utcTime = 0;   ///< start in seconds since 1970 from the data's own clock; 0 unknown
+    double utcAt = 0;     ///< when the data told that time, seconds on the recording's clock
     std::uint32_t busType = 0;
     std::uint32_t ecuSerialNumber = 0;
     QString softwarePartA;

@@ -298,6 +298,7 @@ void RecordLoader::setUtc()
         RecordInfo& info = mRecord.mRecordInfo;
         const double since = mUtc->isAtStart ? 0.0 : std::round(mUtc->time - info.startTime);
         info.utcTime = mUtc->utc - truncatedTo<qint64>(since);
+        info.utcAt = mUtc->time - since;
     }
 }
 

@@ -8,12 +8,12 @@ RecordStart recordStart(const Record& record)
 {
     const RecordInfo& info = record.recordInfo();
     if (info.utcTime != 0) {
-        return {RecordStart::Data, info.utcTime};
+        return {RecordStart::Data, info.utcTime, info.utcAt};
     }
     const auto& files = record.integrity().files;
-    const QDateTime header = files.empty() ? info.dateTime : files.front().info.dateTime;
-    if (header.isValid()) {
-        return {RecordStart::Header, header.toSecsSinceEpoch()};
+    const RecordInfo& first = files.empty() ? info : files.front().info;
+    if (first.dateTime.isValid()) {
+        return {RecordStart::Header, first.dateTime.toSecsSinceEpoch(), first.startTime};
     }
     return {};
 }

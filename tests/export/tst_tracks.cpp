@@ -126,6 +126,8 @@ private Q_SLOTS:
             {"but of both sides of a gap", fixes("0:+0 1:+1 2:0,0 3:+3 4:+4"), 10, "1 | 4; 1 0"},
             {"a longitude that stays away",
              fixes("0:+0 1:+1") + " 1036@2=48.003 1036@12=48 1036@20=48", 1, "0 1 2; 2 0"},
+            {"half of a fix where one is found again", fixes("0:0,0 1:0,0 2:+2,0 3:+3 4:+4"), 1,
+             "3 4; 2 1"},
             {"lists that are not in order", fixes("2:+2 0:+0 1:+1"), 1, "0 1 2; 0 0"}};
         for (const auto& [name, samples, slot, expected] : rows) {
             const GeoTrack track(*flightOf(samples, positionIn("m")), 0, slot, Always);
@@ -143,6 +145,12 @@ private Q_SLOTS:
         const auto unnamed = flightOf(samples, "<Device name='D'><Parameter name='P' id='1036' "
                                                "dataType='FLOAT' startByte='4'/></Device>");
         QCOMPARE(text(GeoTrack(*unnamed, 0, 1, Always)), "; 0 0");
+        // Messages of identifier 0 are no longitudes because nothing names any.
+        const auto half =
+            flightOf(samples + " 0@0=5 0@1=5",
+                     "<Device name='D'><Parameter name='P' id='1036' dataType='FLOAT' "
+                     "startByte='4' kmlId='Latitude'/></Device>");
+        QCOMPARE(text(GeoTrack(*half, 0, 1, Always)), "; 0 0");
         // The offset holds for the files to which it applies, in positions as in everything.
         const auto high = Flight::make(load({writeRecording(samples, "REC_8000.CAN")}),
                                        profileOf(positionIn("m")));
@@ -197,7 +205,7 @@ private Q_SLOTS:
     {
         // By number of the parameter, at times that ascend.
         const auto flight = datedFlight("500@1=1 500@2=2.5 500@2.5=2:7FC00000 500@3=4 500@14=5 "
-                                        "501@2=5:00000001",
+                                        "500@3.2=2:7F800000 501@2=5:00000001",
                                         Engine);
         const ExportInput input = inputOf(flight);
         Progress none;
@@ -209,6 +217,7 @@ private Q_SLOTS:
                                                   {2.4, "2.5", "1: an & aus"},
                                                   {2.6, "", ""},
                                                   {3.0, "4", ""},
+                                                  {3.2, "", ""},
                                                   {3.5, "", ""},
                                                   {14.0, "5", ""},
                                                   {16.0, "5", ""},
@@ -216,6 +225,48 @@ private Q_SLOTS:
             QCOMPARE(values[0].at(time), std::string(number));
             QVERIFY(*state == '\0' || values[1].at(time) == state);
         }
+    }
+
+    /// From where the date is told, whatever else happens before.
+    void moments()
+    {
+        const QString utc = " 1206@40=7:090707E5 1200@40=7:0C000000";
+        const std::tuple<const char*, QString, QString, const char*> rows[] = {
+            // name, samples of two files, when it is 100 on their clock
+            {"header", "500@10=1", "500@60=1", "04:06:36.000"},
+            {"header, files in another order", "500@60=1", "500@10=1", "04:05:46.000"},
+            {"header, a damaged time", "500@10=1 500@0=1 500@11=1", "500@60=1", "04:06:36.000"},
+            {"told later", "500@10=1" + utc, "500@60=1", "12:01:00.000"},
+            {"told, a damaged time", "500@10=1 500@0=1" + utc, "500@60=1", "12:01:00.000"},
+            {"told by the second file", "500@10.5=1", "500@39=1" + utc, "12:01:00.000"}};
+        for (const auto& [name, first, second, expected] : rows) {
+            RecordingBuilder files[2];
+            files[0].date(2021, 7, 9, 4, 5, 6);
+            const auto record = load({write("LOG_0001.CAN", add(files[0], first).bytes()),
+                                      write("LOG_0002.CAN", add(files[1], second).bytes())});
+            const std::string text = TrackClock(*record).text(100);
+            QVERIFY2(text == std::string("2021-07-09T") + expected + "Z",
+                     (name + (": " + text)).c_str());
+        }
+    }
+
+    /// However little there is to be written for each position.
+    void stop()
+    {
+        QString samples;
+        for (int i = 0; i < 5000; ++i) {
+            samples += fixes(QString("%1:+%2").arg(i).arg(i % 4));
+        }
+        ExportInput input = inputOf(datedFlight(samples, positionIn("m")));
+        input.selection = {};
+        auto options = optionsFor<KmlExportOptions>("stopped.kml", {0, 5000});
+        options.isTimed = true;
+        std::stop_source source;
+        const auto stopIt = [&](int percent, const QString&) {
+            percent < 10 || source.request_stop();
+        };
+        QVERIFY(!run(ExportKml(options), input, Progress(stopIt, source.get_token())).done);
+        QVERIFY(!QFile::exists(path("stopped.kml")));
     }
 
     void goldenFiles()
@@ -256,10 +307,10 @@ private Q_SLOTS:
         QTest::newRow("edges")
             << fixes("1:-90,180 50000:90,-180 100000:+0,179.9999999999 150000:+0,360")
             << QByteArray("m") << true << 4 << header;
-        QTest::newRow("stretches")
-            << fixes("1:+0 2:+1 3:0,0 4:+3 5:+900 6:+901 40:+9") + " 1038@4=7 500@4=2 500@4.5=25 "
-                                                                   "500@39=10 500@99=25"
-            << QByteArray("ft") << true << 6 << header;
+        QTest::newRow("stretches") << fixes("1:+0 2:+1 3:0,0 3.9:+3 4:+3 5:+900 6:+901 40:+9") +
+                                          " 1038@4=7 500@4=2 500@4.5=25 "
+                                          "500@39=10 500@99=25"
+                                   << QByteArray("ft") << true << 7 << header;
         QTest::newRow("UTC") << fixes("1:+0 2:+1") + utc << QByteArray("m") << true << 2 << "";
         QTest::newRow("times beyond all years")
             << fixes("1:+0 300000000000:+1") << QByteArray("m") << true << 2 << header;
