@@ -390,6 +390,17 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     </message>
 </context>
 <context>
+    <name>HeightDrawing</name>
+    <message>
+        <source>Altitude</source>
+        <translation>Výška</translation>
+    </message>
+    <message>
+        <source>Altitude [%1]</source>
+        <translation>Výška [%1]</translation>
+    </message>
+</context>
+<context>
     <name>Logbook</name>
     <message>
         <source>the logbook has no flight &quot;%1&quot;</source>
@@ -516,6 +527,17 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     <message>
         <source>it is no file</source>
         <translation>není to běžný soubor</translation>
+    </message>
+</context>
+<context>
+    <name>PositionTrack</name>
+    <message>
+        <source>Positions of 0/0, sent while the receiver knows none: %1</source>
+        <translation>Polohy 0/0, vysílané, dokud přijímač žádnou nezná: %1</translation>
+    </message>
+    <message>
+        <source>Jumps of the position faster than 500 m/s: %1, the first at %2</source>
+        <translation>Skoky polohy rychlejší než 500 m/s: %1, první v %2</translation>
     </message>
 </context>
 <context>
@@ -984,6 +1006,17 @@ Zaškrtněte parametry v seznamu vlevo a stiskněte „Potvrdit výběr“.</tra
     </message>
 </context>
 <context>
+    <name>ReportTrack</name>
+    <message>
+        <source>Where it happened</source>
+        <translation>Kde se to stalo</translation>
+    </message>
+    <message>
+        <source>The path of the flight from above, %1 to %2</source>
+        <translation>Dráha letu shora, od %1 do %2</translation>
+    </message>
+</context>
+<context>
     <name>Snapshot</name>
     <message>
         <source>Save Snapshot</source>
@@ -1392,6 +1425,10 @@ Sledované parametry: %5</translation>
         <source>Fault Matrix</source>
         <translation>Matice poruch</translation>
     </message>
+    <message>
+        <source>Track</source>
+        <translation>Dráha</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
@@ -1449,6 +1486,61 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
     <message>
         <source>The table is being filled.</source>
         <translation>Tabulka se naplňuje.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogDataTrack</name>
+    <message>
+        <source>Show all (Home)</source>
+        <translation>Zobrazit vše (Home)</translation>
+    </message>
+    <message>
+        <source>Zoom in (+)</source>
+        <translation>Přiblížit (+)</translation>
+    </message>
+    <message>
+        <source>Zoom out (-)</source>
+        <translation>Oddálit (-)</translation>
+    </message>
+    <message>
+        <source>C&amp;olored by:</source>
+        <translation>&amp;Barva podle:</translation>
+    </message>
+    <message>
+        <source>Hei&amp;ght over:</source>
+        <translation>&amp;Výška podle:</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Čas</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Vzdálenost</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nic</translation>
+    </message>
+    <message>
+        <source>State of all parameters</source>
+        <translation>Stav všech parametrů</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the path.</source>
+        <translation>Pro dráhu není dost paměti.</translation>
+    </message>
+    <message>
+        <source>The path is being found.</source>
+        <translation>Dráha se zjišťuje.</translation>
+    </message>
+    <message>
+        <source>All positions of the recording are 0/0, %1 of them: the receiver did not know where it was.</source>
+        <translation>Všechny polohy záznamu jsou 0/0, celkem %1: přijímač nevěděl, kde je.</translation>
+    </message>
+    <message>
+        <source>The recording holds no position: no latitude with a longitude.</source>
+        <translation>Záznam neobsahuje žádnou polohu: žádnou šířku s délkou.</translation>
     </message>
 </context>
 <context>
@@ -3595,6 +3687,21 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     </message>
 </context>
 <context>
+    <name>TARN::WidgetTrack</name>
+    <message>
+        <source>Track</source>
+        <translation>Dráha</translation>
+    </message>
+    <message>
+        <source>The path of the flight from above, and its height below</source>
+        <translation>Dráha letu shora a pod ní jeho výška</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>a dalších %1</translation>
+    </message>
+</context>
+<context>
     <name>TARN::WidgetTrend</name>
     <message>
         <source>Trend</source>
@@ -3648,6 +3755,39 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     </message>
 </context>
 <context>
+    <name>TrackColors</name>
+    <message>
+        <source>All parameters</source>
+        <translation>Všechny parametry</translation>
+    </message>
+    <message>
+        <source>in range</source>
+        <translation>v rozsahu</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>žádná hodnota</translation>
+    </message>
+</context>
+<context>
+    <name>TrackDrawing</name>
+    <message>
+        <source>No position at %1; shown is the last one, of %2</source>
+        <translation>V %1 žádná poloha; zobrazena je poslední, z %2</translation>
+    </message>
+    <message>
+        <source>No position at %1 or before</source>
+        <translation>V %1 ani předtím žádná poloha</translation>
+    </message>
+</context>
+<context>
+    <name>TrackMarks</name>
+    <message>
+        <source>peak %1 at %2, threshold %3</source>
+        <translation>vrchol %1 v %2, práh %3</translation>
+    </message>
+</context>
+<context>
     <name>TrackNote</name>
     <message>
         <source>The recording tells no UTC: times are counted from the date of its header, whose time zone is not known, as if that were UTC.</source>
@@ -3672,6 +3812,25 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     <message>
         <source>Left out: %1 positions at 0/0 or incomplete, %2 that nothing flies to, %3 events without a position.</source>
         <translation>Vynecháno: %1 poloh v 0/0 nebo neúplných, %2, kam nic nedoletí, %3 událostí bez polohy.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackSymbols</name>
+    <message>
+        <source>out of range</source>
+        <translation>mimo rozsah</translation>
+    </message>
+    <message>
+        <source>warning lamp</source>
+        <translation>výstražná kontrolka</translation>
+    </message>
+    <message>
+        <source>fault or warning</source>
+        <translation>porucha nebo varování</translation>
+    </message>
+    <message>
+        <source>Events without a position: %1</source>
+        <translation>Události bez polohy: %1</translation>
     </message>
 </context>
 <context>

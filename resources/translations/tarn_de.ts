@@ -390,6 +390,17 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     </message>
 </context>
 <context>
+    <name>HeightDrawing</name>
+    <message>
+        <source>Altitude</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Altitude [%1]</source>
+        <translation>Höhe [%1]</translation>
+    </message>
+</context>
+<context>
     <name>Logbook</name>
     <message>
         <source>the logbook has no flight &quot;%1&quot;</source>
@@ -516,6 +527,17 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     <message>
         <source>it is no file</source>
         <translation>das ist keine Datei</translation>
+    </message>
+</context>
+<context>
+    <name>PositionTrack</name>
+    <message>
+        <source>Positions of 0/0, sent while the receiver knows none: %1</source>
+        <translation>Positionen 0/0, gesendet, während der Empfänger keine kennt: %1</translation>
+    </message>
+    <message>
+        <source>Jumps of the position faster than 500 m/s: %1, the first at %2</source>
+        <translation>Sprünge der Position schneller als 500 m/s: %1, der erste um %2</translation>
     </message>
 </context>
 <context>
@@ -984,6 +1006,17 @@ Haken Sie links in der Liste Parameter an und klicken Sie auf „Auswahl bestät
     </message>
 </context>
 <context>
+    <name>ReportTrack</name>
+    <message>
+        <source>Where it happened</source>
+        <translation>Wo es geschah</translation>
+    </message>
+    <message>
+        <source>The path of the flight from above, %1 to %2</source>
+        <translation>Der Flugweg von oben, %1 bis %2</translation>
+    </message>
+</context>
+<context>
     <name>Snapshot</name>
     <message>
         <source>Save Snapshot</source>
@@ -1392,6 +1425,10 @@ Fehler und Warnungen: %4
         <source>Fault Matrix</source>
         <translation>Fehlermatrix</translation>
     </message>
+    <message>
+        <source>Track</source>
+        <translation>Flugweg</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
@@ -1449,6 +1486,61 @@ Alle anderen Ansichten funktionieren; mit einem Grafiktreiber für OpenGL 2.1 od
     <message>
         <source>The table is being filled.</source>
         <translation>Die Tabelle wird gefüllt.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogDataTrack</name>
+    <message>
+        <source>Show all (Home)</source>
+        <translation>Alles zeigen (Pos1)</translation>
+    </message>
+    <message>
+        <source>Zoom in (+)</source>
+        <translation>Vergrößern (+)</translation>
+    </message>
+    <message>
+        <source>Zoom out (-)</source>
+        <translation>Verkleinern (-)</translation>
+    </message>
+    <message>
+        <source>C&amp;olored by:</source>
+        <translation>Farbe &amp;nach:</translation>
+    </message>
+    <message>
+        <source>Hei&amp;ght over:</source>
+        <translation>Höhe ü&amp;ber:</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Strecke</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>State of all parameters</source>
+        <translation>Zustand aller Parameter</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the path.</source>
+        <translation>Der Speicher reicht für den Flugweg nicht aus.</translation>
+    </message>
+    <message>
+        <source>The path is being found.</source>
+        <translation>Der Flugweg wird ermittelt.</translation>
+    </message>
+    <message>
+        <source>All positions of the recording are 0/0, %1 of them: the receiver did not know where it was.</source>
+        <translation>Alle Positionen der Aufzeichnung sind 0/0, insgesamt %1: Der Empfänger wusste nicht, wo er war.</translation>
+    </message>
+    <message>
+        <source>The recording holds no position: no latitude with a longitude.</source>
+        <translation>Die Aufzeichnung enthält keine Position: keine Breite mit einer Länge.</translation>
     </message>
 </context>
 <context>
@@ -3595,6 +3687,21 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
     </message>
 </context>
 <context>
+    <name>TARN::WidgetTrack</name>
+    <message>
+        <source>Track</source>
+        <translation>Flugweg</translation>
+    </message>
+    <message>
+        <source>The path of the flight from above, and its height below</source>
+        <translation>Der Flugweg von oben, darunter die Höhe</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+</context>
+<context>
     <name>TARN::WidgetTrend</name>
     <message>
         <source>Trend</source>
@@ -3648,6 +3755,39 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
     </message>
 </context>
 <context>
+    <name>TrackColors</name>
+    <message>
+        <source>All parameters</source>
+        <translation>Alle Parameter</translation>
+    </message>
+    <message>
+        <source>in range</source>
+        <translation>im Bereich</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>kein Wert</translation>
+    </message>
+</context>
+<context>
+    <name>TrackDrawing</name>
+    <message>
+        <source>No position at %1; shown is the last one, of %2</source>
+        <translation>Um %1 keine Position; gezeigt wird die letzte, von %2</translation>
+    </message>
+    <message>
+        <source>No position at %1 or before</source>
+        <translation>Um %1 und davor keine Position</translation>
+    </message>
+</context>
+<context>
+    <name>TrackMarks</name>
+    <message>
+        <source>peak %1 at %2, threshold %3</source>
+        <translation>Spitze %1 um %2, Schwelle %3</translation>
+    </message>
+</context>
+<context>
     <name>TrackNote</name>
     <message>
         <source>The recording tells no UTC: times are counted from the date of its header, whose time zone is not known, as if that were UTC.</source>
@@ -3672,6 +3812,25 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
     <message>
         <source>Left out: %1 positions at 0/0 or incomplete, %2 that nothing flies to, %3 events without a position.</source>
         <translation>Weggelassen: %1 Positionen bei 0/0 oder unvollständig, %2, zu denen nichts fliegt, %3 Ereignisse ohne Position.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackSymbols</name>
+    <message>
+        <source>out of range</source>
+        <translation>außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>warning lamp</source>
+        <translation>Warnlampe</translation>
+    </message>
+    <message>
+        <source>fault or warning</source>
+        <translation>Fehler oder Warnung</translation>
+    </message>
+    <message>
+        <source>Events without a position: %1</source>
+        <translation>Ereignisse ohne Position: %1</translation>
     </message>
 </context>
 <context>

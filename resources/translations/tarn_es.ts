@@ -390,6 +390,17 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     </message>
 </context>
 <context>
+    <name>HeightDrawing</name>
+    <message>
+        <source>Altitude</source>
+        <translation>Altitud</translation>
+    </message>
+    <message>
+        <source>Altitude [%1]</source>
+        <translation>Altitud [%1]</translation>
+    </message>
+</context>
+<context>
     <name>Logbook</name>
     <message>
         <source>the logbook has no flight &quot;%1&quot;</source>
@@ -516,6 +527,17 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     <message>
         <source>it is no file</source>
         <translation>no es un archivo</translation>
+    </message>
+</context>
+<context>
+    <name>PositionTrack</name>
+    <message>
+        <source>Positions of 0/0, sent while the receiver knows none: %1</source>
+        <translation>Posiciones 0/0, enviadas mientras el receptor no conoce ninguna: %1</translation>
+    </message>
+    <message>
+        <source>Jumps of the position faster than 500 m/s: %1, the first at %2</source>
+        <translation>Saltos de la posición más rápidos que 500 m/s: %1, el primero a las %2</translation>
     </message>
 </context>
 <context>
@@ -984,6 +1006,17 @@ Marque parámetros en la lista de la izquierda y pulse «Confirmar selección».
     </message>
 </context>
 <context>
+    <name>ReportTrack</name>
+    <message>
+        <source>Where it happened</source>
+        <translation>Dónde ocurrió</translation>
+    </message>
+    <message>
+        <source>The path of the flight from above, %1 to %2</source>
+        <translation>La trayectoria del vuelo desde arriba, de %1 a %2</translation>
+    </message>
+</context>
+<context>
     <name>Snapshot</name>
     <message>
         <source>Save Snapshot</source>
@@ -1392,6 +1425,10 @@ Parámetros vigilados: %5</translation>
         <source>Fault Matrix</source>
         <translation>Matriz de fallos</translation>
     </message>
+    <message>
+        <source>Track</source>
+        <translation>Trayectoria</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
@@ -1449,6 +1486,61 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     <message>
         <source>The table is being filled.</source>
         <translation>La tabla se está llenando.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogDataTrack</name>
+    <message>
+        <source>Show all (Home)</source>
+        <translation>Mostrar todo (Inicio)</translation>
+    </message>
+    <message>
+        <source>Zoom in (+)</source>
+        <translation>Acercar (+)</translation>
+    </message>
+    <message>
+        <source>Zoom out (-)</source>
+        <translation>Alejar (-)</translation>
+    </message>
+    <message>
+        <source>C&amp;olored by:</source>
+        <translation>C&amp;olor según:</translation>
+    </message>
+    <message>
+        <source>Hei&amp;ght over:</source>
+        <translation>Al&amp;tura sobre:</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tiempo</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distancia</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nada</translation>
+    </message>
+    <message>
+        <source>State of all parameters</source>
+        <translation>Estado de todos los parámetros</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the path.</source>
+        <translation>No hay memoria suficiente para la trayectoria.</translation>
+    </message>
+    <message>
+        <source>The path is being found.</source>
+        <translation>Se está determinando la trayectoria.</translation>
+    </message>
+    <message>
+        <source>All positions of the recording are 0/0, %1 of them: the receiver did not know where it was.</source>
+        <translation>Todas las posiciones de la grabación son 0/0, %1 en total: el receptor no sabía dónde estaba.</translation>
+    </message>
+    <message>
+        <source>The recording holds no position: no latitude with a longitude.</source>
+        <translation>La grabación no contiene ninguna posición: ninguna latitud con una longitud.</translation>
     </message>
 </context>
 <context>
@@ -1649,7 +1741,7 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     </message>
     <message>
         <source>Waypoints at limits and lamps</source>
-        <translation>Puntos de paso en límites y testigos</translation>
+        <translation>Puntos de paso en límites y luces</translation>
     </message>
     <message>
         <source>GPX Export</source>
@@ -1661,7 +1753,7 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
     </message>
     <message>
         <source>Where limits were exceeded and warning lamps came on</source>
-        <translation>Donde se superaron límites y se encendieron testigos de aviso</translation>
+        <translation>Donde se superaron límites y se encendieron luces de aviso</translation>
     </message>
     <message>
         <source>Timestamp every :</source>
@@ -3595,6 +3687,21 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
     </message>
 </context>
 <context>
+    <name>TARN::WidgetTrack</name>
+    <message>
+        <source>Track</source>
+        <translation>Trayectoria</translation>
+    </message>
+    <message>
+        <source>The path of the flight from above, and its height below</source>
+        <translation>La trayectoria del vuelo desde arriba y, debajo, su altura</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+</context>
+<context>
     <name>TARN::WidgetTrend</name>
     <message>
         <source>Trend</source>
@@ -3648,6 +3755,39 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
     </message>
 </context>
 <context>
+    <name>TrackColors</name>
+    <message>
+        <source>All parameters</source>
+        <translation>Todos los parámetros</translation>
+    </message>
+    <message>
+        <source>in range</source>
+        <translation>en rango</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>sin valor</translation>
+    </message>
+</context>
+<context>
+    <name>TrackDrawing</name>
+    <message>
+        <source>No position at %1; shown is the last one, of %2</source>
+        <translation>Sin posición a las %1; se muestra la última, de las %2</translation>
+    </message>
+    <message>
+        <source>No position at %1 or before</source>
+        <translation>Sin posición a las %1 ni antes</translation>
+    </message>
+</context>
+<context>
+    <name>TrackMarks</name>
+    <message>
+        <source>peak %1 at %2, threshold %3</source>
+        <translation>pico %1 a las %2, umbral %3</translation>
+    </message>
+</context>
+<context>
     <name>TrackNote</name>
     <message>
         <source>The recording tells no UTC: times are counted from the date of its header, whose time zone is not known, as if that were UTC.</source>
@@ -3672,6 +3812,25 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
     <message>
         <source>Left out: %1 positions at 0/0 or incomplete, %2 that nothing flies to, %3 events without a position.</source>
         <translation>Omitidos: %1 posiciones en 0/0 o incompletas, %2 a las que nada vuela, %3 eventos sin posición.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackSymbols</name>
+    <message>
+        <source>out of range</source>
+        <translation>fuera de rango</translation>
+    </message>
+    <message>
+        <source>warning lamp</source>
+        <translation>luz de aviso</translation>
+    </message>
+    <message>
+        <source>fault or warning</source>
+        <translation>fallo o aviso</translation>
+    </message>
+    <message>
+        <source>Events without a position: %1</source>
+        <translation>Eventos sin posición: %1</translation>
     </message>
 </context>
 <context>

@@ -390,6 +390,17 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
 </context>
 <context>
+    <name>HeightDrawing</name>
+    <message>
+        <source>Altitude</source>
+        <translation>Altitude</translation>
+    </message>
+    <message>
+        <source>Altitude [%1]</source>
+        <translation>Altitude [%1]</translation>
+    </message>
+</context>
+<context>
     <name>Logbook</name>
     <message>
         <source>the logbook has no flight &quot;%1&quot;</source>
@@ -516,6 +527,17 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     <message>
         <source>it is no file</source>
         <translation>ce n&apos;est pas un fichier</translation>
+    </message>
+</context>
+<context>
+    <name>PositionTrack</name>
+    <message>
+        <source>Positions of 0/0, sent while the receiver knows none: %1</source>
+        <translation>Positions 0/0, envoyées tant que le récepteur n&apos;en connaît aucune&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Jumps of the position faster than 500 m/s: %1, the first at %2</source>
+        <translation>Sauts de la position plus rapides que 500 m/s&#xa0;: %1, le premier à %2</translation>
     </message>
 </context>
 <context>
@@ -984,6 +1006,17 @@ Cochez des paramètres dans la liste de gauche, puis appuyez sur «&#xa0;Confirm
     </message>
 </context>
 <context>
+    <name>ReportTrack</name>
+    <message>
+        <source>Where it happened</source>
+        <translation>Où cela s&apos;est passé</translation>
+    </message>
+    <message>
+        <source>The path of the flight from above, %1 to %2</source>
+        <translation>La trajectoire du vol vue de dessus, de %1 à %2</translation>
+    </message>
+</context>
+<context>
     <name>Snapshot</name>
     <message>
         <source>Save Snapshot</source>
@@ -1392,6 +1425,10 @@ Paramètres surveillés&#xa0;: %5</translation>
         <source>Fault Matrix</source>
         <translation>Matrice de défauts</translation>
     </message>
+    <message>
+        <source>Track</source>
+        <translation>Trajectoire</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
@@ -1449,6 +1486,61 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     <message>
         <source>The table is being filled.</source>
         <translation>Le tableau est en cours de remplissage.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogDataTrack</name>
+    <message>
+        <source>Show all (Home)</source>
+        <translation>Tout montrer (Début)</translation>
+    </message>
+    <message>
+        <source>Zoom in (+)</source>
+        <translation>Agrandir (+)</translation>
+    </message>
+    <message>
+        <source>Zoom out (-)</source>
+        <translation>Réduire (-)</translation>
+    </message>
+    <message>
+        <source>C&amp;olored by:</source>
+        <translation>C&amp;ouleur selon&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Hei&amp;ght over:</source>
+        <translation>&amp;Hauteur selon&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distance</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Rien</translation>
+    </message>
+    <message>
+        <source>State of all parameters</source>
+        <translation>État de tous les paramètres</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the path.</source>
+        <translation>La mémoire ne suffit pas pour la trajectoire.</translation>
+    </message>
+    <message>
+        <source>The path is being found.</source>
+        <translation>La trajectoire est en cours de calcul.</translation>
+    </message>
+    <message>
+        <source>All positions of the recording are 0/0, %1 of them: the receiver did not know where it was.</source>
+        <translation>Toutes les positions de l&apos;enregistrement sont 0/0, %1 en tout&#xa0;: le récepteur ne savait pas où il était.</translation>
+    </message>
+    <message>
+        <source>The recording holds no position: no latitude with a longitude.</source>
+        <translation>L&apos;enregistrement ne contient aucune position&#xa0;: aucune latitude avec une longitude.</translation>
     </message>
 </context>
 <context>
@@ -1747,7 +1839,7 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
     </message>
     <message>
         <source>Times and the selected values at each point, so that earth viewers can play the flight; nothing is drawn over gaps</source>
-        <translation>Heures et valeurs choisies à chaque point, pour que les globes virtuels puissent rejouer le vol&#xa0;; rien n’est tracé sur les lacunes</translation>
+        <translation>Heures et valeurs choisies à chaque point, pour que les globes virtuels puissent rejouer le vol&#xa0;; rien n&apos;est tracé sur les lacunes</translation>
     </message>
 </context>
 <context>
@@ -3595,6 +3687,21 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     </message>
 </context>
 <context>
+    <name>TARN::WidgetTrack</name>
+    <message>
+        <source>Track</source>
+        <translation>Trajectoire</translation>
+    </message>
+    <message>
+        <source>The path of the flight from above, and its height below</source>
+        <translation>La trajectoire du vol vue de dessus, et sa hauteur dessous</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
+    </message>
+</context>
+<context>
     <name>TARN::WidgetTrend</name>
     <message>
         <source>Trend</source>
@@ -3644,26 +3751,59 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     <name>TimedKml</name>
     <message>
         <source>The recording tells no date: no times can be given. Export the path without them.</source>
-        <translation>L’enregistrement n’indique aucune date&#xa0;: aucune heure ne peut être donnée. Exportez la trajectoire sans elles.</translation>
+        <translation>L&apos;enregistrement n&apos;indique aucune date&#xa0;: aucune heure ne peut être donnée. Exportez la trajectoire sans elles.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackColors</name>
+    <message>
+        <source>All parameters</source>
+        <translation>Tous les paramètres</translation>
+    </message>
+    <message>
+        <source>in range</source>
+        <translation>dans la plage</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>pas de valeur</translation>
+    </message>
+</context>
+<context>
+    <name>TrackDrawing</name>
+    <message>
+        <source>No position at %1; shown is the last one, of %2</source>
+        <translation>Aucune position à %1 ; la dernière, de %2, est montrée</translation>
+    </message>
+    <message>
+        <source>No position at %1 or before</source>
+        <translation>Aucune position à %1 ni avant</translation>
+    </message>
+</context>
+<context>
+    <name>TrackMarks</name>
+    <message>
+        <source>peak %1 at %2, threshold %3</source>
+        <translation>pic %1 à %2, seuil %3</translation>
     </message>
 </context>
 <context>
     <name>TrackNote</name>
     <message>
         <source>The recording tells no UTC: times are counted from the date of its header, whose time zone is not known, as if that were UTC.</source>
-        <translation>L’enregistrement n’indique pas l’UTC&#xa0;: les heures sont comptées depuis la date de son en-tête, dont le fuseau est inconnu, comme si c’était l’UTC.</translation>
+        <translation>L&apos;enregistrement n&apos;indique pas l&apos;UTC&#xa0;: les heures sont comptées depuis la date de son en-tête, dont le fuseau est inconnu, comme si c&apos;était l&apos;UTC.</translation>
     </message>
     <message>
         <source>The recording tells no date: the track is without times.</source>
-        <translation>L’enregistrement n’indique aucune date&#xa0;: la trajectoire est sans heures.</translation>
+        <translation>L&apos;enregistrement n&apos;indique aucune date&#xa0;: la trajectoire est sans heures.</translation>
     </message>
     <message>
         <source>The unit &quot;%1&quot; of the altitude is not known, its numbers were taken for metres.</source>
-        <translation>L’unité &quot;%1&quot; de l’altitude est inconnue, ses nombres ont été pris pour des mètres.</translation>
+        <translation>L&apos;unité &quot;%1&quot; de l&apos;altitude est inconnue, ses nombres ont été pris pour des mètres.</translation>
     </message>
     <message>
         <source>Times are UTC as the recording&apos;s own messages tell it.</source>
-        <translation>Les heures sont l’UTC que donnent les messages de l’enregistrement.</translation>
+        <translation>Les heures sont l&apos;UTC que donnent les messages de l&apos;enregistrement.</translation>
     </message>
     <message>
         <source>Altitudes are metres, converted from %1.</source>
@@ -3672,6 +3812,25 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     <message>
         <source>Left out: %1 positions at 0/0 or incomplete, %2 that nothing flies to, %3 events without a position.</source>
         <translation>Omis&#xa0;: %1 positions à 0/0 ou incomplètes, %2 où rien ne vole, %3 événements sans position.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackSymbols</name>
+    <message>
+        <source>out of range</source>
+        <translation>hors de la plage</translation>
+    </message>
+    <message>
+        <source>warning lamp</source>
+        <translation>voyant d&apos;alerte</translation>
+    </message>
+    <message>
+        <source>fault or warning</source>
+        <translation>défaut ou alerte</translation>
+    </message>
+    <message>
+        <source>Events without a position: %1</source>
+        <translation>Événements sans position&#xa0;: %1</translation>
     </message>
 </context>
 <context>

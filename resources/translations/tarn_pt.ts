@@ -390,6 +390,17 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     </message>
 </context>
 <context>
+    <name>HeightDrawing</name>
+    <message>
+        <source>Altitude</source>
+        <translation>Altitude</translation>
+    </message>
+    <message>
+        <source>Altitude [%1]</source>
+        <translation>Altitude [%1]</translation>
+    </message>
+</context>
+<context>
     <name>Logbook</name>
     <message>
         <source>the logbook has no flight &quot;%1&quot;</source>
@@ -516,6 +527,17 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     <message>
         <source>it is no file</source>
         <translation>não é um arquivo</translation>
+    </message>
+</context>
+<context>
+    <name>PositionTrack</name>
+    <message>
+        <source>Positions of 0/0, sent while the receiver knows none: %1</source>
+        <translation>Posições 0/0, enviadas enquanto o receptor não conhece nenhuma: %1</translation>
+    </message>
+    <message>
+        <source>Jumps of the position faster than 500 m/s: %1, the first at %2</source>
+        <translation>Saltos da posição mais rápidos que 500 m/s: %1, o primeiro às %2</translation>
     </message>
 </context>
 <context>
@@ -984,6 +1006,17 @@ Marque parâmetros na lista à esquerda e clique em &quot;Confirmar seleção&qu
     </message>
 </context>
 <context>
+    <name>ReportTrack</name>
+    <message>
+        <source>Where it happened</source>
+        <translation>Onde aconteceu</translation>
+    </message>
+    <message>
+        <source>The path of the flight from above, %1 to %2</source>
+        <translation>A trajetória do voo vista de cima, de %1 a %2</translation>
+    </message>
+</context>
+<context>
     <name>Snapshot</name>
     <message>
         <source>Save Snapshot</source>
@@ -1392,6 +1425,10 @@ Parâmetros vigiados: %5</translation>
         <source>Fault Matrix</source>
         <translation>Matriz de falhas</translation>
     </message>
+    <message>
+        <source>Track</source>
+        <translation>Trajetória</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogDataErrorMatrix</name>
@@ -1449,6 +1486,61 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     <message>
         <source>The table is being filled.</source>
         <translation>A tabela está sendo preenchida.</translation>
+    </message>
+</context>
+<context>
+    <name>TARN::DialogDataTrack</name>
+    <message>
+        <source>Show all (Home)</source>
+        <translation>Mostrar tudo (Home)</translation>
+    </message>
+    <message>
+        <source>Zoom in (+)</source>
+        <translation>Ampliar (+)</translation>
+    </message>
+    <message>
+        <source>Zoom out (-)</source>
+        <translation>Reduzir (-)</translation>
+    </message>
+    <message>
+        <source>C&amp;olored by:</source>
+        <translation>C&amp;or conforme:</translation>
+    </message>
+    <message>
+        <source>Hei&amp;ght over:</source>
+        <translation>Al&amp;tura sobre:</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation>Distância</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nada</translation>
+    </message>
+    <message>
+        <source>State of all parameters</source>
+        <translation>Estado de todos os parâmetros</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the path.</source>
+        <translation>Não há memória suficiente para a trajetória.</translation>
+    </message>
+    <message>
+        <source>The path is being found.</source>
+        <translation>A trajetória está sendo determinada.</translation>
+    </message>
+    <message>
+        <source>All positions of the recording are 0/0, %1 of them: the receiver did not know where it was.</source>
+        <translation>Todas as posições da gravação são 0/0, %1 ao todo: o receptor não sabia onde estava.</translation>
+    </message>
+    <message>
+        <source>The recording holds no position: no latitude with a longitude.</source>
+        <translation>A gravação não contém nenhuma posição: nenhuma latitude com uma longitude.</translation>
     </message>
 </context>
 <context>
@@ -1649,7 +1741,7 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     </message>
     <message>
         <source>Waypoints at limits and lamps</source>
-        <translation>Pontos de passagem em limites e lâmpadas</translation>
+        <translation>Pontos de passagem em limites e luzes</translation>
     </message>
     <message>
         <source>GPX Export</source>
@@ -1661,7 +1753,7 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
     </message>
     <message>
         <source>Where limits were exceeded and warning lamps came on</source>
-        <translation>Onde limites foram excedidos e lâmpadas de aviso acenderam</translation>
+        <translation>Onde limites foram excedidos e luzes de aviso acenderam</translation>
     </message>
     <message>
         <source>Timestamp every :</source>
@@ -3595,6 +3687,21 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     </message>
 </context>
 <context>
+    <name>TARN::WidgetTrack</name>
+    <message>
+        <source>Track</source>
+        <translation>Trajetória</translation>
+    </message>
+    <message>
+        <source>The path of the flight from above, and its height below</source>
+        <translation>A trajetória do voo vista de cima e, abaixo, sua altura</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e mais %1</translation>
+    </message>
+</context>
+<context>
     <name>TARN::WidgetTrend</name>
     <message>
         <source>Trend</source>
@@ -3648,6 +3755,39 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     </message>
 </context>
 <context>
+    <name>TrackColors</name>
+    <message>
+        <source>All parameters</source>
+        <translation>Todos os parâmetros</translation>
+    </message>
+    <message>
+        <source>in range</source>
+        <translation>na faixa</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>sem valor</translation>
+    </message>
+</context>
+<context>
+    <name>TrackDrawing</name>
+    <message>
+        <source>No position at %1; shown is the last one, of %2</source>
+        <translation>Sem posição às %1; mostra-se a última, das %2</translation>
+    </message>
+    <message>
+        <source>No position at %1 or before</source>
+        <translation>Sem posição às %1 nem antes</translation>
+    </message>
+</context>
+<context>
+    <name>TrackMarks</name>
+    <message>
+        <source>peak %1 at %2, threshold %3</source>
+        <translation>pico %1 às %2, limiar %3</translation>
+    </message>
+</context>
+<context>
     <name>TrackNote</name>
     <message>
         <source>The recording tells no UTC: times are counted from the date of its header, whose time zone is not known, as if that were UTC.</source>
@@ -3672,6 +3812,25 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     <message>
         <source>Left out: %1 positions at 0/0 or incomplete, %2 that nothing flies to, %3 events without a position.</source>
         <translation>Omitidos: %1 posições em 0/0 ou incompletas, %2 às quais nada voa, %3 eventos sem posição.</translation>
+    </message>
+</context>
+<context>
+    <name>TrackSymbols</name>
+    <message>
+        <source>out of range</source>
+        <translation>fora da faixa</translation>
+    </message>
+    <message>
+        <source>warning lamp</source>
+        <translation>luz de aviso</translation>
+    </message>
+    <message>
+        <source>fault or warning</source>
+        <translation>falha ou aviso</translation>
+    </message>
+    <message>
+        <source>Events without a position: %1</source>
+        <translation>Eventos sem posição: %1</translation>
     </message>
 </context>
 <context>
