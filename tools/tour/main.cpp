@@ -133,7 +133,17 @@ public:
         }
         compare();
         passDialog("example6", TARN::ActionType::Logbook);
+        track();
         return !mFailed;
+    }
+
+    /// The path of what is open alone.
+    void track()
+    {
+        mWindow.session().reference().setFlight(nullptr);
+        mWindow.findChild<WidgetGraph*>()->model().setMarker(0.0, 0.0);
+        colorTrack();
+        shoot("example7", mWindow.findChild<QTabWidget*>("views")->currentWidget());
     }
 
     /// What is open with a flight of the week before, by the take-offs.
@@ -242,7 +252,7 @@ public:
         mWindow.findChild<WidgetGraph*>()->setDisplayMode(TARN::DisplaySingle);
         settle();
         shoot("09-graph-single");
-        showTrack(*tabs);
+        showTrack();
         passDialogs();
         return !mFailed;
     }
@@ -251,20 +261,30 @@ private:
     static constexpr int EventsToPass = 9; ///< into the middle of the flight's story
     static constexpr int PickDelay = 600;  ///< ms; until picked recordings are loaded
 
-    void showTrack(QTabWidget& tabs)
+    void choose(const char* name, int row)
+    {
+        auto* box = mWindow.findChild<QComboBox*>(name);
+        box->setCurrentIndex(row);
+        Q_EMIT box->activated(row);
+        settle();
+    }
+
+    /// Goes to the track and colors it by a cylinder.
+    void colorTrack()
     {
         constexpr int Track = 5;
-        tabs.setCurrentIndex(Track);
-        const auto choose = [&](const char* name, int row) {
-            auto* box = mWindow.findChild<QComboBox*>(name);
-            box->setCurrentIndex(row);
-            Q_EMIT box->activated(row);
-            settle();
-        };
-        choose("trackColors", 1);
-        shoot("10-track-states");
+        mWindow.findChild<QTabWidget*>("views")->setCurrentIndex(Track);
+        settle();
         choose("trackColors",
                std::max(1, mWindow.findChild<QComboBox*>("trackColors")->findText("CHT 3 [°C]")));
+    }
+
+    void showTrack()
+    {
+        colorTrack();
+        choose("trackColors", 1);
+        shoot("10-track-states");
+        colorTrack();
         choose("trackAxis", 1);
         shoot("11-track-values");
     }
