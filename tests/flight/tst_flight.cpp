@@ -250,6 +250,30 @@ private Q_SLOTS:
         QTRY_COMPARE(pendingWork(), 0);
     }
 
+    /// Work that has several parts counts each of them from its beginning.
+    void jobOfSeveralParts()
+    {
+        Job<int> job;
+        QStringList heard;
+        job.setListener([&](int percent, const QString& task) {
+            heard += QString("%1 %2").arg(task).arg(percent);
+        });
+        bool isDone = false;
+        job.start(
+            [](Progress& progress) {
+                using namespace std::chrono_literals;
+                for (const auto& [task, percent] : {std::pair("a", 90), {"b", 0}, {"b", 30}}) {
+                    progress.begin(task);
+                    progress.report(percent);
+                    std::this_thread::sleep_for(100ms); // they are told 25 times a second at most
+                }
+                return 0;
+            },
+            [&](int) { isDone = true; });
+        QTRY_VERIFY(isDone);
+        QCOMPARE(heard, QStringList({"a 90", "b 0", "b 30"}));
+    }
+
     void jobThatEndsOtherwise()
     {
         QStringList heard;
