@@ -30,6 +30,9 @@ LogbookAccess::LogbookAccess(QObject* parent) : QObject(parent)
 
 void LogbookAccess::setUrl(const QString& url)
 {
+    if (url == mUrl) {
+        return;
+    }
     mReading.cancel();
     mTrends.cancel();
     mFinding.cancel();
