@@ -120,7 +120,8 @@ void LogbookAccess::add(std::function<AddTotals(const AddListener&, Progress&)> 
 {
     ask<Added>(
         mAdding,
-        [work = std::move(work), words = tr("%1 of %2 flights")](Progress& progress) {
+        [work = std::move(work), words = tr("%1 of %2 flights"),
+         again = tr("Trying again: %1")](Progress& progress) {
             Added all;
             // The threads that add take turns, and this one waits for them.
             AddListener listener;
@@ -132,7 +133,7 @@ void LogbookAccess::add(std::function<AddTotals(const AddListener&, Progress&)> 
                 progress.report(soFar.done, soFar.all);
             };
             listener.connectionLost = [&](const QString& reason) {
-                progress.begin(reason);
+                progress.begin(again.arg(reason));
                 progress.report(0);
             };
             all.totals = work(listener, progress);
