@@ -70,6 +70,7 @@ void LogbookAccess::readFlights()
         [url = mUrl](Progress&) -> FlightHeads {
             const auto logbook = opened(url);
             auto flights = logbook != nullptr ? logbook->flights() : std::vector<FlightHead>();
+            std::ranges::reverse(flights); // as in a trend also those of one minute
             std::ranges::stable_sort(flights, std::greater(), &FlightHead::start);
             return std::make_shared<const std::vector<FlightHead>>(std::move(flights));
         },

@@ -162,7 +162,7 @@ private Q_SLOTS:
                 entry.head.aircraft = engine;
                 entry.head.flight = QString::number(k);
                 entry.head.startSource = "none";
-                entry.head.stopTime = k < 2 ? 1e300 : 61.0;
+                entry.head.stopTime = k > 0 ? 1e300 : 61.0;
                 entry.recordings.push_back({path("<i>gone.CAN"), 0, 0, 0, 0, {}});
                 for (const QString& name : {QString("P%4 <b>"), QString(200, 'y')}) {
                     KeptStatistics statistics;
