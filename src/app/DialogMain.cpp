@@ -79,8 +79,9 @@ DialogMain::DialogMain(QWidget* parent)
             [this] { chooseProfile(setting("Profile", DefaultProfile)); });
     connect(mSmallWindows, &SmallWindows::flightWanted, this, &DialogMain::openRecordings);
     connect(mSmallWindows, &SmallWindows::referenceWanted, mReference, &ReferenceLoader::load);
-    connect(new LogbookKeeper(mSession, this), &LogbookKeeper::signalMessage, mStatusBar,
-            &DialogStatusBar::sayAlso);
+    const auto* keeper = new LogbookKeeper(mSession, this);
+    connect(keeper, &LogbookKeeper::signalMessage, mStatusBar, &DialogStatusBar::sayAlso);
+    connect(keeper, &LogbookKeeper::signalAdded, mSmallWindows, &SmallWindows::refreshLogbook);
     connect(mSmallWindows, &SmallWindows::allDigitsChanged, &mSession.switches().allDigits,
             &Switch::turn);
     setWindowIcon(QIcon(":/icons/orna.svg"));

@@ -146,6 +146,7 @@ void DialogPreferences::createLogbookFields()
     connect(mAddsOpened, &QCheckBox::toggled, this, [this](bool on) {
         if (!mFilling) {
             LogbookSettings::setAddsOpened(on);
+            Q_EMIT signalLogbookChanged(); // it asks no more
         }
     });
 }
@@ -155,8 +156,12 @@ void DialogPreferences::takeLogbookUrl()
 {
     QString fault;
     try {
+        const QString before = LogbookSettings::url();
         LogbookSettings::setUrl(mLogbookUrl->text());
         mLogbookUrl->setText(LogbookSettings::url());
+        if (LogbookSettings::url() != before) {
+            Q_EMIT signalLogbookChanged();
+        }
     } catch (const LogbookError& error) {
         fault = QString::fromUtf8(error.what());
     }

@@ -32,6 +32,8 @@ Q_SIGNALS:
     void signalProfileFileChanged();
     void signalLanguageChanged();
     void signalAllDigitsChanged(bool on);
+    /// Where flights are kept, or which.
+    void signalLogbookChanged();
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -14,6 +14,7 @@ LogbookKeeper::LogbookKeeper(Session& session, QObject* parent) : QObject(parent
             [this](const AddTotals& totals, const QStringList& damaged) {
                 if (totals.added > 0) {
                     Q_EMIT signalMessage(tr("Added to the logbook."));
+                    Q_EMIT signalAdded();
                 } else if (!damaged.isEmpty()) {
                     Q_EMIT signalMessage(tr("Not added to the logbook: %1").arg(damaged.front()));
                 }

@@ -19,6 +19,8 @@ public:
 Q_SIGNALS:
     /// What the user should know of it.
     void signalMessage(const QString& text);
+    /// There is a flight more in the logbook.
+    void signalAdded();
 
 private:
     void takeFlight();

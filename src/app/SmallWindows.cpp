@@ -70,6 +70,8 @@ void SmallWindows::showPreferences()
                 &SmallWindows::profileFileChanged);
         connect(mPreferences, &DialogPreferences::signalAllDigitsChanged, this,
                 &SmallWindows::allDigitsChanged);
+        connect(mPreferences, &DialogPreferences::signalLogbookChanged, this,
+                &SmallWindows::refreshLogbook);
     }
     present(mPreferences);
 }
@@ -85,6 +87,13 @@ void SmallWindows::showLogbook()
         connect(logbook, &DialogLogbook::referenceWanted, this, &SmallWindows::showWindow);
     }
     present(mLogbook.get());
+}
+
+void SmallWindows::refreshLogbook()
+{
+    if (mLogbook != nullptr && mLogbook->isVisible()) {
+        mLogbook->refresh();
+    }
 }
 
 void SmallWindows::showWindow()

@@ -30,6 +30,8 @@ public:
     /// Shows the window of a command; nothing for another one.
     void show(ActionType command);
     void showPreferences();
+    /// Reads the logbook anew where it is shown.
+    void refreshLogbook();
 
 Q_SIGNALS:
     // The user changed a preference.

@@ -10,10 +10,13 @@
 #include <atomic>
 #include <chrono>
 #include <functional>
+#include <limits>
 #include <memory>
+#include <mutex>
 #include <new>
 #include <optional>
 #include <thread>
+#include <utility>
 
 namespace TARN {
 
@@ -49,9 +52,10 @@ public:
         mWatcher = std::make_unique<QFutureWatcher<void>>();
         mOutcome = std::make_shared<Outcome>();
         QObject::connect(mWatcher.get(), &QFutureWatcherBase::progressValueChanged, mWatcher.get(),
-                         [this](int percent) {
-                             if (mListener) {
-                                 mListener(percent, mWatcher->progressText());
+                         [this](int count) {
+                             if (mListener && count > 0) {
+                                 const auto [percent, task] = mOutcome->told();
+                                 mListener(percent, task);
                              }
                          });
         QObject::connect(mWatcher.get(), &QFutureWatcherBase::finished, mWatcher.get(),
@@ -92,6 +96,21 @@ private:
     {
         std::optional<Result> result; ///< nothing when memory did not suffice
         std::atomic<bool> isComplete = false;
+
+        void tell(int percent, const QString& task)
+        {
+            const std::lock_guard lock(mGuard);
+            mTold = {percent, task};
+        }
+        std::pair<int, QString> told()
+        {
+            const std::lock_guard lock(mGuard);
+            return mTold;
+        }
+
+    private:
+        std::mutex mGuard;
+        std::pair<int, QString> mTold; ///< how far it is
     };
 
     /// The work, handed over through flags of its own: no tool that looks for races sees into the
@@ -112,10 +131,13 @@ private:
         void run() override
         {
             isReady.wait(false);
-            mPromise.setProgressRange(0, 100);
+            // What is told may begin anew; a promise hears nothing of what does not grow.
+            mPromise.setProgressRange(0, std::numeric_limits<int>::max());
+            int count = 0;
             Progress progress(
-                [this](int percent, const QString& task) {
-                    mPromise.setProgressValueAndText(percent, task);
+                [&](int percent, const QString& task) {
+                    mOutcome->tell(percent, task);
+                    mPromise.setProgressValue(++count);
                 },
                 mStop);
             try {

@@ -1,7 +1,9 @@
 #include "logbook/DialogLogbook.h"
 
+#include "base/PlainTip.h"
 #include "base/Property.h"
 #include "logbook/FlightList.h"
+#include "logbook/FlightListModel.h"
 #include "logbook/LogbookSettings.h"
 #include "logbook/MaintenanceDialog.h"
 #include "logbook/TrendPanel.h"
@@ -17,6 +19,25 @@
 #include <QtWidgets/QSplitter>
 
 namespace TARN {
+
+namespace {
+
+/// As many as a tool tip has room for.
+QString listed(const QStringList& lines)
+{
+    constexpr qsizetype Most = 20;
+    return lines.size() > Most ? lines.first(Most).join('\n') + "\n..." : lines.join('\n');
+}
+
+/// Flights of one minute, or without any, differ in the rest.
+QString wordsOf(const FlightHead& flight)
+{
+    return QStringList{dateWords(flight.start), spanWords(flight.duration()),
+                       engineWords(flight.aircraft)}
+        .join(", ");
+}
+
+} // namespace
 
 DialogLogbook::DialogLogbook(Session& session, QWidget* parent)
     : QDialog(parent), mSession(session), mQuestion(new QFrame), mFlights(new FlightList),
@@ -93,20 +114,30 @@ QWidget* DialogLogbook::createButtons()
 void DialogLogbook::connectAccess()
 {
     connect(&mAccess, &LogbookAccess::flightsRead, this, &DialogLogbook::takeFlights);
-    connect(&mAccess, &LogbookAccess::trendsRead, mTrends, &TrendPanel::setTrends);
+    connect(&mAccess, &LogbookAccess::trendsRead, this, [this](const EngineTrends& trends) {
+        if (mFlights->chosen() != nullptr) { // it may have been removed meanwhile
+            mTrends->setTrends(trends);
+        }
+    });
     connect(&mAccess, &LogbookAccess::found, this, &DialogLogbook::takeRecordings);
     connect(&mAccess, &LogbookAccess::changed, &mAccess, &LogbookAccess::readFlights);
     connect(&mAccess, &LogbookAccess::progressed, mAdding, &ActivityBar::setProgress);
     connect(&mAccess, &LogbookAccess::failed, this, [this](const QString& reason) {
-        mAdding->abandon();
-        mFlights->setEmptyText(reason);
+        if (!mAccess.isAdding()) { // it may be another thing that failed
+            mAdding->abandon();
+        }
+        mHasFailed = true;
+        mTrendEngine.reset(); // what is shown may be of another
+        mFlights->setEmptyText(
+            reason + "\n" +
+            tr("F5 tries it again; Extras, Preferences tells which logbook it is."));
         say(reason);
     });
     connect(&mAccess, &LogbookAccess::added, this,
             [this](const AddTotals& totals, const QStringList& damaged) {
                 mAdding->finish();
                 say(addedWords(totals, damaged));
-                mMessage->setToolTip(damaged.join('\n'));
+                mMessage->setToolTip(plainTip(listed(damaged)));
             });
     connect(mAdding, &ActivityBar::cancelled, &mAccess, &LogbookAccess::stopAdding);
 }
@@ -135,7 +166,13 @@ void DialogLogbook::showEvent(QShowEvent* event)
 void DialogLogbook::refresh()
 {
     mQuestion->setVisible(!LogbookSettings::wasAsked());
-    mAccess.setUrl(LogbookSettings::url());
+    const QString url = LogbookSettings::url();
+    const bool isOther = url != mAccess.url();
+    mAccess.setUrl(url);
+    if (isOther) { // nothing is done to a logbook by what another shows
+        showFlights(std::make_shared<const std::vector<FlightHead>>());
+        mFlights->setEmptyText(tr("Reading the logbook..."));
+    }
     mAccess.readFlights();
 }
 
@@ -150,6 +187,14 @@ void DialogLogbook::takeFlights(const FlightHeads& flights)
 {
     mFlights->setEmptyText(tr("The logbook is empty.\n<a href=\"add\">Add a folder</a> of "
                               "recordings; the folders in it are looked through too."));
+    showFlights(flights);
+    if (std::exchange(mHasFailed, false)) {
+        say({});
+    }
+}
+
+void DialogLogbook::showFlights(const FlightHeads& flights)
+{
     mFlights->setFlights(flights);
     readTrends();
 }
@@ -177,6 +222,10 @@ void DialogLogbook::readTrends()
 
 void DialogLogbook::addFolder()
 {
+    if (mAccess.isAdding()) {
+        say(tr("Flights are being added already. Wait for the end, or cancel it."));
+        return;
+    }
     if (!mSession.profile()->isLoaded()) {
         say(tr("There is no profile by which recordings could be understood. Choose one under "
                "Extras, Preferences."));
@@ -210,8 +259,9 @@ void DialogLogbook::removeFlight()
         return;
     }
     QMessageBox box(QMessageBox::Question, tr("Logbook"),
-                    tr("Remove the flight of %1 from the logbook?").arg(dateWords(chosen->start)),
+                    tr("Remove the flight of %1 from the logbook?").arg(wordsOf(*chosen)),
                     QMessageBox::NoButton, this);
+    box.setTextFormat(Qt::PlainText);
     box.setInformativeText(tr("Its recordings stay where they are and can be added again."));
     const auto* remove = box.addButton(tr("Remove"), QMessageBox::AcceptRole);
     box.addButton(tr("Cancel"), QMessageBox::RejectRole);
@@ -249,6 +299,7 @@ void DialogLogbook::takeRecordings(const FlightHead& head, const FoundRecordings
 void DialogLogbook::askFolder(const FlightHead& head, const QString& reason)
 {
     QMessageBox box(QMessageBox::Question, tr("Logbook"), reason, QMessageBox::NoButton, this);
+    box.setTextFormat(Qt::PlainText);
     box.setInformativeText(tr("Where are the recordings of the flight of %1? The folders in the "
                               "one that you choose are looked through too.")
                                .arg(dateWords(head.start)));

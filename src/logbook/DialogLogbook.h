@@ -25,7 +25,7 @@ public:
     /// Folders are added as the session's profile understands them.
     explicit DialogLogbook(Session& session, QWidget* parent = nullptr);
 
-    /// Reads the logbook that the settings name; what is shown stays until then.
+    /// Reads the logbook that the settings name; what is shown of it stays until then.
     void refresh();
 
 Q_SIGNALS:
@@ -43,6 +43,7 @@ private:
     void connectViews();
     void answer(bool addsOpened);
     void takeFlights(const FlightHeads& flights);
+    void showFlights(const FlightHeads& flights);
     void showChosen();
     void readTrends();
     void addFolder();
@@ -56,6 +57,7 @@ private:
     Session& mSession;
     LogbookAccess mAccess;
     bool mAsReference = false;           ///< what is being looked for
+    bool mHasFailed = false;             ///< which is said until it can be read
     std::optional<QString> mTrendEngine; ///< that trends were asked of
     QFrame* mQuestion;
     FlightList* mFlights;

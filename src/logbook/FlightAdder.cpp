@@ -234,7 +234,7 @@ AddTotals addFlights(const QStringList& folders, const QString& url,
     }
     Logbook(url, SqlConnection::Create); // what is wrong with it is told before all is looked at
     const unsigned threads = jobs > 0 ? jobs : std::max(1U, std::thread::hardware_concurrency());
-    return Adding(flightsIn(foldersBelow(folders), {}, progress), url, profile, listener,
+    return Adding(flightsIn(foldersBelow(folders, progress), {}, progress), url, profile, listener,
                   progress.stopToken())
         .run(threads);
 }

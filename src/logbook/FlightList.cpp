@@ -16,6 +16,12 @@
 
 namespace TARN {
 
+namespace {
+
+constexpr int WidestEngine = 36; // characters; serial numbers come from anywhere
+
+} // namespace
+
 FlightList::FlightList(QWidget* parent)
     : QWidget(parent), mEngine(new QComboBox), mText(new QLineEdit), mTable(new DataTableView)
 {
@@ -23,6 +29,7 @@ FlightList::FlightList(QWidget* parent)
     mEngine->setToolTip(tr("Show the flights of this engine only"));
     mEngine->setAccessibleName(tr("Engine"));
     mEngine->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    mEngine->setMaximumWidth(WidestEngine * mEngine->fontMetrics().averageCharWidth());
     mText->setObjectName("filter");
     mText->setPlaceholderText(tr("Filter (Ctrl+F)"));
     mText->setToolTip(tr("Show only flights that hold this text"));
@@ -48,7 +55,12 @@ FlightList::FlightList(QWidget* parent)
     connect(mEngine, &QComboBox::activated, this, &FlightList::applyFilter);
     connect(mText, &QLineEdit::textChanged, this, &FlightList::applyFilter);
     connect(mText, &QLineEdit::returnPressed, mTable, qOverload<>(&QWidget::setFocus));
-    connect(mTable, &DataTableView::rowPicked, this, &FlightList::chooseRow);
+    connect(mTable->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        // Also what the right button selects, which commands are then asked of.
+        for (const QModelIndex& index : mTable->selectionModel()->selectedRows()) {
+            chooseRow(index.row());
+        }
+    });
     connect(mTable, &DataTableView::signalLink, this, &FlightList::signalLink);
     connect(mTable->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
             [this](int column, Qt::SortOrder order) {
@@ -64,9 +76,9 @@ FlightList::FlightList(QWidget* parent)
 
 void FlightList::createCommands()
 {
-    const auto add = [this](const QString& text, const QKeySequence& key, auto&& run) {
+    const auto add = [this](const QString& text, const QList<QKeySequence>& keys, auto&& run) {
         auto* action = new QAction(text, mTable);
-        action->setShortcut(key);
+        action->setShortcuts(keys);
         action->setShortcutContext(Qt::WidgetShortcut);
         connect(action, &QAction::triggered, this, [this, run] {
             if (!mChosen.isEmpty()) {
@@ -75,10 +87,11 @@ void FlightList::createCommands()
         });
         mTable->addAction(action);
     };
-    add(tr("&Open"), Qt::Key_Return, [this] { Q_EMIT flightWanted(mChosen, false); });
-    add(tr("Open as &Reference"), Qt::SHIFT | Qt::Key_Return,
+    add(tr("&Open"), {Qt::Key_Return, Qt::Key_Enter},
+        [this] { Q_EMIT flightWanted(mChosen, false); });
+    add(tr("Open as &Reference"), {Qt::SHIFT | Qt::Key_Return, Qt::SHIFT | Qt::Key_Enter},
         [this] { Q_EMIT flightWanted(mChosen, true); });
-    add(tr("&Remove from the Logbook..."), Qt::Key_Delete, [this] { Q_EMIT removeWanted(); });
+    add(tr("&Remove from the Logbook..."), {Qt::Key_Delete}, [this] { Q_EMIT removeWanted(); });
 }
 
 void FlightList::setEmptyText(const QString& text)
@@ -89,9 +102,11 @@ void FlightList::setEmptyText(const QString& text)
 
 void FlightList::setFlights(std::shared_ptr<const std::vector<FlightHead>> flights)
 {
+    const int before = mModel.rowOf(mChosen);
     mModel.setFlights(std::move(flights));
     showEngines();
-    applyFilter();
+    filter();
+    chooseNear(before);
 }
 
 /// The one that was chosen stays, where it still has a flight.
@@ -113,6 +128,12 @@ void FlightList::showEngines()
 
 void FlightList::applyFilter()
 {
+    filter();
+    chooseNear(0);
+}
+
+void FlightList::filter()
+{
     const QVariant engine = mEngine->currentData();
     mModel.setFilter(engine.isValid() ? std::optional(engine.toString()) : std::nullopt,
                      mText->text());
@@ -120,8 +141,14 @@ void FlightList::applyFilter()
         mModel.flights().empty()
             ? mEmptyText
             : tr("No flight of %1 holds \"%2\".").arg(mModel.flights().size()).arg(mText->text()));
+}
+
+/// The flight that was chosen stays; for one that is gone the one that took its row is.
+void FlightList::chooseNear(int row)
+{
+    const int last = mModel.rowCount() - 1;
     choose(mModel.rowOf(mChosen) >= 0 ? mChosen
-           : mModel.rowCount() > 0    ? mModel.flight(0).flight
+           : last >= 0                ? mModel.flight(std::clamp(row, 0, last)).flight
                                       : QString());
 }
 
@@ -136,8 +163,10 @@ void FlightList::choose(const QString& flight)
 
 void FlightList::chooseRow(int row)
 {
-    mChosen = mModel.flight(row).flight;
-    Q_EMIT chosenChanged();
+    if (mChosen != mModel.flight(row).flight) {
+        mChosen = mModel.flight(row).flight;
+        Q_EMIT chosenChanged();
+    }
 }
 
 const FlightHead* FlightList::find(const QString& flight) const

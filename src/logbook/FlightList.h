@@ -19,7 +19,8 @@ class FlightList : public QWidget
 public:
     explicit FlightList(QWidget* parent = nullptr);
 
-    /// The flight that was chosen stays so where it is still there, otherwise the latest is.
+    /// The flight that was chosen stays so where it is still there, otherwise the one that took its
+    /// row is.
     void setFlights(std::shared_ptr<const std::vector<FlightHead>> flights);
     /// Why there are none; see EmptyPlace.
     void setEmptyText(const QString& text);
@@ -43,6 +44,8 @@ Q_SIGNALS:
 private:
     void createCommands();
     void applyFilter();
+    void filter();
+    void chooseNear(int row);
     void showEngines();
     void chooseRow(int row);
 

@@ -1,6 +1,7 @@
 #include "logbook/FlightListModel.h"
 
 #include "base/CellColor.h"
+#include "base/PlainTip.h"
 #include "faults/EventWords.h"
 
 #include <QtCore/QDateTime>
@@ -38,16 +39,6 @@ double keyOf(const FlightHead& flight, int column)
     }
 }
 
-/// "1:02:33"; flights may last longer than a day.
-QString spanText(double seconds)
-{
-    const auto all = static_cast<qint64>(std::max(0.0, seconds));
-    return QString("%1:%2:%3")
-        .arg(all / 3600)
-        .arg(all / 60 % 60, 2, 10, QChar('0'))
-        .arg(all % 60, 2, 10, QChar('0'));
-}
-
 QColor colorOf(const FlightHead& flight)
 {
     return flight.worst == StateLimit     ? LimitColor
@@ -66,6 +57,16 @@ QString dateWords(const std::optional<qint64>& seconds)
 {
     return seconds ? QDateTime::fromSecsSinceEpoch(*seconds, Qt::UTC).toString("yyyy-MM-dd hh:mm")
                    : QString("-");
+}
+
+QString spanWords(double seconds)
+{
+    constexpr double Longest = 1e9; // of what a damaged clock tells
+    const auto all = static_cast<qint64>(seconds > 0.0 ? std::min(seconds, Longest) : 0.0);
+    return QString("%1:%2:%3")
+        .arg(all / 3600)
+        .arg(all / 60 % 60, 2, 10, QChar('0'))
+        .arg(all % 60, 2, 10, QChar('0'));
 }
 
 QString engineWords(const QString& aircraft)
@@ -147,7 +148,7 @@ QString FlightListModel::textOf(const FlightHead& flight, int column) const
     case StartColumn:
         return dateWords(flight.start);
     case DurationColumn:
-        return spanText(flight.duration());
+        return spanWords(flight.duration());
     case EngineColumn:
         return engineWords(flight.aircraft);
     case WorstColumn:
@@ -170,10 +171,11 @@ QString FlightListModel::toolTipOf(const FlightHead& flight) const
     const QString clock = flight.startSource == "data"     ? tr("by the UTC in its data")
                           : flight.startSource == "header" ? tr("by its header, in whatever zone")
                                                            : tr("nothing tells when it was");
-    return tr("Flight %1, %2.\nEngine %3 %4, profile %5.\nDouble-click: open it; with Shift: open "
-              "it as the reference.")
-        .arg(flight.flight.left(12), clock, engineWords(flight.aircraft), flight.engineType,
-             flight.profile);
+    return plainTip(
+        tr("Flight %1, %2.\nEngine %3 %4, profile %5.\nDouble-click: open it; with Shift: open "
+           "it as the reference.")
+            .arg(flight.flight.left(12), clock, engineWords(flight.aircraft), flight.engineType,
+                 flight.profile));
 }
 
 QVariant FlightListModel::data(const QModelIndex& index, int role) const

@@ -70,6 +70,9 @@ private:
 /// "2026-11-21 12:00", "-" without one; \p seconds since 1970.
 QString dateWords(const std::optional<qint64>& seconds);
 
+/// "1:02:33"; flights may last longer than a day.
+QString spanWords(double seconds);
+
 /// A serial number as it is shown, which may be empty.
 QString engineWords(const QString& aircraft);
 

@@ -5,7 +5,7 @@
 
 namespace TARN {
 
-std::set<QString> foldersBelow(const QStringList& folders)
+std::set<QString> foldersBelow(const QStringList& folders, const Progress& progress)
 {
     std::set<QString> all;
     for (const QString& folder : folders) {
@@ -13,7 +13,7 @@ std::set<QString> foldersBelow(const QStringList& folders)
         all.insert(top);
         for (QDirIterator below(top, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks,
                                 QDirIterator::Subdirectories);
-             below.hasNext();) {
+             !progress.stopRequested() && below.hasNext();) {
             all.insert(below.next());
         }
     }

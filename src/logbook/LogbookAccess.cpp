@@ -30,6 +30,9 @@ LogbookAccess::LogbookAccess(QObject* parent) : QObject(parent)
 
 void LogbookAccess::setUrl(const QString& url)
 {
+    if (url == mUrl) {
+        return;
+    }
     mReading.cancel();
     mTrends.cancel();
     mFinding.cancel();
@@ -67,6 +70,7 @@ void LogbookAccess::readFlights()
         [url = mUrl](Progress&) -> FlightHeads {
             const auto logbook = opened(url);
             auto flights = logbook != nullptr ? logbook->flights() : std::vector<FlightHead>();
+            std::ranges::reverse(flights); // as in a trend also those of one minute
             std::ranges::stable_sort(flights, std::greater(), &FlightHead::start);
             return std::make_shared<const std::vector<FlightHead>>(std::move(flights));
         },
@@ -117,7 +121,8 @@ void LogbookAccess::add(std::function<AddTotals(const AddListener&, Progress&)> 
 {
     ask<Added>(
         mAdding,
-        [work = std::move(work), words = tr("%1 of %2 flights")](Progress& progress) {
+        [work = std::move(work), words = tr("%1 of %2 flights"),
+         again = tr("Trying again: %1")](Progress& progress) {
             Added all;
             // The threads that add take turns, and this one waits for them.
             AddListener listener;
@@ -129,7 +134,7 @@ void LogbookAccess::add(std::function<AddTotals(const AddListener&, Progress&)> 
                 progress.report(soFar.done, soFar.all);
             };
             listener.connectionLost = [&](const QString& reason) {
-                progress.begin(reason);
+                progress.begin(again.arg(reason));
                 progress.report(0);
             };
             all.totals = work(listener, progress);

@@ -40,7 +40,7 @@ public:
     /// See findRecordings.
     void find(const FlightHead& head, const QString& folder);
 
-    // What changes it, one after the other.
+    // What changes it. Whoever adds waits for the end before they add more.
 
     void addFolders(const QStringList& folders, std::shared_ptr<const Profile> profile);
     void addFlightsOf(const QStringList& recordings, std::shared_ptr<const Profile> profile);

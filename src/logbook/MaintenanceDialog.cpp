@@ -25,13 +25,17 @@ struct MaintenanceTexts
 
 std::optional<MaintenanceMark> askMaintenance(const FlightHead& flight, QWidget* parent)
 {
+    constexpr int TextWidth = 320; // pixels
     QDialog dialog(parent);
     dialog.setWindowTitle(MaintenanceTexts::tr("Maintenance"));
     auto* text = new QLabel(
         MaintenanceTexts::tr("What was done to engine %1? Trends compare flights only with "
                              "those since the last note.")
             .arg(engineWords(flight.aircraft)));
+    text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
+    text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // whatever the name's length
+    text->setMinimumWidth(TextWidth);
     auto* date = new QDateTimeEdit;
     date->setTimeSpec(Qt::UTC);
     date->setDateTime(QDateTime::fromSecsSinceEpoch(

@@ -36,7 +36,7 @@ FoundRecordings findRecordings(const FlightEntry& entry, const QString& folder, 
     std::ranges::transform(entry.recordings, std::back_inserter(kept), &KeptRecording::path);
     std::vector<QStringList> places = {kept};
     if (!folder.isEmpty()) {
-        for (const QString& below : foldersBelow({folder})) {
+        for (const QString& below : foldersBelow({folder}, progress)) {
             QStringList& files = places.emplace_back();
             std::ranges::transform(kept, std::back_inserter(files),
                                    [&](const QString& path) { return below + "/" + nameOf(path); });
@@ -44,11 +44,11 @@ FoundRecordings findRecordings(const FlightEntry& entry, const QString& folder, 
     }
     bool isOther = false;
     for (const QStringList& files : places) {
+        if (progress.stopRequested()) {
+            return {};
+        }
         if (areThere(files)) {
             const auto hash = contentHash({files.begin(), files.end()}, progress);
-            if (progress.stopRequested()) {
-                return {};
-            }
             if (hash == entry.head.flight) {
                 return {files, {}};
             }

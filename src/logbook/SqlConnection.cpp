@@ -69,6 +69,15 @@ QSqlDatabase newDatabase(const QString& driver, const QString& name)
     return QSqlDatabase::addDatabase(driver, name);
 }
 
+/// Who says nothing must not be waited for without end.
+QString serverOptions(const QString& wanted)
+{
+    const QString timeout = "connect_timeout=10"; // seconds
+    return wanted.contains("connect_timeout=") ? wanted
+           : wanted.isEmpty()                  ? timeout
+                                               : wanted + ";" + timeout;
+}
+
 void createFolderOf(const QString& file)
 {
     QDir().mkpath(QFileInfo(file).path());
@@ -113,7 +122,8 @@ void SqlConnection::open()
     database.setPort(mPlace.port);
     database.setUserName(mPlace.user);
     database.setPassword(mPlace.password);
-    database.setConnectOptions(mPlace.isFile() ? "QSQLITE_BUSY_TIMEOUT=10000" : mPlace.options);
+    database.setConnectOptions(mPlace.isFile() ? "QSQLITE_BUSY_TIMEOUT=10000"
+                                               : serverOptions(mPlace.options));
     if (!database.open()) {
         fail(database.lastError());
     }

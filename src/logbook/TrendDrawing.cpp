@@ -95,12 +95,15 @@ void TrendDrawing::drawDates(QPainter& painter) const
     const QRectF& plot = mLayout.plot();
     const QFontMetricsF metrics(painter.font());
     painter.setPen(mColors.text);
+    double end = plot.right(); // of the room that is left
     for (std::size_t k = mTrend.points.size(); k > 0; k -= std::min(k, mLayout.dateStep())) {
         const QString date = dateWords(mTrend.points[k - 1].start).left(10);
         const double width = metrics.horizontalAdvance(date);
         const double x = mLayout.xOf(k - 1);
-        const double left = std::min(x - width / 2.0, plot.right() - width);
-        if (left >= 0.0) {
+        const bool isLast = k == mTrend.points.size(); // it may stand beside its place
+        const double left = isLast ? std::min(x - width / 2.0, end - width) : x - width / 2.0;
+        if (left >= 0.0 && left + width <= end) {
+            end = left - metrics.averageCharWidth();
             painter.drawLine(QPointF(x, plot.bottom()), QPointF(x, plot.bottom() + 4.0));
             painter.drawText(QPointF(left, plot.bottom() + 5.0 + metrics.ascent()), date);
         }
@@ -200,17 +203,19 @@ void TrendDrawing::drawFlights(QPainter& painter) const
     painter.setPen(QPen(mColors.back, 1.0)); // sets them apart where they lie close
     const double width = mLayout.plot().width() / static_cast<double>(mTrend.points.size());
     const double radius = std::clamp(width, 1.5, DotRadius);
-    for (std::size_t k = 0; k < mTrend.points.size(); ++k) {
-        const TrendPoint& point = mTrend.points[k];
-        if (!point.value) {
-            continue;
-        }
-        const QPointF place(mLayout.xOf(k), mLayout.yOf(*point.value));
-        painter.setBrush(point.isMarked ? mColors.marked : mColors.flight);
-        if (point.isMarked) {
-            painter.drawPolygon(diamond(place));
-        } else {
-            painter.drawEllipse(place, radius, radius);
+    for (const bool isMarked : {false, true}) { // these must not be hidden by others
+        painter.setBrush(isMarked ? mColors.marked : mColors.flight);
+        for (std::size_t k = 0; k < mTrend.points.size(); ++k) {
+            const TrendPoint& point = mTrend.points[k];
+            if (!point.value || point.isMarked != isMarked) {
+                continue;
+            }
+            const QPointF place(mLayout.xOf(k), mLayout.yOf(*point.value));
+            if (isMarked) {
+                painter.drawPolygon(diamond(place));
+            } else {
+                painter.drawEllipse(place, radius, radius);
+            }
         }
     }
 }

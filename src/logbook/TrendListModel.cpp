@@ -50,9 +50,12 @@ QString awayText(const std::optional<double>& sigmas)
     if (!sigmas) {
         return "---";
     }
+    constexpr double Long = 1e5; // of what is nearly always the same
+    const double away = std::fabs(*sigmas);
     const QString sign = *sigmas > 0.0 ? "+" : *sigmas < 0.0 ? "-" : "";
-    return sign + (std::isinf(*sigmas) ? QString(QChar(0x221E))
-                                       : QString::number(std::fabs(*sigmas), 'f', 1));
+    return sign + (std::isinf(away) ? QString(QChar(0x221E))
+                   : away < Long    ? QString::number(away, 'f', 1)
+                                    : QString::number(away, 'g', 2));
 }
 
 } // namespace

@@ -53,7 +53,13 @@ QWidget* TrendPanel::createList()
     mFilter->setToolTip(tr("Show only parameters that hold this text"));
     mFilter->setAccessibleName(tr("Filter of the parameters"));
     mFilter->setClearButtonEnabled(true);
-    mSummary->setWordWrap(true);
+    mSummary->setObjectName("trendSummary");
+    for (QLabel* label : {mSummary, mTitle}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        // A name that can't be broken must not widen the window.
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
     mTable->setObjectName("parameterTrends");
     mTable->setAccessibleName(tr("Parameters"));
     mTable->setModel(&mModel);
@@ -79,7 +85,7 @@ QWidget* TrendPanel::createList()
     });
     connect(mTable, &DataTableView::rowPicked, this, [this](int row) {
         mParameter = mModel.trend(row).fullName();
-        showParameter(row);
+        showTrend(row); // the list stays under the mouse
     });
     connect(mTable->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
             [this](int column, Qt::SortOrder order) {
@@ -92,8 +98,6 @@ QWidget* TrendPanel::createList()
 QWidget* TrendPanel::createPicture()
 {
     mTitle->setObjectName("trendTitle");
-    mTitle->setTextFormat(Qt::PlainText);
-    mTitle->setWordWrap(true);
     auto* picture = new QWidget;
     auto* layout = new QVBoxLayout(picture);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -110,6 +114,7 @@ Figure TrendPanel::figure() const
 void TrendPanel::clear()
 {
     setTrends({{}, figure(), {}, {}});
+    mTable->setEmptyText({}); // nothing was looked for
 }
 
 /// The parameter that the user chose stays; without one the first of the list is shown.
@@ -135,7 +140,7 @@ QString TrendPanel::whyEmpty() const
 
 QString TrendPanel::summary() const
 {
-    if (mModel.rowCount() == 0) {
+    if (mModel.trends().empty()) {
         return {};
     }
     const int marked = mModel.markedNow();
@@ -149,12 +154,16 @@ QString TrendPanel::summary() const
             .arg(engine);
     }
     return tr("Engine %1: %2 of %3 parameters leave their band in their latest flight.")
-        .arg(engine)
-        .arg(marked)
-        .arg(mModel.trends().size());
+        .arg(engine, QString::number(marked), QString::number(mModel.trends().size()));
 }
 
 void TrendPanel::showParameter(int row)
+{
+    mTable->showRow(row);
+    showTrend(row);
+}
+
+void TrendPanel::showTrend(int row)
 {
     if (row >= mModel.rowCount()) {
         mTrend->setTrend({}, {});
@@ -162,16 +171,14 @@ void TrendPanel::showParameter(int row)
         return;
     }
     const ParameterTrend& trend = mModel.trend(row);
-    mTable->showRow(row);
     mTrend->setTrend(trend, mNotes);
     const auto marked = std::ranges::count(trend.points, true, &TrendPoint::isMarked);
     const auto known = std::ranges::count_if(
         trend.points, [](const TrendPoint& point) { return point.value.has_value(); });
     const QString unit = trend.unit.isEmpty() ? QString() : " [" + trend.unit + "]";
     mTitle->setText(tr("%1%2, %3: %4 of %5 flights leave the band")
-                        .arg(trend.fullName(), unit, mFigure->currentText())
-                        .arg(marked)
-                        .arg(known));
+                        .arg(trend.fullName(), unit, mFigure->currentText(),
+                             QString::number(marked), QString::number(known)));
 }
 
 void TrendPanel::chooseFlight(const QString& flight)

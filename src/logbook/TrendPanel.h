@@ -39,6 +39,7 @@ private:
     QWidget* createList();
     QWidget* createPicture();
     void showParameter(int row);
+    void showTrend(int row);
     QString summary() const;
     QString whyEmpty() const;
 

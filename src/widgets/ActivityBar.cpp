@@ -1,6 +1,7 @@
 #include "widgets/ActivityBar.h"
 
 #include "base/CountText.h"
+#include "base/PlainTip.h"
 
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -13,6 +14,7 @@ ActivityBar::ActivityBar(const QString& cancelTip, QWidget* parent)
     : QWidget(parent), mLabel(new QLabel), mProgress(new QProgressBar), mCancel(new QToolButton)
 {
     constexpr int ProgressWidth = 160;
+    mLabel->setTextFormat(Qt::PlainText);
     mProgress->setMaximumWidth(ProgressWidth);
     mProgress->setAccessibleName(tr("Progress"));
     mCancel->setText(tr("Cancel"));
@@ -62,7 +64,7 @@ void ActivityBar::showText(const QString& text, const QString& remark)
     constexpr int Widest = 220; // pixels
     const QString shown = fontMetrics().elidedText(text, Qt::ElideMiddle, Widest);
     mLabel->setText(shown + remark);
-    mLabel->setToolTip(shown == text ? QString() : text);
+    mLabel->setToolTip(shown == text ? QString() : plainTip(text));
 }
 
 /// How fast it is, and how long it will take once that can be told.

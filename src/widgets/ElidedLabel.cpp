@@ -1,5 +1,7 @@
 #include "widgets/ElidedLabel.h"
 
+#include "base/PlainTip.h"
+
 namespace TARN {
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent)
@@ -30,7 +32,7 @@ void ElidedLabel::elide()
 {
     const QString shown = fontMetrics().elidedText(mText, Qt::ElideMiddle, width());
     setText(shown);
-    setToolTip(shown == mText ? QString() : mText);
+    setToolTip(shown == mText ? QString() : plainTip(mText));
 }
 
 } // namespace TARN

@@ -1,5 +1,7 @@
 #include "widgets/EmptyPlace.h"
 
+#include <QtCore/QRegularExpression>
+
 namespace TARN {
 
 EmptyPlace::EmptyPlace(QWidget* view) : QLabel(view)
@@ -35,10 +37,12 @@ void EmptyPlace::layText()
         return;
     }
     setTextFormat(Qt::RichText);
+    static const QRegularExpression Link("&lt;a href=&quot;(\\w+)&quot;&gt;(.*?)&lt;/a&gt;");
     const QString color = palette().color(QPalette::Link).name();
-    QString rich = mText;
+    QString rich = mText.toHtmlEscaped(); // names that it holds may look like markup
     QLabel::setText(
-        rich.replace('\n', "<br>").replace("<a ", QString("<a style=\"color:%1\" ").arg(color)));
+        rich.replace('\n', "<br>")
+            .replace(Link, QString("<a style=\"color:%1\" href=\"\\1\">\\2</a>").arg(color)));
 }
 
 void EmptyPlace::setTextColor(const QColor& color)

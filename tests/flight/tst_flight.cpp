@@ -250,6 +250,36 @@ private Q_SLOTS:
         QTRY_COMPARE(pendingWork(), 0);
     }
 
+    /// Work that has several parts counts each of them from its beginning.
+    void jobOfSeveralParts()
+    {
+        QStringList heard;
+        std::atomic<int> count = 0;
+        Job<int> job;
+        job.setListener([&](int percent, const QString& task) {
+            heard += QString("%1 %2").arg(task).arg(percent);
+            ++count;
+        });
+        bool isDone = false;
+        job.start(
+            [&](Progress& progress) {
+                using namespace std::chrono_literals;
+                for (const auto& [task, percent] : {std::pair("a", 90), {"b", 0}, {"b", 30}}) {
+                    const int before = count;
+                    std::this_thread::sleep_for(50ms); // they are told 25 times a second at most
+                    progress.begin(task);
+                    progress.report(percent);
+                    while (count == before && !progress.stopRequested()) {
+                        std::this_thread::yield();
+                    }
+                }
+                return 0;
+            },
+            [&](int) { isDone = true; });
+        QTRY_VERIFY(isDone);
+        QCOMPARE(heard, QStringList({"a 90", "b 0", "b 30"}));
+    }
+
     void jobThatEndsOtherwise()
     {
         QStringList heard;

@@ -5,6 +5,7 @@
 #include "logbook/Logbook.h"
 #include "logbook/TrendLayout.h"
 #include "logbook/WidgetTrend.h"
+#include "widgets/EmptyPlace.h"
 
 using namespace TARN;
 
@@ -122,7 +123,95 @@ private Q_SLOTS:
         logbook().close();
         show();
         QTRY_VERIFY2(message().contains("127.0.0.1"), qPrintable(message()));
-        QCOMPARE(flights()->model()->rowCount(), 1); // what was shown stays
+        // Nobody takes what another logbook held for what is in this one.
+        QCOMPARE(flights()->model()->rowCount(), 0);
+        QVERIFY(flights()->findChild<EmptyPlace*>()->text().contains("127.0.0.1"));
+        url->clear();
+        Q_EMIT url->editingFinished();
+        QTRY_COMPARE(flights()->model()->rowCount(), 1);
+        QCOMPARE(message(), "");
+    }
+
+    /// What becomes part of it elsewhere is shown, and is not added twice at once.
+    void followsWhatIsAdded()
+    {
+        start();
+        makeFleet(2);
+        show();
+        press("question", "Yes, Add Them");
+        open({0});
+        QCOMPARE(flights()->model()->rowCount(), 1);
+        answers().files = {path("fleet"), path("card")};
+        QTest::mouseClick(in<QPushButton>("addFolder"), Qt::LeftButton);
+        QTest::mouseClick(in<QPushButton>("addFolder"), Qt::LeftButton);
+        QVERIFY2(message().startsWith("Flights are being added"), qPrintable(message()));
+        QCOMPARE(answers().files.size(), 1);
+        settle();
+        QVERIFY2(message().startsWith("Added: 2, known already: 0"), qPrintable(message()));
+        QCOMPARE(flights()->model()->rowCount(), 3);
+    }
+
+    /// Whatever engines and parameters are called.
+    void names()
+    {
+        const QString engine = "%2 <b>E</b> '\"" + QString(300, 'x');
+        {
+            Logbook logbook("", SqlConnection::Create);
+            for (int k = 0; k < 3; ++k) {
+                FlightEntry entry;
+                entry.head.aircraft = engine;
+                entry.head.flight = QString::number(k);
+                entry.head.startSource = "none";
+                entry.head.stopTime = k > 0 ? 1e300 : 61.0;
+                entry.recordings.push_back({path("<i>gone.CAN"), 0, 0, 0, 0, {}});
+                for (const QString& name : {QString("P%4 <b>"), QString(200, 'y')}) {
+                    KeptStatistics statistics;
+                    statistics.isSteady = true;
+                    statistics.place = static_cast<int>(entry.statistics.size());
+                    statistics.device = "D%5";
+                    statistics.parameter = name;
+                    statistics.unit = "%";
+                    statistics.found.samples = 2;
+                    statistics.found.timeMean = 5.0;
+                    entry.statistics.push_back(statistics);
+                }
+                QVERIFY(logbook.add(entry));
+            }
+        }
+        start();
+        show();
+        const int width = logbook().width();
+        QCOMPARE(cell(0, FlightListModel::DurationColumn), "277777:46:40");
+        QCOMPARE(cell(2, FlightListModel::DurationColumn), "0:01:01");
+        for (const char* name : {"trendSummary", "trendTitle", "message"}) {
+            QCOMPARE(in<QLabel>(name)->textFormat(), Qt::PlainText);
+        }
+        QVERIFY2(in<QLabel>("trendSummary")->text().startsWith("Engine " + engine + ":"),
+                 qPrintable(in<QLabel>("trendSummary")->text()));
+        QCOMPARE(in<QLabel>("trendTitle")->text(),
+                 "D%5/P%4 <b> [%], Time mean when steady: 0 of 3 flights leave the band");
+        QTest::keyClick(in<QTableView>("parameterTrends"), Qt::Key_Down);
+        QCOMPARE(logbook().width(), width);
+        QVERIFY(in<QComboBox>("engine")->width() < width / 2);
+        in<QLineEdit>("filter")->setText("<a href=\"add\">x</a> <img src='x'>");
+        QVERIFY(flights()->findChild<EmptyPlace*>()->QLabel::text().contains("&lt;img"));
+        in<QLineEdit>("filter")->clear();
+
+        // Another button of the mouse chooses, too.
+        answers().buttons = {"Cancel", "Cancel", "Remove"};
+        const auto place = [](int row) {
+            return flights()->visualRect(flights()->model()->index(row, 0)).center();
+        };
+        QTest::mouseClick(flights()->viewport(), Qt::RightButton, {}, place(2));
+        QTest::keyClick(flights(), Qt::Key_Enter);
+        settle();
+        QVERIFY2(answers().said.value(0).contains("The files <i>gone"),
+                 qPrintable(answers().said.join('\n')));
+        logbook().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&logbook()));
+        QTest::keyClick(flights(), Qt::Key_Delete);
+        QVERIFY2(answers().said.last().contains("-, 0:01:01, " + engine),
+                 qPrintable(answers().said.last()));
     }
 
     void goesToFlights()
@@ -205,6 +294,11 @@ private Q_SLOTS:
         removeFirst();
         QCOMPARE(flights()->model()->rowCount(), 1);
         QCOMPARE(cell(0, 0), "2026-05-23 07:12");
+        QCOMPARE(rowOf(flights()), 0);
+        answers().buttons = {"Remove"};
+        removeFirst();
+        QCOMPARE(flights()->model()->rowCount(), 0);
+        QCOMPARE(in<QLabel>("trendTitle")->text(), "");
     }
 };
 

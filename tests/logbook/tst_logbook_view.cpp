@@ -143,8 +143,8 @@ private Q_SLOTS:
         odd.points.back().sigma = 0.0; // all the others are the same
         model.setTrends({trend("quiet", "0 1 -0.5"), trend("back", "0 9! 0.7"),
                          trend("none", "- -"), odd, trend("drift", "0 1 -2! -"),
-                         trend("hot", "0 1 6!")});
-        QCOMPARE(names(model), "odd hot drift back quiet none");
+                         trend("hot", "0 1 6!"), trend("far", "0 -1.2e100")});
+        QCOMPARE(names(model), "odd hot drift far back quiet none");
         QCOMPARE(model.markedNow(), 3);
         const auto cell = [&](const char* name, int column) {
             return model.index(model.rowOf(QString("D/%1").arg(name)), column).data().toString();
@@ -154,8 +154,9 @@ private Q_SLOTS:
         QCOMPARE(cell("none", TrendListModel::AwayColumn), "---");
         QCOMPARE(cell("back", TrendListModel::MarkedColumn), "1");
         QCOMPARE(cell("hot", TrendListModel::LatestColumn), "22");
+        QCOMPARE(cell("far", TrendListModel::AwayColumn), "-1.2e+100");
         model.sort(TrendListModel::LatestColumn, Qt::AscendingOrder);
-        QCOMPARE(names(model), "none drift quiet back odd hot");
+        QCOMPARE(names(model), "none far drift quiet back odd hot");
         model.setFilter("D/H");
         QCOMPARE(names(model), "hot");
     }
