@@ -2214,6 +2214,14 @@ Všechny ostatní pohledy fungují; graf zpřístupní ovladač grafiky s OpenGL
         <source>Find Recordings</source>
         <translation>Najít záznamy</translation>
     </message>
+    <message>
+        <source>F5 tries it again; Extras, Preferences tells which logbook it is.</source>
+        <translation>F5 to zkusí znovu; o který deník jde, je uvedeno v nabídce Nástroje, Předvolby.</translation>
+    </message>
+    <message>
+        <source>Flights are being added already. Wait for the end, or cancel it.</source>
+        <translation>Lety se již přidávají. Počkejte na konec, nebo to zrušte.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogMain</name>
@@ -2919,6 +2927,10 @@ Dvojité kliknutí: otevřít; s klávesou Shift: otevřít jako referenci.</tra
     <message>
         <source>%1 of %2 flights</source>
         <translation>%1 z %2 letů</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>Další pokus: %1</translation>
     </message>
 </context>
 <context>

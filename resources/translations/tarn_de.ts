@@ -2214,6 +2214,14 @@ Fügen Sie einen &lt;a href=&quot;add&quot;&gt;Ordner mit Aufzeichnungen&lt;/a&g
         <source>Find Recordings</source>
         <translation>Aufzeichnungen suchen</translation>
     </message>
+    <message>
+        <source>F5 tries it again; Extras, Preferences tells which logbook it is.</source>
+        <translation>F5 versucht es erneut; welches Bordbuch es ist, steht unter Extras, Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Flights are being added already. Wait for the end, or cancel it.</source>
+        <translation>Es werden schon Flüge hinzugefügt. Warten Sie das Ende ab oder brechen Sie es ab.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogMain</name>
@@ -2919,6 +2927,10 @@ Doppelklick: öffnen; mit Umschalt: als Referenz öffnen.</translation>
     <message>
         <source>%1 of %2 flights</source>
         <translation>%1 von %2 Flügen</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>Neuer Versuch: %1</translation>
     </message>
 </context>
 <context>

@@ -2214,6 +2214,14 @@ Las demás vistas funcionan; la gráfica requiere un controlador gráfico con Op
         <source>Find Recordings</source>
         <translation>Buscar grabaciones</translation>
     </message>
+    <message>
+        <source>F5 tries it again; Extras, Preferences tells which logbook it is.</source>
+        <translation>F5 lo intenta de nuevo; en Extras, Preferencias se indica qué libro de vuelos es.</translation>
+    </message>
+    <message>
+        <source>Flights are being added already. Wait for the end, or cancel it.</source>
+        <translation>Ya se están añadiendo vuelos. Espere al final o cancélelo.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogMain</name>
@@ -2919,6 +2927,10 @@ Doble clic: abrirlo; con Mayús: abrirlo como referencia.</translation>
     <message>
         <source>%1 of %2 flights</source>
         <translation>%1 de %2 vuelos</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>Nuevo intento: %1</translation>
     </message>
 </context>
 <context>

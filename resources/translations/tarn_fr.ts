@@ -2214,6 +2214,14 @@ Toutes les autres vues fonctionnent&#xa0;; un pilote graphique avec OpenGL 2.1, 
         <source>Find Recordings</source>
         <translation>Rechercher les enregistrements</translation>
     </message>
+    <message>
+        <source>F5 tries it again; Extras, Preferences tells which logbook it is.</source>
+        <translation>F5 réessaie ; Outils, Préférences dit de quel carnet il s&apos;agit.</translation>
+    </message>
+    <message>
+        <source>Flights are being added already. Wait for the end, or cancel it.</source>
+        <translation>Des vols sont déjà en cours d&apos;ajout. Attendez la fin ou annulez.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogMain</name>
@@ -2919,6 +2927,10 @@ Double clic&#xa0;: l&apos;ouvrir&#xa0;; avec Maj&#xa0;: l&apos;ouvrir comme réf
     <message>
         <source>%1 of %2 flights</source>
         <translation>%1 sur %2 vols</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>Nouvel essai&#xa0;: %1</translation>
     </message>
 </context>
 <context>

@@ -2214,6 +2214,14 @@ Todas as outras visualizações funcionam; um driver gráfico com OpenGL 2.1, ou
         <source>Find Recordings</source>
         <translation>Procurar gravações</translation>
     </message>
+    <message>
+        <source>F5 tries it again; Extras, Preferences tells which logbook it is.</source>
+        <translation>F5 tenta de novo; Extras, Preferências informa qual é o diário.</translation>
+    </message>
+    <message>
+        <source>Flights are being added already. Wait for the end, or cancel it.</source>
+        <translation>Já há voos sendo adicionados. Aguarde o fim ou cancele.</translation>
+    </message>
 </context>
 <context>
     <name>TARN::DialogMain</name>
@@ -2919,6 +2927,10 @@ Clique duplo: abrir; com Shift: abrir como referência.</translation>
     <message>
         <source>%1 of %2 flights</source>
         <translation>%1 de %2 voos</translation>
+    </message>
+    <message>
+        <source>Trying again: %1</source>
+        <translation>Nova tentativa: %1</translation>
     </message>
 </context>
 <context>
