@@ -271,7 +271,10 @@ std::optional<PositionTrack::Place> PositionTrack::at(double time) const
     const auto after = static_cast<std::size_t>(std::ranges::upper_bound(mTimes, time + HalfTick) -
                                                 mTimes.begin());
     if (after == 0) {
-        return std::nullopt;
+        // A recording rarely begins with a position, and its begin is looked at first.
+        const bool isHeld = !empty() && mTimes.front() - time <= Held;
+        return isHeld ? std::optional(Place{mPoints[0], mAltitudes[0], mMetres[0], 0, true})
+                      : std::nullopt;
     }
     const std::size_t k = after - 1;
     Place place{mPoints[k], mAltitudes[k], mMetres[k], k, true};

@@ -106,8 +106,8 @@ public:
         std::size_t index; ///< of the position at or before it
         bool isKnown;      ///< otherwise it is where the aircraft was last
     };
-    /// Nothing before the first position. The last one of a stretch holds for two seconds, but not
-    /// past the next.
+    /// The first position is that of the two seconds before it, too; there is nothing before them.
+    /// The last one of a stretch holds for two seconds, but not past the next.
     std::optional<Place> at(double time) const;
 
     /// Degrees clockwise from north in which the aircraft moved about position \p k, told by places

@@ -253,10 +253,12 @@ void TrackDrawing::drawAircraft(const TrackView& view, double time)
             place ? DrawingTexts::tr("No position at %1; shown is the last one, of %2")
                         .arg(clockText(time), clockText(track.time(place->index)))
                   : DrawingTexts::tr("No position at %1 or before").arg(clockText(time));
+        // Over what is there: whoever sees an aircraft has to know that it is not there.
         const QSizeF size = mCanvas.sizeOf(words);
-        ChartLabels(mScene, mStyle, view, mCanvas)
-            .add(words, {view.area.center().x() - size.width() / 2.0, view.area.top() + NoteEdge},
-                 mStyle.text);
+        const QRectF box({view.area.center().x() - size.width() / 2.0, view.area.top() + NoteEdge},
+                         size);
+        mCanvas.fill(box.adjusted(-6.0, -3.0, 6.0, 3.0), mStyle.ground);
+        mCanvas.text(box.topLeft(), words, mStyle.text);
     }
     if (place) {
         const QPointF plane = mScene.ground->projection.toPlane(place->point);

@@ -268,10 +268,10 @@ void checkReport(ExportInput input, const ExportOptions& range)
     constexpr double Shift = 0.25; // seconds: the flight against itself
     input.reference = {input.flight, input.offset, Shift};
     static const std::set<QString> Elements = {
-        "html", "head", "meta", "title",    "style",      "body",     "h1",
-        "h2",   "h3",   "p",    "span",     "table",      "thead",    "tbody",
-        "tr",   "th",   "td",   "figure",   "figcaption", "svg",      "rect",
-        "path", "g",    "text", "polyline", "clipPath",   "colgroup", "col"};
+        "html",     "head",    "meta",       "title",    "style", "body",  "h1", "h2",
+        "h3",       "p",       "span",       "table",    "thead", "tbody", "tr", "th",
+        "td",       "figure",  "figcaption", "svg",      "rect",  "path",  "g",  "text",
+        "polyline", "polygon", "clipPath",   "colgroup", "col"};
     Progress progress;
     ReportOptions options;
     static_cast<ExportOptions&>(options) = range;

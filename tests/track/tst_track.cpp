@@ -185,7 +185,8 @@ private Q_SLOTS:
                                      "502@2=200 500@80=48.002 501@80=11 501@81=11",
                                      Positions);
         const PositionTrack track = trackOf(*flight, 0.0);
-        QVERIFY(!track.at(0.9));
+        QVERIFY(!track.at(-1.1) && track.at(-0.9)->isKnown);
+        QCOMPARE(placeText(track.at(0.9)->point), placeText(track.point(0)));
         const auto half = track.at(1.5);
         QVERIFY(half && half->isKnown && half->index == 0);
         QCOMPARE(placeText(half->point), QString("48.000/11.000"));
