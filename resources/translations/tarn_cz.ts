@@ -3708,10 +3708,6 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
         <source>The path of the flight from above, and its height below</source>
         <translation>Dráha letu shora a pod ní jeho výška</translation>
     </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>a dalších %1</translation>
-    </message>
 </context>
 <context>
     <name>TARN::WidgetTrend</name>
@@ -3790,6 +3786,13 @@ Stisknutím „Potvrdit výběr“ jej znovu naplníte.</translation>
     <message>
         <source>No position at %1 or before</source>
         <translation>V %1 ani předtím žádná poloha</translation>
+    </message>
+</context>
+<context>
+    <name>TrackHits</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>a dalších %1</translation>
     </message>
 </context>
 <context>

@@ -3708,10 +3708,6 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
         <source>The path of the flight from above, and its height below</source>
         <translation>Der Flugweg von oben, darunter die Höhe</translation>
     </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>und %1 weitere</translation>
-    </message>
 </context>
 <context>
     <name>TARN::WidgetTrend</name>
@@ -3790,6 +3786,13 @@ Klicken Sie auf „Auswahl bestätigen“, um es wieder zu füllen.</translation
     <message>
         <source>No position at %1 or before</source>
         <translation>Um %1 und davor keine Position</translation>
+    </message>
+</context>
+<context>
+    <name>TrackHits</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
     </message>
 </context>
 <context>

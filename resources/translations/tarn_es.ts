@@ -3708,10 +3708,6 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
         <source>The path of the flight from above, and its height below</source>
         <translation>La trayectoria del vuelo desde arriba y, debajo, su altura</translation>
     </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>y %1 más</translation>
-    </message>
 </context>
 <context>
     <name>TARN::WidgetTrend</name>
@@ -3790,6 +3786,13 @@ Pulse «Confirmar selección» para volver a llenarla.</translation>
     <message>
         <source>No position at %1 or before</source>
         <translation>Sin posición a las %1 ni antes</translation>
+    </message>
+</context>
+<context>
+    <name>TrackHits</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
     </message>
 </context>
 <context>

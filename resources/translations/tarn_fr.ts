@@ -3708,10 +3708,6 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
         <source>The path of the flight from above, and its height below</source>
         <translation>La trajectoire du vol vue de dessus, et sa hauteur dessous</translation>
     </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>et %1 de plus</translation>
-    </message>
 </context>
 <context>
     <name>TARN::WidgetTrend</name>
@@ -3790,6 +3786,13 @@ Appuyez sur «&#xa0;Confirmer la sélection&#xa0;» pour le remplir à nouveau.<
     <message>
         <source>No position at %1 or before</source>
         <translation>Aucune position à %1 ni avant</translation>
+    </message>
+</context>
+<context>
+    <name>TrackHits</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
     </message>
 </context>
 <context>

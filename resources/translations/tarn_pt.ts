@@ -3708,10 +3708,6 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
         <source>The path of the flight from above, and its height below</source>
         <translation>A trajetória do voo vista de cima e, abaixo, sua altura</translation>
     </message>
-    <message>
-        <source>and %1 more</source>
-        <translation>e mais %1</translation>
-    </message>
 </context>
 <context>
     <name>TARN::WidgetTrend</name>
@@ -3790,6 +3786,13 @@ Clique em &quot;Confirmar seleção&quot; para preenchê-lo de novo.</translatio
     <message>
         <source>No position at %1 or before</source>
         <translation>Sem posição às %1 nem antes</translation>
+    </message>
+</context>
+<context>
+    <name>TrackHits</name>
+    <message>
+        <source>and %1 more</source>
+        <translation>e mais %1</translation>
     </message>
 </context>
 <context>

@@ -1,29 +1,21 @@
 #include "track/WidgetTrack.h"
 
-#include "base/ClockTime.h"
-#include "track/Graticule.h"
+#include "base/PlainTip.h"
 #include "track/HeightDrawing.h"
 #include "track/PaintedTrack.h"
+#include "track/TrackGestures.h"
+#include "track/TrackHits.h"
 #include "track/TrackSymbols.h"
 #include "widgets/EmptyPlace.h"
 
 #include <QtGui/QHelpEvent>
-#include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QToolTip>
 
 #include <algorithm>
 #include <cmath>
 
 namespace TARN {
-
-namespace {
-
-constexpr double WheelStep = 1.25;
-constexpr double Reach = 12.0; ///< pixels from the path that a click may be
-
-} // namespace
 
 WidgetTrack::WidgetTrack(QWidget* parent) : QWidget(parent), mEmpty(new EmptyPlace(this))
 {
@@ -35,6 +27,7 @@ WidgetTrack::WidgetTrack(QWidget* parent) : QWidget(parent), mEmpty(new EmptyPla
     setAccessibleName(tr("Track"));
     setAccessibleDescription(tr("The path of the flight from above, and its height below"));
     connect(mEmpty, &QLabel::linkActivated, this, &WidgetTrack::signalLink);
+    new TrackGestures(*this);
 }
 
 void WidgetTrack::setScene(const TrackScene& scene)
@@ -117,10 +110,10 @@ void WidgetTrack::fit()
     redraw();
 }
 
-void WidgetTrack::zoom(double factor)
+void WidgetTrack::zoom(double factor, const std::optional<QPointF>& about)
 {
     mIsFitted = false;
-    mView.zoom(factor, mView.area.center());
+    mView.zoom(factor, about.value_or(mView.area.center()));
     redraw();
 }
 
@@ -167,74 +160,25 @@ void WidgetTrack::paintEvent(QPaintEvent*)
     }
 }
 
-/// Of what is there: a mark, the path, the heights.
-std::optional<double> WidgetTrack::timeAt(const QPointF& pixel) const
+bool WidgetTrack::isOnChart(const QPointF& pixel) const
 {
-    if (mScene.empty()) {
-        return std::nullopt;
-    }
-    const PositionTrack& track = mScene.ground->track;
-    if (!mView.area.contains(pixel)) {
-        return mHeights.isShown() ? std::optional(mHeights.timeAt(track, pixel.x())) : std::nullopt;
-    }
-    const auto marks = marksNear(mScene, mView, pixel);
-    if (!marks.empty()) {
-        return marks.front()->time;
-    }
-    const auto hit = mScene.ground->path.nearest(mView, pixel, Reach);
-    if (!hit) {
-        return std::nullopt;
-    }
-    const double from = track.time(hit->index);
-    return hit->share > 0.0 ? from + hit->share * (track.time(hit->index + 1) - from) : from;
+    return !mScene.empty() && mView.area.contains(pixel);
 }
 
 void WidgetTrack::pick(const QPointF& pixel)
 {
-    if (const auto time = timeAt(pixel)) {
+    if (const auto time = timeAt(places(), pixel)) {
         setTime(*time);
         Q_EMIT picked(*time);
     }
-}
-
-QString WidgetTrack::tipAt(const QPointF& pixel) const
-{
-    constexpr std::size_t Most = 6;
-    const auto time = timeAt(pixel);
-    if (!time) {
-        return {};
-    }
-    QStringList lines;
-    const auto marks = mView.area.contains(pixel) ? marksNear(mScene, mView, pixel)
-                                                  : marksNear(mScene, mHeights, pixel.x());
-    for (const TrackMark* mark : marks) {
-        if (lines.size() < qsizetype(Most)) {
-            lines += mark->text;
-        }
-    }
-    if (marks.size() > Most) {
-        lines += tr("and %1 more").arg(marks.size() - Most);
-    }
-    const PositionTrack& track = mScene.ground->track;
-    QString line = clockText(*time);
-    if (const auto place = track.at(*time)) {
-        line += "  " + degreesText(place->point.latitude, false) + "  " +
-                degreesText(place->point.longitude, true);
-        if (std::isfinite(place->altitude)) {
-            line += QString("  %1 %2").arg(place->altitude, 0, 'f', 0).arg(track.altitudeUnit());
-        }
-        line += QString("  %1 km").arg(place->metres / 1000.0, 0, 'f', 1);
-    }
-    lines += line;
-    return lines.join('\n');
 }
 
 bool WidgetTrack::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip) {
         const auto* help = static_cast<QHelpEvent*>(event);
-        const QString tip = tipAt(help->pos());
-        QToolTip::showText(help->globalPos(), tip, this);
+        const QString tip = tipAt(places(), help->pos());
+        QToolTip::showText(help->globalPos(), plainTip(tip), this);
         return true;
     }
     if (event->type() == QEvent::FontChange) {
@@ -243,115 +187,20 @@ bool WidgetTrack::event(QEvent* event)
     return QWidget::event(event);
 }
 
-void WidgetTrack::mousePressEvent(QMouseEvent* event)
-{
-    if (event->button() == Qt::LeftButton) {
-        mPressed = event->position();
-        mLast = event->position();
-        mIsPanning = false;
-        if (!mView.area.contains(event->position())) {
-            pick(event->position()); // and along, while it is dragged
-        }
-    }
-}
-
-void WidgetTrack::mouseMoveEvent(QMouseEvent* event)
-{
-    const QPointF pixel = event->position();
-    if (!mPressed || !(event->buttons() & Qt::LeftButton)) {
-        const bool isHit = mView.area.contains(pixel) && timeAt(pixel).has_value();
-        setCursor(isHit ? Qt::PointingHandCursor : Qt::ArrowCursor);
-        return;
-    }
-    if (!mView.area.contains(*mPressed)) {
-        pick({pixel.x(), mPressed->y()});
-        return;
-    }
-    mIsPanning =
-        mIsPanning || (pixel - *mPressed).manhattanLength() >= QApplication::startDragDistance();
-    if (mIsPanning) {
-        setCursor(Qt::ClosedHandCursor);
-        pan(pixel - mLast);
-        mLast = pixel;
-    }
-}
-
-void WidgetTrack::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (event->button() != Qt::LeftButton || !mPressed) {
-        return;
-    }
-    if (!mIsPanning && mView.area.contains(*mPressed)) {
-        pick(event->position());
-    }
-    unsetCursor();
-    mPressed.reset();
-    mIsPanning = false;
-}
-
-void WidgetTrack::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    if (event->button() == Qt::LeftButton && mView.area.contains(event->position())) {
-        fit();
-    }
-}
-
-void WidgetTrack::wheelEvent(QWheelEvent* event)
-{
-    constexpr double Notch = 120.0;
-    if (!mScene.empty() && mView.area.contains(event->position())) {
-        mIsFitted = false;
-        mView.zoom(std::pow(WheelStep, -event->angleDelta().y() / Notch), event->position());
-        redraw();
-    }
-    event->accept();
-}
-
-/// Along the path, by positions.
-void WidgetTrack::step(int positions)
+void WidgetTrack::step(int hundredths)
 {
     if (mScene.empty()) {
         return;
     }
     const PositionTrack& track = mScene.ground->track;
+    const qint64 positions =
+        hundredths * std::max<qint64>(1, static_cast<qint64>(track.size()) / 100);
     const auto place = track.at(mTime);
     const auto last = static_cast<qint64>(track.size()) - 1;
     const qint64 now = place ? static_cast<qint64>(place->index) : 0;
     const auto next = static_cast<std::size_t>(std::clamp<qint64>(now + positions, 0, last));
     setTime(track.time(next));
     Q_EMIT picked(track.time(next));
-}
-
-void WidgetTrack::keyPressEvent(QKeyEvent* event)
-{
-    constexpr double Pan = 60.0; // pixels
-    constexpr int Hundredth = 100;
-    const int stride =
-        mScene.empty() ? 1 : std::max(1, int(mScene.ground->track.size()) / Hundredth);
-    switch (event->key()) {
-    case Qt::Key_Home:
-    case Qt::Key_F:
-        return fit();
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        return zoom(1.0 / WheelStep);
-    case Qt::Key_Minus:
-        return zoom(WheelStep);
-    case Qt::Key_Left:
-        return pan({Pan, 0.0});
-    case Qt::Key_Right:
-        return pan({-Pan, 0.0});
-    case Qt::Key_Up:
-        return pan({0.0, Pan});
-    case Qt::Key_Down:
-        return pan({0.0, -Pan});
-    case Qt::Key_PageUp:
-        return step(-stride);
-    case Qt::Key_PageDown:
-        return step(stride);
-    default:
-        QWidget::keyPressEvent(event);
-    }
 }
 
 } // namespace TARN

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "track/TrackDrawing.h"
+#include "track/TrackHits.h"
 
 #include <QtGui/QPixmap>
 #include <QtWidgets/QWidget>
@@ -9,10 +10,7 @@ namespace TARN {
 
 class EmptyPlace;
 
-/// The chart of a track with its heights below. The wheel, + and - zoom about the pointer or the
-/// middle, a drag and the arrow keys pan, Home, F and a double click show all of it. A click on the
-/// path, on a mark or into the heights picks the time at which the aircraft was there; Page Up and
-/// Page Down go along the path.
+/// The chart of a track with its heights below, see TrackGestures for how it is used.
 class WidgetTrack : public QWidget
 {
     Q_OBJECT
@@ -33,13 +31,17 @@ public:
 
     const TrackView& view() const { return mView; }
     const HeightChart& heights() const { return mHeights; }
+    TrackPlaces places() const { return {mScene, mView, mHeights}; }
 
     void fit();
-    /// Smaller by a factor, about the middle.
-    void zoom(double factor);
+    /// Smaller by a factor, about a place or the middle.
+    void zoom(double factor, const std::optional<QPointF>& about = {});
+    void pan(const QPointF& pixels);
 
-    /// The tool tip of a place; empty where there is nothing.
-    QString tipAt(const QPointF& pixel) const;
+    bool isOnChart(const QPointF& pixel) const;
+    void pick(const QPointF& pixel);
+    /// Along the path, by hundredths of its positions.
+    void step(int hundredths);
 
 Q_SIGNALS:
     /// The user wants to see this time.
@@ -50,21 +52,11 @@ protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void lay();
     void redraw();
     void updateEmptyPlace();
-    std::optional<double> timeAt(const QPointF& pixel) const;
-    void pick(const QPointF& pixel);
-    void step(int positions);
-    void pan(const QPointF& pixels);
 
     TrackScene mScene;
     TrackStyle mStyle;
@@ -76,9 +68,6 @@ private:
     bool mIsFitted = true; ///< follows the size of the widget
     QPixmap mStill;        ///< all but the current time; null where it has to be drawn
     EmptyPlace* mEmpty;
-    std::optional<QPointF> mPressed;
-    QPointF mLast;
-    bool mIsPanning = false;
 };
 
 } // namespace TARN

@@ -106,10 +106,11 @@ private Q_SLOTS:
         QVERIFY(!marks.empty());
         const TrackMark& worst = marks.back();
         const QPointF pixel = chart()->view().toPixel(worst.place);
-        QVERIFY2(chart()->tipAt(pixel).contains(worst.text), qPrintable(chart()->tipAt(pixel)));
+        QVERIFY2(tipAt(chart()->places(), pixel).contains(worst.text),
+                 qPrintable(tipAt(chart()->places(), pixel)));
         click(pixel);
         QCOMPARE(session().time(), worst.time);
-        QVERIFY(chart()->tipAt({3.0, 3.0}).isEmpty());
+        QVERIFY(tipAt(chart()->places(), {3.0, 3.0}).isEmpty());
 
         auto* colors = find<QComboBox>("trackColors");
         const auto choose = [&](int row) {
