@@ -1,5 +1,7 @@
 #include "app/CommandSet.h"
 
+#include "widgets/LateIcon.h"
+
 #include <QtGui/QAction>
 #include <QtGui/QActionGroup>
 #include <QtWidgets/QMainWindow>
@@ -96,7 +98,7 @@ QAction* CommandSet::createAction(const Command& command)
 {
     auto* action = new QAction(command.text, this);
     if (command.icon != nullptr) {
-        action->setIcon(QIcon(QString(":/icons/%1.svg").arg(command.icon)));
+        action->setIcon(LateIcon::of(command.icon));
     }
     if (!command.toolText.isEmpty()) {
         action->setIconText(command.toolText);

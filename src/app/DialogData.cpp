@@ -11,6 +11,7 @@
 #include "graph/WidgetGraph.h"
 #include "table/DialogDataTable.h"
 #include "track/DialogDataTrack.h"
+#include "widgets/MadeWhenShown.h"
 
 #include <QtGui/QShortcut>
 #include <QtWidgets/QTabWidget>
@@ -41,7 +42,12 @@ DialogData::DialogData(Session& session, QWidget* parent)
             [](const Profile& profile) { return hasWarningLamps(profile.data()); });
     addView(new DialogDataErrorMatrix(session, mEpisodes), "faultMatrix", tr("Fault Matrix"),
             [](const Profile& profile) { return !profile.data().faultMatrices.empty(); });
-    addView(new DialogDataTrack(session, mEpisodes), "track", tr("Track"), namesPosition);
+    addView(new MadeWhenShown([this] {
+                auto* track = new DialogDataTrack(mSession, mEpisodes);
+                connect(track, &DialogDataTrack::signalLink, this, &DialogData::signalLink);
+                return track;
+            }),
+            "track", tr("Track"), namesPosition);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(mBar);
     layout->addWidget(mTabs, 1);

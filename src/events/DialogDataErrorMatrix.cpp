@@ -14,7 +14,7 @@ namespace TARN {
 DialogDataErrorMatrix::DialogDataErrorMatrix(Session& session, EpisodeWatch& episodes,
                                              QWidget* parent)
     : QWidget(parent), mSession(session), mInner(new QWidget), mLayout(new QVBoxLayout(mInner)),
-      mEmpty(new QLabel(tr("The profile describes no error matrix.")))
+      mEmpty(new QLabel(tr("The profile describes no error matrix."))), mSeenFirst(*this)
 {
     mEmpty->setAlignment(Qt::AlignCenter);
     mLayout->addWidget(mEmpty);
@@ -37,13 +37,19 @@ DialogDataErrorMatrix::DialogDataErrorMatrix(Session& session, EpisodeWatch& epi
     loadProfile();
 }
 
-/// Builds the matrices of another profile.
+/// Those of the profile before are gone at once, they would not fit its flight.
 void DialogDataErrorMatrix::loadProfile()
 {
     for (WidgetFaultMatrix* matrix : mMatrices) {
         delete matrix;
     }
     mMatrices.clear();
+    mEmpty->setVisible(mSession.profile()->data().faultMatrices.empty());
+    mSeenFirst.run([this] { build(); });
+}
+
+void DialogDataErrorMatrix::build()
+{
     for (const FaultMatrix& description : mSession.profile()->data().faultMatrices) {
         auto* matrix = new WidgetFaultMatrix;
         matrix->setData(description);
@@ -53,7 +59,6 @@ void DialogDataErrorMatrix::loadProfile()
         connect(matrix, &WidgetFaultMatrix::signalTime, &mSession,
                 [this](double time) { mSession.setTime(time, nullptr); });
     }
-    mEmpty->setVisible(mMatrices.empty());
     showFlight();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "flight/Session.h"
+#include "widgets/SeenFirst.h"
 
 #include <QtWidgets/QWidget>
 
@@ -25,6 +26,7 @@ public:
 
 private:
     void loadProfile();
+    void build();
     void showFlight();
     void showTime(double time);
 
@@ -33,6 +35,7 @@ private:
     QVBoxLayout* mLayout;
     QLabel* mEmpty;
     std::vector<WidgetFaultMatrix*> mMatrices;
+    SeenFirst mSeenFirst;
 };
 
 } // namespace TARN

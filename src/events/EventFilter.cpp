@@ -15,7 +15,6 @@ EventFilter::EventFilter(EventOrder& order)
     mText->setPlaceholderText(tr("Filter (Ctrl+F)"));
     mText->setToolTip(tr("Show only lines that hold this text"));
     mText->setAccessibleName(tr("Filter text"));
-    mText->setClearButtonEnabled(true);
     mSeverity->setToolTip(tr("Show only lines of this severity"));
     mSeverity->setAccessibleName(tr("Filter severity"));
     mSeverity->addItem(tr("Every severity"));
@@ -45,6 +44,13 @@ void EventFilter::begin()
 {
     mText->setFocus(Qt::ShortcutFocusReason);
     mText->selectAll();
+}
+
+/// The button is looked for in the desktop's theme, which takes a while for what nobody sees.
+void EventFilter::showEvent(QShowEvent* event)
+{
+    mText->setClearButtonEnabled(true);
+    QWidget::showEvent(event);
 }
 
 bool EventFilter::isActive() const

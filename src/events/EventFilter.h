@@ -31,6 +31,7 @@ Q_SIGNALS:
 protected:
     /// Escape takes the filter back, before it means anything to the window.
     bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     bool isActive() const;

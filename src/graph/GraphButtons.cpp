@@ -1,5 +1,7 @@
 #include "graph/GraphButtons.h"
 
+#include "widgets/LateIcon.h"
+
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QToolButton>
@@ -67,7 +69,7 @@ QToolButton* GraphButtons::createButton(int command, const QString& name, const 
     button->setAccessibleName(name);
     button->setIconSize({IconSize, IconSize});
     if (icon != nullptr) {
-        button->setIcon(QIcon(QString(":/icons/%1.svg").arg(icon)));
+        button->setIcon(LateIcon::of(icon));
     } else {
         button->setText(tr("Auto"));
     }

@@ -72,11 +72,11 @@ void DialogProfile::addDevice(const ProfileDevice& device)
 {
     auto* deviceItem = new QTreeWidgetItem(mTree);
     deviceItem->setText(0, QString("%1 %2").arg(device.id).arg(device.name));
-    deviceItem->setIcon(0, QIcon(":/icons/device.svg"));
+    deviceItem->setIcon(0, mDeviceIcon);
     for (const auto& [uid, parameter] : device.parameters) {
         auto* item = new QTreeWidgetItem(deviceItem);
         item->setText(0, parameter.title());
-        item->setIcon(0, QIcon(":/icons/parameter.svg"));
+        item->setIcon(0, mParameterIcon);
         item->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsUserCheckable);
         item->setCheckState(0, Qt::Unchecked);
         item->setData(0, Qt::UserRole, uid);

@@ -3,6 +3,7 @@
 #include "flight/Session.h"
 
 #include <QtCore/QTimer>
+#include <QtGui/QIcon>
 #include <QtGui/QPalette>
 #include <QtWidgets/QWidget>
 
@@ -45,6 +46,8 @@ private:
     Session& mSession;
     QPalette mNormalPalette;
     QPalette mAlertPalette;
+    const QIcon mDeviceIcon{":/icons/device.svg"};
+    const QIcon mParameterIcon{":/icons/parameter.svg"};
     bool mBlinkOn = false;
     bool mUpdating = false; ///< checks are changed by the program, not by the user
     QTimer mTimer;

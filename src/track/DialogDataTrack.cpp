@@ -4,6 +4,7 @@
 #include "base/Property.h"
 #include "flight/EmptyText.h"
 #include "track/WidgetTrack.h"
+#include "widgets/LateIcon.h"
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QAbstractItemView>
@@ -25,7 +26,7 @@ constexpr double ZoomStep = 1.5;
 QToolButton* button(const QString& name, const char* icon)
 {
     auto* made = new QToolButton;
-    made->setIcon(QIcon(QString(":/icons/%1.svg").arg(icon)));
+    made->setIcon(LateIcon::of(icon));
     made->setToolTip(name);
     made->setAccessibleName(name);
     made->setAutoRaise(true);

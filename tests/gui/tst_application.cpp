@@ -134,7 +134,7 @@ private Q_SLOTS:
         settle();
         QCOMPARE(setting("Profile"), profilePath() + "x");
         QVERIFY(said().contains(profilePath() + "x\" could not be loaded"));
-        QCOMPARE(emptyTexts().filter("No profile is loaded").size(), 6);
+        QCOMPARE(emptyTexts().filter("No profile is loaded").size(), 5);
         QVERIFY(!views()->isTabVisible(Lamps) && !views()->isTabVisible(Matrices));
         QCOMPARE(parameters()->topLevelItemCount(), 0);
         run(ActionType::SaveProjectAs); // would save a project without parameters
