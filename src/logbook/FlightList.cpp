@@ -2,6 +2,7 @@
 
 #include "widgets/DataTableView.h"
 
+#include <QtCore/QSet>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QAction>
 #include <QtGui/QGuiApplication>
@@ -12,7 +13,6 @@
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
-#include <set>
 
 namespace TARN {
 
@@ -112,10 +112,12 @@ void FlightList::setFlights(std::shared_ptr<const std::vector<FlightHead>> fligh
 /// The one that was chosen stays, where it still has a flight.
 void FlightList::showEngines()
 {
-    std::set<QString> engines;
+    QSet<QString> all;
     for (const FlightHead& flight : mModel.flights()) {
-        engines.insert(flight.aircraft);
+        all.insert(flight.aircraft);
     }
+    QStringList engines(all.begin(), all.end());
+    engines.sort();
     const QVariant before = mEngine->currentData();
     const QSignalBlocker blocker(mEngine);
     mEngine->clear();

@@ -84,6 +84,9 @@ void FlightListModel::setFlights(std::shared_ptr<const std::vector<FlightHead>> 
 
 void FlightListModel::setFilter(const std::optional<QString>& engine, const QString& text)
 {
+    if (mEngine == engine && mText == text) {
+        return; // ten thousand rows are not arranged again for nothing
+    }
     beginResetModel();
     mEngine = engine;
     mText = text;
@@ -122,7 +125,9 @@ void FlightListModel::arrange()
         return mColumn == EngineColumn ? left.aircraft < right.aircraft
                                        : keyOf(left, mColumn) < keyOf(right, mColumn);
     };
-    std::ranges::stable_sort(mRows, isLess);
+    if (!std::ranges::is_sorted(mRows, isLess)) {
+        std::ranges::stable_sort(mRows, isLess);
+    }
 }
 
 int FlightListModel::rowOf(const QString& flight) const
