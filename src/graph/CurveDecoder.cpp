@@ -47,18 +47,26 @@ DecodedCurve decodeCurve(const std::shared_ptr<const Flight>& flight,
     Series series = flight->series(parameter, offset);
     auto samples = std::make_shared<CurveSamples>();
     samples->reserve(series.size());
-    QuickRhythm rhythm;
-    const std::size_t leftOut = putAll(series, 0, series.size(), *samples, progress,
-                                       [&](std::span<const double> times) { rhythm.add(times); });
+    StepRange steps;
+    double before = series.empty() ? 0.0 : series.timeOf(series.entries().front());
+    const std::size_t leftOut =
+        putAll(series, 0, series.size(), *samples, progress, [&](std::span<const double> times) {
+            const double first = times.front() - before;
+            const auto [shortest, longest] = stepsOf(times);
+            steps.shortest = std::min({steps.shortest, first, shortest});
+            steps.longest = std::max({steps.longest, first, longest});
+            before = times.back();
+        });
     if (progress.stopRequested()) {
         return {};
     }
-    samples->setGapRule(rhythm.isProven() ? QuickRhythm::rule() : series.gapRule([&] {
-        return flight->silences(offset);
-    }));
-    if (leftOut == 0 && (samples->size() < 2 || samples->time(0) <= samples->time(1))) {
+    if (steps.shortest >= 0.0) {
         series.setInOrder();
     }
+    // Mostly no step is long enough for any rule, and none has to be found.
+    const bool mayHaveGaps = steps.shortest < 0.0 || steps.longest > GapRule::ShortestLimit;
+    samples->setGapRule(mayHaveGaps ? series.gapRule([&] { return flight->silences(offset); })
+                                    : GapRule());
     return curveOf(flight, std::move(series), std::move(samples), leftOut);
 }
 

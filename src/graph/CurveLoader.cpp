@@ -71,15 +71,24 @@ void CurveLoader::startJob(Job<std::vector<DecodedCurve>>& job)
         [this, places](const std::vector<DecodedCurve>& curves) { take(places, curves); });
 }
 
-/// What one job decodes: short curves go together, as a job costs more than they do.
+/// What one job decodes: short curves go together, as a job costs more than they do, but both
+/// lanes have their share.
 std::vector<unsigned> CurveLoader::takeWaiting()
 {
-    constexpr std::size_t SamplesWorthAJob = 750'000;
+    constexpr std::size_t Least = 100'000; // samples
+    constexpr std::size_t Most = 750'000;
+    const auto samplesOf = [this](unsigned place) {
+        return mFlight->series(*mParameters[place], mOffset).size();
+    };
+    std::size_t waiting = 0;
+    for (const unsigned place : mWaiting) {
+        waiting += samplesOf(place);
+    }
+    const std::size_t share = std::clamp(waiting / (2 * Lanes), Least, Most);
     std::vector<unsigned> places;
-    std::size_t samples = 0;
-    while (!mWaiting.empty() && samples < SamplesWorthAJob) {
+    for (std::size_t samples = 0; !mWaiting.empty() && samples < share;) {
         places.push_back(mWaiting.front());
-        samples += mFlight->series(*mParameters[mWaiting.front()], mOffset).size();
+        samples += samplesOf(mWaiting.front());
         mWaiting.pop_front();
     }
     return places;

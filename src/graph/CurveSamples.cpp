@@ -85,7 +85,12 @@ std::size_t CurveSamples::putSeries(std::span<const double> times, std::span<con
         mTimes.insert(mTimes.end(), from, from + static_cast<std::ptrdiff_t>(count));
         mValues.insert(mValues.end(), run.begin(), run.end());
         mPyramid.grow(mValues.data(), mValues.size());
-        std::ranges::for_each(run, [this](double value) { widenData(value); });
+        const ValueRange range =
+            mPyramid.range(mValues.data(), mValues.size() - count, mValues.size());
+        if (!range.empty()) {
+            widenData(range.low);
+            widenData(range.high);
+        }
         k += count;
     }
     return leftOut;

@@ -1,6 +1,7 @@
 #include "graph/MinMaxPyramid.h"
 
 #include <algorithm>
+#include <experimental/simd>
 
 namespace TARN {
 
@@ -15,24 +16,18 @@ constexpr std::size_t fanOut(std::size_t level)
 /// Several running ranges side by side: one alone would wait for each comparison to end.
 ValueRange scan(const double* begin, const double* end)
 {
-    constexpr int Lanes = 4;
+    using Lanes = std::experimental::fixed_size_simd<double, 4>;
+    constexpr auto Width = static_cast<std::ptrdiff_t>(Lanes::size());
     ValueRange result;
-    if (end - begin >= Lanes) {
-        double low[Lanes];
-        double high[Lanes];
-        for (int i = 0; i < Lanes; ++i) {
-            low[i] = result.low;
-            high[i] = result.high;
+    if (end - begin >= Width) {
+        Lanes low(result.low);
+        Lanes high(result.high);
+        for (; end - begin >= Width; begin += Width) {
+            const Lanes values(begin, std::experimental::element_aligned);
+            where(values < low, low) = values;
+            where(values > high, high) = values;
         }
-        for (; end - begin >= Lanes; begin += Lanes) {
-            for (int i = 0; i < Lanes; ++i) {
-                low[i] = begin[i] < low[i] ? begin[i] : low[i];
-                high[i] = begin[i] > high[i] ? begin[i] : high[i];
-            }
-        }
-        for (int i = 0; i < Lanes; ++i) {
-            result.widen({low[i], high[i]});
-        }
+        result = {hmin(low), hmax(high)};
     }
     for (; begin < end; ++begin) {
         result.widen(*begin);

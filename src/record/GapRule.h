@@ -27,6 +27,9 @@ using SilencesSource = std::function<std::shared_ptr<const Silences>()>;
 class GapRule
 {
 public:
+    /// No step up to this is a gap of any parameter; seconds.
+    static constexpr double ShortestLimit = 2.0;
+
     /// Of a parameter that never has a gap.
     GapRule() = default;
 
