@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace TARN {
 
@@ -56,6 +57,25 @@ FrameType frameOf(const CurveSamples& samples, std::size_t begin, std::size_t en
     return frame;
 }
 
+/// Index of the first sample that a window's columns hold, and of the one behind the last.
+std::pair<std::size_t, std::size_t> stretchOf(const CurveSamples& samples,
+                                              const FrameWindow& window)
+{
+    const std::size_t k = samples.firstNotBefore(window.xmin, 0);
+    const std::size_t begin = k > 1 ? k - 1 : k;
+    return {begin, std::min(samples.firstNotBefore(window.xmax, begin) + 1, samples.size())};
+}
+
+void widenByFinite(ValueRange& range, const ValueRange& part)
+{
+    if (std::isfinite(part.low)) {
+        range.widen(part.low);
+    }
+    if (std::isfinite(part.high)) {
+        range.widen(part.high);
+    }
+}
+
 } // namespace
 
 ValueRange FrameType::range() const
@@ -73,11 +93,8 @@ void CurveFrames::rebuild(const CurveSamples& samples, const FrameWindow& window
     /// Far enough for memory to answer, near enough for the place to be foretold.
     constexpr std::size_t ColumnsAhead = 4;
     clear();
-    const std::size_t k = samples.firstNotBefore(window.xmin, 0);
-    std::size_t begin = k > 1 ? k - 1 : k;
-    const std::size_t end =
-        std::min(samples.firstNotBefore(window.xmax, begin) + 1, samples.size());
-    const std::size_t first = begin;
+    const auto [first, end] = stretchOf(samples, window);
+    std::size_t begin = first;
     std::size_t count = 1;
     while (begin < end) {
         if (!mFrames.empty()) {
@@ -88,6 +105,22 @@ void CurveFrames::rebuild(const CurveSamples& samples, const FrameWindow& window
         count = next - begin;
         begin = next;
     }
+}
+
+void CurveFrames::foresee(const CurveSamples& samples, const FrameWindow& window)
+{
+    clear();
+    const auto [begin, end] = stretchOf(samples, window);
+    widenByFinite(mForeseen, samples.range(begin, end));
+}
+
+ValueRange CurveFrames::range() const
+{
+    ValueRange range = mForeseen;
+    for (const FrameType& frame : frames()) {
+        widenByFinite(range, frame.range());
+    }
+    return range;
 }
 
 void CurveFrames::add(double time, double value, const FrameWindow& window)
@@ -122,6 +155,7 @@ void CurveFrames::clear()
 {
     mFrames.clear();
     mFirst = 0;
+    mForeseen = {};
 }
 
 } // namespace TARN

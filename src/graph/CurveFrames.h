@@ -51,6 +51,13 @@ public:
     /// not before its end.
     void rebuild(const CurveSamples& samples, const FrameWindow& window);
 
+    /// Finds what range() will say of these columns, in less time than the columns, which are not
+    /// there until then.
+    void foresee(const CurveSamples& samples, const FrameWindow& window);
+
+    /// Range of the values that are finite.
+    ValueRange range() const;
+
     /// Adds a sample that was just put to the columns.
     void add(double time, double value, const FrameWindow& window);
 
@@ -63,6 +70,7 @@ public:
 private:
     std::vector<FrameType> mFrames;
     std::size_t mFirst = 0; ///< of those that count
+    ValueRange mForeseen;   ///< empty while there are frames
 };
 
 } // namespace TARN

@@ -20,33 +20,18 @@ ValueRange widened(const ValueRange& range)
     return {range.low - margin, range.high + margin};
 }
 
-ValueRange visibleRange(std::span<const FrameType> frames)
-{
-    ValueRange range;
-    for (const FrameType& frame : frames) {
-        const ValueRange part = frame.range();
-        if (std::isfinite(part.low)) {
-            range.widen(part.low);
-        }
-        if (std::isfinite(part.high)) {
-            range.widen(part.high);
-        }
-    }
-    return range;
-}
-
 /// What a curve shows in its strip, its reference included.
 ValueRange visibleRange(const ParStruct& curve)
 {
     ValueRange range = curve.visible;
-    range.widen(visibleRange(curve.reference.frames.frames()));
+    range.widen(curve.reference.frames.range());
     return range;
 }
 
 /// Zero is always in sight.
 ValueRange differenceRange(const ParStruct& curve)
 {
-    ValueRange range = visibleRange(curve.difference.frames.frames());
+    ValueRange range = curve.difference.frames.range();
     range.widen(0.0);
     return range;
 }
@@ -66,8 +51,12 @@ FrameWindow windowOf(const GraphView& view)
     return {view.xmin, view.xmax, view.pixelTime()};
 }
 
+/// How columns are found.
+using Find = void (CurveFrames::*)(const CurveSamples& samples, const FrameWindow& window);
+
+/// Finds the columns of companions that are shown; with no \p find they are still right.
 void updateCompanions(ParStruct& curve, const GraphView& view, const ReferencePlace& reference,
-                      bool isStale)
+                      Find find)
 {
     const std::pair<Companion*, GraphView> all[] = {{&curve.reference, reference.viewOf(view)},
                                                     {&curve.difference, view}};
@@ -75,8 +64,8 @@ void updateCompanions(ParStruct& curve, const GraphView& view, const ReferencePl
         const bool isHidden = companion == &curve.reference && !reference.isShown;
         if (!curve.isShown() || isHidden || companion->samples == nullptr) {
             companion->frames.clear();
-        } else if (isStale) {
-            companion->frames.rebuild(*companion->samples, windowOf(of));
+        } else if (find != nullptr) {
+            (companion->frames.*find)(*companion->samples, windowOf(of));
         }
     }
 }
@@ -242,16 +231,16 @@ void GraphLayout::placeLanes(double lineHeight)
 void GraphLayout::prepare(const Measure& measure, double lineHeight, double leastMargin)
 {
     placeLanes(lineHeight);
+    if (isStale()) {
+        // Mostly this is the place then, and the columns are found once.
+        findFrames(&CurveFrames::foresee);
+        placeByLabels(measure, lineHeight, leastMargin);
+    }
     constexpr int Rounds = 3; // labels and the plot that they leave room for chase each other
     for (int round = 0; round < Rounds; ++round) {
         updateFrames();
-        updateScales();
-        mAxes = axesOf(mCurves, mView, mDisplayMode, lineHeight);
-        mDifferenceAxes = differenceAxesOf(mCurves, lineHeight);
-        const double widest =
-            std::max(widestLabel(mAxes, measure), widestLabel(mDifferenceAxes, measure));
         const double before = mView.x0;
-        placePlot(mView, std::max(widest + LabelGap, leastMargin), mWidth);
+        placeByLabels(measure, lineHeight, leastMargin);
         if (mView.x0 == before) {
             break;
         }
@@ -259,19 +248,34 @@ void GraphLayout::prepare(const Measure& measure, double lineHeight, double leas
     updateFrames();
 }
 
+/// Scales, axes, and the plot beside their labels.
+void GraphLayout::placeByLabels(const Measure& measure, double lineHeight, double leastMargin)
+{
+    updateScales();
+    mAxes = axesOf(mCurves, mView, mDisplayMode, lineHeight);
+    mDifferenceAxes = differenceAxesOf(mCurves, lineHeight);
+    const double widest =
+        std::max(widestLabel(mAxes, measure), widestLabel(mDifferenceAxes, measure));
+    placePlot(mView, std::max(widest + LabelGap, leastMargin), mWidth);
+}
+
 void GraphLayout::updateFrames()
 {
-    const bool isStale = mStale || mFrameWidth != mView.width;
+    findFrames(isStale() ? &CurveFrames::rebuild : nullptr);
     mStale = false;
     mFrameWidth = mView.width;
+}
+
+void GraphLayout::findFrames(Find find)
+{
     for (ParStruct& curve : mCurves.all()) {
         if (!curve.active) {
             curve.frames.clear();
-        } else if (isStale) {
-            curve.frames.rebuild(curve.samples(), windowOf(mView));
+        } else if (find != nullptr) {
+            (curve.frames.*find)(curve.samples(), windowOf(mView));
         }
         curve.frames.trim(mView.xmin);
-        updateCompanions(curve, mView, mReference, isStale);
+        updateCompanions(curve, mView, mReference, find);
     }
 }
 
@@ -287,11 +291,11 @@ void GraphLayout::updateScales()
 {
     ValueRange all;
     for (ParStruct& curve : mCurves.all()) {
-        const ValueRange range = visibleRange(curve.frames.frames());
+        const ValueRange range = curve.frames.range();
         curve.visible = range.empty() ? curve.visible : range;
         if (curve.isShown()) {
             all.widen(range);
-            all.widen(visibleRange(curve.reference.frames.frames()));
+            all.widen(curve.reference.frames.range());
         }
     }
     const ValueRange common = mZoomed       ? *mZoomed

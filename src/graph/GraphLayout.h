@@ -87,7 +87,10 @@ public:
     std::span<const FrameType> frames(unsigned i);
 
 private:
+    bool isStale() const { return mStale || mFrameWidth != mView.width; }
     void updateFrames();
+    void findFrames(void (CurveFrames::*find)(const CurveSamples&, const FrameWindow&));
+    void placeByLabels(const Measure& measure, double lineHeight, double leastMargin);
     void updateScales();
     void placeLanes(double lineHeight);
 

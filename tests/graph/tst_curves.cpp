@@ -14,8 +14,14 @@ constexpr FrameWindow EachSample{0.0, 1e9, -1.0}; ///< in a column of its own
 bool shows(const CurveSamples& samples, const PlainCurve& plain, const FrameWindow& window)
 {
     CurveFrames frames;
+    frames.foresee(samples, window);
+    const ValueRange foreseen = frames.range();
     frames.rebuild(samples, window);
-    return std::ranges::equal(frames.frames(), plain.frames(window, samples.gapRule()),
+    const ValueRange range = frames.range();
+    const bool isFinite = std::isfinite(samples.dataMin()) && std::isfinite(samples.dataMax());
+    const bool isForeseen = foreseen.low == range.low && foreseen.high == range.high;
+    return (isForeseen || !isFinite) &&
+           std::ranges::equal(frames.frames(), plain.frames(window, samples.gapRule()),
                               PlainCurve::isSame);
 }
 
