@@ -13,6 +13,8 @@
 #include <QtOpenGL/QOpenGLPaintDevice>
 #include <QtWidgets/QToolTip>
 
+#include <utility>
+
 using namespace TARN;
 
 namespace {
@@ -31,8 +33,7 @@ QSurfaceFormat graphFormat()
 
 WidgetGraph::WidgetGraph(QWidget* parent)
     : QOpenGLWidget(parent), mFeed(mModel), mGestures(mModel), mLegend(mModel),
-      mTexts(QFontMetricsF(graphFont())), mSpots(mModel, mStyle, mTexts),
-      mEmpty(new EmptyPlace(this))
+      mTexts(QFontMetricsF(graphFont())), mSpots(mModel, mStyle, mTexts), mEmpty(font())
 {
     constexpr int RepaintInterval = 30; // ms
     constexpr int RecalcDelay = 50;
@@ -52,7 +53,6 @@ WidgetGraph::WidgetGraph(QWidget* parent)
     mHeld.setSingleShot(true);
     mHeld.setInterval(LongestHold);
     connect(&mHeld, &QTimer::timeout, this, &WidgetGraph::release);
-    connect(mEmpty, &QLabel::linkActivated, this, &WidgetGraph::signalLink);
     connect(&mGestures, &GraphGestures::cursorMoved, this, &WidgetGraph::signalCursor);
     connect(&mGestures, &GraphGestures::cursorMoved, this, [this] {
         if (QAccessible::isActive()) {
@@ -73,7 +73,6 @@ WidgetGraph::WidgetGraph(QWidget* parent)
 void WidgetGraph::release()
 {
     mHeld.stop();
-    updateEmptyPlace();
     update();
 }
 
@@ -103,10 +102,18 @@ void WidgetGraph::setGraphStyle(const GraphStyle& style)
 
 void WidgetGraph::setEmptyText(const QString& text)
 {
-    mEmptyText = text;
-    if (!mHeld.isActive()) {
-        updateEmptyPlace();
+    if (text == mEmpty.text()) {
+        return; // a repaint for nothing
     }
+    mEmpty.setText(text);
+    if (!mHeld.isActive()) {
+        release();
+    }
+}
+
+QString WidgetGraph::emptyText() const
+{
+    return mModel.curves().hasSamples() ? QString() : mEmpty.text();
 }
 
 void WidgetGraph::setMaxParameters(unsigned n)
@@ -239,19 +246,24 @@ void WidgetGraph::paintGL()
     device.setDevicePixelRatio(devicePixelRatioF());
     QPainter painter(&device);
     paintTexts(painter, mTexts, mStyle);
+    if (!emptyText().isEmpty()) {
+        // Not a label on top: taking one away would paint the window below it, which is slow.
+        mEmpty.paint(painter, plot(), emptyColor());
+    }
 }
 
-/// Stands in the plot, on its colour.
-void WidgetGraph::updateEmptyPlace()
+QRectF WidgetGraph::plot() const
 {
-    constexpr int Margin = 24;
+    constexpr double Margin = 24.0;
     const GraphView& view = mModel.layout().view();
     const QRectF plot(view.x0, height() - view.y0 - view.height, view.width, view.height);
-    const bool isDark = mStyle.back.toColor().lightness() < 128;
-    mEmpty->setTextColor(isDark ? Qt::lightGray : Qt::darkGray);
-    mEmpty->setGeometry(plot.toRect().adjusted(Margin, Margin, -Margin, -Margin));
-    mEmpty->setText(mEmptyText);
-    mEmpty->setVisible(!mModel.curves().hasSamples());
+    return plot.adjusted(Margin, Margin, -Margin, -Margin);
+}
+
+/// On the colour of the plot.
+QColor WidgetGraph::emptyColor() const
+{
+    return mStyle.back.toColor().lightness() < 128 ? Qt::lightGray : Qt::darkGray;
 }
 
 void WidgetGraph::showEvent(QShowEvent* event)
@@ -291,6 +303,10 @@ void WidgetGraph::mousePressEvent(QMouseEvent* event)
 {
     const QPointF place = event->position();
     mRightPressed = place;
+    mPressedLink = event->button() == Qt::LeftButton ? linkAt(place) : QString();
+    if (!mPressedLink.isEmpty()) {
+        return;
+    }
     if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
         if (const auto legend = mSpots.legendAt(place)) {
             setPointed(mModel, legend);
@@ -319,6 +335,12 @@ void WidgetGraph::mouseMoveEvent(QMouseEvent* event)
 void WidgetGraph::mouseReleaseEvent(QMouseEvent* event)
 {
     constexpr double Still = 3.0; // pixels that no hand keeps from moving
+    if (const QString link = std::exchange(mPressedLink, {}); !link.isEmpty()) {
+        if (link == linkAt(event->position())) {
+            Q_EMIT signalLink(link);
+        }
+        return;
+    }
     if (mLegend.isHeld()) {
         mLegend.release();
     } else {
@@ -363,6 +385,11 @@ bool WidgetGraph::event(QEvent* event)
     return true;
 }
 
+QString WidgetGraph::linkAt(QPointF place) const
+{
+    return emptyText().isEmpty() ? QString() : mEmpty.linkAt(place);
+}
+
 /// The shape of the mouse says what a press would do.
 void WidgetGraph::updateMouse(QPointF position)
 {
@@ -370,7 +397,7 @@ void WidgetGraph::updateMouse(QPointF position)
     if (mModel.layout().displayMode() == DisplaySingle) {
         pointAt(mModel, view.viewportToX(position.x()), height() - position.y());
     }
-    const bool isHand = mSpots.isForClicks(position);
+    const bool isHand = mSpots.isForClicks(position) || !linkAt(position).isEmpty();
     setCursor(mLegend.isDragging()        ? Qt::ClosedHandCursor
               : isHand                    ? Qt::PointingHandCursor
               : mGestures.endAt(position) ? Qt::SplitHCursor

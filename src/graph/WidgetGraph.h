@@ -5,7 +5,7 @@
 #include "graph/GraphSpots.h"
 #include "graph/LegendGestures.h"
 #include "graph/LiveFeed.h"
-#include "widgets/EmptyPlace.h"
+#include "widgets/EmptyText.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
@@ -33,6 +33,7 @@ public:
 
     /// Told in the middle of the plot while no active curve has a sample; may hold links.
     void setEmptyText(const QString& text);
+    QString emptyText() const; ///< while it is told
 
     /// Leaves the picture as it is until release(), a few paints at most, while the model becomes
     /// another one.
@@ -104,7 +105,9 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void updateEmptyPlace();
+    QRectF plot() const;
+    QColor emptyColor() const;
+    QString linkAt(QPointF place) const;
     void updateMouse(QPointF position);
 
     TARN::GraphModel mModel;
@@ -116,8 +119,8 @@ private:
     TARN::GlCanvas mCanvas;
     TARN::TextLayout mTexts;
     TARN::GraphSpots mSpots;
-    TARN::EmptyPlace* mEmpty;
-    QString mEmptyText;
+    TARN::EmptyText mEmpty;
+    QString mPressedLink;
     QTimer mRepaintTimer;
     QTimer mRecalcTimer;
     QTimer mHeld; ///< runs while the picture is left as it is

@@ -1,6 +1,6 @@
 #include "widgets/EmptyPlace.h"
 
-#include <QtCore/QRegularExpression>
+#include "widgets/EmptyText.h"
 
 namespace TARN {
 
@@ -27,22 +27,13 @@ void EmptyPlace::setText(const QString& text)
     layText();
 }
 
-/// Links are colored in the text itself: rich text takes their color from the application. A text
-/// without links is a plain one, as a rich one is painted twice each time that it is laid out.
+/// A text without links is a plain one, as a rich one is painted twice each time that it is laid
+/// out.
 void EmptyPlace::layText()
 {
-    if (!mText.contains("<a ")) {
-        setTextFormat(Qt::PlainText);
-        QLabel::setText(mText);
-        return;
-    }
-    setTextFormat(Qt::RichText);
-    static const QRegularExpression Link("&lt;a href=&quot;(\\w+)&quot;&gt;(.*?)&lt;/a&gt;");
-    const QString color = palette().color(QPalette::Link).name();
-    QString rich = mText.toHtmlEscaped(); // names that it holds may look like markup
-    QLabel::setText(
-        rich.replace('\n', "<br>")
-            .replace(Link, QString("<a style=\"color:%1\" href=\"\\1\">\\2</a>").arg(color)));
+    const bool hasLinks = mText.contains("<a ");
+    setTextFormat(hasLinks ? Qt::RichText : Qt::PlainText);
+    QLabel::setText(hasLinks ? withLinks(mText, palette().color(QPalette::Link)) : mText);
 }
 
 void EmptyPlace::setTextColor(const QColor& color)

@@ -5,6 +5,7 @@
 #include "base/Property.h"
 #include "card/DialogCard.h"
 #include "demo/Card.h"
+#include "graph/WidgetGraph.h"
 #include "widgets/ElidedLabel.h"
 #include "widgets/EmptyPlace.h"
 
@@ -93,6 +94,10 @@ QStringList WindowTest::emptyTexts()
     QStringList texts;
     for (const auto* place : mWindow->findChildren<TARN::EmptyPlace*>()) {
         texts += place->isHidden() ? QStringList() : QStringList(place->text());
+    }
+    if (const auto* graph = mWindow->findChild<WidgetGraph*>();
+        graph != nullptr && !graph->emptyText().isEmpty()) {
+        texts += graph->emptyText();
     }
     return texts;
 }
