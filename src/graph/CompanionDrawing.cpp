@@ -98,7 +98,7 @@ void CompanionDrawing::addLegend(const QString& text, const GraphStrip& place,
                                  const GraphColor& color)
 {
     constexpr double Gap = 5.0;
-    const double line = mTexts.sizeOf("0").height();
+    const double line = mTexts.lineHeight();
     const double top = mModel.layout().size().height() - place.y0 - place.height +
                        std::max(0.0, std::min(Gap, (place.height - line) / 2.0));
     const double bottom = std::min(mView.y0, place.y0);

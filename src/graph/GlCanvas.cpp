@@ -44,6 +44,7 @@ void GlCanvas::begin(QSize size, double ratio, const GraphColor& background)
 void GlCanvas::end()
 {
     glDisableClientState(GL_VERTEX_ARRAY);
+    glFlush();
 }
 
 void GlCanvas::clip(double x, double y, double width, double height)
@@ -72,51 +73,104 @@ void GlCanvas::fill(double left, double bottom, double right, double top, const 
     draw(GL_QUADS, points, 4, color, alpha);
 }
 
-void GlCanvas::strip(const float* points, int count, const GraphColor& color)
+/// Points above each other.
+struct GlCanvas::Run
 {
-    draw(GL_LINE_STRIP, points, count, color);
+    float x;
+    float first;
+    float last;
+    float low;
+    float high;
+
+    bool holds(float y) const { return low < high && y >= low && y <= high; }
+};
+
+/// What makes a strip. A column of a curve is many points above each other: they are one line from
+/// the lowest to the highest. The way to the next column is left out where it is covered by both.
+template <typename Add>
+void GlCanvas::eachLine(const float* points, int count, Add add) const
+{
+    const auto ratio = static_cast<float>(mRatio);
+    Run before{};
+    for (int k = 0; k < count;) {
+        const bool isFirst = k == 0;
+        const float y = points[2 * k + 1];
+        Run run{points[2 * k], y, y, y, y};
+        for (; k < count && points[2 * k] == run.x; ++k) {
+            run.last = points[2 * k + 1];
+            run.low = std::min(run.low, run.last);
+            run.high = std::max(run.high, run.last);
+        }
+        if (run.low < run.high) {
+            add(column(run));
+        }
+        const bool isCovered = run.holds(before.last) && before.holds(run.first) &&
+                               std::floor(run.x * ratio) - std::floor(before.x * ratio) <= 1.0F;
+        if (!isFirst && !isCovered) {
+            add(Line{before.x, before.last, run.x, run.first});
+        }
+        before = run;
+    }
 }
 
-/// Each segment in one of two colours; none is longer than a dash.
+void GlCanvas::strip(const float* points, int count, const GraphColor& color)
+{
+    mLines.clear();
+    eachLine(points, count, [this](const Line& line) { mLines.push_back(line); });
+    drawLines(mLines, color);
+    // A rasteriser in software works on these while the next are prepared.
+    constexpr int WorthAStart = 16'000; // points
+    mHanded += count;
+    if (mHanded >= WorthAStart) {
+        mHanded = 0;
+        glFlush();
+    }
+}
+
+/// Each line in one of two colours; none is longer than a dash.
 void GlCanvas::dashed(const float* points, int count, const GraphColor& color,
                       const GraphColor& between)
 {
-    mPoints.clear();
-    mDashes.clear();
+    mLines.clear();
     mGaps.clear();
-    for (int k = 0; k < count; ++k) {
-        addDashes(points + std::ptrdiff_t(2) * std::max(k - 1, 0), points + std::ptrdiff_t(2) * k);
-    }
-    glVertexPointer(2, GL_FLOAT, 0, mPoints.data());
-    for (const auto& [ends, ink] : {std::pair(&mGaps, between), std::pair(&mDashes, color)}) {
-        glColor4f(ink.red, ink.green, ink.blue, 1.0F);
-        glDrawElements(GL_LINES, static_cast<GLsizei>(ends->size()), GL_UNSIGNED_INT, ends->data());
-    }
+    eachLine(points, count, [this](const Line& line) { addDashes(line); });
+    drawLines(mGaps, between);
+    drawLines(mLines, color);
 }
 
-/// The way from one point to the next, cut where dashes end.
-void GlCanvas::addDashes(const float* start, const float* stop)
+/// A line, cut where dashes end.
+void GlCanvas::addDashes(Line line)
 {
     constexpr float Dash = 4.0F; // pixels
-    const auto add = [&](float x, float y, float left) {
-        const auto number = static_cast<unsigned>(mPoints.size() / 2);
-        mPoints.push_back(x);
-        mPoints.push_back(y);
-        if (number > 0) {
-            auto& ends = (static_cast<int>(left / Dash) & 1) == 0 ? mDashes : mGaps;
-            ends.push_back(number - 1);
-            ends.push_back(number);
-        }
+    const auto linesAt = [this](float x) -> std::vector<Line>& {
+        return (static_cast<int>(x / Dash) & 1) == 0 ? mLines : mGaps;
     };
-    float from = start[0];
-    const float slope = stop[0] > from ? (stop[1] - start[1]) / (stop[0] - from) : 0.0F;
-    const float end = std::min(stop[0], mWidth); // neighbours may lie far outside
-    for (float edge = (std::floor(std::max(from, 0.0F) / Dash) + 1.0F) * Dash; edge < end;
+    const float slope = line.x1 > line.x0 ? (line.y1 - line.y0) / (line.x1 - line.x0) : 0.0F;
+    const float end = std::min(line.x1, mWidth); // neighbours may lie far outside
+    for (float edge = (std::floor(std::max(line.x0, 0.0F) / Dash) + 1.0F) * Dash; edge < end;
          edge += Dash) {
-        add(edge, stop[1] - (stop[0] - edge) * slope, from);
-        from = edge;
+        const float y = line.y1 - (line.x1 - edge) * slope;
+        linesAt(line.x0).push_back({line.x0, line.y0, edge, y});
+        line.x0 = edge;
+        line.y0 = y;
     }
-    add(stop[0], stop[1], from);
+    linesAt(line.x0).push_back(line);
+}
+
+/// From the row of the lowest point to that of the highest, whole: where a line begins and ends, a
+/// part of a row may not count, and the end does not.
+GlCanvas::Line GlCanvas::column(const Run& run) const
+{
+    constexpr float Inside = 0.01F; // rows
+    const auto ratio = static_cast<float>(mRatio);
+    return {run.x, (std::floor(run.low * ratio) + Inside) / ratio, run.x,
+            (std::floor(run.high * ratio) + 1.0F + Inside) / ratio};
+}
+
+void GlCanvas::drawLines(const std::vector<Line>& lines, const GraphColor& color) const
+{
+    draw(GL_LINES, lines.empty() ? nullptr : &lines.front().x0, static_cast<int>(lines.size()) * 2,
+         color);
 }
 
 void GlCanvas::lines(const std::vector<float>& points, const GraphColor& color)

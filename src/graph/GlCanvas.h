@@ -32,13 +32,26 @@ private:
     void draw(unsigned mode, const float* points, int count, const GraphColor& color,
               float alpha = 1.0F) const;
 
-    void addDashes(const float* start, const float* stop);
+    struct Line
+    {
+        float x0;
+        float y0;
+        float x1;
+        float y1;
+    };
+
+    struct Run;
+    template <typename Add>
+    void eachLine(const float* points, int count, Add add) const;
+    void addDashes(Line line);
+    Line column(const Run& run) const;
+    void drawLines(const std::vector<Line>& lines, const GraphColor& color) const;
 
     double mRatio = 1.0;
-    float mWidth = 0.0F;           ///< pixels
-    std::vector<float> mPoints;    ///< of what is dashed; kept to spare allocations
-    std::vector<unsigned> mDashes; ///< numbers of the points at both ends of segments
-    std::vector<unsigned> mGaps;
+    float mWidth = 0.0F;      ///< pixels
+    int mHanded = 0;          ///< points of strips since the driver was told to begin
+    std::vector<Line> mLines; ///< kept to spare allocations
+    std::vector<Line> mGaps;
 };
 
 } // namespace TARN

@@ -121,7 +121,7 @@ void GraphDrawing::drawTicksX()
     constexpr double LabelGap = 8.0;
     constexpr double LabelTop = 15.0; // below the plot
     const QString widest = timeLabel(mView.xmax, (mView.xmax - mView.xmin) / 10.0);
-    const double spacing = std::max(Spacing, mTexts.sizeOf(widest).width() + LabelGap);
+    const double spacing = std::max(Spacing, mTexts.widthOf(widest) + LabelGap);
     const GraphTicks axis = GraphTicks::ofTimes(mView.xmin, mView.xmax, mView.width, spacing);
     const QRectF area(QPointF(), mSize);
     std::vector<float> marks;
@@ -132,7 +132,7 @@ void GraphDrawing::drawTicksX()
         if (tick.major) {
             addLine(grid, x, mView.y0, x, mView.y0 + mView.height);
             const QString text = timeLabel(tick.value, axis.step);
-            const double left = mView.xToViewport(tick.value) - mTexts.sizeOf(text).width() / 2.0;
+            const double left = mView.xToViewport(tick.value) - mTexts.widthOf(text) / 2.0;
             mTexts.add(text, {left, mSize.height() - mView.base + LabelTop},
                        legibleOn(mStyle.labelBack, mStyle.label), area);
         }
@@ -229,7 +229,7 @@ void GraphDrawing::drawMarkerEnds()
         return;
     }
     const QRectF plot = plotBox();
-    const double top = plot.bottom() - Gap - mTexts.sizeOf("0").height();
+    const double top = plot.bottom() - Gap - mTexts.lineHeight();
     std::vector<float> points;
     for (const auto& [name, time] : {std::pair("A ", marks.start), std::pair("B ", marks.stop)}) {
         const double x = mView.xToViewport(time);
@@ -239,7 +239,7 @@ void GraphDrawing::drawMarkerEnds()
         const double sharp = mCanvas.sharp(x);
         addLine(points, sharp, mView.y0, sharp, mView.y0 + mView.height);
         const QString text = name + clockTextWithMilliseconds(time);
-        const double width = mTexts.sizeOf(text).width();
+        const double width = mTexts.widthOf(text);
         // Outside of the range, where both have room.
         const bool isLeft = (name[0] == 'A') == (x - Gap - width >= plot.left());
         mTexts.addNear(text, {isLeft ? x - Gap - width : x + Gap, top},
@@ -306,11 +306,11 @@ void GraphDrawing::drawCursorValues(double x, double y)
 {
     const QRectF plot = plotBox();
     const auto add = [&](const QString& text, double top, const GraphColor& color) {
-        const double width = mTexts.sizeOf(text).width();
+        const double width = mTexts.widthOf(text);
         const bool fits = x + Gap + width <= plot.right();
         mTexts.addNear(text, {fits ? x + Gap : x - Gap - width, top}, color, plot);
     };
-    const double lineHeight = mTexts.sizeOf("0").height();
+    const double lineHeight = mTexts.lineHeight();
     const bool isReported =
         static_cast<float>(mModel.cursor()) == static_cast<float>(mKeyCursor.reportedTime);
     const QTime time =

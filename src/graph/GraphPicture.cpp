@@ -43,8 +43,8 @@ void drawGraph(GraphModel& model, const GraphStyle& style, const KeyCursor& keyC
     texts.clear();
     model.layout().setLanes(
         style.lanesOn ? static_cast<unsigned>(model.hints().notes.lanes().size()) : 0);
-    model.layout().prepare([&](const QString& text) { return texts.sizeOf(text).width(); },
-                           texts.sizeOf("0").height(), style.leastMargin);
+    model.layout().prepare([&](const QString& text) { return texts.widthOf(text); },
+                           texts.lineHeight(), style.leastMargin);
     GraphDrawing(model, style, keyCursor, canvas, texts).draw();
 }
 
@@ -70,7 +70,7 @@ void paintTexts(QPainter& painter, const TextLayout& texts, const GraphStyle& st
 
 QSize GraphPicture::wholeSize(const TextLayout& texts) const
 {
-    const int line = static_cast<int>(texts.sizeOf("0").height()) + 2 * CaptionMargin;
+    const int line = static_cast<int>(texts.lineHeight()) + 2 * CaptionMargin;
     return {size.width(), size.height() + (caption.isEmpty() ? 0 : line)};
 }
 

@@ -59,7 +59,7 @@ void LegendDrawing::draw()
     constexpr double ColumnGap = 20.0;
     const QRectF plot = plotBox();
     const bool split = mModel.layout().displayMode() == DisplaySplit;
-    const double lineHeight = mTexts.sizeOf("0").height();
+    const double lineHeight = mTexts.lineHeight();
     double left = plot.left() + Gap;
     double top = plot.top() + Gap;
     double widest = 0.0;
@@ -86,7 +86,7 @@ void LegendDrawing::drawHiddenLabels()
 {
     constexpr double NameGap = 12.0;
     const QRectF plot = plotBox();
-    const double top = plot.bottom() - Gap - mTexts.sizeOf("0").height();
+    const double top = plot.bottom() - Gap - mTexts.lineHeight();
     double right = plot.right() - Gap;
     for (const unsigned k : mModel.curves().order()) {
         const ParStruct& curve = *mModel.curves().curve(k);

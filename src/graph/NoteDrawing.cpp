@@ -108,7 +108,7 @@ void NoteDrawing::drawWords(const ParStruct& curve)
         return;
     }
     const auto frames = curve.frames.frames();
-    const double height = mTexts.sizeOf("0").height();
+    const double height = mTexts.lineHeight();
     const double lowest = curve.strip.y0 + height;
     const double highest = std::max(lowest, curve.strip.y0 + curve.strip.height);
     for (std::size_t i = 0; i < frames.size();) {
@@ -220,7 +220,7 @@ QString NoteDrawing::namesIn(const QString& list, double room) const
         if (count < names.size()) {
             text += QString(" +%1").arg(names.size() - count);
         }
-        if (mTexts.sizeOf(text).width() <= room) {
+        if (mTexts.widthOf(text) <= room) {
             return text;
         }
     }

@@ -1,15 +1,23 @@
 #include "graph/TextLayout.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace TARN {
 
-QSizeF TextLayout::sizeOf(const QString& text) const
+double TextLayout::widthOf(const QString& text) const
 {
-    return mMetrics
-               ? QSizeF(std::ceil(mMetrics->horizontalAdvance(text)), std::ceil(mMetrics->height()))
-               : QSizeF(std::ceil(static_cast<double>(text.size()) * mCharacter), mLine);
+    if (!mMetrics) {
+        return std::ceil(static_cast<double>(text.size()) * mCharacter);
+    }
+    constexpr qsizetype Most = 1000;
+    const auto known = mWidths.constFind(text);
+    if (known != mWidths.constEnd()) {
+        return *known;
+    }
+    if (mWidths.size() >= Most) {
+        mWidths.clear();
+    }
+    return *mWidths.insert(text, std::ceil(mMetrics->horizontalAdvance(text)));
 }
 
 QString TextLayout::elided(const QString& text, double width, Qt::TextElideMode mode) const
@@ -43,7 +51,7 @@ bool TextLayout::add(const Text& text, const QRectF& area)
 double TextLayout::freeFrom(double top, double left, double width) const
 {
     constexpr double Gap = 5.0; // pixels
-    QRectF box(left, top, width, sizeOf("0").height());
+    QRectF box(left, top, width, lineHeight());
     while (const Text* other = hit(box)) {
         box.moveLeft(other->box.right() + Gap);
     }

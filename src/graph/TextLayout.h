@@ -2,9 +2,11 @@
 
 #include "graph/GraphTypes.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QRectF>
 #include <QtGui/QFontMetricsF>
 
+#include <cmath>
 #include <optional>
 #include <vector>
 
@@ -25,14 +27,18 @@ public:
         std::optional<unsigned> curve = {};   ///< whose legend it is
     };
 
-    explicit TextLayout(const QFontMetricsF& metrics) : mMetrics(metrics) {}
+    explicit TextLayout(const QFontMetricsF& metrics)
+        : mMetrics(metrics), mLine(std::ceil(metrics.height()))
+    {}
     /// Without a font: every character is so many pixels wide, a line so many high.
     TextLayout(double character, double line) : mCharacter(character), mLine(line) {}
 
     void clear() { mTexts.clear(); }
     const std::vector<Text>& texts() const { return mTexts; }
 
-    QSizeF sizeOf(const QString& text) const;
+    QSizeF sizeOf(const QString& text) const { return {widthOf(text), mLine}; }
+    double widthOf(const QString& text) const;
+    double lineHeight() const { return mLine; }
 
     /// A text cut, in the middle by default, where it is wider than so many pixels.
     QString elided(const QString& text, double width,
@@ -65,6 +71,7 @@ private:
     std::optional<QFontMetricsF> mMetrics;
     double mCharacter = 0.0;
     double mLine = 0.0;
+    mutable QHash<QString, double> mWidths; ///< measured; most texts come again with the next paint
     std::vector<Text> mTexts;
 };
 

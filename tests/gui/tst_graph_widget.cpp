@@ -367,8 +367,8 @@ private Q_SLOTS:
     {
         Graph graph;
         const int spike = graph.x(40.0); // of one sample among a hundred thousand
-        const int top = graph.row(79.0);
-        const int bottom = graph.row(52.0);
+        const int top = graph.row(80.0);
+        const int bottom = graph.row(50.0); // where all the others are
         const auto green = [&](int column) { return graph.count(Green, column, top, bottom); };
         QCOMPARE(green(spike - 1) + green(spike) + green(spike + 1), bottom - top);
         QCOMPARE(green(spike + 5), 0);
@@ -381,6 +381,28 @@ private Q_SLOTS:
             QVERIFY(graph.count(Red, column, 12, middle) > 0);
             QVERIFY(graph.count(Green, column, middle) > 0);
         }
+    }
+
+    void emptyTextHasLinks()
+    {
+        Graph graph;
+        graph.setEmptyText("Open a\n<a href=\"card\">card</a>\nto begin.");
+        settle();
+        const auto middle = [&] { return QPoint(graph.x(50.0), (12 + 308) / 2); };
+        QSignalSpy link(&graph, &WidgetGraph::signalLink);
+        QTest::mouseClick(&graph, Qt::LeftButton, {}, middle());
+        QCOMPARE(link.size(), 0); // there are curves
+        graph.model().clear();
+        settle();
+        QCOMPARE(graph.emptyText().section('\n', 0, 0), "Open a");
+        graph.send(QEvent::MouseMove, middle(), Qt::NoButton, Qt::NoButton);
+        QCOMPARE(graph.cursor().shape(), Qt::PointingHandCursor);
+        QTest::mouseClick(&graph, Qt::RightButton, {}, middle());
+        QTest::mouseClick(&graph, Qt::LeftButton, {}, middle() + QPoint(0, 40));
+        QCOMPARE(link.size(), 0);
+        QTest::mouseClick(&graph, Qt::LeftButton, {}, middle());
+        QCOMPARE(link.size(), 1);
+        QCOMPARE(link[0][0], "card");
     }
 
     void windowFollowsTheSession()
@@ -487,6 +509,10 @@ private Q_SLOTS:
     {
         GraphWindow graph(flight(2));
         WidgetGraph& widget = *graph.window.graph();
+        // A dot under the edge of a curve is seen only where edges are smooth.
+        GraphStyle style = widget.graphStyle();
+        style.gridOn = false;
+        widget.setGraphStyle(style);
         for (const eDisplayMode mode : {DisplaySingle, DisplaySplit}) {
             graph.model().setDisplayMode(mode);
             QTest::qWait(300);
