@@ -2,7 +2,7 @@
 
 #include "Suite.h"
 #include "Window.h"
-#include "graph/WidgetGraph.h"
+#include "graph/GraphContext.h"
 
 #include <QtWidgets/QApplication>
 
@@ -16,7 +16,7 @@ int main(int argc, char** argv)
         return *status;
     }
     QApplication application(argc, argv);
-    if (!WidgetGraph::canDraw()) {
+    if (!canDrawGraph()) {
         std::fprintf(stderr, "orna-bench-window: no OpenGL on this display\n");
         return 1;
     }

@@ -7,6 +7,7 @@
 #include "base/Directory.h"
 #include "base/Property.h"
 #include "base/Revision.h"
+#include "graph/GraphContext.h"
 #include "widgets/ClearStyle.h"
 #include "widgets/Kernel.h"
 
@@ -94,6 +95,7 @@ void useDecimalPoint()
 
 DialogMain* startUp(QApplication& application)
 {
+    loadGraphics();
     DialogSplash* splash = DialogSplash::instance();
     splash->addEntry("Starting up ORNA...");
     splash->addEntry(

@@ -3,6 +3,7 @@
 #include "graph/DialogGraphSetup.h"
 #include "graph/GraphActions.h"
 #include "graph/GraphButtons.h"
+#include "graph/GraphContext.h"
 #include "graph/GraphPanes.h"
 #include "graph/ReferenceGraph.h"
 #include "graph/SessionGraph.h"
@@ -46,7 +47,7 @@ QWidget* DialogDataGraph::createPlot()
     auto* plot = new QWidget;
     auto* layout = new QVBoxLayout(plot);
     layout->setContentsMargins(0, 0, 0, 0);
-    if (WidgetGraph::canDraw()) {
+    if (canDrawGraph()) {
         createGraph();
         mPanes = new GraphPanes(mSession, *mGraph);
         connect(mPanes, &GraphPanes::measuringChanged, mButtons, &GraphButtons::showMeasuring);

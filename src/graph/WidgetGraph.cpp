@@ -3,12 +3,11 @@
 #include "base/Property.h"
 #include "graph/CurveText.h"
 #include "graph/GraphActions.h"
+#include "graph/GraphContext.h"
 #include "graph/GraphPicture.h"
 
 #include <QtGui/QAccessible>
 #include <QtGui/QMouseEvent>
-#include <QtGui/QOffscreenSurface>
-#include <QtGui/QOpenGLContext>
 #include <QtGui/QPainter>
 #include <QtOpenGL/QOpenGLPaintDevice>
 #include <QtWidgets/QToolTip>
@@ -16,20 +15,6 @@
 #include <utility>
 
 using namespace TARN;
-
-namespace {
-
-/// The oldest kind of context; it has all that is drawn with.
-QSurfaceFormat graphFormat()
-{
-    QSurfaceFormat format;
-    format.setRenderableType(QSurfaceFormat::OpenGL);
-    format.setVersion(2, 1);
-    format.setProfile(QSurfaceFormat::NoProfile);
-    return format;
-}
-
-} // namespace
 
 WidgetGraph::WidgetGraph(QWidget* parent)
     : QOpenGLWidget(parent), mFeed(mModel), mGestures(mModel), mLegend(mModel),
@@ -74,24 +59,6 @@ void WidgetGraph::release()
 {
     mHeld.stop();
     update();
-}
-
-bool WidgetGraph::canDraw()
-{
-    QOpenGLContext context;
-    context.setFormat(graphFormat());
-    QOffscreenSurface surface;
-    surface.setFormat(graphFormat());
-    if (!context.create() || context.isOpenGLES()) {
-        return false;
-    }
-    surface.create();
-    const bool current = context.makeCurrent(&surface);
-    const bool drawable = current && context.format().profile() != QSurfaceFormat::CoreProfile;
-    if (current) {
-        context.doneCurrent();
-    }
-    return drawable;
 }
 
 void WidgetGraph::setGraphStyle(const GraphStyle& style)

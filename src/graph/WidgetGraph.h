@@ -22,10 +22,6 @@ class WidgetGraph : public QOpenGLWidget
 public:
     explicit WidgetGraph(QWidget* parent = nullptr);
 
-    /// Whether this display gives a context that a graph can be drawn in. Asked before a widget
-    /// is made: one without a context stays blank.
-    static bool canDraw();
-
     TARN::GraphModel& model() { return mModel; }
     const TARN::GraphModel& model() const { return mModel; }
     const TARN::GraphStyle& graphStyle() const { return mStyle; }

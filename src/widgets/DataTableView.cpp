@@ -56,7 +56,6 @@ DataTableView::DataTableView(QWidget* parent)
     QFont font = this->font();
     font.setPixelSize(11); // fits the row height
     setFont(font);
-    setStyleSheet("selection-background-color: rgba(100, 100, 255, 255);");
     setItemDelegate(new RowDelegate(this));
     setSelectionMode(QAbstractItemView::SingleSelection);
     setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -162,6 +161,9 @@ void DataTableView::mousePressEvent(QMouseEvent* event)
 
 void DataTableView::showEvent(QShowEvent* event)
 {
+    if (styleSheet().isEmpty()) { // it slows down what is done to a table that nobody sees
+        setStyleSheet("selection-background-color: rgba(100, 100, 255, 255);");
+    }
     QTableView::showEvent(event);
     mWidening.start();
 }
