@@ -6,6 +6,7 @@
 
 #include <QtGui/QPixmap>
 
+#include <algorithm>
 #include <utility>
 
 namespace TARN {
@@ -13,6 +14,7 @@ namespace TARN {
 void MeasureModel::setCurves(std::vector<MeasuredCurve> curves, const TimeRange& range)
 {
     const bool isSameSize = curves.size() == mCurves.size();
+    const bool hasSameNames = std::ranges::equal(curves, mCurves, MeasuredCurve::hasSameName);
     if (!isSameSize) {
         beginResetModel();
     }
@@ -20,8 +22,12 @@ void MeasureModel::setCurves(std::vector<MeasuredCurve> curves, const TimeRange&
     mRange = range;
     if (!isSameSize) {
         endResetModel();
-    } else if (!mCurves.empty()) {
+        return;
+    }
+    if (!mCurves.empty()) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    }
+    if (!hasSameNames) {
         Q_EMIT headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
     }
 }

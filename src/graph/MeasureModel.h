@@ -28,6 +28,12 @@ struct MeasuredCurve
     QString wordsAtB;
     Statistics statistics;                 ///< from A to B
     std::optional<ComparedCurve> compared; ///< where there is a reference
+
+    /// Whether the headers of two rows are the same.
+    static bool hasSameName(const MeasuredCurve& a, const MeasuredCurve& b)
+    {
+        return a.parameter == b.parameter && a.color == b.color;
+    }
 };
 
 /// The table of the measuring panel: a row for each curve, its values at two moments A and B and

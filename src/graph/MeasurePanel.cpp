@@ -6,6 +6,7 @@
 #include "graph/MeasureModel.h"
 #include "graph/WidgetGraph.h"
 #include "widgets/ClockEdit.h"
+#include "widgets/TextLine.h"
 
 #include <QtCore/QSortFilterProxyModel>
 #include <QtGui/QAction>
@@ -44,7 +45,7 @@ MeasurePanel::MeasurePanel(Session& session, WidgetGraph& graph, QWidget* parent
     : QWidget(parent), mSession(session), mGraph(graph), mModel(new MeasureModel(this)),
       mSorted(new QSortFilterProxyModel(this)), mTable(createTable()),
       mStart(createTime(MarkerEnd::A, tr("Time of A, recording clock"))),
-      mStop(createTime(MarkerEnd::B, tr("Time of B, recording clock"))), mSpan(new QLabel),
+      mStop(createTime(MarkerEnd::B, tr("Time of B, recording clock"))), mSpan(new TextLine),
       mComparer(session)
 {
     constexpr int Delay = 100; // ms

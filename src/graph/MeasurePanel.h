@@ -7,7 +7,6 @@
 #include <QtWidgets/QWidget>
 
 class QAction;
-class QLabel;
 class QSortFilterProxyModel;
 class QTableView;
 class WidgetGraph;
@@ -16,6 +15,7 @@ namespace TARN {
 
 class ClockEdit;
 class MeasureModel;
+class TextLine;
 
 /// Below the graph: what is measured of each of its curves between the ends A and B of the marked
 /// range, or over the whole flight where nothing is marked.
@@ -56,7 +56,7 @@ private:
     QTableView* mTable;
     ClockEdit* mStart;
     ClockEdit* mStop;
-    QLabel* mSpan;
+    TextLine* mSpan;
     QTimer mTimer; ///< until curves that are seen have been decoded
     QTimer mFit;   ///< until an end that is dragged stands still
     Job<StatisticsIndexes> mJob;
