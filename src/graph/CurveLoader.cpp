@@ -6,9 +6,9 @@ namespace TARN {
 
 CurveLoader::CurveLoader(QObject* parent) : QObject(parent)
 {
-    for (Job<std::vector<DecodedCurve>>& job : mJobs) {
+    for (Decoding& job : mJobs) {
         job.setOutOfMemory([this] {
-            mWaiting.clear();
+            mWaiting = std::make_shared<Waiting>();
             Q_EMIT outOfMemory();
         });
     }
@@ -17,7 +17,7 @@ CurveLoader::CurveLoader(QObject* parent) : QObject(parent)
 void CurveLoader::load(std::shared_ptr<const Flight> flight,
                        const std::vector<const ProfileParameter*>& parameters, double offset)
 {
-    for (Job<std::vector<DecodedCurve>>& job : mJobs) {
+    for (Decoding& job : mJobs) {
         job.cancel();
     }
     if (flight != mFlight || offset != mOffset) {
@@ -26,7 +26,7 @@ void CurveLoader::load(std::shared_ptr<const Flight> flight,
     mFlight = std::move(flight);
     mOffset = offset;
     mParameters = parameters;
-    mWaiting.clear();
+    mWaiting = std::make_shared<Waiting>();
     // What is not shown any more is not kept either.
     std::erase_if(mDecoded, [&](const auto& item) {
         return std::ranges::none_of(parameters, [&](const ProfileParameter* parameter) {
@@ -38,7 +38,7 @@ void CurveLoader::load(std::shared_ptr<const Flight> flight,
         if (known != mDecoded.end()) {
             Q_EMIT curveReady(place, known->second);
         } else if (mFlight != nullptr) {
-            mWaiting.push_back(place);
+            mWaiting->curves.emplace_back(place, parameters[place]);
         }
     }
     Q_EMIT ready();
@@ -46,70 +46,50 @@ void CurveLoader::load(std::shared_ptr<const Flight> flight,
 
 void CurveLoader::start()
 {
-    for (Job<std::vector<DecodedCurve>>& job : mJobs) {
-        if (!job.isRunning() && !mWaiting.empty()) {
+    for (Decoding& job : mJobs) {
+        if (!job.isRunning() && !mWaiting->isEmpty()) {
             startJob(job);
         }
     }
 }
 
-void CurveLoader::startJob(Job<std::vector<DecodedCurve>>& job)
+/// Curves until there is none left or many samples are decoded: short ones go together, as a job
+/// costs more than they do. Each lane takes the next one, so both end at the same time.
+void CurveLoader::startJob(Decoding& job)
 {
-    const std::vector<unsigned> places = takeWaiting();
-    std::vector<const ProfileParameter*> parameters;
-    for (const unsigned place : places) {
-        parameters.push_back(mParameters[place]);
-    }
     job.start(
-        [flight = mFlight, parameters, offset = mOffset](Progress& progress) {
-            std::vector<DecodedCurve> curves;
-            for (const ProfileParameter* parameter : parameters) {
-                curves.push_back(decodeCurve(flight, *parameter, offset, progress));
+        [flight = mFlight, waiting = mWaiting, offset = mOffset](Progress& progress) {
+            constexpr std::size_t Most = 750'000; // samples
+            std::vector<Placed> decoded;
+            for (std::size_t samples = 0; samples < Most && !progress.stopRequested();) {
+                const std::size_t next = waiting->next++;
+                if (next >= waiting->curves.size()) {
+                    break;
+                }
+                const auto& [place, parameter] = waiting->curves[next];
+                decoded.push_back({place, decodeCurve(flight, *parameter, offset, progress)});
+                samples += flight->series(*parameter, offset).size();
             }
-            return curves;
+            return decoded;
         },
-        [this, places](const std::vector<DecodedCurve>& curves) { take(places, curves); });
+        [this](const std::vector<Placed>& decoded) { take(decoded); });
 }
 
-/// What one job decodes: short curves go together, as a job costs more than they do, but both
-/// lanes have their share.
-std::vector<unsigned> CurveLoader::takeWaiting()
+void CurveLoader::take(const std::vector<Placed>& decoded)
 {
-    constexpr std::size_t Least = 100'000; // samples
-    constexpr std::size_t Most = 750'000;
-    const auto samplesOf = [this](unsigned place) {
-        return mFlight->series(*mParameters[place], mOffset).size();
-    };
-    std::size_t waiting = 0;
-    for (const unsigned place : mWaiting) {
-        waiting += samplesOf(place);
-    }
-    const std::size_t share = std::clamp(waiting / (2 * Lanes), Least, Most);
-    std::vector<unsigned> places;
-    for (std::size_t samples = 0; !mWaiting.empty() && samples < share;) {
-        places.push_back(mWaiting.front());
-        samples += samplesOf(mWaiting.front());
-        mWaiting.pop_front();
-    }
-    return places;
-}
-
-void CurveLoader::take(const std::vector<unsigned>& places, const std::vector<DecodedCurve>& curves)
-{
-    for (std::size_t i = 0; i < places.size(); ++i) {
-        mDecoded[mParameters[places[i]]->uid] = curves[i];
+    for (const auto& [place, curve] : decoded) {
+        mDecoded[mParameters[place]->uid] = curve;
     }
     start();
-    for (std::size_t i = 0; i < places.size(); ++i) {
-        Q_EMIT curveReady(places[i], curves[i]);
+    for (const auto& [place, curve] : decoded) {
+        Q_EMIT curveReady(place, curve);
     }
     Q_EMIT ready();
 }
 
 bool CurveLoader::isBusy() const
 {
-    return !mWaiting.empty() ||
-           std::ranges::any_of(mJobs, &Job<std::vector<DecodedCurve>>::isRunning);
+    return !mWaiting->isEmpty() || std::ranges::any_of(mJobs, &Decoding::isRunning);
 }
 
 std::size_t CurveLoader::leftOut() const

@@ -6,8 +6,9 @@
 #include <QtCore/QObject>
 
 #include <array>
-#include <deque>
+#include <atomic>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace TARN {
@@ -44,9 +45,24 @@ Q_SIGNALS:
     void outOfMemory();
 
 private:
-    void startJob(Job<std::vector<DecodedCurve>>& job);
-    std::vector<unsigned> takeWaiting();
-    void take(const std::vector<unsigned>& places, const std::vector<DecodedCurve>& curves);
+    struct Placed
+    {
+        unsigned place; ///< among the parameters
+        DecodedCurve curve;
+    };
+    using Decoding = Job<std::vector<Placed>>;
+
+    /// What is still to be decoded, in the order in which it was asked for; for both lanes.
+    struct Waiting
+    {
+        std::vector<std::pair<unsigned, const ProfileParameter*>> curves;
+        std::atomic<std::size_t> next = 0;
+
+        bool isEmpty() const { return next >= curves.size(); }
+    };
+
+    void startJob(Decoding& job);
+    void take(const std::vector<Placed>& decoded);
 
     /// Two are decoded at a time.
     static constexpr std::size_t Lanes = 2;
@@ -54,9 +70,9 @@ private:
     std::shared_ptr<const Flight> mFlight;
     double mOffset = 0.0;
     std::vector<const ProfileParameter*> mParameters;
-    std::deque<unsigned> mWaiting;        ///< places
+    std::shared_ptr<Waiting> mWaiting = std::make_shared<Waiting>();
     std::map<int, DecodedCurve> mDecoded; ///< by the parameter's uid
-    std::array<Job<std::vector<DecodedCurve>>, Lanes> mJobs;
+    std::array<Decoding, Lanes> mJobs;
 };
 
 } // namespace TARN
