@@ -215,7 +215,7 @@ void WidgetGraph::paintGL()
     paintTexts(painter, mTexts, mStyle);
     if (!emptyText().isEmpty()) {
         // Not a label on top: taking one away would paint the window below it, which is slow.
-        mEmpty.paint(painter, plot(), emptyColor());
+        mEmpty.paint(painter, plot(), emptyColor(), mStyle.back.toColor());
     }
 }
 

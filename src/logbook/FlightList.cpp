@@ -42,8 +42,7 @@ FlightList::FlightList(QWidget* parent)
     mTable->setContextMenuPolicy(Qt::ActionsContextMenu);
     mTable->setStretched(FlightListModel::EngineColumn);
     mTable->horizontalHeader()->setSortIndicator(FlightListModel::StartColumn, Qt::DescendingOrder);
-    mTable->horizontalHeader()->setSortIndicatorShown(true);
-    mTable->horizontalHeader()->setSectionsClickable(true);
+    mTable->setSortingEnabled(true);
     mTable->fitColumns();
     auto* line = new QHBoxLayout;
     line->addWidget(mEngine);
@@ -63,10 +62,7 @@ FlightList::FlightList(QWidget* parent)
     });
     connect(mTable, &DataTableView::signalLink, this, &FlightList::signalLink);
     connect(mTable->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
-            [this](int column, Qt::SortOrder order) {
-                mModel.sort(column, order);
-                choose(mChosen);
-            });
+            [this] { choose(mChosen); });
     connect(mTable, &QAbstractItemView::doubleClicked, this, [this] {
         const bool asReference = QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
         Q_EMIT flightWanted(mChosen, asReference);

@@ -66,8 +66,7 @@ QWidget* TrendPanel::createList()
     mTable->verticalHeader()->hide();
     mTable->setStretched(TrendListModel::NameColumn);
     mTable->horizontalHeader()->setSortIndicator(TrendListModel::AwayColumn, Qt::DescendingOrder);
-    mTable->horizontalHeader()->setSortIndicatorShown(true);
-    mTable->horizontalHeader()->setSectionsClickable(true);
+    mTable->setSortingEnabled(true);
     mTable->fitColumns();
     auto* line = new QHBoxLayout;
     line->addWidget(mFigure);
@@ -88,10 +87,7 @@ QWidget* TrendPanel::createList()
         showTrend(row); // the list stays under the mouse
     });
     connect(mTable->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
-            [this](int column, Qt::SortOrder order) {
-                mModel.sort(column, order);
-                showParameter(std::max(0, mModel.rowOf(mParameter)));
-            });
+            [this] { showParameter(std::max(0, mModel.rowOf(mParameter))); });
     return list;
 }
 

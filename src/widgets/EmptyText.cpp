@@ -26,14 +26,19 @@ void EmptyText::setText(const QString& text)
     }
 }
 
-void EmptyText::paint(QPainter& painter, const QRectF& room, const QColor& color)
+void EmptyText::paint(QPainter& painter, const QRectF& room, const QColor& color,
+                      const QColor& ground)
 {
+    constexpr double Around = 6.0; // pixels
     if (color != mColor) {
         mColor = color;
         mDocument.setHtml(withLinks(mText, color));
     }
     mDocument.setTextWidth(room.width());
     mCorner = room.topLeft() + QPointF(0.0, (room.height() - mDocument.size().height()) / 2.0);
+    QRectF plate(QPointF(), QSizeF(mDocument.idealWidth(), mDocument.size().height()));
+    plate.moveCenter(room.center());
+    painter.fillRect(plate.adjusted(-Around, -Around, Around, Around), ground);
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette.setColor(QPalette::Text, color);
     painter.translate(mCorner);

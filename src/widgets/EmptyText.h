@@ -17,8 +17,8 @@ public:
     void setText(const QString& text);
     const QString& text() const { return mText; }
 
-    /// In the middle of a room, in a color.
-    void paint(QPainter& painter, const QRectF& room, const QColor& color);
+    /// In the middle of a room, in a color on a ground.
+    void paint(QPainter& painter, const QRectF& room, const QColor& color, const QColor& ground);
 
     /// The link at a place of the view, as it was painted last; empty where there is none.
     QString linkAt(QPointF place) const;
