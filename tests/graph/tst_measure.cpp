@@ -71,6 +71,11 @@ private Q_SLOTS:
         QVERIFY(!model.timeOf(model.index(0, MeasureModel::MeanColumn)));
         QVERIFY(!model.timeOf(model.index(1, MeasureModel::MaxColumn)));
         QSignalSpy told(&model, &MeasureModel::headerDataChanged);
+        QSignalSpy changed(&model, &MeasureModel::dataChanged);
+        model.setCurves(curves, range); // as a marker is dragged
+        QCOMPARE(told.size(), 0);
+        QCOMPARE(changed.size(), 1);
+        curves[1].color = Qt::blue;
         model.setCurves(curves, range);
         QCOMPARE(told.value(0).value(2), QVariant(1));
         QCOMPARE(model.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), "A");
