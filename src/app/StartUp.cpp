@@ -95,8 +95,10 @@ void useDecimalPoint()
 
 DialogMain* startUp(QApplication& application)
 {
-    loadGraphics();
     DialogSplash* splash = DialogSplash::instance();
+    // Not before a first window has been shown: that may start helper processes, and a process is
+    // best copied while it has one thread.
+    loadGraphics();
     splash->addEntry("Starting up ORNA...");
     splash->addEntry(
         QString("Version %1").arg(QString::fromStdString(Revision::getRevisionString())));
