@@ -109,13 +109,16 @@ private:
             {"logbook", [this] { useLogbook(); }},
             {"stop", [this] { find<QWidget>("exporting")->findChild<QToolButton*>()->click(); }},
             {"cancel", [this] { QTest::keyClick(recordings(), Qt::Key_Escape); }},
-            {"close", [this] { window().close(), hasClosed() ? start() : void(); }}};
+            {"close", [this] { window().close(); }}};
         const auto& [name, deed] = deeds[any(std::size(deeds) + 4) % std::size(deeds)];
         deed();
         while (QWidget* menu = QApplication::activePopupWidget()) {
             menu->close();
         }
         QTest::qWait(any(50));
+        if (hasClosed()) { // at once, or when what it waited for has been written
+            start();
+        }
         return name;
     }
 
