@@ -39,11 +39,6 @@ WidgetGraph::WidgetGraph(QWidget* parent)
     mHeld.setInterval(LongestHold);
     connect(&mHeld, &QTimer::timeout, this, &WidgetGraph::release);
     connect(&mGestures, &GraphGestures::cursorMoved, this, &WidgetGraph::signalCursor);
-    connect(&mGestures, &GraphGestures::cursorMoved, this, [this] {
-        if (QAccessible::isActive()) {
-            setAccessibleDescription(spokenText(mModel, mStyle));
-        }
-    });
     connect(&mGestures, &GraphGestures::markersMoved, this, &WidgetGraph::signalMarker);
     connect(&mGestures, &GraphGestures::panned, this, &WidgetGraph::signalManMode);
     connect(&mGestures, &GraphGestures::keyCursorChanged, this, qOverload<>(&QWidget::update));
@@ -58,6 +53,10 @@ WidgetGraph::WidgetGraph(QWidget* parent)
 void WidgetGraph::release()
 {
     mHeld.stop();
+    if (QAccessible::isActive()) {
+        setAccessibleDescription(emptyText().isEmpty() ? spokenText(mModel, mStyle)
+                                                       : mEmpty.spokenText());
+    }
     update();
 }
 

@@ -26,6 +26,12 @@ void EmptyText::setText(const QString& text)
     }
 }
 
+QString EmptyText::spokenText() const
+{
+    static const QRegularExpression Mark("</?a( [^>]*)?>");
+    return QString(mText).remove(Mark);
+}
+
 void EmptyText::paint(QPainter& painter, const QRectF& room, const QColor& color,
                       const QColor& ground)
 {

@@ -16,6 +16,7 @@ public:
     /// Plain text but for its links; lines end at line feeds.
     void setText(const QString& text);
     const QString& text() const { return mText; }
+    QString spokenText() const; ///< without the marks of links
 
     /// In the middle of a room, in a color on a ground.
     void paint(QPainter& painter, const QRectF& room, const QColor& color, const QColor& ground);
