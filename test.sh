@@ -62,8 +62,11 @@ trap 'kill $windows 2>/dev/null || true' EXIT
 step "the same numbers and dates in another country"
 mkdir -p build/locale
 localedef -i de_DE -f UTF-8 build/locale/de_DE.UTF-8
-LOCPATH=$PWD/build/locale LC_ALL=de_DE.UTF-8 TZ=America/St_Johns \
+(
+    export LOCPATH=$PWD/build/locale # before the one that bash itself looks for there
+    export LC_ALL=de_DE.UTF-8 TZ=America/St_Johns
     core_tests release --label-exclude "display|sources"
+)
 
 step "packaging"
 scripts/check-packaging.sh build/release

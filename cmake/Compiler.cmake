@@ -25,10 +25,8 @@ if(ORNA_SANITIZE)
     target_link_options(orna_flags INTERFACE ${checks})
     target_compile_options(orna_flags INTERFACE
         -fno-omit-frame-pointer)
-    # They keep their own accounts of memory: it can't be made short under them.
-    target_compile_definitions(orna_warnings INTERFACE ORNA_SANITIZED)
     # GCC loses track of initialisation in instrumented code; the plain build still warns.
-    target_compile_options(orna_warnings INTERFACE
+    target_compile_options(orna_flags INTERFACE
         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 if(ORNA_FUZZ)

@@ -107,7 +107,8 @@ class TestFleet : public CoreTest
         QProcess shell;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("HOME", home);
-        environment.insert("PATH", QFileInfo(ORNA_CLI).path() + ":" + environment.value("PATH"));
+        environment.insert("PATH", QCoreApplication::applicationDirPath() + ":" +
+                                       environment.value("PATH"));
         environment.insert("ADMIN", mPostgres->url());
         environment.insert("OWNER", url("fleet", "logbook"));
         environment.insert("LOGBOOK", url("station", "logbook"));

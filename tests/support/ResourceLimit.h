@@ -5,10 +5,17 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+// There in a process that runs under a sanitizer.
+extern "C" [[gnu::weak]] void __asan_init();
+extern "C" [[gnu::weak]] void __tsan_init();
+
 /// While it lives, this process gets no more of a resource than so much.
 class ResourceLimit
 {
 public:
+    /// Not under the sanitizers: they reserve terabytes, and write files, too.
+    static bool isPossible() { return __asan_init == nullptr && __tsan_init == nullptr; }
+
     /// No file can grow beyond a size, as on a full disk.
     static ResourceLimit fullDisk(rlim_t bytes)
     {
