@@ -281,7 +281,8 @@ double confirmRatio(Suite& suite)
     require(flight != nullptr, "the demo flight was not loaded");
     const Selection selection = thirtyOf(*flight);
     std::vector<double> ratios;
-    for (int round = 0; round < Rounds; ++round) {
+    constexpr int ShortRounds = 25; // of hundredths of a second, which are easily disturbed
+    for (int round = 0; round < ShortRounds; ++round) {
         viewer.confirm({});
         viewer.session().setTicks(selection);
         viewer.settle();
