@@ -3,6 +3,8 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFileInfo>
 
+#include <fcntl.h>
+
 namespace TARN {
 
 OutputFile::OutputFile(const QString& path) : mFile(path) {}
@@ -32,7 +34,19 @@ void OutputFile::flush()
             rest.remove_prefix(static_cast<std::size_t>(written));
         }
     }
+    startWriting(static_cast<qint64>(mBuffer.size()));
     mBuffer.clear();
+}
+
+/// The disk works on the last so many bytes while the next are made: it would be waited for at the
+/// end, when all of the progress has been shown. A wish, nothing is lost where it is not granted.
+void OutputFile::startWriting([[maybe_unused]] qint64 bytes)
+{
+#ifdef __linux__
+    if (!mFailed) {
+        sync_file_range(mFile.handle(), mFile.pos() - bytes, bytes, SYNC_FILE_RANGE_WRITE);
+    }
+#endif
 }
 
 bool OutputFile::commit()

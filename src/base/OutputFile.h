@@ -40,6 +40,7 @@ private:
     static constexpr std::size_t BufferSize = 1 << 20;
 
     void flush();
+    void startWriting(qint64 bytes);
     bool fail();
 
     QSaveFile mFile;

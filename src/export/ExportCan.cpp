@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 namespace TARN {
 
@@ -78,19 +79,22 @@ ExportResult ExportCan::write(const ExportInput& input, Progress& progress)
     const Record& record = *input.flight->record();
     const auto header = excerptHeader(record.rawData(), record.rawDataIsBigEndian());
     file.write(asText(header.data(), header.size()));
-    unsigned char sample[sizeof(RecordEntry)];
-    for (std::size_t k = 0; k < data.count() && !file.failed(); ++k) {
-        const RecordEntry& entry = data.inTimeOrder(k);
-        if (mOptions.range().contains(entry.time())) {
-            encode(entry, mOptions.startTime, sample);
-            file.write(asText(sample, sizeof sample));
+    std::vector<unsigned char> piece(Piece * sizeof(RecordEntry));
+    for (std::size_t begin = 0; begin < data.count() && !file.failed(); begin += Piece) {
+        progress.report(begin, data.count());
+        if (progress.stopRequested()) {
+            return ExportResult::stopped();
         }
-        if (k % Piece == 0) {
-            progress.report(k, data.count());
-            if (progress.stopRequested()) {
-                return ExportResult::stopped();
+        const std::size_t end = std::min(begin + Piece, data.count());
+        unsigned char* to = piece.data();
+        for (std::size_t k = begin; k < end; ++k) {
+            const RecordEntry& entry = data.inTimeOrder(k);
+            if (mOptions.range().contains(entry.time())) {
+                encode(entry, mOptions.startTime, to);
+                to += sizeof(RecordEntry);
             }
         }
+        file.write(asText(piece.data(), static_cast<std::size_t>(to - piece.data())));
     }
     if (!file.commit()) {
         return ExportResult::failure(
