@@ -38,8 +38,8 @@ void OutputFile::flush()
     mBuffer.clear();
 }
 
-/// The disk works on the last so many bytes while the next are made: it would be waited for at the
-/// end, when all of the progress has been shown. A wish, nothing is lost where it is not granted.
+/// Has the disk begin with the last so many bytes, so that little is left to wait for at the end,
+/// where no progress is shown. A wish: what is not written yet is written there all the same.
 void OutputFile::startWriting([[maybe_unused]] qint64 bytes)
 {
 #ifdef __linux__
